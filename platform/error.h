@@ -1,0 +1,56 @@
+#pragma once
+
+#include <exception>
+#include <string>
+
+#include "platform/text/text.h"
+
+namespace platform {
+
+/// The numbers of the run-time errors that the program raises or shows.
+enum class ErrorNumber {
+    invalid_call = 5,
+    out_of_memory = 7,
+    subscript_out_of_range = 9,
+    bad_file_name = 52,
+    file_not_found = 53,
+    file_exists = 58,
+    disk_full = 61,
+    permission_denied = 70,
+    path_access = 75,
+    path_not_found = 76,
+    invalid_property_value = 380,
+    no_such_export = 453,
+    library_not_loaded = 48,
+    dialog_cancelled = 32755,
+};
+
+/// A failure inside the system: a classic number and a Korean description, as an error box shows them.
+class RuntimeError : public std::exception {
+  public:
+    explicit RuntimeError(ErrorNumber number);
+    RuntimeError(ErrorNumber number, Text description);
+
+    int number() const { return static_cast<int>(number_); }
+    const Text& description() const { return description_; }
+    const char* what() const noexcept override { return what_.c_str(); }
+
+  private:
+    ErrorNumber number_;
+    Text description_;
+    std::string what_;
+};
+
+/// Runs one step of a handler that goes on at its next statement: a RuntimeError of the step is swallowed and
+/// nothing else is. Returns whether the step ran to its end.
+template <class Step>
+bool ignore_errors(Step&& step) {
+    try {
+        step();
+        return true;
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
+}  // namespace platform

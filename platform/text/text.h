@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+/// Everything the user reads or types is UTF-16 inside the program; bytes exist at the outside boundaries only.
+using Text = std::u16string;
+using TextView = std::u16string_view;
+
+/// The line end of texts inside the program, of message files and of what goes to the carrier.
+inline constexpr TextView CRLF = u"\r\n";
+
+/// The text without blanks (U+0020 alone) at its ends.
+Text trim(TextView text);
+Text right_trim(TextView text);
+
+/// The text with every occurrence of `what` replaced; an empty `what` replaces nothing.
+Text replace_all(TextView text, TextView what, TextView with);
+Text remove_all(TextView text, TextView what);
+
+bool contains(TextView text, TextView what);
+
+/// ASCII letters in lower case, every other character as it is.
+Text lower_case(TextView text);
+bool equal_without_case(TextView a, TextView b);
+
+/// The number in decimal, with a leading minus sign when negative.
+Text decimal(long long number);
+
+/// ASCII only in either direction: meant for keys, names of resources and test output, not for user texts.
+Text from_ascii(std::string_view ascii);
+
+/// UTF-8 for file names and for the toolkit's side; a lone surrogate or a broken sequence becomes U+FFFD.
+std::string to_utf8(TextView text);
+Text from_utf8(std::string_view bytes);
+
+}  // namespace platform
