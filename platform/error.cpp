@@ -1,0 +1,53 @@
+#include "platform/error.h"
+
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+/// What the error boxes of a Korean desktop say for the number.
+Text description_of(ErrorNumber number) {
+    switch (number) {
+        case ErrorNumber::invalid_call:
+            return u"프로시저 호출 또는 인수가 잘못되었습니다.";
+        case ErrorNumber::out_of_memory:
+            return u"메모리가 부족합니다.";
+        case ErrorNumber::subscript_out_of_range:
+            return u"아래 첨자 사용이 잘못되었습니다.";
+        case ErrorNumber::library_not_loaded:
+            return u"DLL을 로드하는 중 오류가 발생했습니다.";
+        case ErrorNumber::bad_file_name:
+            return u"파일 이름이나 번호가 잘못되었습니다.";
+        case ErrorNumber::file_not_found:
+            return u"파일을 찾을 수 없습니다.";
+        case ErrorNumber::file_exists:
+            return u"파일이 이미 있습니다.";
+        case ErrorNumber::disk_full:
+            return u"디스크가 꽉 찼습니다.";
+        case ErrorNumber::permission_denied:
+            return u"사용 권한이 없습니다.";
+        case ErrorNumber::path_access:
+            return u"경로/파일 액세스 오류입니다.";
+        case ErrorNumber::path_not_found:
+            return u"경로를 찾을 수 없습니다.";
+        case ErrorNumber::invalid_property_value:
+            return u"속성 값이 잘못되었습니다.";
+        case ErrorNumber::no_such_export:
+            return u"지정한 DLL 함수를 찾을 수 없습니다.";
+        case ErrorNumber::dialog_cancelled:
+            return u"취소를 선택했습니다.";
+    }
+    return u"응용 프로그램 정의 오류 또는 개체 정의 오류입니다.";
+}
+
+}  // namespace
+
+RuntimeError::RuntimeError(ErrorNumber number) : RuntimeError(number, description_of(number)) {}
+
+RuntimeError::RuntimeError(ErrorNumber number, Text description)
+    : number_(number),
+      description_(std::move(description)),
+      what_(std::to_string(static_cast<int>(number)) + ": " + to_utf8(description_)) {}
+
+}  // namespace platform
