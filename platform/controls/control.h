@@ -1,0 +1,112 @@
+#pragma once
+
+#include <utility>
+
+#include "platform/controls/event.h"
+#include "platform/text/text.h"
+
+namespace platform {
+
+class ControlVisitor;
+class Form;
+
+/// What of a control has changed; told to the widget that shows it.
+enum class Aspect {
+    text,
+    caption,
+    enabled,
+    visible,
+    tool_tip,
+    picture,
+    border,
+    value,
+    rows,
+    selection,
+    focus,
+};
+
+/// The widget's side of a control. A control without one, as in a test of the logic, behaves the same.
+class ControlView {
+  public:
+    virtual ~ControlView() = default;
+
+    /// The control's aspect has a new value; for Aspect::focus the control has just received the focus.
+    virtual void refresh(Aspect aspect) = 0;
+};
+
+/// A control of a form as a model: the properties that the handlers read and write, and its events. Draws nothing.
+///
+/// A control made with a form and a name belongs to the form's screen and must have a widget of that name there.
+/// One made without is working storage of its form and is never shown.
+class Control {
+  public:
+    Control() = default;
+    Control(Form& form, TextView name);
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control() = default;
+
+    virtual void accept(ControlVisitor& visitor) = 0;
+
+    const Text& name() const { return name_; }
+
+    bool enabled() const { return enabled_; }
+    void set_enabled(bool on) { assign(enabled_, on, Aspect::enabled); }
+
+    /// The control's own setting; it is on the screen when its containers are visible too.
+    bool visible() const { return visible_; }
+    void set_visible(bool on) { assign(visible_, on, Aspect::visible); }
+    void show() { set_visible(true); }
+    void hide() { set_visible(false); }
+    bool on_screen() const;
+
+    /// A small state word that the handlers keep with the control; no event, no widget.
+    const Text& tag() const { return tag_; }
+    void set_tag(Text tag) { tag_ = std::move(tag); }
+
+    const Text& tool_tip() const { return tool_tip_; }
+    void set_tool_tip(Text text) { assign(tool_tip_, std::move(text), Aspect::tool_tip); }
+
+    /// The frame or box that holds the control.
+    void set_container(Control& container) { container_ = &container; }
+    const Control* container() const { return container_; }
+
+    /// Moves the form's focus here and raises LostFocus and GotFocus; a hidden or disabled control stays without it.
+    void set_focus();
+    bool has_focus() const;
+
+    Event<> GotFocus;
+    Event<> LostFocus;
+
+    void attach(ControlView* view) { view_ = view; }
+
+  protected:
+    void refresh(Aspect aspect) const {
+        if (view_ != nullptr) view_->refresh(aspect);
+    }
+
+    /// Gives the field its value and tells the widget; returns whether the value is a new one.
+    template <class T>
+    bool assign(T& field, T value, Aspect aspect) {
+        if (field == value) return false;
+        field = std::move(value);
+        refresh(aspect);
+        return true;
+    }
+
+    ControlView* view() const { return view_; }
+
+  private:
+    friend class Form;
+
+    Form* form_ = nullptr;
+    Text name_;
+    const Control* container_ = nullptr;
+    ControlView* view_ = nullptr;
+    Text tag_;
+    Text tool_tip_;
+    bool enabled_ = true;
+    bool visible_ = true;
+};
+
+}  // namespace platform

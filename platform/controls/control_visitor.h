@@ -1,0 +1,47 @@
+#pragma once
+
+namespace platform {
+
+class Animation;
+class CheckBox;
+class ComboBox;
+class CommandButton;
+class DatePicker;
+class Frame;
+class Image;
+class Label;
+class ListView;
+class Menu;
+class OptionButton;
+class PictureBox;
+class ProgressBar;
+class StatusBar;
+class TabStrip;
+class TextBox;
+class ToolBar;
+
+/// Every kind of control there is; a toolkit that shows forms has to say how it shows each.
+class ControlVisitor {
+  public:
+    virtual ~ControlVisitor() = default;
+
+    virtual void visit(Animation& control) = 0;
+    virtual void visit(CheckBox& control) = 0;
+    virtual void visit(ComboBox& control) = 0;
+    virtual void visit(CommandButton& control) = 0;
+    virtual void visit(DatePicker& control) = 0;
+    virtual void visit(Frame& control) = 0;
+    virtual void visit(Image& control) = 0;
+    virtual void visit(Label& control) = 0;
+    virtual void visit(ListView& control) = 0;
+    virtual void visit(Menu& control) = 0;
+    virtual void visit(OptionButton& control) = 0;
+    virtual void visit(PictureBox& control) = 0;
+    virtual void visit(ProgressBar& control) = 0;
+    virtual void visit(StatusBar& control) = 0;
+    virtual void visit(TabStrip& control) = 0;
+    virtual void visit(TextBox& control) = 0;
+    virtual void visit(ToolBar& control) = 0;
+};
+
+}  // namespace platform

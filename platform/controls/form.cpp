@@ -1,0 +1,68 @@
+#include "platform/controls/form.h"
+
+#include "platform/ports/desktop.h"
+
+namespace platform {
+
+Form::Form(Desktop& desktop, TextView name) : desktop_(desktop), name_(name) {}
+
+void Form::set_caption(Text caption) {
+    caption_ = std::move(caption);
+    if (view_ != nullptr) view_->caption_changed();
+}
+
+void Form::load() {
+    if (load_ran_) return;
+    load_ran_ = true;
+    loaded_ = true;
+    Form_Load();
+}
+
+void Form::show() {
+    load();
+    if (loaded_) desktop_.show(*this);
+}
+
+void Form::show_modal() {
+    load();
+    if (loaded_) desktop_.show_modal(*this);
+}
+
+void Form::unload() {
+    if (!loaded_) return;
+    loaded_ = false;
+    Form_Unload();
+    desktop_.close(*this);
+}
+
+void Form::set_window_state(WindowState state) {
+    window_state_ = state;
+    if (view_ != nullptr) view_->placement_changed();
+}
+
+void Form::move(const Placement& placement) {
+    placement_ = placement;
+    if (view_ != nullptr) view_->placement_changed();
+}
+
+void Form::set_minimum_size(int width, int height) {
+    minimum_width_ = width;
+    minimum_height_ = height;
+    if (view_ != nullptr) view_->minimum_size_changed();
+}
+
+void Form::window_placed(const Placement& placement, WindowState state) {
+    placement_ = placement;
+    window_state_ = state;
+}
+
+void Form::move_focus(Control* control) {
+    if (control == focused_) return;
+    Control* left = focused_;
+    focused_ = control;
+    if (left != nullptr) left->LostFocus.raise();
+    // A handler of the loss may have sent the focus elsewhere, and that place has had its event already.
+    if (control != nullptr && focused_ == control) control->GotFocus.raise();
+}
+
+}  // namespace platform

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/controls/control.h"
+
+namespace platform {
+
+/// A line or paragraph of text on the form.
+class Label : public Control {
+  public:
+    using Control::Control;
+    Label(Form& form, TextView name, Text caption) : Control(form, name), caption_(std::move(caption)) {}
+    void accept(ControlVisitor& visitor) override;
+
+    const Text& caption() const { return caption_; }
+    void set_caption(Text caption) { assign(caption_, std::move(caption), Aspect::caption); }
+
+    Event<> Click;
+
+  private:
+    Text caption_;
+};
+
+}  // namespace platform

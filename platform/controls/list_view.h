@@ -1,0 +1,135 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/controls/control.h"
+#include "platform/controls/prefix_index.h"
+#include "platform/controls/status_bar.h"
+#include "platform/controls/text_box.h"
+
+namespace platform {
+
+/// A row of a list: its item text and its sub-items, counted from 1.
+class ListItem {
+  public:
+    ListItem(Text text, std::vector<Text> sub_items) : text_(std::move(text)), sub_items_(std::move(sub_items)) {}
+
+    const Text& text() const { return text_; }
+    /// The item text for 0; empty behind the last sub-item.
+    const Text& sub_item(int index) const;
+    int sub_item_count() const { return static_cast<int>(sub_items_.size()); }
+    bool checked() const { return checked_; }
+    bool selected() const { return selected_; }
+    /// Place in the list, counted from 0.
+    std::size_t position() const { return position_; }
+
+  private:
+    friend class ListView;
+
+    Text text_;
+    std::vector<Text> sub_items_;
+    std::size_t position_ = 0;
+    bool checked_ = false;
+    bool selected_ = false;
+};
+
+/// The widget's side of a list: it reads the rows in place and is told what becomes of them.
+class ListViewView : public ControlView {
+  public:
+    virtual void rows_about_to_be_added(std::size_t first, std::size_t count) = 0;
+    virtual void rows_added() = 0;
+    /// Many rows go or change places: everything is to be read anew afterwards.
+    virtual void rows_about_to_be_rearranged() = 0;
+    virtual void rows_rearranged() = 0;
+    virtual void row_changed(std::size_t row) = 0;
+    virtual void row_selection_changed(std::size_t row) = 0;
+    virtual void columns_changed() = 0;
+    virtual void make_visible(std::size_t row) = 0;
+};
+
+/// A report list: columns, rows with an optional check box, one selected item and any number of selected rows.
+class ListView : public Control {
+  public:
+    enum class SortOrder { ascending = 0, descending = 1 };
+
+    struct Column {
+        Text caption;
+        /// Picture beside the caption: 0 ascending, 1 descending.
+        std::optional<int> picture;
+    };
+
+    ListView(Form& form, TextView name, std::vector<Column> columns, bool check_boxes = false)
+        : Control(form, name), columns_(std::move(columns)), check_boxes_(check_boxes) {}
+    void accept(ControlVisitor& visitor) override;
+
+    bool check_boxes() const { return check_boxes_; }
+
+    /// Counted from 1, as the handlers count them.
+    int column_count() const { return static_cast<int>(columns_.size()); }
+    const Column& column(int number) const { return columns_[static_cast<std::size_t>(number - 1)]; }
+    void set_column_caption(int number, Text caption);
+    void set_column_picture(int number, std::optional<int> picture);
+
+    std::size_t row_count() const { return rows_.size(); }
+    const ListItem& row(std::size_t index) const { return *rows_[index]; }
+
+    /// Adds a row behind the last one, where the user sees it, whatever the list was sorted by; returns its index.
+    std::size_t add_row(Text text, std::vector<Text> sub_items, bool checked = false);
+    void remove_selected_rows();
+    void clear();
+
+    void set_sub_item(std::size_t row, int sub_item, Text text);
+    /// By code: raises nothing.
+    void set_checked(std::size_t row, bool checked);
+    std::size_t checked_count() const { return checked_count_; }
+
+    /// The one row that keys act on; none after it has gone or has been deselected.
+    std::optional<std::size_t> selected_item() const;
+    /// Makes the row the selected item and selects it; other rows keep their selection.
+    void select_item(std::size_t row);
+    /// Takes the selection of the selected item away; without one nothing happens.
+    void deselect_item();
+    void select_all();
+    void make_visible(std::size_t row) const;
+
+    /// The first row with a sub-item that begins with the text.
+    std::optional<std::size_t> find_in_sub_items(TextView beginning) const;
+
+    /// 0 is the item text.
+    int sort_key() const { return sort_key_; }
+    SortOrder sort_order() const { return sort_order_; }
+    /// Sorts the rows that are there; rows with equal texts keep their order. Cases of letters are the same.
+    void sort(int sort_key, SortOrder order);
+
+    // What the user does.
+    void user_check(std::size_t row, bool checked);
+    void user_select(std::size_t row, bool selected);
+    void user_selected_item(std::optional<std::size_t> row);
+
+    Event<std::size_t> ItemCheck;
+    Event<int> ColumnClick;
+    Event<KeyPressed&> KeyDown;
+    Event<KeyPressed&> KeyPress;
+    Event<MouseButton> MouseUp;
+    Event<> DblClick;
+
+  private:
+    ListViewView* rows_view() const { return static_cast<ListViewView*>(view()); }
+    ListItem& item(std::size_t row) { return *rows_[row]; }
+    void change_checked(std::size_t row, bool checked);
+    void number_rows();
+
+    std::vector<Column> columns_;
+    bool check_boxes_;
+    std::vector<std::unique_ptr<ListItem>> rows_;
+    PrefixIndex index_;
+    const ListItem* selected_item_ = nullptr;
+    std::size_t checked_count_ = 0;
+    int sort_key_ = 0;
+    SortOrder sort_order_ = SortOrder::ascending;
+};
+
+}  // namespace platform

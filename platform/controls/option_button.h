@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/controls/control.h"
+
+namespace platform {
+
+/// One choice of several. The handlers keep the others of its group off.
+class OptionButton : public Control {
+  public:
+    OptionButton(Form& form, TextView name, Text caption) : Control(form, name), caption_(std::move(caption)) {}
+    void accept(ControlVisitor& visitor) override;
+
+    const Text& caption() const { return caption_; }
+
+    bool chosen() const { return chosen_; }
+    /// Raises Click when the option becomes the chosen one, by code as by the user.
+    void set_chosen(bool chosen) {
+        if (assign(chosen_, chosen, Aspect::value) && chosen) Click.raise();
+    }
+
+    Event<> Click;
+
+  private:
+    Text caption_;
+    bool chosen_ = false;
+};
+
+}  // namespace platform

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/text/calendar.h"
+
+namespace platform {
+
+/// A running timer; it ends with this object.
+class Ticker {
+  public:
+    virtual ~Ticker() = default;
+};
+
+/// Time as the user sees it. A port, so that a test turns an hour of sending into milliseconds.
+class Clock {
+  public:
+    virtual ~Clock() = default;
+
+    virtual LocalTime now() = 0;
+    /// Lets the time pass while windows paint and buttons answer, in milliseconds.
+    virtual void pause(int milliseconds) = 0;
+    virtual std::unique_ptr<Ticker> every(int milliseconds, std::function<void()> tick) = 0;
+};
+
+}  // namespace platform

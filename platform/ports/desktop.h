@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/controls/form.h"
+#include "platform/text/text.h"
+
+namespace platform {
+
+class Menu;
+
+enum class BoxIcon { none, information, question, exclamation, critical };
+enum class BoxButtons { ok, yes_no, yes_no_cancel };
+enum class BoxAnswer { ok, yes, no, cancel };
+
+/// A modal message. Without a title the window shows the application's title.
+struct MessageBox {
+    Text text;
+    BoxIcon icon = BoxIcon::none;
+    Text title;
+    BoxButtons buttons = BoxButtons::ok;
+    /// The button that Enter presses.
+    BoxAnswer default_answer = BoxAnswer::ok;
+};
+
+enum class Pointer { normal, hourglass };
+
+/// The screen in twips, and how many of them a pixel has.
+struct Screen {
+    int width = 0;
+    int height = 0;
+    int twips_per_pixel_x = 15;
+    int twips_per_pixel_y = 15;
+};
+
+/// The user's desktop: windows, boxes, the pointer, the clipboard and the event loop. A port, so that a whole session
+/// runs in a test where a script plays the user.
+class Desktop {
+  public:
+    virtual ~Desktop() = default;
+
+    virtual void show(Form& form) = 0;
+    /// Returns when the form has been closed.
+    virtual void show_modal(Form& form) = 0;
+    virtual void close(Form& form) = 0;
+    /// Lets the user pick from the menu at the mouse pointer.
+    virtual void popup_menu(Form& form, Menu& menu) = 0;
+
+    /// Returns the button that the user pressed; closing a box without one gives its cautious answer (no, cancel, ok).
+    virtual BoxAnswer message_box(const MessageBox& box) = 0;
+
+    virtual void set_pointer(Pointer pointer) = 0;
+    virtual void set_clipboard(const Text& text) = 0;
+    virtual Screen screen() const = 0;
+    virtual void set_application_title(const Text& title) = 0;
+
+    /// Handles the events that wait, once.
+    virtual void yield() = 0;
+};
+
+}  // namespace platform

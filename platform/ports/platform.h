@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/ports/carrier_library.h"
+#include "platform/ports/clock.h"
+#include "platform/ports/desktop.h"
+#include "platform/ports/files.h"
+#include "platform/ports/settings.h"
+#include "platform/ports/shell.h"
+
+namespace platform {
+
+/// Everything that the system needs of the machine, handed to whoever needs some of it.
+struct Platform {
+    Desktop& desktop;
+    Clock& clock;
+    Files& files;
+    Settings& settings;
+    Shell& shell;
+    CarrierLibrary& carrier;
+};
+
+}  // namespace platform
