@@ -5,7 +5,8 @@
 
 namespace platform {
 
-/// Everything the user reads or types is UTF-16 inside the program; bytes exist at the outside boundaries only.
+/// Everything the user reads or types is UTF-16 inside the program; bytes exist at the outside boundaries
+/// only.
 using Text = std::u16string;
 using TextView = std::u16string_view;
 
