@@ -1,8 +1,8 @@
 #pragma once
 
-#include <vector>
-
 #include "platform/controls/control.h"
+
+#include <vector>
 
 namespace platform {
 
@@ -25,7 +25,8 @@ class ComboBox : public Control {
 
     /// -1 while no row is chosen.
     int list_index() const { return list_index_; }
-    /// Chooses a row and raises Click, also for the row that was chosen already. Run-time error 380 outside the rows.
+    /// Chooses a row and raises Click, also for the row that was chosen already. Run-time error 380 outside
+    /// the rows.
     void set_list_index(int index);
 
     const Text& text() const { return text_; }

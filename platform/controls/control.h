@@ -1,9 +1,9 @@
 #pragma once
 
-#include <utility>
-
 #include "platform/controls/event.h"
 #include "platform/text/text.h"
+
+#include <utility>
 
 namespace platform {
 
@@ -34,10 +34,11 @@ class ControlView {
     virtual void refresh(Aspect aspect) = 0;
 };
 
-/// A control of a form as a model: the properties that the handlers read and write, and its events. Draws nothing.
+/// A control of a form as a model: the properties that the handlers read and write, and its events. Draws
+/// nothing.
 ///
-/// A control made with a form and a name belongs to the form's screen and must have a widget of that name there.
-/// One made without is working storage of its form and is never shown.
+/// A control made with a form and a name belongs to the form's screen and must have a widget of that name
+/// there. One made without is working storage of its form and is never shown.
 class Control {
   public:
     Control() = default;
@@ -71,7 +72,8 @@ class Control {
     void set_container(Control& container) { container_ = &container; }
     const Control* container() const { return container_; }
 
-    /// Moves the form's focus here and raises LostFocus and GotFocus; a hidden or disabled control stays without it.
+    /// Moves the form's focus here and raises LostFocus and GotFocus; a hidden or disabled control stays
+    /// without it.
     void set_focus();
     bool has_focus() const;
 

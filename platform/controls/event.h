@@ -6,7 +6,8 @@
 
 namespace platform {
 
-/// Something that happens to a control, with the handlers that wait for it, called in the order of connection.
+/// Something that happens to a control, with the handlers that wait for it, called in the order of
+/// connection.
 template <class... Args>
 class Event {
   public:

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <vector>
-
 #include "platform/controls/control.h"
+
+#include <vector>
 
 namespace platform {
 
@@ -31,8 +31,9 @@ class FormView {
 
 /// A window of the system as a model: its controls, and the handlers of its life.
 ///
-/// A form is loaded once before it shows, activated each time its window becomes the active one, and ends with its
-/// own unload, after which it is to be thrown away. Whoever opens a form makes it, shows it and drops it.
+/// A form is loaded once before it shows, activated each time its window becomes the active one, and ends
+/// with its own unload, after which it is to be thrown away. Whoever opens a form makes it, shows it and
+/// drops it.
 class Form {
   public:
     Form(Desktop& desktop, TextView name);

@@ -1,8 +1,8 @@
 #include "platform/controls/list_view.h"
 
-#include <algorithm>
-
 #include "platform/controls/control_visitor.h"
+
+#include <algorithm>
 
 namespace platform {
 
@@ -125,7 +125,8 @@ void ListView::sort(int sort_key, SortOrder order) {
     std::stable_sort(keyed.begin(), keyed.end(), [order](const auto& a, const auto& b) {
         return order == SortOrder::ascending ? a.first < b.first : b.first < a.first;
     });
-    std::transform(keyed.begin(), keyed.end(), rows_.begin(), [](auto& row) { return std::move(row.second); });
+    std::transform(keyed.begin(), keyed.end(), rows_.begin(),
+                   [](auto& row) { return std::move(row.second); });
     number_rows();
     if (rows_view() != nullptr) rows_view()->rows_rearranged();
 }

@@ -1,21 +1,22 @@
 #pragma once
 
-#include <cstddef>
-#include <memory>
-#include <optional>
-#include <vector>
-
 #include "platform/controls/control.h"
 #include "platform/controls/prefix_index.h"
 #include "platform/controls/status_bar.h"
 #include "platform/controls/text_box.h"
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <vector>
 
 namespace platform {
 
 /// A row of a list: its item text and its sub-items, counted from 1.
 class ListItem {
   public:
-    ListItem(Text text, std::vector<Text> sub_items) : text_(std::move(text)), sub_items_(std::move(sub_items)) {}
+    ListItem(Text text, std::vector<Text> sub_items)
+        : text_(std::move(text)), sub_items_(std::move(sub_items)) {}
 
     const Text& text() const { return text_; }
     /// The item text for 0; empty behind the last sub-item.
@@ -50,7 +51,8 @@ class ListViewView : public ControlView {
     virtual void make_visible(std::size_t row) = 0;
 };
 
-/// A report list: columns, rows with an optional check box, one selected item and any number of selected rows.
+/// A report list: columns, rows with an optional check box, one selected item and any number of selected
+/// rows.
 class ListView : public Control {
   public:
     enum class SortOrder { ascending = 0, descending = 1 };
@@ -76,7 +78,8 @@ class ListView : public Control {
     std::size_t row_count() const { return rows_.size(); }
     const ListItem& row(std::size_t index) const { return *rows_[index]; }
 
-    /// Adds a row behind the last one, where the user sees it, whatever the list was sorted by; returns its index.
+    /// Adds a row behind the last one, where the user sees it, whatever the list was sorted by; returns its
+    /// index.
     std::size_t add_row(Text text, std::vector<Text> sub_items, bool checked = false);
     void remove_selected_rows();
     void clear();

@@ -7,7 +7,8 @@ namespace platform {
 /// One choice of several. The handlers keep the others of its group off.
 class OptionButton : public Control {
   public:
-    OptionButton(Form& form, TextView name, Text caption) : Control(form, name), caption_(std::move(caption)) {}
+    OptionButton(Form& form, TextView name, Text caption)
+        : Control(form, name), caption_(std::move(caption)) {}
     void accept(ControlVisitor& visitor) override;
 
     const Text& caption() const { return caption_; }

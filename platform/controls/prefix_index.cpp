@@ -1,9 +1,9 @@
 #include "platform/controls/prefix_index.h"
 
+#include "platform/controls/list_view.h"
+
 #include <algorithm>
 #include <functional>
-
-#include "platform/controls/list_view.h"
 
 namespace platform {
 

@@ -1,22 +1,25 @@
 #pragma once
 
+#include "platform/text/text.h"
+
 #include <array>
 #include <cstddef>
 #include <vector>
-
-#include "platform/text/text.h"
 
 namespace platform {
 
 class ListItem;
 
-/// The sub-item texts of all rows of a list in their order, to find the rows that have one beginning with a text.
+/// The sub-item texts of all rows of a list in their order, to find the rows that have one beginning with a
+/// text.
 ///
-/// Lists reach 100,000 rows and every new row asks for its number first. So the entries stand in sorted chunks, the
-/// first characters of each text beside the next one's: a search touches two short runs of memory, not every row.
+/// Lists reach 100,000 rows and every new row asks for its number first. So the entries stand in sorted
+/// chunks, the first characters of each text beside the next one's: a search touches two short runs of
+/// memory, not every row.
 class PrefixIndex {
   public:
-    /// Enters the row's sub-item under its present text; an empty one is left out, since nothing searches for it.
+    /// Enters the row's sub-item under its present text; an empty one is left out, since nothing searches for
+    /// it.
     void add(const ListItem& row, int column);
     /// Takes the sub-item out; to be called while it still has the text that it was entered under.
     void remove(const ListItem& row, int column);

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <vector>
-
 #include "platform/controls/control.h"
+
+#include <vector>
 
 namespace platform {
 

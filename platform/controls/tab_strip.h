@@ -1,8 +1,8 @@
 #pragma once
 
-#include <vector>
-
 #include "platform/controls/control.h"
+
+#include <vector>
 
 namespace platform {
 
@@ -17,7 +17,8 @@ class TabStrip : public Control {
     int selected() const { return selected_; }
     const Text& selected_caption() const { return captions_[static_cast<std::size_t>(selected_ - 1)]; }
 
-    /// Chooses a tab and raises Click, also for the tab that was chosen already. Run-time error 9 outside the tabs.
+    /// Chooses a tab and raises Click, also for the tab that was chosen already. Run-time error 9 outside the
+    /// tabs.
     void select(int index);
 
     Event<> Click;

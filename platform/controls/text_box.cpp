@@ -1,8 +1,8 @@
 #include "platform/controls/text_box.h"
 
-#include <algorithm>
-
 #include "platform/controls/control_visitor.h"
+
+#include <algorithm>
 
 namespace platform {
 

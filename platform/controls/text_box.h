@@ -1,8 +1,8 @@
 #pragma once
 
-#include <cstddef>
-
 #include "platform/controls/control.h"
+
+#include <cstddef>
 
 namespace platform {
 
@@ -37,7 +37,8 @@ class TextBox : public Control {
     void select_all() { select(0, text_.size()); }
     void set_caret_to_end() { select(text_.size(), 0); }
 
-    /// Puts the text in place of the selection, as a paste from the clipboard does: no KeyPress, but a Change.
+    /// Puts the text in place of the selection, as a paste from the clipboard does: no KeyPress, but a
+    /// Change.
     void paste(const Text& text);
 
     /// The user's edit: the new text and where the caret is now.

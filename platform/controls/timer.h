@@ -1,9 +1,9 @@
 #pragma once
 
-#include <memory>
-
 #include "platform/controls/event.h"
 #include "platform/ports/clock.h"
+
+#include <memory>
 
 namespace platform {
 

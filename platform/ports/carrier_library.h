@@ -5,14 +5,15 @@
 
 namespace platform {
 
-/// A function that the carrier's library may call; with how many 32-bit arguments is told where it is given away.
+/// A function that the carrier's library may call; with how many 32-bit arguments is told where it is given
+/// away.
 using CarrierCallback = void (*)();
 
 /// The six exports of the carrier's closed client library, arguments in the library's own order.
 ///
-/// Every text is handed over as a copy of its bytes (cp949), and what the library left in the copy, as long as the text
-/// was, replaces the text; an out buffer is a text of the buffer's length. Each call raises RuntimeError 48 when the library is
-/// not there or is none, and 453 when it lacks the export.
+/// Every text is handed over as a copy of its bytes (cp949), and what the library left in the copy, as long
+/// as the text was, replaces the text; an out buffer is a text of the buffer's length. Each call raises
+/// RuntimeError 48 when the library is not there or is none, and 453 when it lacks the export.
 class CarrierLibrary {
   public:
     virtual ~CarrierLibrary() = default;
@@ -47,8 +48,9 @@ class CarrierLibrary {
     };
 
     virtual std::int32_t fn_x_bind(std::int32_t argument1, std::string& user_id, std::string& password,
-                                   std::string& service_domain, std::int32_t argument5, CarrierCallback argument6,
-                                   std::int32_t argument7, CarrierCallback argument8) = 0;
+                                   std::string& service_domain, std::int32_t argument5,
+                                   CarrierCallback argument6, std::int32_t argument7,
+                                   CarrierCallback argument8) = 0;
     virtual std::int32_t fn_x_unbind(std::string& user_id, std::string& password) = 0;
     virtual std::int32_t fn_x_money_status(std::string& user_id, std::string& service_domain,
                                            std::string& service_number, std::string& client_address,

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/text/calendar.h"
+
 #include <functional>
 #include <memory>
-
-#include "platform/text/calendar.h"
 
 namespace platform {
 

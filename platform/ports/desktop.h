@@ -31,8 +31,8 @@ struct Screen {
     int twips_per_pixel_y = 15;
 };
 
-/// The user's desktop: windows, boxes, the pointer, the clipboard and the event loop. A port, so that a whole session
-/// runs in a test where a script plays the user.
+/// The user's desktop: windows, boxes, the pointer, the clipboard and the event loop. A port, so that a whole
+/// session runs in a test where a script plays the user.
 class Desktop {
   public:
     virtual ~Desktop() = default;
@@ -44,7 +44,8 @@ class Desktop {
     /// Lets the user pick from the menu at the mouse pointer.
     virtual void popup_menu(Form& form, Menu& menu) = 0;
 
-    /// Returns the button that the user pressed; closing a box without one gives its cautious answer (no, cancel, ok).
+    /// Returns the button that the user pressed; closing a box without one gives its cautious answer (no,
+    /// cancel, ok).
     virtual BoxAnswer message_box(const MessageBox& box) = 0;
 
     virtual void set_pointer(Pointer pointer) = 0;

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <string>
-
 #include "platform/text/text.h"
+
+#include <string>
 
 namespace platform {
 
-/// The file system, by paths with backslashes: below the application directory, on drive `c:` or, for what the user
-/// picks, elsewhere. Contents are bytes. Failures are RuntimeErrors with the classic file numbers.
+/// The file system, by paths with backslashes: below the application directory, on drive `c:` or, for what
+/// the user picks, elsewhere. Contents are bytes. Failures are RuntimeErrors with the classic file numbers.
 class Files {
   public:
     virtual ~Files() = default;
@@ -18,13 +18,14 @@ class Files {
     virtual Text windows_directory() const = 0;
     virtual Text system_directory() const = 0;
 
-    /// Whether a normal file, no folder and none that is hidden, matches the path; `*` and `?` may stand in the name.
+    /// Whether a normal file, no folder and none that is hidden, matches the path; `*` and `?` may stand in
+    /// the name.
     virtual bool file_exists(const Text& path) const = 0;
     virtual bool folder_exists(const Text& path) const = 0;
 
     virtual std::string read(const Text& path) const = 0;
-    /// Writes the whole file or leaves the old one as it was, also when the program is killed meanwhile; the file is
-    /// its user's alone.
+    /// Writes the whole file or leaves the old one as it was, also when the program is killed meanwhile; the
+    /// file is its user's alone.
     virtual void write(const Text& path, const std::string& bytes) = 0;
     virtual void remove(const Text& path) = 0;
     virtual void make_folder(const Text& path) = 0;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "platform/text/text.h"
+
+#include <string>
 
 namespace platform {
 
@@ -14,7 +14,8 @@ class Settings {
     /// The key's value, cut to `limit` bytes at a whole character; empty without a file, section or key.
     virtual std::string read(const Text& path, const std::string& section, const std::string& key,
                              std::size_t limit) const = 0;
-    /// Writes or replaces the key and keeps every other line; raises RuntimeError when the file cannot be written.
+    /// Writes or replaces the key and keeps every other line; raises RuntimeError when the file cannot be
+    /// written.
     virtual void write(const Text& path, const std::string& section, const std::string& key,
                        const std::string& value) = 0;
 };

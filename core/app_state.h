@@ -1,0 +1,68 @@
+#pragma once
+
+#include "platform/boolean_word.h"
+#include "platform/text/text.h"
+
+#include <cstdint>
+
+namespace core {
+
+/// What the user sees as the program's name.
+inline constexpr platform::TextView APPLICATION_TITLE = u"Cardvale 폰디라 통합메시징 서비스";
+
+/// The service number as long as the carrier has not told another one.
+inline constexpr platform::TextView UNKNOWN_SERVICE_NUMBER = u"03030xxxxxxx";
+
+/// The state of the contract that counts as "not to be used"; also what stands while nobody is logged in.
+inline constexpr std::int32_t SERVICE_STATE_NONE = 3;
+
+/// The variables that the forms share. There is one of these in the process; every form gets it and reads and
+/// writes it.
+struct AppState {
+    // Session and gateway.
+    platform::BooleanWord gLoggedIn;
+    /// The last login form ended with an accepted login.
+    platform::BooleanWord gLoginResult;
+    /// 1 once a login has passed all checks.
+    std::int16_t gLoginAccepted = 0;
+    platform::Text gLoginUserId;
+    platform::Text gLoginPassword;
+    platform::Text gServiceNumber{UNKNOWN_SERVICE_NUMBER};
+    platform::Text gServiceDomain;
+    platform::Text gClientAddress;
+    // Out buffers of the carrier, padded; read through CLEAN_FIXED_TEXT or a trim.
+    platform::Text gInfoServiceNumber{UNKNOWN_SERVICE_NUMBER};
+    platform::Text gInfoUserName;
+    platform::Text gInfoSenderName;
+    platform::Text gInfoCallback;
+    std::int32_t gMoneyField1 = 0;
+    std::int32_t gServiceType = 0;
+    std::int32_t gServiceState = SERVICE_STATE_NONE;
+    std::int32_t gMoneyField4 = 0;
+    std::int32_t gMoneyField5 = 0;
+    platform::Text gPartnerPath;
+    platform::Text gPartnerCode;
+    platform::Text gPartnerSubCode;
+    /// Running number of a submit.
+    std::int32_t gSubmitSequence = 0;
+
+    // Saved preferences, as the settings had them at the start and after each login.
+    platform::Text gSavedSenderName;
+    platform::Text gSavedCallback;
+    // The main window's placement, numbers as texts.
+    platform::Text gWinMax;
+    platform::Text gWinTop;
+    platform::Text gWinLeft;
+    platform::Text gWinWidth;
+    platform::Text gWinHeight;
+    /// Smallest size of the main window in pixels.
+    std::int32_t gMinTrackX = 0;
+    std::int32_t gMinTrackY = 0;
+
+    // Flags between forms.
+    platform::BooleanWord gSendFormOpen;
+    /// The answer of the last dialog that asks yes or no.
+    platform::BooleanWord gDialogConfirmed;
+};
+
+}  // namespace core
