@@ -2,6 +2,7 @@
 
 #include "platform/controls/event.h"
 #include "platform/ports/clock.h"
+#include "platform/text/text.h"
 
 #include <memory>
 

@@ -13,9 +13,9 @@ enum class BoxAnswer { ok, yes, no, cancel };
 
 /// A modal message. Without a title the window shows the application's title.
 struct MessageBox {
-    Text text;
+    Text text{};
     BoxIcon icon = BoxIcon::none;
-    Text title;
+    Text title{};
     BoxButtons buttons = BoxButtons::ok;
     /// The button that Enter presses.
     BoxAnswer default_answer = BoxAnswer::ok;

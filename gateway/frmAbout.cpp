@@ -1,0 +1,24 @@
+#include "gateway/frmAbout.h"
+
+#include "core/app_state.h"
+#include "core/deployment.h"
+#include "core/windows.h"
+
+namespace gateway {
+
+using platform::Text;
+
+frmAbout::frmAbout(platform::Platform& platform, const ServiceDoors& doors)
+    : Form(platform.desktop, u"frmAbout"), platform_(platform) {
+    Command1.Click.connect([this] { unload(); });
+    if (doors.home_page) Label1_3.Click.connect(doors.home_page);
+}
+
+void frmAbout::Form_Load() {
+    core::CENTER_FORM(platform_.desktop, *this);
+    set_caption(Text(core::APPLICATION_TITLE) + u" 정보");
+    Label1_0.set_caption(Text(core::APPLICATION_TITLE));
+    Label1_1.set_caption(u"버전:" + core::deployment::version());
+}
+
+}  // namespace gateway

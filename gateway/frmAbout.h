@@ -1,0 +1,32 @@
+#pragma once
+
+#include "gateway/service_doors.h"
+#include "platform/controls/command_button.h"
+#include "platform/controls/containers.h"
+#include "platform/controls/form.h"
+#include "platform/controls/label.h"
+#include "platform/ports/platform.h"
+
+namespace gateway {
+
+/// The program's name and version.
+class frmAbout : public platform::Form {
+  public:
+    frmAbout(platform::Platform& platform, const ServiceDoors& doors);
+
+    platform::Image Image1{*this, u"Image1"};
+    platform::Label Label1_0{*this, u"Label1_0"};
+    platform::Label Label1_1{*this, u"Label1_1"};
+    /// The maker's name, a way to its pages.
+    platform::Label Label1_3{*this, u"Label1_3", u"Cardvale"};
+    platform::CommandButton Command1{*this, u"Command1", u"확인(&O)"};
+
+  protected:
+    void Form_Load() override;
+    void Form_Escape() override { unload(); }
+
+  private:
+    platform::Platform& platform_;
+};
+
+}  // namespace gateway

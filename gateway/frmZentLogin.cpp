@@ -1,0 +1,176 @@
+#include "gateway/frmZentLogin.h"
+
+#include "core/files.h"
+#include "core/ini_file.h"
+#include "core/windows.h"
+
+namespace gateway {
+
+using platform::BoxIcon;
+using platform::KeyPressed;
+using platform::Text;
+
+frmZentLogin::frmZentLogin(platform::Platform& platform, core::AppState& state, const ServiceDoors& doors,
+                           platform::Timer& polling)
+    : Form(platform.desktop, u"frmZentLogin"),
+      Timer1(platform.clock, 10),
+      platform_(platform),
+      state_(state),
+      doors_(doors),
+      polling_(polling),
+      login_(platform, state) {
+    Picture1.hide();
+    Animation1.hide();
+    Animation1.set_container(Picture1);
+    Command3.set_enabled(doors.sign_up != nullptr);
+    Command4.set_enabled(doors.find_id_or_password != nullptr);
+    Command5.set_enabled(doors.service_guide != nullptr);
+
+    Text1.GotFocus.connect([this] { Text1.select_all(); });
+    Text2.GotFocus.connect([this] { Text2.select_all(); });
+    Text1.KeyPress.connect([this](KeyPressed& key) { Text1_KeyPress(key); });
+    Text2.KeyPress.connect([this](KeyPressed& key) { Text2_KeyPress(key); });
+    Command1.Click.connect([this] { Command1_Click(); });
+    Command2.Click.connect([this] { unload(); });
+    Command3.Click.connect([this] { Command3_Click(); });
+    Command4.Click.connect([this] { doors_.find_id_or_password(); });
+    Command5.Click.connect([this] { doors_.service_guide(); });
+    Timer1.Tick.connect([this] { Timer1_Timer(); });
+}
+
+void frmZentLogin::Form_Load() {
+    core::CENTER_FORM(platform_.desktop, *this);
+    set_caption(Text(core::APPLICATION_TITLE) + u" 로그인");
+    polling_.set_enabled(false);
+    if (core::FILE_EXISTS(platform_, film())) Animation1.open(film());
+    core::make_folder_when_missing(platform_, Text(core::SOUND_FOLDER));
+    const bool auto_login =
+        core::INI_IS_ON(platform_, core::application_ini(platform_), u"LOGIN", u"AUTOLOGIN");
+    Check1.set_checked(auto_login);
+    Text1.set_text(core::INI_READ(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINID"));
+    Text2.set_text(auto_login ? core::INI_READ(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINPW")
+                              : Text());
+}
+
+void frmZentLogin::Form_Activate() {
+    if (!tag().empty()) return;
+    set_tag(u"OK");
+    if (Text1.text().empty()) return;
+    if (Text2.text().empty()) {
+        Text2.set_focus();
+    } else {
+        Command1.set_focus();
+    }
+}
+
+void frmZentLogin::Form_Unload() {
+    core::INI_WRITE(platform_, core::application_ini(platform_), u"LOGIN", u"AUTOLOGIN",
+                    Check1.checked() ? u"1" : u"0");
+    polling_.set_enabled(true);
+}
+
+/// While the carrier is asked, the frame's close button waits like everything else.
+void frmZentLogin::Form_Close() {
+    if (!Picture1.visible()) unload();
+}
+
+void frmZentLogin::Text1_KeyPress(KeyPressed& key) {
+    if (key.code != platform::KEY_ENTER) return;
+    key.swallow();
+    if (Text2.text().empty()) {
+        Text2.set_focus();
+    } else {
+        Command1_Click();
+    }
+}
+
+void frmZentLogin::Text2_KeyPress(KeyPressed& key) {
+    if (key.code != platform::KEY_ENTER) return;
+    key.swallow();
+    Command1_Click();
+}
+
+void frmZentLogin::Command1_Click() {
+    Text1.set_text(platform::trim(Text1.text()));
+    Text2.set_text(platform::trim(Text2.text()));
+    if (Text1.text().empty()) {
+        core::warn(platform_.desktop, u"KT 폰디라 아이디를 입력하여 주십시오.", u"로그인 실패");
+        Text1.set_focus();
+        return;
+    }
+    if (Text2.text().empty()) {
+        core::warn(platform_.desktop, u"비밀번호를 입력하여 주십시오.", u"로그인 실패");
+        Text2.set_focus();
+        return;
+    }
+    if (core::FILE_EXISTS(platform_, film())) {
+        Animation1.open(film());
+        Animation1.play();
+        Animation1.show();
+    }
+    Picture1.show();
+    // The bind stops the one thread there is, so it starts in a tick of its own, after the busy picture is
+    // painted.
+    Timer1.set_enabled(true);
+}
+
+void frmZentLogin::Command3_Click() {
+    if (doors_.sign_up) doors_.sign_up();
+}
+
+void frmZentLogin::Timer1_Timer() {
+    Timer1.set_enabled(false);
+    if (!login_.prove(Text1.text(), Text2.text())) {
+        hide_busy_picture();
+        login_.show_failure();
+        Text2.set_focus();
+        Text2.select_all();
+        return;
+    }
+    if (state_.gServiceType == 23 || state_.gServiceType == 24) {
+        accept();
+    } else {
+        refuse_by_service_type();
+    }
+}
+
+void frmZentLogin::accept() {
+    state_.gLoginAccepted = 1;
+    state_.gLoginUserId = Text1.text();
+    state_.gLoginPassword = Text2.text();
+    // Written with auto login off, too: the main window's unload takes the password out again.
+    core::INI_WRITE(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINID", state_.gLoginUserId);
+    core::INI_WRITE(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINPW", state_.gLoginPassword);
+    hide_busy_picture();
+    unload();
+}
+
+void frmZentLogin::refuse_by_service_type() {
+    hide_busy_picture();
+    const bool is_pop = state_.gServiceType == 25;
+    login_.refuse();
+    if (is_pop) {
+        core::warn(platform_.desktop,
+                   u"폰디라 팝에 가입한 경우에는 폰디라 팝을 해지하고 폰디라 프로 또는 폰디라 파트너로 "
+                   u"서비스를 전환하셔야 "
+                   u"합니다.");
+        return;
+    }
+    if (core::ask(platform_.desktop,
+                  u"Cardvale 폰디라 통합메시징 서비스 연동기능(UMS)을 사용하시려면 폰디라 프로 또는 폰디라 "
+                  u"파트너로 서비스를 "
+                  u"전환하셔야 합니다. 지금 신청서를 다운받으시겠습니까?",
+                  u"KT 폰디라 신규등록 및 서비스 전환 안내", BoxIcon::exclamation)) {
+        Command3_Click();
+    }
+}
+
+Text frmZentLogin::film() const { return platform_.files.application_directory() + u"\\resource\\timer.avi"; }
+
+void frmZentLogin::hide_busy_picture() {
+    Animation1.stop();
+    Animation1.hide();
+    Picture1.hide();
+}
+
+}  // namespace gateway

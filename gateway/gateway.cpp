@@ -1,0 +1,138 @@
+#include "gateway/gateway.h"
+
+#include "core/windows.h"
+#include "gateway/result_text.h"
+#include "platform/error.h"
+#include "platform/text/cp949.h"
+
+#include <array>
+#include <string>
+
+namespace gateway {
+
+using platform::CarrierCallback;
+using platform::Text;
+
+namespace {
+
+using Int = std::int32_t;
+
+// The library may call these while it works for us; nothing it tells is of use here.
+Int GATEWAY_NOTIFY_6(Int, Int, Int, Int, Int, Int) { return 1; }
+Int GATEWAY_NOTIFY_8(Int, Int, Int, Int, Int, Int, Int, Int) { return 1; }
+Int GATEWAY_NOTIFY_11(Int, Int, Int, Int, Int, Int, Int, Int, Int, Int, Int) { return 1; }
+
+template <class Function>
+CarrierCallback callback(Function* function) {
+    return reinterpret_cast<CarrierCallback>(function);
+}
+
+/// Hands the variables over as bytes of cp949 and takes back what the library left in them: inputs are
+/// rewritten too.
+template <std::size_t N, class Call>
+Int with_texts(const std::array<Text*, N>& texts, Call call) {
+    std::array<std::string, N> bytes;
+    for (std::size_t i = 0; i < N; ++i) bytes[i] = platform::encode_cp949(*texts[i]);
+    const Int result = call(bytes);
+    for (std::size_t i = 0; i < N; ++i) *texts[i] = platform::decode_cp949(bytes[i]);
+    return result;
+}
+
+}  // namespace
+
+template <class Call>
+bool Gateway::exchange(Call call) {
+    try {
+        const core::BusyPointer busy(platform_.desktop);
+        return call() == 1;
+    } catch (const platform::RuntimeError& error) {
+        core::show_error(platform_.desktop, error, platform::BoxIcon::critical);
+        return false;
+    }
+}
+
+bool Gateway::GATEWAY_BIND(int mode) {
+    return exchange([&] {
+        const CarrierCallback notify = mode == 1 ? callback(GATEWAY_NOTIFY_8) : callback(GATEWAY_NOTIFY_6);
+        return with_texts(std::array{&state_.gLoginUserId, &state_.gLoginPassword, &state_.gServiceDomain},
+                          [&](auto& t) {
+                              return platform_.carrier.fn_x_bind(1, t[0], t[1], t[2], 1, notify, 0,
+                                                                 callback(GATEWAY_NOTIFY_11));
+                          });
+    });
+}
+
+bool Gateway::GATEWAY_UNBIND() {
+    return exchange([&] {
+        return with_texts(std::array{&state_.gLoginUserId, &state_.gLoginPassword},
+                          [&](auto& t) { return platform_.carrier.fn_x_unbind(t[0], t[1]); });
+    });
+}
+
+bool Gateway::GATEWAY_MONEY_STATUS() {
+    return exchange([&] {
+        platform::CarrierLibrary::MoneyStatus status{.field1 = state_.gMoneyField1,
+                                                     .service_type = state_.gServiceType,
+                                                     .service_state = state_.gServiceState,
+                                                     .field4 = state_.gMoneyField4,
+                                                     .field5 = state_.gMoneyField5};
+        const Int result = with_texts(
+            std::array{&state_.gLoginUserId, &state_.gServiceDomain, &state_.gServiceNumber,
+                       &state_.gClientAddress},
+            [&](auto& t) { return platform_.carrier.fn_x_money_status(t[0], t[1], t[2], t[3], status); });
+        state_.gMoneyField1 = status.field1;
+        state_.gServiceType = status.service_type;
+        state_.gServiceState = status.service_state;
+        state_.gMoneyField4 = status.field4;
+        state_.gMoneyField5 = status.field5;
+        return result;
+    });
+}
+
+bool Gateway::GATEWAY_USER_INFO() {
+    state_.gInfoServiceNumber.assign(20, u' ');
+    state_.gInfoUserName.assign(40, u' ');
+    state_.gInfoSenderName.assign(40, u' ');
+    state_.gInfoCallback.assign(20, u' ');
+    return exchange([&] {
+        return with_texts(std::array{&state_.gLoginUserId, &state_.gServiceDomain, &state_.gServiceNumber,
+                                     &state_.gClientAddress, &state_.gInfoServiceNumber,
+                                     &state_.gInfoUserName, &state_.gInfoSenderName, &state_.gInfoCallback},
+                          [&](auto& t) {
+                              return platform_.carrier.fn_x_user_info(t[0], t[1], t[2], t[3], t[4], t[5],
+                                                                      t[6], t[7]);
+                          });
+    });
+}
+
+Text Gateway::UMS_SEND_START(UmsMessage message) {
+    using platform::encode_cp949;
+    platform::CarrierLibrary::Submit submit{
+        .s_data_type = message.s_data_type,
+        .s_data_sub_type = message.s_data_sub_type,
+        .user_id = encode_cp949(state_.gLoginUserId),
+        .service_domain = encode_cp949(state_.gServiceDomain),
+        .service_number = encode_cp949(state_.gServiceNumber),
+        .client_address = encode_cp949(state_.gClientAddress),
+        .submit_sequence = state_.gSubmitSequence,
+        .s_subject = encode_cp949(message.s_subject),
+        .s_schedule_time = encode_cp949(message.s_schedule_time),
+        .s_callback = encode_cp949(message.s_callback),
+        .s_reply_flag = message.s_reply_flag,
+        .s_dest_addr_count = message.s_dest_addr_count,
+        .s_dest_addr = encode_cp949(message.s_dest_addr),
+        .s_sms_content = encode_cp949(message.s_sms_content),
+        .s_tts_content = encode_cp949(message.s_tts_content),
+        .s_attach_file_count = message.s_attach_file_count,
+        .s_attach_file = encode_cp949(platform::lower_case(message.s_attach_file)),
+    };
+    try {
+        const core::BusyPointer busy(platform_.desktop);
+        return GATEWAY_RESULT_TEXT(message.SMSIndex == 1 ? platform_.carrier.fn_x_submit_2(submit)
+                                                         : platform_.carrier.fn_x_submit(submit));
+    } catch (const platform::RuntimeError& error) {
+        return u"등록실패-" + platform::decimal(error.number());
+    }
+}
+
+}  // namespace gateway

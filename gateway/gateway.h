@@ -1,0 +1,60 @@
+#pragma once
+
+#include "core/app_state.h"
+#include "platform/ports/platform.h"
+
+#include <cstdint>
+
+namespace gateway {
+
+/// One registration as the send job prepares it; the fields are the carrier's.
+struct UmsMessage {
+    /// 1 goes through fn_x_submit_2, everything else through fn_x_submit, which takes no sub-type, reply flag
+    /// or TTS text.
+    int SMSIndex = 0;
+    std::int32_t s_data_type = 0;
+    std::int32_t s_data_sub_type = 0;
+    platform::Text s_subject;
+    /// 14 digits, year to minute and two zeros.
+    platform::Text s_schedule_time;
+    platform::Text s_callback;
+    std::int32_t s_reply_flag = 0;
+    std::int32_t s_dest_addr_count = 0;
+    /// Name, ":", number, ";" for each recipient.
+    platform::Text s_dest_addr;
+    platform::Text s_sms_content;
+    platform::Text s_tts_content;
+    std::int32_t s_attach_file_count = 0;
+    /// Each path with a ";" behind it.
+    platform::Text s_attach_file;
+};
+
+/// The carrier's operations as the forms use them, over the session's shared variables.
+///
+/// A library session is short: bound for one exchange and unbound at its end. The wrappers return true only
+/// when the library returned 1; an error on the way is shown in a box and counts as false.
+class Gateway {
+  public:
+    Gateway(platform::Platform& platform, core::AppState& state) : platform_(platform), state_(state) {}
+
+    /// Mode 1 is for every kind of message but plain text.
+    bool GATEWAY_BIND(int mode);
+    bool GATEWAY_UNBIND();
+    /// Fills `gServiceType` and `gServiceState`.
+    bool GATEWAY_MONEY_STATUS();
+    /// Fills the four `gInfo` variables; what the library leaves alone is blank afterwards.
+    bool GATEWAY_USER_INFO();
+
+    /// Registers a message. Returns "등록성공", the text of the carrier's refusal, or for an error on the way
+    /// "등록실패-" with its number: no box, the job goes on.
+    platform::Text UMS_SEND_START(UmsMessage message);
+
+  private:
+    template <class Call>
+    bool exchange(Call call);
+
+    platform::Platform& platform_;
+    core::AppState& state_;
+};
+
+}  // namespace gateway

@@ -1,0 +1,50 @@
+#include "gateway/login.h"
+
+#include "core/deployment.h"
+#include "core/files.h"
+#include "core/windows.h"
+
+namespace gateway {
+
+using platform::Text;
+
+bool Login::prove(const Text& user_id, const Text& password) {
+    core::make_folder_when_missing(platform_, Text(core::SOUND_FOLDER));
+    state_.gLoginUserId = user_id;
+    state_.gLoginPassword = password;
+    state_.gServiceDomain = core::deployment::service_domain();
+    state_.gServiceNumber = state_.gInfoServiceNumber;
+    state_.gClientAddress = u"127.0.0.1";
+    const core::BusyPointer busy(platform_.desktop);
+    state_.gSubmitSequence = 1;
+    if (!gateway_.GATEWAY_BIND(0)) return false;
+
+    state_.gLoginResult = true;
+    state_.gLoggedIn = true;
+    if (gateway_.GATEWAY_MONEY_STATUS()) gateway_.GATEWAY_USER_INFO();
+    gateway_.GATEWAY_UNBIND();
+    return true;
+}
+
+void Login::show_failure() {
+    // The last line lacks its closing parenthesis in the service's own wording, which support staff know it
+    // by.
+    core::warn(platform_.desktop,
+               u"아이디에 해당하는 비밀번호와 입력하신 비밀번호가 일치하지 않습니다.\r\n"
+               u"아래내용을 체크해 보시기 바랍니다.\r\n"
+               u"\r\n"
+               u"! 인터넷 연결이 안된 경우\r\n"
+               u"! 아이디를 잘못 알고 계신 경우\r\n"
+               u"! 비밀번호를 잘못 알고 계신 경우\r\n"
+               u"! 대소문자 구별없이 비밀번호를 입력하신 경우\r\n"
+               u"(비밀번호가 대소문자로 이루어졌다면, 다르게 인식되오니 구별하여 입력하시기 바랍니다.\r\n",
+               u"로그인 실패");
+}
+
+void Login::refuse() {
+    state_.gServiceState = core::SERVICE_STATE_NONE;
+    state_.gLoginResult = false;
+    state_.gLoggedIn = false;
+}
+
+}  // namespace gateway
