@@ -15,6 +15,7 @@ void Form::load() {
     if (load_ran_) return;
     load_ran_ = true;
     loaded_ = true;
+    desktop_.prepare(*this);
     Form_Load();
 }
 

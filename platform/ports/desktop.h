@@ -37,6 +37,8 @@ class Desktop {
   public:
     virtual ~Desktop() = default;
 
+    /// Makes the form's window, not shown yet, and gives the form the size that its screen was drawn with.
+    virtual void prepare(Form& form) = 0;
     virtual void show(Form& form) = 0;
     /// Returns when the form has been closed.
     virtual void show_modal(Form& form) = 0;

@@ -18,9 +18,7 @@ std::string encode_cp949(TextView text);
 Text decode_cp949(std::string_view bytes);
 
 /// The bytes of one code unit in code page 949: 1 or 2.
-inline std::size_t cp949_bytes(char16_t unit) {
-    return 1 + ((cp949_table::IS_DOUBLE[unit / 64] >> (unit % 64)) & 1);
-}
+inline std::size_t cp949_bytes(char16_t unit) { return cp949_table::BYTES[unit]; }
 
 /// The bytes of the text in code page 949.
 std::size_t cp949_length(TextView text);

@@ -15,8 +15,9 @@ inline constexpr std::size_t PAIRS = (LAST_LEAD - FIRST_LEAD + 1) * TRAILS;
 /// The byte, or the lead byte * 256 + trail byte, of every code unit.
 extern const std::array<std::uint16_t, 0x10000> ENCODE;
 
-/// One bit a code unit, set when it takes two bytes: 8 KB, so that counting stays in the nearest cache.
-extern const std::array<std::uint64_t, 0x10000 / 64> IS_DOUBLE;
+/// How many bytes that is, 1 or 2: a table of its own, since what a message uses of it stays in the nearest
+/// cache.
+extern const std::array<std::uint8_t, 0x10000> BYTES;
 
 /// The character of every single byte; lead bytes, which are none alone, have a question mark.
 extern const std::array<char16_t, 0x100> DECODE_SINGLE;

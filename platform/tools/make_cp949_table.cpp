@@ -30,12 +30,10 @@ struct Tables {
         }
     }
 
-    std::vector<std::uint64_t> is_double() const {
-        std::vector<std::uint64_t> bits(encode.size() / 64);
-        for (std::size_t unit = 0; unit < encode.size(); ++unit) {
-            if (encode[unit] > 0xFF) bits[unit / 64] |= std::uint64_t{1} << (unit % 64);
-        }
-        return bits;
+    std::vector<std::uint16_t> bytes() const {
+        std::vector<std::uint16_t> counts;
+        for (const std::uint16_t code : encode) counts.push_back(code > 0xFF ? 2 : 1);
+        return counts;
     }
 };
 
@@ -61,8 +59,7 @@ Tables read(std::istream& in) {
     return tables;
 }
 
-template <class Number>
-void write(std::ostream& out, const char* name, const std::vector<Number>& numbers) {
+void write(std::ostream& out, const char* name, const std::vector<std::uint16_t>& numbers) {
     out << "\nconst decltype(" << name << ") " << name << " = {{" << std::hex;
     for (std::size_t i = 0; i < numbers.size(); ++i)
         out << (i % 16 ? " " : "\n    ") << "0x" << numbers[i] << ",";
@@ -82,7 +79,7 @@ int main(int argc, char** argv) {
     out << "// Made by make_cp949_table.\n#include \"platform/text/cp949_table.h\"\n\n"
         << "namespace platform::cp949_table {\n";
     write(out, "ENCODE", tables.encode);
-    write(out, "IS_DOUBLE", tables.is_double());
+    write(out, "BYTES", tables.bytes());
     write(out, "DECODE_SINGLE", tables.decode_single);
     write(out, "DECODE_DOUBLE", tables.decode_double);
     out << "\n}  // namespace platform::cp949_table\n";
