@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/text/text.h"
+
+namespace compose {
+
+/// What the main window opens above itself. The composition root fills the doors; a control whose door nobody has filled
+/// is disabled.
+struct MainDoors {
+    /// Checks the draft and sends it.
+    std::function<void()> send;
+    /// Picks recipients out of the card database.
+    std::function<void()> pick_recipients;
+    /// Takes in what the card manager hands over in files.
+    std::function<void()> NEW_SENDMAN_LOAD;
+    /// Opens the box of saved texts.
+    std::function<void()> message_box;
+    std::function<void()> update_check;
+    /// Saves the recording as a file in the folder; true when there is none to save.
+    std::function<bool(const platform::Text& folder, const platform::Text& file)> SaveWave;
+};
+
+}  // namespace compose
