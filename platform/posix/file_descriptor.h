@@ -1,0 +1,28 @@
+#pragma once
+
+#include <unistd.h>
+#include <utility>
+
+namespace platform::posix {
+
+/// An open file descriptor, closed with this object; negative when opening failed.
+class FileDescriptor {
+  public:
+    explicit FileDescriptor(int number = -1) : number_(number) {}
+    FileDescriptor(FileDescriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept {
+        std::swap(number_, other.number_);
+        return *this;
+    }
+    ~FileDescriptor() {
+        if (is_open()) ::close(number_);
+    }
+
+    bool is_open() const { return number_ >= 0; }
+    int number() const { return number_; }
+
+  private:
+    int number_;
+};
+
+}  // namespace platform::posix

@@ -1,0 +1,90 @@
+#include "platform/posix/paths.h"
+
+#include "platform/error.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace platform::posix {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The components between the backslashes, without the empty ones, `.` and `..`.
+std::vector<Text> components_of(TextView path) {
+    std::vector<Text> components;
+    while (!path.empty()) {
+        const std::size_t end = std::min(path.find(u'\\'), path.size());
+        const TextView component = path.substr(0, end);
+        path.remove_prefix(std::min(end + 1, path.size()));
+        if (component == u"..") {
+            if (!components.empty()) components.pop_back();
+        } else if (!component.empty() && component != u".") {
+            components.emplace_back(component);
+        }
+    }
+    return components;
+}
+
+/// The folder's entry that the component means; nothing when the folder has none of the kind.
+std::optional<std::string> entry_of(const std::string& folder, const Text& component) {
+    std::error_code error;
+    const std::string exact = to_utf8(component);
+    if (fs::exists(fs::symlink_status(folder + "/" + exact, error))) return exact;
+    std::optional<std::string> found;
+    for (fs::directory_iterator entry(folder.empty() ? "/" : folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string name = entry->path().filename();
+        // The order of a folder's entries is the file system's whim: the least name makes the choice a fixed
+        // one.
+        if (equal_without_case(from_utf8(name), component) && (!found || name < *found)) found = name;
+    }
+    return found;
+}
+
+}  // namespace
+
+Paths::Paths() : Paths(fs::read_symlink("/proc/self/exe").parent_path().string()) {}
+
+Paths::Paths(std::string application_directory) : application_directory_(std::move(application_directory)) {
+    while (application_directory_.ends_with('/')) application_directory_.pop_back();
+}
+
+std::string Paths::to_posix(TextView path) const {
+    if (path.find_first_of(TextView(u"/\0", 2)) != TextView::npos)
+        throw RuntimeError(ErrorNumber::bad_file_name);
+
+    std::string posix = application_directory_;
+    if (path.size() >= 2 && path[1] == u':') {
+        const Text drive = lower_case(path.substr(0, 1));
+        if (drive == u"z") {
+            posix.clear();
+        } else if (drive == u"c") {
+            posix = drive_c();
+        } else {
+            throw RuntimeError(ErrorNumber::path_not_found);
+        }
+        path.remove_prefix(2);
+    }
+
+    bool there = true;
+    for (const Text& component : components_of(path)) {
+        const auto entry = there ? entry_of(posix, component) : std::nullopt;
+        there = entry.has_value();
+        posix += "/" + entry.value_or(to_utf8(component));
+    }
+    return posix.empty() ? "/" : posix;
+}
+
+Text Paths::from_posix(const std::string& path) {
+    Text text = u"z:" + from_utf8(path);
+    std::replace(text.begin(), text.end(), u'/', u'\\');
+    while (text.ends_with(u'\\')) text.pop_back();
+    return text;
+}
+
+}  // namespace platform::posix

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/ports/files.h"
+#include "platform/posix/paths.h"
+
+namespace platform::posix {
+
+/// The machine's file system. Files and folders that it makes are their user's alone.
+class PosixFiles : public Files {
+  public:
+    /// With `~/.config/cardvale` as the Windows directory, of the home that the user database tells.
+    explicit PosixFiles(Paths paths);
+    /// With another Windows directory, an absolute path; the first write into it makes it.
+    PosixFiles(Paths paths, std::string windows_directory);
+
+    Text application_directory() const override;
+    Text windows_directory() const override;
+    Text system_directory() const override;
+
+    bool file_exists(const Text& path) const override;
+    bool folder_exists(const Text& path) const override;
+
+    std::string read(const Text& path) const override;
+    void write(const Text& path, const std::string& bytes) override;
+    void remove(const Text& path) override;
+    void make_folder(const Text& path) override;
+    void remove_folder(const Text& path) override;
+
+  private:
+    void make_standing_folder_of(const std::string& path);
+
+    Paths paths_;
+    std::string windows_directory_;
+};
+
+}  // namespace platform::posix

@@ -1,0 +1,94 @@
+#include "platform/posix/whole_file.h"
+
+#include "platform/posix/file_descriptor.h"
+#include "platform/posix/file_error.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <string_view>
+#include <sys/stat.h>
+
+namespace platform::posix {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view NEW_FILE = ".zent-new-";
+
+/// Returns 0, or the `errno` of the write that failed.
+int write_all(int file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file, bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR) return errno;
+        if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return 0;
+}
+
+/// Writes the file and makes the disk keep it. Returns 0 or an `errno`.
+int fill(int file, std::string_view bytes) {
+    if (const int failure = write_all(file, bytes)) return failure;
+    return ::fsync(file) == 0 ? 0 : errno;
+}
+
+/// Makes the disk keep the folder's entries. A file system that cannot has the new file all the same.
+void sync_folder(const std::string& folder) {
+    const FileDescriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.is_open()) ::fsync(opened.number());
+}
+
+/// What a killed program left of its new files. One may hold a password that has been blanked since.
+void remove_remains(const std::string& folder) {
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+        if (entry->path().filename().string().starts_with(NEW_FILE)) ::unlink(entry->path().c_str());
+    }
+}
+
+}  // namespace
+
+std::string read_whole_file(const std::string& path) {
+    // Looked at before it is opened, since opening alone makes some devices act.
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) throw file_error(errno, path);
+    if (!S_ISREG(status.st_mode)) throw RuntimeError(ErrorNumber::path_access);
+
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!file.is_open()) throw file_error(errno, path);
+    std::string bytes;
+    bytes.reserve(static_cast<std::size_t>(status.st_size));
+    std::array<char, 65536> chunk;
+    for (;;) {
+        const ssize_t got = ::read(file.number(), chunk.data(), chunk.size());
+        if (got == 0) return bytes;
+        if (got > 0) bytes.append(chunk.data(), static_cast<std::size_t>(got));
+        if (got < 0 && errno != EINTR) throw file_error(errno, path);
+    }
+}
+
+void replace_file(const std::string& path, const std::string& bytes) {
+    // Renaming takes any file away, but no folder: told here, before something is written.
+    std::error_code ignored;
+    if (fs::is_directory(path, ignored)) throw RuntimeError(ErrorNumber::path_access);
+
+    const std::string folder = fs::path(path).parent_path();
+    std::string new_file = folder + "/" + std::string(NEW_FILE) + "XXXXXX";
+    const FileDescriptor file(::mkostemp(new_file.data(), O_CLOEXEC));
+    if (!file.is_open()) throw file_error(errno, new_file);
+    int failure = fill(file.number(), bytes);
+    // A link is replaced and not followed: it could lead a password into a folder that others read.
+    if (failure == 0 && ::rename(new_file.c_str(), path.c_str()) != 0) failure = errno;
+    if (failure != 0) {
+        ::unlink(new_file.c_str());
+        throw file_error(failure, path);
+    }
+    sync_folder(folder);
+    remove_remains(folder);
+}
+
+}  // namespace platform::posix

@@ -1,0 +1,228 @@
+#include "platform/posix/posix_files.h"
+
+#include "tests/support/child_process.h"
+#include "tests/support/files_on_disk.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <vector>
+
+namespace {
+
+using namespace platform;
+using namespace platform::posix;
+using tests::bytes_of;
+using tests::error_number;
+using tests::names_in;
+using tests::put;
+namespace fs = std::filesystem;
+
+const std::set<std::string> NOTHING;
+
+class PosixFilesTest : public testing::Test, protected tests::FilesOnDisk {
+  protected:
+    mode_t mode_of(const fs::path& path) const {
+        struct stat status {};
+        ::stat(path.c_str(), &status);
+        return status.st_mode & 07777;
+    }
+};
+
+TEST_F(PosixFilesTest, PathsLieWhereTheirDriveIs) {
+    const Paths paths(application);
+    const std::string app = application;
+    const std::vector<std::pair<Text, std::string>> cases = {
+        {u"temp\\isend.text", app + "/temp/isend.text"},
+        {u"\\temp\\", app + "/temp"},
+        {u"내모음함\\인사.txt", app + "/내모음함/인사.txt"},
+        {u"c:\\temp\\tmp.wav", app + "/drive_c/temp/tmp.wav"},
+        {u"C:tmp.wav", app + "/drive_c/tmp.wav"},
+        {u"z:\\", "/"},
+        {u"Z:\\no such\\file", "/no such/file"},
+        {u"a\\.\\b\\\\..\\c", app + "/a/c"},
+        {u"..\\..\\..\\x", app + "/x"},
+        {u"c:\\temp\\..\\..\\..\\x", app + "/drive_c/x"},
+        {u"z:\\..\\no such", "/no such"},
+    };
+    for (const auto& [path, posix] : cases) EXPECT_EQ(paths.to_posix(path), posix) << to_utf8(path);
+
+    EXPECT_EQ(files.application_directory(), u"z:" + replace_all(from_utf8(app), u"/", u"\\"));
+    EXPECT_EQ(paths.to_posix(files.application_directory() + u"\\zent.ini"), app + "/zent.ini");
+    EXPECT_EQ(Paths::from_posix("/"), u"z:");
+
+    EXPECT_EQ(error_number([&] { paths.to_posix(u"a\\../../etc"); }), 52);
+    EXPECT_EQ(error_number([&] { paths.to_posix(Text(u"a\0b", 3)); }), 52);
+    EXPECT_EQ(error_number([&] { paths.to_posix(u"d:\\a"); }), 76);
+}
+
+TEST_F(PosixFilesTest, NamesMatchExactlyFirstAndThenInAnyCase) {
+    fs::create_directory(application / "Temp");
+    put(application / "Temp/readme.txt", "lower");
+    put(application / "Temp/README.txt", "upper");
+    put(application / "Temp/알림A.TXT", "korean");
+    put(application / "Temp/\xC7\xD1.txt", "not UTF-8");
+
+    EXPECT_EQ(files.read(u"temp\\readme.txt"), "lower");
+    EXPECT_EQ(files.read(u"TEMP\\README.txt"), "upper");
+    EXPECT_EQ(files.read(u"temp\\ReadMe.txt"), "upper") << "the same one every time";
+    EXPECT_EQ(files.read(u"temp\\알림a.txt"), "korean");
+    EXPECT_EQ(files.read(Paths::from_posix(application / "Temp/\xC7\xD1.txt")), "not UTF-8");
+
+    files.write(u"temp\\알림a.txt", "again");
+    EXPECT_EQ(bytes_of(application / "Temp/알림A.TXT"), "again") << "not a second file beside the old one";
+}
+
+TEST_F(PosixFilesTest, OnlyNormalFilesExist) {
+    fs::create_directories(application / "box/folder.txt");
+    put(application / "box/.hidden.txt", "");
+    put(application / "box/Letter1.txt", "");
+    put(application / "box/가나.dat", "");
+    put(application / "box/bare", "");
+    ::mkfifo((application / "box/pipe.snd").c_str(), 0600);
+    const std::vector<std::pair<Text, bool>> cases = {
+        {u"", false},
+        {u"box", false},
+        {u"box\\", false},
+        {u"box\\letter1.txt", true},
+        {u"box\\letter2.txt", false},
+        {u"box\\folder.txt", false},
+        {u"box\\.hidden.txt", false},
+        {u"box\\pipe.snd", false},
+        {u"box\\*.TXT", true},
+        {u"box\\f*.txt", false},
+        {u"box\\*hidden*", false},
+        {u"box\\??.dat", true},
+        {u"box\\?.dat", false},
+        {u"box\\l*t*1*", true},
+        {u"box\\letter1.txt*", true},
+        {u"box\\letter1.txt?", false},
+        {u"box\\b*.*", false},
+        {u"box\\*.*", true},
+        {u"no\\*.*", false},
+        {u"d:\\a.txt", false},
+        {u"a/b", false},
+    };
+    for (const auto& [path, exists] : cases) EXPECT_EQ(files.file_exists(path), exists) << to_utf8(path);
+
+    EXPECT_TRUE(files.folder_exists(u"BOX\\folder.txt"));
+    EXPECT_FALSE(files.folder_exists(u"box\\letter1.txt"));
+    EXPECT_FALSE(files.folder_exists(u"d:\\"));
+}
+
+TEST_F(PosixFilesTest, AWrittenFileIsItsUsersAlone) {
+    const std::string bytes("\0\r\n\xC7\xD1\x1A end", 10);
+    put(application / "old.txt", "old");
+    fs::permissions(application / "old.txt", fs::perms(0666));
+    files.write(u"old.txt", bytes);
+    EXPECT_EQ(files.read(u"old.txt"), bytes);
+    EXPECT_EQ(mode_of(application / "old.txt"), 0600u);
+
+    files.write(files.windows_directory() + u"\\zent.ini", "secret");
+    EXPECT_EQ(bytes_of(windows / "zent.ini"), "secret");
+    EXPECT_EQ(mode_of(windows), 0700u);
+    EXPECT_EQ(mode_of(windows / "zent.ini"), 0600u);
+
+    files.make_folder(u"c:\\temp");
+    EXPECT_EQ(mode_of(application / "drive_c/temp"), 0700u);
+    EXPECT_EQ(names_in(application), (std::set<std::string>{"old.txt", "drive_c"}));
+}
+
+TEST_F(PosixFilesTest, AWriteReplacesALinkAndLeavesItsTarget) {
+    put(folder.path() / "elsewhere", "theirs");
+    fs::create_symlink(folder.path() / "elsewhere", application / "zent.ini");
+    files.write(u"zent.ini", "ours");
+    EXPECT_EQ(bytes_of(folder.path() / "elsewhere"), "theirs");
+    EXPECT_EQ(bytes_of(application / "zent.ini"), "ours");
+    EXPECT_FALSE(fs::is_symlink(application / "zent.ini"));
+}
+
+TEST_F(PosixFilesTest, RemovingAFolderStaysInsideIt) {
+    fs::create_directories(folder.path() / "outside");
+    put(folder.path() / "outside/kept", "");
+    fs::create_directories(application / "box/a/b");
+    put(application / "box/a/b/.c", "");
+    fs::create_directory_symlink(folder.path() / "outside", application / "box/a/link");
+    fs::create_directory_symlink(folder.path() / "outside", application / "link");
+
+    files.remove_folder(u"box");
+    files.remove_folder(u"link");
+    EXPECT_EQ(names_in(application), NOTHING);
+    EXPECT_EQ(names_in(folder.path() / "outside"), std::set<std::string>{"kept"});
+}
+
+TEST_F(PosixFilesTest, FailuresHaveTheirClassicNumbers) {
+    fs::create_directory(application / "box");
+    put(application / "file", "");
+    ::mkfifo((application / "pipe").c_str(), 0600);
+    const Text long_name(300, u'a');
+    const std::vector<std::tuple<const char*, int, std::function<void()>>> cases = {
+        {"read a missing file", 53, [&] { files.read(u"box\\none"); }},
+        {"read below a missing folder", 76, [&] { files.read(u"none\\none"); }},
+        {"read below a file", 75, [&] { files.read(u"file\\none"); }},
+        {"read a folder", 75, [&] { files.read(u"box"); }},
+        {"read a pipe that nobody writes", 75, [&] { files.read(u"pipe"); }},
+        {"read an endless device", 75, [&] { files.read(u"z:\\dev\\zero"); }},
+        {"write over a folder", 75, [&] { files.write(u"box", "x"); }},
+        {"write below a file", 75, [&] { files.write(u"file\\x", "x"); }},
+        {"write below a missing folder", 76, [&] { files.write(u"none\\x", "x"); }},
+        {"write a name that is too long", 52, [&] { files.write(long_name, "x"); }},
+        {"remove a missing file", 53, [&] { files.remove(u"none"); }},
+        {"remove below a missing folder", 76, [&] { files.remove(u"none\\none"); }},
+        {"remove a folder as a file", 75, [&] { files.remove(u"box"); }},
+        {"make a folder that is there", 0, [&] { files.make_folder(u"box"); }},
+        {"make a folder over a file", 75, [&] { files.make_folder(u"file"); }},
+        {"make a folder below none", 76, [&] { files.make_folder(u"none\\none"); }},
+        {"remove a missing folder", 76, [&] { files.remove_folder(u"none"); }},
+        {"remove a file as a folder", 75, [&] { files.remove_folder(u"file"); }},
+    };
+    for (const auto& [what, number, step] : cases) EXPECT_EQ(error_number(step), number) << what;
+    EXPECT_EQ(names_in(application), (std::set<std::string>{"box", "file", "pipe"}));
+}
+
+TEST_F(PosixFilesTest, WithoutPermissionNothingChanges) {
+    put(application / "secret", "old");
+    fs::permissions(application / "secret", fs::perms::none);
+    fs::permissions(application, fs::perms(0555));
+    fs::permissions(folder.path(), fs::perms(0755));
+    tests::ChildProcess child([&] {
+        constexpr uid_t NOBODY = 65534;
+        if (::getuid() == 0 && ::setuid(NOBODY) != 0) return 1;
+        if (error_number([&] { files.read(u"secret"); }) != 70) return 2;
+        if (error_number([&] { files.write(u"secret", "new"); }) != 70) return 3;
+        if (error_number([&] { files.remove(u"secret"); }) != 70) return 4;
+        if (error_number([&] { files.make_folder(u"box"); }) != 75) return 5;
+        return 0;
+    });
+    EXPECT_EQ(child.wait(), 0);
+    fs::permissions(application, fs::perms(0755));
+    EXPECT_EQ(names_in(application), std::set<std::string>{"secret"});
+}
+
+TEST_F(PosixFilesTest, AFullDiskLeavesTheOldFile) {
+    files.write(u"zent.ini", "old");
+    tests::ChildProcess child([&] {
+        tests::limit_file_size(5000, false);
+        return error_number([&] { files.write(u"zent.ini", std::string(100000, 'n')); });
+    });
+    EXPECT_EQ(child.wait(), 61);
+    EXPECT_EQ(bytes_of(application / "zent.ini"), "old");
+    EXPECT_EQ(names_in(application), std::set<std::string>{"zent.ini"});
+}
+
+TEST_F(PosixFilesTest, AKilledWriteLeavesTheOldFileAndTheNextOneSweepsUp) {
+    files.write(u"zent.ini", "old");
+    for (const rlim_t bytes : {0, 1, 99999}) {
+        tests::ChildProcess child([&] {
+            tests::limit_file_size(bytes, true);
+            files.write(u"zent.ini", std::string(100000, 'n'));
+            return 0;
+        });
+        EXPECT_EQ(child.wait(), -SIGXFSZ);
+        EXPECT_EQ(bytes_of(application / "zent.ini"), "old") << bytes;
+    }
+    files.write(u"zent.ini", "new");
+    EXPECT_EQ(names_in(application), std::set<std::string>{"zent.ini"}) << "a password may be in the remains";
+}
+
+}  // namespace

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <csignal>
+#include <cstdlib>
+#include <functional>
+#include <stdexcept>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <utility>
+
+namespace tests {
+
+/// A copy of the test's process that does one thing and ends with the number it returns (255 after an
+/// exception). It is killed with this object.
+class ChildProcess {
+  public:
+    explicit ChildProcess(const std::function<int()>& work) : id_(::fork()) {
+        if (id_ < 0) throw std::runtime_error("no child process");
+        if (id_ > 0) return;
+        int result = 255;
+        try {
+            result = work();
+        } catch (...) {
+            // The result tells.
+        }
+        ::_exit(result);
+    }
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+    ~ChildProcess() { kill(); }
+
+    void kill() {
+        if (id_ < 0) return;
+        ::kill(id_, SIGKILL);
+        wait();
+    }
+
+    /// Waits for the end: the number returned, or the signal that killed it as a negative number.
+    int wait() {
+        int status = 0;
+        ::waitpid(std::exchange(id_, -1), &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+    }
+
+  private:
+    pid_t id_;
+};
+
+/// Lets the process write no more than this into a file: as on a full disk the write that goes beyond fails,
+/// or, when `kill` is asked for, ends the process in its middle.
+inline void limit_file_size(rlim_t bytes, bool kill) {
+    if (!kill) std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{bytes, bytes};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+/// What one process tells another, a byte at a time.
+class Pipe {
+  public:
+    Pipe() {
+        if (::pipe(ends_) != 0) throw std::runtime_error("no pipe");
+    }
+    Pipe(const Pipe&) = delete;
+    Pipe& operator=(const Pipe&) = delete;
+    ~Pipe() {
+        ::close(ends_[0]);
+        ::close(ends_[1]);
+    }
+
+    void tell() const {
+        const char byte = '.';
+        if (::write(ends_[1], &byte, 1) != 1) std::abort();
+    }
+    void wait() const {
+        char byte = 0;
+        if (::read(ends_[0], &byte, 1) != 1) std::abort();
+    }
+
+  private:
+    int ends_[2];
+};
+
+}  // namespace tests

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/error.h"
+#include "platform/posix/posix_files.h"
+#include "tests/support/temporary_folder.h"
+
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <string>
+
+namespace tests {
+
+/// The real files, with the application and the Windows directory in a temporary folder.
+struct FilesOnDisk {
+    TemporaryFolder folder;
+    std::filesystem::path application = folder.path() / "앱";
+    std::filesystem::path windows = folder.path() / "home/.config/cardvale";
+    bool application_made = std::filesystem::create_directory(application);
+    platform::posix::PosixFiles files{platform::posix::Paths(application), windows};
+};
+
+/// Puts a file there behind the program's back.
+inline void put(const std::filesystem::path& path, const std::string& bytes) {
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+inline std::string bytes_of(const std::filesystem::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+/// The names in a folder, hidden ones too.
+inline std::set<std::string> names_in(const std::filesystem::path& folder) {
+    std::set<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        names.insert(entry.path().filename());
+    return names;
+}
+
+/// The number of the RuntimeError that the step raises, 0 without one.
+template <class Step>
+int error_number(Step&& step) {
+    try {
+        step();
+        return 0;
+    } catch (const platform::RuntimeError& error) {
+        return error.number();
+    }
+}
+
+}  // namespace tests
