@@ -1,0 +1,67 @@
+#include "platform/posix/posix_shell.h"
+
+#include "platform/error.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <utility>
+
+namespace platform::posix {
+
+namespace {
+
+/// Starts the program with one argument and forgets it. The program's parent ends at once, so that the system
+/// takes it in and no dead process is left waiting for this one to ask.
+void start(const std::string& program, const std::string& argument) {
+    const pid_t parent = ::fork();
+    if (parent == 0) {
+        ::setsid();
+        if (::fork() == 0) ::execlp(program.c_str(), program.c_str(), argument.c_str(), nullptr);
+        ::_exit(0);
+    }
+    while (parent > 0 && ::waitpid(parent, nullptr, 0) < 0 && errno == EINTR) {
+    }
+}
+
+/// A name for the instances of one user in one application directory, whatever way leads to the directory.
+std::string instance_name(const std::string& application_directory) {
+    struct stat folder {};
+    ::stat(application_directory.c_str(), &folder);
+    return "zent-" + std::to_string(::getuid()) + "-" + std::to_string(folder.st_dev) + "-" +
+           std::to_string(folder.st_ino);
+}
+
+}  // namespace
+
+PosixShell::PosixShell(Paths paths, std::string opener)
+    : paths_(std::move(paths)), opener_(std::move(opener)) {}
+
+void PosixShell::open(const Text& path) {
+    ignore_errors([&] { start(opener_, paths_.to_posix(path)); });
+}
+
+bool PosixShell::another_instance_runs() {
+    if (instance_.is_open()) return false;
+
+    // A socket's name that begins with a NUL lies in no folder, and the kernel frees it however the process
+    // ends.
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    const std::string name = instance_name(paths_.application_directory());
+    std::copy(name.begin(), name.end(), address.sun_path + 1);
+    const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + name.size());
+
+    FileDescriptor instance(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    if (::bind(instance.number(), reinterpret_cast<const sockaddr*>(&address), length) != 0) {
+        return errno == EADDRINUSE;
+    }
+    instance_ = std::move(instance);
+    return false;
+}
+
+}  // namespace platform::posix
