@@ -1,0 +1,171 @@
+#include "platform/posix/posix_carrier_library.h"
+
+#include "platform/error.h"
+#include "tests/parts/carrier_client.h"
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace platform;
+using platform::posix::PosixCarrierLibrary;
+namespace fs = std::filesystem;
+
+constexpr const char* LIBRARY = "x_msggate_d.so";
+
+void notify() {}
+
+std::int32_t notify_11(std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::int32_t,
+                       std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::int32_t) {
+    return 1;
+}
+
+/// The carrier's stand-in in the current directory, a folder of the test's own.
+class PosixCarrierLibraryTest : public CarrierTest {
+  protected:
+    std::int32_t bind() {
+        return library.fn_x_bind(1, user_id, password, domain, 1, notify, 0,
+                                 reinterpret_cast<CarrierCallback>(notify_11));
+    }
+    std::int32_t user_info() {
+        return library.fn_x_user_info(user_id, domain, number, address, info_number, info_user, info_sender,
+                                      info_callback);
+    }
+    /// The error that a call of each export raises.
+    std::vector<RuntimeError> errors_of_all() {
+        PosixCarrierLibrary::MoneyStatus status;
+        PosixCarrierLibrary::Submit submit;
+        const std::vector<std::function<void()>> calls = {
+            [&] { bind(); },
+            [&] { library.fn_x_unbind(user_id, password); },
+            [&] { library.fn_x_money_status(user_id, domain, number, address, status); },
+            [&] { user_info(); },
+            [&] { library.fn_x_submit(submit); },
+            [&] { library.fn_x_submit_2(submit); },
+        };
+        std::vector<RuntimeError> errors;
+        for (const auto& call : calls) {
+            try {
+                call();
+            } catch (const RuntimeError& error) {
+                errors.push_back(error);
+            }
+        }
+        return errors;
+    }
+    static std::vector<int> numbers_of(const std::vector<RuntimeError>& errors) {
+        std::vector<int> numbers;
+        for (const RuntimeError& error : errors) numbers.push_back(error.number());
+        return numbers;
+    }
+
+    PosixCarrierLibrary library;
+    std::string user_id = "demo";
+    std::string password = "demo1234";
+    std::string domain = "pondira.example";
+    std::string number = "03030xxxxxxx";
+    std::string address = "127.0.0.1";
+    std::string info_number = std::string(20, ' ');
+    std::string info_user = std::string(40, ' ');
+    std::string info_sender = std::string(40, ' ');
+    std::string info_callback = std::string(20, ' ');
+};
+
+TEST_F(PosixCarrierLibraryTest, EveryArgumentArrivesInItsPlace) {
+    fs::copy_file(CARRIER_LIBRARY, LIBRARY);
+    configure();
+    std::ofstream("a.wav");
+    ASSERT_EQ(bind(), 1);
+
+    PosixCarrierLibrary::MoneyStatus status;
+    EXPECT_EQ(library.fn_x_money_status(user_id, domain, number, address, status), 1);
+    EXPECT_EQ(status.service_type, 24);
+    EXPECT_EQ(status.service_state, 1);
+
+    PosixCarrierLibrary::Submit submit;
+    submit.s_data_type = 11;
+    submit.s_data_sub_type = 12;
+    submit.user_id = "demo";
+    submit.service_domain = "domain";
+    submit.service_number = "030312345678";
+    submit.client_address = "127.0.0.1";
+    submit.submit_sequence = 13;
+    submit.s_subject = "\xC7\xD1";
+    submit.s_schedule_time = "20261122203900";
+    submit.s_callback = "0212345678";
+    submit.s_reply_flag = 14;
+    submit.s_dest_addr_count = 1;
+    submit.s_dest_addr = "kim:0101234;";
+    submit.s_sms_content = std::string(100000, 's');
+    submit.s_tts_content = "tts";
+    submit.s_attach_file_count = 2;
+    submit.s_attach_file = "a.wav;A.WAV;";
+    EXPECT_EQ(library.fn_x_submit(submit), 1);
+    EXPECT_EQ(library.fn_x_submit_2(submit), 1);
+    EXPECT_EQ(library.fn_x_unbind(user_id, password), 1);
+
+    const auto arguments = [](const std::string& operation) {
+        return ledger(
+            ("SELECT coalesce(number, CASE WHEN length(text) > 1000 THEN length(text) ELSE text END) FROM "
+             "argument JOIN call ON call.id = call WHERE operation = '" +
+             operation + "' ORDER BY position")
+                .c_str());
+    };
+    EXPECT_EQ(arguments("fn_x_bind"),
+              (Rows{"1", "demo", "********", "pondira.example", "1", "given", "0", "given", "given"}));
+    EXPECT_EQ(arguments("fn_x_unbind"), (Rows{"demo", "********"}));
+    Rows money{"demo", "pondira.example", "03030xxxxxxx", "127.0.0.1"};
+    money.resize(16, "given");
+    EXPECT_EQ(arguments("fn_x_money_status"), money);
+    EXPECT_EQ(arguments("fn_x_submit"),
+              (Rows{"11", "demo", "domain", "030312345678", "127.0.0.1", "13", "한", "20261122203900",
+                    "0212345678", "1", "kim:0101234;", "100000", "2", "a.wav;A.WAV;"}));
+    EXPECT_EQ(arguments("fn_x_submit_2"), (Rows{"11", "12", "1", "demo", "domain", "030312345678",
+                                                "127.0.0.1", "13", "한", "20261122203900", "0212345678", "14",
+                                                "1", "kim:0101234;", "100000", "tts", "2", "a.wav;A.WAV;"}));
+    EXPECT_EQ(submit.s_sms_content, std::string(100000, 's'));
+}
+
+TEST_F(PosixCarrierLibraryTest, BuffersComeBackInTheirOwnLengthWhateverTheLibraryWrote) {
+    fs::copy_file(CARRIER_LIBRARY, LIBRARY);
+    for (const char* faults :
+         {"", "[failures]\nno_nul=1\n", "[failures]\noverrun=200\n", "[failures]\nno_nul=1\noverrun=200\n"}) {
+        configure(faults);
+        ASSERT_EQ(bind(), 1);
+        info_user.assign(40, ' ');
+        EXPECT_EQ(user_info(), 1);
+        EXPECT_EQ(info_user.substr(0, 6), "\xC8\xAB\xB1\xE6\xB5\xBF") << faults;
+        EXPECT_EQ(info_number.substr(0, 12), "030312345678") << faults;
+        EXPECT_EQ(info_sender.substr(0, 8), "\xB1\xE6\xB5\xBF\xBB\xF3\xBB\xE7") << faults;
+        EXPECT_EQ(info_callback.substr(0, 10), "0212345678") << faults;
+        for (const std::string* buffer : {&info_user, &info_sender}) EXPECT_EQ(buffer->size(), 40u) << faults;
+        for (const std::string* buffer : {&info_number, &info_callback})
+            EXPECT_EQ(buffer->size(), 20u) << faults;
+        EXPECT_EQ(user_id, "demo");
+        EXPECT_EQ(address, "127.0.0.1");
+    }
+}
+
+TEST_F(PosixCarrierLibraryTest, WhatIsNoLibraryIsTheSameErrorAtEveryCall) {
+    EXPECT_EQ(numbers_of(errors_of_all()), std::vector<int>(6, 48)) << "a missing file";
+    std::ofstream(LIBRARY) << "no library\n";
+    EXPECT_EQ(numbers_of(errors_of_all()), std::vector<int>(6, 48)) << "a text file";
+    EXPECT_NE(errors_of_all().at(0).description().find(u"x_msggate_d.so"), Text::npos);
+
+    fs::remove(LIBRARY);
+    fs::copy_file(CARRIER_LIBRARY, LIBRARY);
+    configure();
+    EXPECT_EQ(bind(), 1) << "the next call finds a library that has come since";
+}
+
+TEST_F(PosixCarrierLibraryTest, AMissingExportIsNamed) {
+    fs::copy_file(EMPTY_LIBRARY, LIBRARY);
+    const std::vector<RuntimeError> errors = errors_of_all();
+    EXPECT_EQ(numbers_of(errors), std::vector<int>(6, 453));
+    EXPECT_NE(errors.back().description().find(u"fn_x_submit_2"), Text::npos);
+}
+
+}  // namespace
