@@ -69,17 +69,16 @@ Place locate(std::string_view bytes, std::string_view section, std::string_view 
         begin = line_end + (bytes.substr(line_end, NEW_LINE.size()) == NEW_LINE ? 2 : 1);
 
         const std::string_view line = without_blanks(raw_line);
-        const auto name = section_name(line);
-        if (name) {
+        if (const auto name = section_name(line)) {
             if (place.section_found) break;
             place.section_found = same_name(*name, section);
         }
         if (!place.section_found || line.empty()) continue;
         place.section_end = std::min(begin, bytes.size());
 
+        // Comments need no look of their own: their names begin with a semicolon, as no key's does.
         const auto equals = raw_line.find('=');
-        const bool is_setting = !name && line.front() != ';' && equals != std::string_view::npos;
-        if (is_setting && same_name(without_blanks(raw_line.substr(0, equals)), key)) {
+        if (equals != std::string_view::npos && same_name(without_blanks(raw_line.substr(0, equals)), key)) {
             place.raw_value = raw_line.substr(equals + 1);
             break;
         }

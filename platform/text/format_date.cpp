@@ -74,7 +74,7 @@ Text format_date(LocalTime moment, TextView pattern) {
 Text format_day_fraction(double days, TextView pattern) {
     constexpr int SECONDS_A_DAY = 86'400;
     const double part_of_day = std::fabs(days - std::trunc(days));
-    const auto seconds = static_cast<int>(std::lround(part_of_day * SECONDS_A_DAY)) % SECONDS_A_DAY;
+    const auto seconds = static_cast<int>(std::lround(part_of_day * SECONDS_A_DAY));
     return format_date(make_time(1899, 12, 30, 0, 0, seconds), pattern);
 }
 

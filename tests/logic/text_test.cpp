@@ -12,7 +12,8 @@ using namespace platform;
 TEST(Text, TrimmingTakesBlanksAndNothingElse) {
     EXPECT_EQ(trim(u"  가 나  "), u"가 나");
     EXPECT_EQ(trim(u"   "), u"");
-    EXPECT_EQ(trim(u"\t가\u3000"), u"\t가\u3000") << "tabs and wide blanks are content";
+    EXPECT_EQ(trim(u" \t가\t "), u"\t가\t") << "tabs are content";
+    EXPECT_EQ(trim(u"\u3000가\u3000"), u"\u3000가\u3000") << "wide blanks are content";
     EXPECT_EQ(right_trim(u"  가  "), u"  가");
     EXPECT_EQ(right_trim(u""), u"");
 }
