@@ -1,13 +1,13 @@
 #pragma once
 
-#include <functional>
-
 #include "platform/text/text.h"
+
+#include <functional>
 
 namespace compose {
 
-/// What the main window opens above itself. The composition root fills the doors; a control whose door nobody has filled
-/// is disabled.
+/// What the main window opens above itself. The composition root fills the doors; a control whose door nobody
+/// has filled is disabled.
 struct MainDoors {
     /// Checks the draft and sends it.
     std::function<void()> send;

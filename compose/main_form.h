@@ -1,8 +1,5 @@
 #pragma once
 
-#include <array>
-#include <deque>
-
 #include "compose/main_doors.h"
 #include "core/app_state.h"
 #include "gateway/service_doors.h"
@@ -24,6 +21,9 @@
 #include "platform/controls/tool_bar.h"
 #include "platform/ports/platform.h"
 
+#include <array>
+#include <deque>
+
 namespace compose {
 
 /// Sub-items of a row of `frmZent::ListView1`.
@@ -43,7 +43,8 @@ inline constexpr std::size_t TEXT_LIMIT = 80;
 /// The most bytes of a text to be spoken.
 inline constexpr std::size_t TTS_LIMIT = 1000;
 
-/// The main window: one draft at a time, and the draft is these controls. Sending reads them at the moment it runs.
+/// The main window: one draft at a time, and the draft is these controls. Sending reads them at the moment it
+/// runs.
 ///
 /// Its handlers stand by subject: start and stop in main_form_start, session in main_form_session, kinds in
 /// main_form_kinds, text entry in main_form_text, saving a text in main_form_my_save, recipients in
@@ -54,7 +55,8 @@ class frmZent : public platform::Form {
             MainDoors doors);
 
     // Kinds, toolbar, status bar.
-    platform::ToolBar Toolbar1{*this, u"Toolbar1",
+    platform::ToolBar Toolbar1{*this,
+                               u"Toolbar1",
                                {{},
                                 {.caption = u"문자메시지", .in_group = true},
                                 {.caption = u"문자플러스", .in_group = true},
@@ -64,7 +66,8 @@ class frmZent : public platform::Form {
                                 {.caption = u"발송결과"},
                                 {.caption = u"팩스수신"},
                                 {.caption = u"요금조회"}}};
-    platform::TabStrip TabStrip1{*this, u"TabStrip1", {u"문자메시지", u"문자플러스", u"음성메시지", u"팩스메시지"}};
+    platform::TabStrip TabStrip1{
+        *this, u"TabStrip1", {u"문자메시지", u"문자플러스", u"음성메시지", u"팩스메시지"}};
     platform::StatusBar STBar1{*this, u"STBar1", 4};
     platform::Image TOPLogo{*this, u"TOPLogo"};
     platform::PictureBox Picture1{*this, u"Picture1"};
@@ -72,7 +75,8 @@ class frmZent : public platform::Form {
     platform::PictureBox Picture4{*this, u"Picture4"};
     platform::PictureBox Picture5{*this, u"Picture5"};
     platform::PictureBox Picture6{*this, u"Picture6"};
-    std::array<platform::Frame, 3> Frame1{platform::Frame{*this, u"Frame1_0"}, platform::Frame{*this, u"Frame1_1"},
+    std::array<platform::Frame, 3> Frame1{platform::Frame{*this, u"Frame1_0"},
+                                          platform::Frame{*this, u"Frame1_1"},
                                           platform::Frame{*this, u"Frame1_2"}};
 
     // Title and sender.
@@ -248,7 +252,7 @@ class frmZent : public platform::Form {
     void save_placement();
     void Timer2_Timer();
     void first_tick();
-    void save_sender_name(platform::TextView key);
+    void save_sender_name();
     void save_callback(platform::TextView key);
 
     // Session.
@@ -259,18 +263,26 @@ class frmZent : public platform::Form {
 
     // Kinds.
     void TabStrip1_Click();
+    void show_text_kind();
+    void show_voice_kind(bool with_text);
     void TabStrip2_Click();
     void Toolbar1_ButtonClick(int index);
     void STBar1_PanelClick(int panel);
+    void mnuAbout_Click();
     void Command3_Click();
     void Command5_Click();
     void DRAFT_RESET_IF_NO_KIND();
     void show_panel(std::size_t panel);
     void set_number_captions(platform::TextView caption);
+    void show_sender_controls(bool visible);
     void show_reply_controls(bool visible);
     void KTSMS_LINK(int index);
 
     // Text entry.
+    /// The sender's name alone, as a new text begins.
+    void start_text_message();
+    void start_plus_message();
+    /// As a paste does, with the clipboard's earlier content lost.
     void insert_text(const platform::Text& text);
     void follow_subject(const platform::Text& body, std::size_t limit);
     void refuse_excess(platform::TextBox& field, platform::PictureBox& box);

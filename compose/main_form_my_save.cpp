@@ -1,0 +1,53 @@
+// Saving the present text into the box of saved texts.
+
+#include "compose/main_form.h"
+#include "core/files.h"
+#include "core/windows.h"
+#include "platform/error.h"
+#include "platform/text/cp949.h"
+
+namespace compose {
+
+using platform::Text;
+
+namespace {
+
+constexpr int MOST_NAMES = 200;
+
+}  // namespace
+
+void frmZent::MySave_Click() {
+    const Text root = platform_.files.application_directory() + u"\\내모음함\\";
+    const Text folder = root + u"내모음함\\";
+    core::make_folder_when_missing(platform_, root);
+    core::make_folder_when_missing(platform_, folder);
+    txtUserName.set_text(platform::trim(txtUserName.text()));
+
+    const Text body = platform::trim(platform::remove_all(mText1.text(), sender_tag()));
+    if (body.empty()) {
+        core::warn(platform_.desktop, u"메시지 내용을 입력하세요!");
+        mText1.set_focus();
+        return;
+    }
+    subjectText_CHECK();
+
+    const Text subject = subjectText.text();
+    Text title = subject;
+    for (int i = 1; core::FILE_EXISTS(platform_, folder + title + u".txt"); ++i) {
+        title = subject + platform::decimal(i);
+        if (i > MOST_NAMES) {
+            platform_.desktop.message_box({.text = u"'" + title + u"' 제목은 이미 존재하고 있습니다."});
+            return;
+        }
+    }
+    try {
+        platform_.files.write(folder + title + u".txt", platform::encode_cp949(body));
+    } catch (const platform::RuntimeError& error) {
+        core::show_error(platform_.desktop, error, platform::BoxIcon::exclamation);
+        return;
+    }
+    platform_.desktop.message_box({.text = u"내 모음함에 '" + title + u"' 제목으로 등록 되었습니다.",
+                                   .icon = platform::BoxIcon::information});
+}
+
+}  // namespace compose

@@ -1,0 +1,140 @@
+// Log-in and log-out as the main window shows them.
+
+#include "compose/main_form.h"
+#include "core/common.h"
+#include "core/entry_routine.h"
+#include "core/ini_file.h"
+#include "core/windows.h"
+#include "gateway/frmAutoLogin.h"
+#include "gateway/frmZentLogin.h"
+#include "platform/text/format.h"
+#include "platform/text/number.h"
+
+namespace compose {
+
+using platform::Text;
+
+namespace {
+
+constexpr int PICTURE_LOGGED_OUT = 1;
+constexpr int PICTURE_LOGGED_IN = 2;
+
+}  // namespace
+
+void frmZent::connect_session() {
+    cmdLogOut.set_enabled(false);
+    cmdLogin.Click.connect([this] { cmdLogin_Click(); });
+    cmdLogOut.Click.connect([this] { cmdLogOut_Click(); });
+    mnuAutoLogin.Click.connect([this] { mnuAutoLogin.set_checked(!mnuAutoLogin.checked()); });
+    mnuStartUpdate.Click.connect([this] { mnuStartUpdate.set_checked(!mnuStartUpdate.checked()); });
+    if (service_doors_.sign_up) cmdRegister.Click.connect(service_doors_.sign_up);
+    if (service_doors_.service_guide) cmdGoPondira.Click.connect(service_doors_.service_guide);
+    if (service_doors_.home_page) TOPLogo.Click.connect(service_doors_.home_page);
+}
+
+void frmZent::cmdLogin_Click() {
+    gateway::frmZentLogin login(platform_, state_, service_doors_, Timer1);
+    login.show_modal();
+    read_auto_login_mark();
+    if (!state_.gLoginResult) {
+        SET_LOGIN_BUTTONS(false);
+        show_logged_out();
+        return;
+    }
+    go_on_after_login();
+}
+
+void frmZent::AUTO_LOGIN_START() {
+    gateway::frmAutoLogin login(platform_, state_, service_doors_);
+    login.show_modal();
+    if (state_.gLoginResult) {
+        go_on_after_login();
+        return;
+    }
+    cmdLogin_Click();
+    if (!state_.gLoginResult) {
+        SET_LOGIN_BUTTONS(false);
+        show_logged_out();
+    }
+}
+
+/// Here "1" alone is on, unlike everywhere else.
+void frmZent::read_auto_login_mark() {
+    const Text value = core::INI_READ(platform_, core::application_ini(platform_), u"LOGIN", u"AUTOLOGIN");
+    mnuAutoLogin.set_tag(value == u"1" ? u"1" : u"0");
+    mnuAutoLogin.set_checked(mnuAutoLogin.tag() == u"1");
+}
+
+void frmZent::go_on_after_login() {
+    state_.gSubmitSequence = 1;
+    if (state_.gServiceType < 23 || state_.gServiceType > 25) {
+        SET_LOGIN_BUTTONS(false);
+        return;
+    }
+    apply_login();
+}
+
+void frmZent::apply_login() {
+    state_.gLoggedIn = true;
+    SET_LOGIN_BUTTONS(state_.gLoggedIn);
+    core::read_saved_sender(platform_, state_);
+
+    txtUserName.clear();
+    txtUserName.add_row(core::CLEAN_FIXED_TEXT(state_.gInfoUserName));
+    txtUserName.add_row(core::CLEAN_FIXED_TEXT(state_.gInfoSenderName));
+    txtUserName.set_text(platform::trim(state_.gSavedSenderName));
+    if (txtUserName.text().empty()) txtUserName.set_text(core::CLEAN_FIXED_TEXT(state_.gInfoSenderName));
+
+    txtCallback.clear();
+    txtCallback.add_row(core::CLEAN_FIXED_TEXT(state_.gInfoCallback));
+    txtCallback.add_row(core::CLEAN_FIXED_TEXT(state_.gInfoServiceNumber));
+    txtCallback.set_text(platform::trim(state_.gSavedCallback));
+    if (txtCallback.text().empty()) txtCallback.set_text(core::CLEAN_FIXED_TEXT(state_.gInfoCallback));
+
+    STBar1.set_panel_text(1, u"로그인상태");
+    STBar1.set_panel_tool_tip(1, u"로그아웃하기");
+    STBar1.set_panel_text(2, u"가입자 " + core::CLEAN_FIXED_TEXT(state_.gLoginUserId) + u"[" +
+                                 core::CLEAN_FIXED_TEXT(state_.gInfoUserName) + u"]  ");
+    STBar1.set_panel_text(
+        3, u"폰디라번호 " +
+               platform::format_service_number(core::CLEAN_FIXED_TEXT(state_.gInfoServiceNumber)) + u"  ");
+    STBar1.set_panel_picture(1, PICTURE_LOGGED_IN);
+
+    subjectText.set_tag(u"END");
+    const auto has_no_text = [](const platform::TextBox& field) {
+        const Text text = platform::trim(field.text());
+        return text.empty() || text == u"[]";
+    };
+    if (has_no_text(mText1)) start_text_message();
+    if (has_no_text(mText2)) start_plus_message();
+    subjectText.set_tag(u"");
+}
+
+void frmZent::SET_LOGIN_BUTTONS(bool logged_in) {
+    cmdLogOut.set_enabled(logged_in);
+    cmdLogin.set_enabled(!logged_in);
+}
+
+void frmZent::show_logged_out() {
+    STBar1.set_panel_text(1, u"로그아웃상태");
+    STBar1.set_panel_tool_tip(1, u"로그인하기");
+    STBar1.set_panel_text(2, u"가입자");
+    STBar1.set_panel_text(3, u"폰디라번호");
+}
+
+void frmZent::cmdLogOut_Click() {
+    if (!state_.gLoggedIn) return;
+    if (!core::ask(platform_.desktop, Text(core::APPLICATION_TITLE) + u" 로그아웃 하시겠습니까?", {},
+                   platform::BoxIcon::question)) {
+        return;
+    }
+    const core::BusyPointer busy(platform_.desktop);
+    state_.gServiceState = core::SERVICE_STATE_NONE;
+    state_.gLoggedIn = false;
+    state_.gLoginResult = false;
+    SET_LOGIN_BUTTONS(false);
+    show_logged_out();
+    STBar1.set_panel_picture(1, PICTURE_LOGGED_OUT);
+}
+
+}  // namespace compose

@@ -1,0 +1,187 @@
+// Start and stop of the main window: placement, first tick, what is kept at the end.
+
+#include "compose/main_form.h"
+#include "core/deployment.h"
+#include "core/files.h"
+#include "core/ini_file.h"
+#include "core/windows.h"
+#include "platform/error.h"
+#include "platform/text/format.h"
+#include "platform/text/number.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace compose {
+
+using platform::Text;
+using platform::WindowState;
+
+namespace {
+
+constexpr int DEFAULT_WIDTH = 12000;
+constexpr int DEFAULT_HEIGHT = 9000;
+constexpr int MINIMUM_WIDTH = 11160;
+constexpr int MINIMUM_HEIGHT = 7395;
+
+/// A setting's number of twips, kept within what a screen can be asked for.
+int twips(const Text& value) {
+    return static_cast<int>(std::clamp(platform::leading_number(value), -1e6, 1e6));
+}
+
+}  // namespace
+
+void frmZent::connect_start() {
+    mmuEnd.Click.connect([this] { unload(); });
+    Command2.Click.connect([this] { unload(); });
+    Timer1.Tick.connect([this] {
+        if (doors_.NEW_SENDMAN_LOAD) doors_.NEW_SENDMAN_LOAD();
+    });
+    Timer2.Tick.connect([this] { Timer2_Timer(); });
+}
+
+void frmZent::Form_Load() {
+    const platform::Screen screen = platform_.desktop.screen();
+    state_.gMinTrackX =
+        static_cast<std::int32_t>(std::lround(double(MINIMUM_WIDTH) / screen.twips_per_pixel_x));
+    state_.gMinTrackY =
+        static_cast<std::int32_t>(std::lround(double(MINIMUM_HEIGHT) / screen.twips_per_pixel_y));
+    set_minimum_size(state_.gMinTrackX, state_.gMinTrackY);
+    set_caption(Text(core::APPLICATION_TITLE));
+    for (platform::PictureBox* box : {&Picture1, &Picture3, &Picture4, &Picture5, &Picture6})
+        box->set_border(false);
+    STBar1.set_panel_text(4, u"버전:" + core::deployment::version());
+    restore_placement();
+    core::MAKE_WORK_DIRS(platform_);
+
+    for (int hour = 0; hour < 24; ++hour) Combo1.add_row(platform::format_number(hour, u"00"));
+    for (int minute = 0; minute < 60; ++minute) Combo2.add_row(platform::format_number(minute, u"00"));
+    show_present_time();
+    for (const auto* row : {u"선택해주세요.", u"{이름}", u"{직위}"}) Combo3.add_row(row);
+    Combo3.set_list_index(0);
+    for (const auto* row : {u"1", u"2", u"3", u"4", u"5"}) Combo4.add_row(row);
+    Combo4.set_list_index(0);
+
+    read_auto_login_mark();
+    RECIPIENT_COUNT_CAPTION();
+}
+
+void frmZent::restore_placement() {
+    const Text ini = core::application_ini(platform_);
+    const auto read = [&](platform::TextView key) {
+        return platform::trim(core::INI_READ(platform_, ini, u"WINDOW SIZE", key));
+    };
+    state_.gWinMax = read(u"M_MAX");
+    state_.gWinLeft = read(u"M_LEFT");
+    state_.gWinTop = read(u"M_TOP");
+    state_.gWinWidth = read(u"M_WIDTH");
+    state_.gWinHeight = read(u"M_HEIGHT");
+
+    const platform::Screen screen = platform_.desktop.screen();
+    const platform::Placement centre = core::centred(screen, DEFAULT_WIDTH, DEFAULT_HEIGHT);
+    const bool never_placed = state_.gWinLeft.empty() && state_.gWinTop.empty() && state_.gWinWidth.empty() &&
+                              state_.gWinHeight.empty();
+    if (state_.gWinMax.empty() || never_placed) {
+        move(centre);
+        return;
+    }
+    if (platform::leading_number(state_.gWinMax) == 2 ||
+        platform::equal_without_case(state_.gWinMax, u"max")) {
+        move(centre);
+        set_window_state(WindowState::maximised);
+        return;
+    }
+    move({.left = std::max(std::min(twips(state_.gWinLeft), screen.width - 1000), 0),
+          .top = std::min(std::max(twips(state_.gWinTop), 0), screen.height - 600),
+          .width = std::min(twips(state_.gWinWidth), screen.width),
+          .height = std::min(twips(state_.gWinHeight), screen.height)});
+    if (placement().width <= 0 || placement().height <= 0) move(centre);
+}
+
+void frmZent::Form_Activate() {
+    if (!tag().empty()) return;
+    set_tag(u"OK");
+    Timer2.set_enabled(true);
+}
+
+void frmZent::Timer2_Timer() {
+    Timer2.set_enabled(false);
+    try {
+        first_tick();
+    } catch (const platform::RuntimeError& error) {
+        core::show_error(platform_.desktop, error, platform::BoxIcon::exclamation);
+    }
+    Timer1.set_enabled(true);
+}
+
+void frmZent::first_tick() {
+    // The menu's tag is never set, so the check at the start never runs, whatever the menu's mark shows.
+    if (platform::leading_number(mnuStartUpdate.tag()) != 0 && doors_.update_check) doors_.update_check();
+    if (doors_.NEW_SENDMAN_LOAD) doors_.NEW_SENDMAN_LOAD();
+    DRAFT_RESET_IF_NO_KIND();
+    if (!Timer2.tag().empty() || state_.gLoggedIn) return;
+
+    const Text login = core::login_ini(platform_);
+    if (core::INI_IS_ON(platform_, core::application_ini(platform_), u"LOGIN", u"AUTOLOGIN") &&
+        !core::INI_READ(platform_, login, u"LOGIN", u"LOGINID").empty() &&
+        !core::INI_READ(platform_, login, u"LOGIN", u"LOGINPW").empty()) {
+        AUTO_LOGIN_START();
+    } else {
+        cmdLogin_Click();
+    }
+}
+
+void frmZent::Form_Unload() {
+    const Text ini = core::application_ini(platform_);
+    save_sender_name();
+    save_callback(u"ZentUserPhoneID");
+    core::INI_WRITE(platform_, ini, u"SET", u"STARTUPDATECHECK", mnuStartUpdate.checked() ? u"1" : u"0");
+    core::INI_WRITE(platform_, ini, u"LOGIN", u"AUTOLOGIN", mnuAutoLogin.checked() ? u"1" : u"0");
+    if (!mnuAutoLogin.checked())
+        core::INI_WRITE(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINPW", u"");
+    save_placement();
+    const Text temp = platform_.files.application_directory() + u"\\temp\\";
+    for (const auto* name : {u"isend.text", u"tmpman.txt"}) {
+        platform::ignore_errors([&] { core::DELETE_FILE(platform_, temp + name); });
+    }
+    TEMP_ALL_DEL();
+}
+
+void frmZent::save_placement() {
+    if (window_state() == WindowState::normal) {
+        state_.gWinMax = u"0";
+        state_.gWinLeft = platform::decimal(placement().left);
+        state_.gWinTop = platform::decimal(placement().top);
+        state_.gWinWidth = platform::decimal(placement().width);
+        state_.gWinHeight = platform::decimal(placement().height);
+    } else {
+        state_.gWinMax = platform::decimal(static_cast<int>(window_state()));
+    }
+    const Text ini = core::application_ini(platform_);
+    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_MAX", state_.gWinMax);
+    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_LEFT", state_.gWinLeft);
+    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_TOP", state_.gWinTop);
+    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_WIDTH", state_.gWinWidth);
+    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_HEIGHT", state_.gWinHeight);
+}
+
+void frmZent::save_sender_name() {
+    const Text name = platform::trim(txtUserName.text());
+    if (name == platform::trim(state_.gSavedSenderName)) return;
+    core::INI_WRITE(platform_, core::application_ini(platform_), u"SET", u"ZentUserNickName", name);
+}
+
+void frmZent::save_callback(platform::TextView key) {
+    const Text callback = platform::trim(txtCallback.text());
+    if (callback == platform::trim(state_.gSavedCallback)) return;
+    core::INI_WRITE(platform_, core::application_ini(platform_), u"SET", key, callback);
+}
+
+void frmZent::TEMP_ALL_DEL() {
+    platform::ignore_errors([&] {
+        const Text folder = platform_.files.application_directory() + u"\\update_temp";
+        if (platform_.files.folder_exists(folder)) platform_.files.remove_folder(folder);
+    });
+}
+
+}  // namespace compose
