@@ -1,0 +1,94 @@
+#include "tests/support/recording_carrier.h"
+
+#include "platform/error.h"
+#include "platform/text/cp949.h"
+
+#include <algorithm>
+
+using platform::decode_cp949;
+
+namespace {
+
+/// As a library in C does it: the text and a NUL, what stands behind stays.
+void fill(std::string& buffer, const std::string& text) {
+    buffer.replace(0, text.size(), text);
+    if (text.size() < buffer.size()) buffer[text.size()] = '\0';
+}
+
+}  // namespace
+
+int RecordingCarrier::count(const std::string& operation) const {
+    return static_cast<int>(std::ranges::count(calls, operation));
+}
+
+std::int32_t RecordingCarrier::result(const std::string& operation) {
+    if (missing.contains(operation)) throw platform::RuntimeError(platform::ErrorNumber::no_such_export);
+    calls.push_back(operation);
+    const auto told = results.find({operation, count(operation)});
+    return told == results.end() ? 1 : told->second;
+}
+
+std::int32_t RecordingCarrier::fn_x_bind(std::int32_t, std::string& user_id, std::string& password,
+                                         std::string&, std::int32_t, platform::CarrierCallback, std::int32_t,
+                                         platform::CarrierCallback) {
+    bound_user = decode_cp949(user_id);
+    bound_password = decode_cp949(password);
+    return result("bind");
+}
+
+std::int32_t RecordingCarrier::fn_x_unbind(std::string&, std::string&) { return result("unbind"); }
+
+std::int32_t RecordingCarrier::fn_x_money_status(std::string&, std::string&, std::string&, std::string&,
+                                                 MoneyStatus& status) {
+    const std::int32_t code = result("money_status");
+    if (code == 1) {
+        status.service_type = service_type;
+        status.service_state = service_state;
+    }
+    return code;
+}
+
+std::int32_t RecordingCarrier::fn_x_user_info(std::string&, std::string&, std::string&, std::string&,
+                                              std::string& service_number, std::string& user_name,
+                                              std::string& sender_name, std::string& callback) {
+    const std::int32_t code = result("user_info");
+    if (code == 1) {
+        fill(service_number, info_service_number);
+        fill(user_name, info_user_name);
+        fill(sender_name, info_sender_name);
+        fill(callback, info_callback);
+    }
+    return code;
+}
+
+std::int32_t RecordingCarrier::fn_x_submit(Submit& submit) {
+    record(submit, false);
+    return result("submit");
+}
+
+std::int32_t RecordingCarrier::fn_x_submit_2(Submit& submit) {
+    record(submit, true);
+    return result("submit_2");
+}
+
+void RecordingCarrier::record(const Submit& submit, bool submit_2) {
+    if (at_submit) at_submit();
+    registrations.push_back({.submit_2 = submit_2,
+                             .s_data_type = submit.s_data_type,
+                             .s_data_sub_type = submit.s_data_sub_type,
+                             .user_id = decode_cp949(submit.user_id),
+                             .service_domain = decode_cp949(submit.service_domain),
+                             .service_number = decode_cp949(submit.service_number),
+                             .client_address = decode_cp949(submit.client_address),
+                             .submit_sequence = submit.submit_sequence,
+                             .s_subject = decode_cp949(submit.s_subject),
+                             .s_schedule_time = decode_cp949(submit.s_schedule_time),
+                             .s_callback = decode_cp949(submit.s_callback),
+                             .s_reply_flag = submit.s_reply_flag,
+                             .s_dest_addr_count = submit.s_dest_addr_count,
+                             .s_dest_addr = decode_cp949(submit.s_dest_addr),
+                             .s_sms_content = decode_cp949(submit.s_sms_content),
+                             .s_tts_content = decode_cp949(submit.s_tts_content),
+                             .s_attach_file_count = submit.s_attach_file_count,
+                             .s_attach_file = decode_cp949(submit.s_attach_file)});
+}

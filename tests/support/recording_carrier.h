@@ -1,0 +1,68 @@
+#pragma once
+
+#include "platform/ports/carrier_library.h"
+#include "platform/text/text.h"
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+/// A carrier that writes down what it is asked and answers as told.
+class RecordingCarrier : public platform::CarrierLibrary {
+  public:
+    /// A submit as it arrived, texts decoded.
+    struct Registration {
+        bool submit_2 = false;
+        int s_data_type = 0;
+        int s_data_sub_type = 0;
+        platform::Text user_id, service_domain, service_number, client_address;
+        int submit_sequence = 0;
+        platform::Text s_subject, s_schedule_time, s_callback;
+        int s_reply_flag = 0;
+        int s_dest_addr_count = 0;
+        platform::Text s_dest_addr, s_sms_content, s_tts_content;
+        int s_attach_file_count = 0;
+        platform::Text s_attach_file;
+    };
+
+    // What the account is.
+    int service_type = 23;
+    int service_state = 0;
+    std::string info_service_number = "030312345678";
+    std::string info_user_name = "Hong";
+    std::string info_sender_name = "Hong Office";
+    std::string info_callback = "0212345678";
+
+    /// The result of an operation's n-th call, counted from 1; everything else succeeds with 1.
+    std::map<std::pair<std::string, int>, std::int32_t> results;
+    /// Operations that the library lacks.
+    std::set<std::string> missing;
+    /// Called at every submit, before it is answered.
+    std::function<void()> at_submit;
+
+    /// The names of the operations in the order of the calls.
+    std::vector<std::string> calls;
+    std::vector<Registration> registrations;
+    platform::Text bound_user, bound_password;
+
+    int count(const std::string& operation) const;
+
+    std::int32_t fn_x_bind(std::int32_t, std::string& user_id, std::string& password, std::string&,
+                           std::int32_t, platform::CarrierCallback, std::int32_t,
+                           platform::CarrierCallback) override;
+    std::int32_t fn_x_unbind(std::string&, std::string&) override;
+    std::int32_t fn_x_money_status(std::string&, std::string&, std::string&, std::string&,
+                                   MoneyStatus& status) override;
+    std::int32_t fn_x_user_info(std::string&, std::string&, std::string&, std::string&,
+                                std::string& service_number, std::string& user_name, std::string& sender_name,
+                                std::string& callback) override;
+    std::int32_t fn_x_submit(Submit& submit) override;
+    std::int32_t fn_x_submit_2(Submit& submit) override;
+
+  private:
+    std::int32_t result(const std::string& operation);
+    void record(const Submit& submit, bool submit_2);
+};

@@ -1,0 +1,66 @@
+#include "tests/support/scripted_desktop.h"
+
+#include <gtest/gtest.h>
+
+using platform::BoxAnswer;
+using platform::Text;
+
+ScriptedDesktop::~ScriptedDesktop() {
+    for (const Expected& box : expected_boxes_) {
+        ADD_FAILURE() << "a box never came: " << platform::to_utf8(box.part);
+    }
+    for (const auto& [name, acts] : acts_) {
+        if (!acts.empty()) ADD_FAILURE() << "a form never opened: " << platform::to_utf8(name);
+    }
+}
+
+void ScriptedDesktop::expect_box(Text part, BoxAnswer answer) {
+    expected_boxes_.push_back({std::move(part), answer});
+}
+
+void ScriptedDesktop::in_form(Text name, std::function<void(platform::Form&)> act) {
+    acts_[std::move(name)].push_back(std::move(act));
+}
+
+void ScriptedDesktop::prepare(platform::Form& form) { form.move({.width = 6000, .height = 4500}); }
+
+void ScriptedDesktop::show(platform::Form& form) {
+    forms.push_back(form.name());
+    form.window_activated();
+}
+
+void ScriptedDesktop::show_modal(platform::Form& form) {
+    show(form);
+    auto& acts = acts_[form.name()];
+    if (!acts.empty() && form.loaded()) {
+        const auto act = std::move(acts.front());
+        acts.pop_front();
+        act(form);
+    }
+    if (clock_.run_until([&] { return !form.loaded(); })) return;
+    ADD_FAILURE() << "nobody closes " << platform::to_utf8(form.name());
+    form.unload();
+}
+
+void ScriptedDesktop::popup_menu(platform::Form&, platform::Menu& menu) { popups.push_back(&menu); }
+
+BoxAnswer ScriptedDesktop::message_box(const platform::MessageBox& box) {
+    boxes.push_back(box);
+    const bool expected =
+        !expected_boxes_.empty() && platform::contains(box.text, expected_boxes_.front().part);
+    if (!expected) {
+        ADD_FAILURE() << "unexpected box: " << platform::to_utf8(box.text)
+                      << (expected_boxes_.empty()
+                              ? std::string()
+                              : "\nexpected: " + platform::to_utf8(expected_boxes_.front().part));
+        return box.buttons == platform::BoxButtons::ok ? BoxAnswer::ok : BoxAnswer::no;
+    }
+    const BoxAnswer answer = expected_boxes_.front().answer;
+    expected_boxes_.pop_front();
+    return answer;
+}
+
+void ScriptedDesktop::yield() {
+    ++yields;
+    if (during_yield) during_yield();
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/ports/desktop.h"
+#include "tests/support/virtual_clock.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+/// A user who follows a script: what he answers to each box and does in each modal form, in order. A box that
+/// the script does not expect fails the test, and so does a form that stays open with nothing left to happen.
+class ScriptedDesktop : public platform::Desktop {
+  public:
+    explicit ScriptedDesktop(VirtualClock& clock) : clock_(clock) {}
+    ~ScriptedDesktop() override;
+
+    /// The next box must contain the text; the user gives this answer.
+    void expect_box(platform::Text part, platform::BoxAnswer answer = platform::BoxAnswer::ok);
+    /// What the user does the next time that a form of this name opens.
+    void in_form(platform::Text name, std::function<void(platform::Form&)> act);
+
+    template <class FormType>
+    void in_form(platform::Text name, std::function<void(FormType&)> act) {
+        in_form(std::move(name), [act](platform::Form& form) { act(dynamic_cast<FormType&>(form)); });
+    }
+
+    // What was asked of the desktop.
+    std::vector<platform::MessageBox> boxes;
+    std::vector<platform::Text> forms;
+    platform::Text clipboard;
+    platform::Text title;
+    platform::Pointer pointer = platform::Pointer::normal;
+    std::vector<const platform::Menu*> popups;
+    int yields = 0;
+    /// Happens at every yield, as a click of the user does.
+    std::function<void()> during_yield;
+
+    void prepare(platform::Form& form) override;
+    void show(platform::Form& form) override;
+    void show_modal(platform::Form& form) override;
+    void close(platform::Form&) override {}
+    void popup_menu(platform::Form& form, platform::Menu& menu) override;
+    platform::BoxAnswer message_box(const platform::MessageBox& box) override;
+    void set_pointer(platform::Pointer shape) override { pointer = shape; }
+    void set_clipboard(const platform::Text& text) override { clipboard = text; }
+    platform::Screen screen() const override { return screen_size; }
+    void set_application_title(const platform::Text& text) override { title = text; }
+    void yield() override;
+
+    platform::Screen screen_size{
+        .width = 28800, .height = 16200, .twips_per_pixel_x = 15, .twips_per_pixel_y = 15};
+
+  private:
+    struct Expected {
+        platform::Text part;
+        platform::BoxAnswer answer;
+    };
+
+    VirtualClock& clock_;
+    std::deque<Expected> expected_boxes_;
+    std::map<platform::Text, std::deque<std::function<void(platform::Form&)>>> acts_;
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/app_state.h"
+#include "platform/ini/ini_settings.h"
+#include "platform/ports/platform.h"
+#include "tests/support/memory_files.h"
+#include "tests/support/recording_carrier.h"
+#include "tests/support/scripted_desktop.h"
+#include "tests/support/virtual_clock.h"
+
+class RecordingShell : public platform::Shell {
+  public:
+    void open(const platform::Text& path) override { opened.push_back(path); }
+    bool another_instance_runs() override { return another_instance; }
+
+    std::vector<platform::Text> opened;
+    bool another_instance = false;
+};
+
+/// The machine as the tests of the logic see it, and the shared variables of one run.
+struct TestPlatform {
+    VirtualClock clock;
+    ScriptedDesktop desktop{clock};
+    MemoryFiles files;
+    platform::IniSettings settings{files};
+    RecordingShell shell;
+    RecordingCarrier carrier;
+    platform::Platform platform{.desktop = desktop,
+                                .clock = clock,
+                                .files = files,
+                                .settings = settings,
+                                .shell = shell,
+                                .carrier = carrier};
+    core::AppState state;
+
+    platform::Text app_ini = u"z:\\app\\zent.ini";
+    platform::Text login_ini = u"z:\\windows\\zent.ini";
+};
