@@ -1,6 +1,7 @@
 #include "platform/posix/posix_carrier_library.h"
 
 #include "platform/error.h"
+#include "platform/posix/shared_object.h"
 
 #include <algorithm>
 #include <array>
@@ -57,7 +58,8 @@ using SubmitAny = Integer(Integer, Integer, Integer, char*, char*, char*, char*,
 void PosixCarrierLibrary::Unload::operator()(void* library) const { ::dlclose(library); }
 
 void* PosixCarrierLibrary::address_of(const char* name) {
-    if (!library_) library_.reset(::dlopen(LIBRARY, RTLD_NOW | RTLD_LOCAL));
+    if (!library_ && is_whole_shared_object(LIBRARY))
+        library_.reset(::dlopen(LIBRARY, RTLD_NOW | RTLD_LOCAL));
     if (!library_) {
         throw RuntimeError(ErrorNumber::library_not_loaded,
                            u"DLL을 로드하는 중 오류가 발생했습니다: x_msggate_d.so");

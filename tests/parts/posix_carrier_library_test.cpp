@@ -154,6 +154,13 @@ TEST_F(PosixCarrierLibraryTest, WhatIsNoLibraryIsTheSameErrorAtEveryCall) {
     std::ofstream(LIBRARY) << "no library\n";
     EXPECT_EQ(numbers_of(errors_of_all()), std::vector<int>(6, 48)) << "a text file";
     EXPECT_NE(errors_of_all().at(0).description().find(u"x_msggate_d.so"), Text::npos);
+    for (const std::uintmax_t size : {0, 20, 100, 5000, 30000}) {
+        fs::remove(LIBRARY);
+        fs::copy_file(CARRIER_LIBRARY, LIBRARY);
+        ASSERT_GT(fs::file_size(LIBRARY), size);
+        fs::resize_file(LIBRARY, size);
+        EXPECT_EQ(numbers_of(errors_of_all()), std::vector<int>(6, 48)) << "a copy broken off at " << size;
+    }
 
     fs::remove(LIBRARY);
     fs::copy_file(CARRIER_LIBRARY, LIBRARY);
