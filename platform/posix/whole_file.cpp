@@ -72,10 +72,6 @@ std::string read_whole_file(const std::string& path) {
 }
 
 void replace_file(const std::string& path, const std::string& bytes) {
-    // Renaming takes any file away, but no folder: told here, before something is written.
-    std::error_code ignored;
-    if (fs::is_directory(path, ignored)) throw RuntimeError(ErrorNumber::path_access);
-
     const std::string folder = fs::path(path).parent_path();
     std::string new_file = folder + "/" + std::string(NEW_FILE) + "XXXXXX";
     const FileDescriptor file(::mkostemp(new_file.data(), O_CLOEXEC));

@@ -78,7 +78,8 @@ TEST_F(PosixFilesTest, OnlyNormalFilesExist) {
     put(application / "box/.hidden.txt", "");
     put(application / "box/Letter1.txt", "");
     put(application / "box/가나.dat", "");
-    put(application / "box/bare", "");
+    fs::create_directory(application / "bare");
+    put(application / "bare/bare", "");
     ::mkfifo((application / "box/pipe.snd").c_str(), 0600);
     const std::vector<std::pair<Text, bool>> cases = {
         {u"", false},
@@ -97,8 +98,8 @@ TEST_F(PosixFilesTest, OnlyNormalFilesExist) {
         {u"box\\l*t*1*", true},
         {u"box\\letter1.txt*", true},
         {u"box\\letter1.txt?", false},
-        {u"box\\b*.*", false},
-        {u"box\\*.*", true},
+        {u"bare\\b*.*", false},
+        {u"bare\\*.*", true},
         {u"no\\*.*", false},
         {u"d:\\a.txt", false},
         {u"a/b", false},
@@ -223,6 +224,28 @@ TEST_F(PosixFilesTest, AKilledWriteLeavesTheOldFileAndTheNextOneSweepsUp) {
     }
     files.write(u"zent.ini", "new");
     EXPECT_EQ(names_in(application), std::set<std::string>{"zent.ini"}) << "a password may be in the remains";
+}
+
+TEST_F(PosixFilesTest, AKillAtAnyMomentLeavesTheOldFileOrTheNewOne) {
+    const std::string old_file(4'000'000, 'o');
+    const std::string new_file(4'000'000, 'n');
+    files.write(u"zent.ini", old_file);
+    for (int kills = 0; kills < 12; ++kills) {
+        tests::Pipe begun;
+        tests::ChildProcess writer([&] {
+            for (;;) {
+                begun.tell();
+                files.write(u"zent.ini", new_file);
+                begun.tell();
+                files.write(u"zent.ini", old_file);
+            }
+            return 0;
+        });
+        for (int writes = 0; writes <= kills % 4; ++writes) ASSERT_TRUE(begun.wait());
+        writer.kill();
+        const std::string found = bytes_of(application / "zent.ini");
+        ASSERT_TRUE(found == old_file || found == new_file) << found.size() << " bytes after kill " << kills;
+    }
 }
 
 }  // namespace

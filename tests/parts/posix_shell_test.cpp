@@ -17,14 +17,14 @@ TEST(PosixShell, ASecondInstanceSeesTheFirstUntilItIsKilled) {
     const tests::TemporaryFolder folder;
     fs::create_directory(folder.path() / "other");
     fs::create_directory_symlink(folder.path(), folder.path() / "link");
-    const tests::Pipe started;
+    tests::Pipe started;
     tests::ChildProcess first([&] {
         PosixShell shell{Paths(folder.path())};
         if (shell.another_instance_runs() || shell.another_instance_runs()) return 1;
         started.tell();
         for (;;) ::pause();
     });
-    started.wait();
+    ASSERT_TRUE(started.wait());
 
     PosixShell second{Paths(folder.path())};
     EXPECT_TRUE(second.another_instance_runs());

@@ -65,7 +65,7 @@ class Pipe {
     Pipe& operator=(const Pipe&) = delete;
     ~Pipe() {
         ::close(ends_[0]);
-        ::close(ends_[1]);
+        if (ends_[1] >= 0) ::close(ends_[1]);
     }
 
     void tell() const {
@@ -75,7 +75,7 @@ class Pipe {
     /// Whether the child has told something; false when it has died without. The child is there before the
     /// first call.
     bool wait() {
-        ::close(std::exchange(ends_[1], -1));
+        if (ends_[1] >= 0) ::close(std::exchange(ends_[1], -1));
         char byte = 0;
         return ::read(ends_[0], &byte, 1) == 1;
     }
