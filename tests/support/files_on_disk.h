@@ -13,10 +13,11 @@ namespace tests {
 
 /// The real files, with the application and the Windows directory in a temporary folder.
 struct FilesOnDisk {
+    FilesOnDisk() { std::filesystem::create_directory(application); }
+
     TemporaryFolder folder;
     std::filesystem::path application = folder.path() / "앱";
     std::filesystem::path windows = folder.path() / "home/.config/cardvale";
-    bool application_made = std::filesystem::create_directory(application);
     platform::posix::PosixFiles files{platform::posix::Paths(application), windows};
 };
 
