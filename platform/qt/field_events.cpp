@@ -1,0 +1,51 @@
+#include "platform/qt/field_events.h"
+
+#include "platform/qt/composition.h"
+#include "platform/qt/key_code.h"
+
+#include <QFocusEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QWidget>
+
+namespace platform::qt {
+
+namespace {
+
+/// Whether the event goes on to the field.
+bool admit(QWidget& field, QEvent& event, const std::function<void(KeyPressed&)>& press_key) {
+    if (event.type() == QEvent::InputMethod) {
+        return note_composition(field, static_cast<const QInputMethodEvent&>(event));
+    }
+    note_key(field);
+    KeyPressed key{key_code(static_cast<const QKeyEvent&>(event))};
+    if (key.swallowed()) return true;
+    press_key(key);
+    return !key.swallowed();
+}
+
+}  // namespace
+
+bool filter_field_event(QWidget& field, QEvent& event, const std::function<void(KeyPressed&)>& press_key,
+                        const std::function<void(bool begins)>& working) {
+    switch (event.type()) {
+        case QEvent::FocusOut:
+            if (static_cast<QFocusEvent&>(event).reason() != Qt::PopupFocusReason) commit_composition(field);
+            return false;
+        case QEvent::KeyPress:
+        case QEvent::InputMethod:
+            break;
+        default:
+            return false;
+    }
+    if (!admit(field, event, press_key)) {
+        event.accept();
+        return true;
+    }
+    working(true);
+    static_cast<QObject&>(field).event(&event);
+    working(false);
+    return true;
+}
+
+}  // namespace platform::qt

@@ -1,0 +1,31 @@
+#include "platform/qt/key_code.h"
+
+#include "platform/controls/text_box.h"
+
+#include <QKeyEvent>
+
+namespace platform::qt {
+
+int key_code(const QKeyEvent& event) {
+    if ((event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0) return 0;
+    switch (event.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return KEY_ENTER;
+        case Qt::Key_Backspace:
+            return KEY_BACKSPACE;
+        case Qt::Key_Delete:
+        case Qt::Key_Escape:
+            return 0;
+        default:
+            break;
+    }
+    // Platforms differ in the text that they give a letter with Ctrl.
+    if ((event.modifiers() & Qt::ControlModifier) != 0 && event.key() >= Qt::Key_A &&
+        event.key() <= Qt::Key_Z) {
+        return event.key() - Qt::Key_A + KEY_CTRL_A;
+    }
+    return event.text().isEmpty() ? 0 : event.text().front().unicode();
+}
+
+}  // namespace platform::qt

@@ -1,0 +1,11 @@
+#pragma once
+
+class QKeyEvent;
+
+namespace platform::qt {
+
+/// The character code of a key as handlers of KeyPress count it: Enter 13, Backspace 8, Ctrl+A 1. 0 for a key
+/// that makes no character and for Escape, which is the form's.
+int key_code(const QKeyEvent& event);
+
+}  // namespace platform::qt
