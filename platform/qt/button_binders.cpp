@@ -1,0 +1,83 @@
+#include "platform/qt/button_binders.h"
+
+#include "platform/qt/text_conversion.h"
+
+#include <QCheckBox>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QKeySequence>
+#include <QRadioButton>
+
+namespace platform::qt {
+
+ButtonBinder::ButtonBinder(BoundForm& bound, Control& control, QAbstractButton& button, const Text& caption)
+    : WidgetBinder(bound, control, button), button_(button) {
+    set_caption(caption);
+}
+
+bool ButtonBinder::filter(QObject&, QEvent& event) {
+    switch (event.type()) {
+        case QEvent::Shortcut:
+            // Its key brings the focus with it, as a click of the mouse does; the field that had it sees its
+            // loss first.
+            button_.setFocus(Qt::ShortcutFocusReason);
+            return !is_bound_live();
+        case QEvent::MouseButtonPress:
+            QMetaObject::invokeMethod(this, &ButtonBinder::let_out_if_released, Qt::QueuedConnection);
+            return false;
+        default:
+            return false;
+    }
+}
+
+/// Setting the text of a button drops the shortcut that the screen gives it.
+void ButtonBinder::set_caption(const Text& caption) {
+    const QKeySequence shortcut = button_.shortcut();
+    button_.setText(to_qstring(caption));
+    if (button_.shortcut().isEmpty()) button_.setShortcut(shortcut);
+}
+
+/// A box that opened when the press took the focus from a field has had the release.
+void ButtonBinder::let_out_if_released() {
+    if (button_.isDown() && !(QGuiApplication::mouseButtons() & Qt::LeftButton)) button_.setDown(false);
+}
+
+CommandButtonBinder::CommandButtonBinder(BoundForm& bound, CommandButton& control, QAbstractButton& button)
+    : ButtonBinder(bound, control, button, control.caption()), control_(control) {
+    connect(&button, &QAbstractButton::clicked, this, [this] { act([this] { control_.Click.raise(); }); });
+}
+
+void CommandButtonBinder::refresh(Aspect aspect) {
+    if (aspect == Aspect::caption) return set_caption(control_.caption());
+    WidgetBinder::refresh(aspect);
+}
+
+CheckBoxBinder::CheckBoxBinder(BoundForm& bound, CheckBox& control, QCheckBox& box)
+    : ButtonBinder(bound, control, box, control.caption()), control_(control), box_(box) {
+    box.setChecked(control.checked());
+    connect(&box, &QCheckBox::clicked, this,
+            [this](bool checked) { act([&] { control_.set_checked(checked); }); });
+}
+
+void CheckBoxBinder::refresh(Aspect aspect) {
+    if (aspect == Aspect::value) return box_.setChecked(control_.checked());
+    WidgetBinder::refresh(aspect);
+}
+
+OptionButtonBinder::OptionButtonBinder(BoundForm& bound, OptionButton& control, QRadioButton& button)
+    : ButtonBinder(bound, control, button, control.caption()), control_(control), button_(button) {
+    // The handlers keep the others off.
+    button.setAutoExclusive(false);
+    button.setChecked(control.chosen());
+    connect(&button, &QRadioButton::clicked, this, [this] {
+        act([this] { control_.set_chosen(true); });
+        button_.setChecked(!is_bound_live() || control_.chosen());
+    });
+}
+
+void OptionButtonBinder::refresh(Aspect aspect) {
+    if (aspect == Aspect::value) return button_.setChecked(control_.chosen());
+    WidgetBinder::refresh(aspect);
+}
+
+}  // namespace platform::qt

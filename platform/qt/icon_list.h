@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QIcon>
+#include <QObject>
+#include <QVariant>
+
+namespace platform::qt {
+
+/// The picture of a number, counted from 1, in a list of picture names that the screen gives a bar as a
+/// property. No picture for 0, for an empty name and behind the end.
+inline QIcon icon_of_list(const QObject& bar, const char* property, int number) {
+    const QString name = bar.property(property).toStringList().value(number - 1);
+    return name.isEmpty() ? QIcon() : QIcon(QStringLiteral(":/icons/%1.svg").arg(name));
+}
+
+}  // namespace platform::qt
