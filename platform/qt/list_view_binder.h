@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/controls/list_view.h"
+#include "platform/qt/binder.h"
+#include "platform/qt/list_rows.h"
+
+class QContextMenuEvent;
+class QKeyEvent;
+class QTreeView;
+
+namespace platform::qt {
+
+/// Joins a list with its view; the screen's list `columnWidths` has the widths of the columns in pixels.
+class ListViewBinder : public WidgetBinder {
+  public:
+    ListViewBinder(BoundForm& bound, ListView& control, QTreeView& view);
+
+    void release() override;
+
+  private:
+    bool filter(QObject& object, QEvent& event) override;
+    bool press_key(QKeyEvent& event);
+    void open_menu(const QContextMenuEvent& event);
+    void toggle_check();
+
+    ListView& control_;
+    QTreeView& view_;
+    ListRows rows_;
+};
+
+}  // namespace platform::qt

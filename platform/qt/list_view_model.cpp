@@ -1,0 +1,64 @@
+#include "platform/qt/list_view_model.h"
+
+#include "platform/qt/text_conversion.h"
+
+#include <QIcon>
+
+namespace platform::qt {
+
+int ListViewModel::rowCount(const QModelIndex& parent) const {
+    return list_ == nullptr || parent.isValid() ? 0 : static_cast<int>(list_->row_count());
+}
+
+int ListViewModel::columnCount(const QModelIndex& parent) const {
+    return list_ == nullptr || parent.isValid() ? 0 : list_->column_count();
+}
+
+QVariant ListViewModel::data(const QModelIndex& index, int role) const {
+    if (list_ == nullptr || !index.isValid()) return QVariant();
+    const ListItem& row = list_->row(static_cast<std::size_t>(index.row()));
+    if (role == Qt::DisplayRole) return to_qstring(row.sub_item(index.column()));
+    if (role == Qt::CheckStateRole && index.column() == 0 && list_->check_boxes()) {
+        return row.checked() ? Qt::Checked : Qt::Unchecked;
+    }
+    return QVariant();
+}
+
+bool ListViewModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (list_ == nullptr || !index.isValid() || role != Qt::CheckStateRole || index.column() != 0)
+        return false;
+    emit checked_by_user(static_cast<std::size_t>(index.row()), value.toInt() == Qt::Checked);
+    return true;
+}
+
+QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (list_ == nullptr || orientation != Qt::Horizontal || section < 0 ||
+        section >= list_->column_count()) {
+        return QVariant();
+    }
+    const ListView::Column& column = list_->column(section + 1);
+    if (role == Qt::DisplayRole) return to_qstring(column.caption);
+    if (role == Qt::DecorationRole && column.picture) {
+        return QIcon(*column.picture == 0 ? QStringLiteral(":/icons/sort_up.svg")
+                                          : QStringLiteral(":/icons/sort_down.svg"));
+    }
+    return QVariant();
+}
+
+Qt::ItemFlags ListViewModel::flags(const QModelIndex& index) const {
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    if (list_ != nullptr && list_->check_boxes() && index.column() == 0) flags |= Qt::ItemIsUserCheckable;
+    return flags;
+}
+
+void ListViewModel::begin_adding(std::size_t first, std::size_t count) {
+    beginInsertRows(QModelIndex(), static_cast<int>(first), static_cast<int>(first + count) - 1);
+}
+
+void ListViewModel::rows_changed(int first, int last) {
+    emit dataChanged(index(first, 0), index(last, columnCount() - 1));
+}
+
+void ListViewModel::columns_changed() { emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1); }
+
+}  // namespace platform::qt

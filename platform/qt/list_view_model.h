@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/controls/list_view.h"
+
+#include <QAbstractTableModel>
+
+namespace platform::qt {
+
+/// The rows of a list as the toolkit's views read them: in place, nothing is copied.
+class ListViewModel : public QAbstractTableModel {
+    Q_OBJECT
+
+  public:
+    explicit ListViewModel(ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(&list) {}
+
+    /// The list goes. Nobody is told, since it may go in the midst of the view's own work; the view is closed
+    /// anyway.
+    void let_go() { list_ = nullptr; }
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+    void begin_adding(std::size_t first, std::size_t count);
+    void end_adding() { endInsertRows(); }
+    void begin_rearranging() { beginResetModel(); }
+    void end_rearranging() { endResetModel(); }
+    void rows_changed(int first, int last);
+    void columns_changed();
+
+  signals:
+    /// The user ticked the row's box or took the tick away.
+    void checked_by_user(std::size_t row, bool checked);
+
+  private:
+    ListView* list_;
+};
+
+}  // namespace platform::qt
