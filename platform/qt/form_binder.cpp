@@ -1,0 +1,94 @@
+#include "platform/qt/form_binder.h"
+
+#include "platform/qt/animation_player.h"
+#include "platform/qt/button_binders.h"
+#include "platform/qt/combo_box_binder.h"
+#include "platform/qt/list_view_binder.h"
+#include "platform/qt/menu_binder.h"
+#include "platform/qt/message_edit.h"
+#include "platform/qt/plain_binders.h"
+#include "platform/qt/status_bar_binder.h"
+#include "platform/qt/tab_strip_binder.h"
+#include "platform/qt/text_box_binder.h"
+#include "platform/qt/text_conversion.h"
+#include "platform/qt/tool_bar_binder.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QToolBar>
+#include <QTreeView>
+
+namespace platform::qt {
+
+FormBinder::FormBinder(BoundForm& bound, QObject& owner) : bound_(bound), owner_(owner) {
+    for (Control* control : bound.form.controls()) control->accept(*this);
+}
+
+void FormBinder::release() {
+    bound_.live = false;
+    for (Binder* binder : binders_) binder->release();
+}
+
+void FormBinder::visit(Animation& control) { bind<AnimationBinder, AnimationPlayer>(control); }
+void FormBinder::visit(CheckBox& control) { bind<CheckBoxBinder, QCheckBox>(control); }
+void FormBinder::visit(ComboBox& control) { bind<ComboBoxBinder, QComboBox>(control); }
+void FormBinder::visit(CommandButton& control) { bind<CommandButtonBinder, QAbstractButton>(control); }
+void FormBinder::visit(DatePicker& control) { bind<DatePickerBinder, QDateEdit>(control); }
+void FormBinder::visit(Frame& control) { bind<FrameBinder, QWidget>(control); }
+void FormBinder::visit(Image& control) { bind<ImageBinder, QLabel>(control); }
+void FormBinder::visit(Label& control) { bind<LabelBinder, QLabel>(control); }
+void FormBinder::visit(ListView& control) { bind<ListViewBinder, QTreeView>(control); }
+void FormBinder::visit(OptionButton& control) { bind<OptionButtonBinder, QRadioButton>(control); }
+void FormBinder::visit(PictureBox& control) { bind<PictureBoxBinder, QFrame>(control); }
+void FormBinder::visit(ProgressBar& control) { bind<ProgressBarBinder, QProgressBar>(control); }
+void FormBinder::visit(StatusBar& control) { bind<StatusBarBinder, QStatusBar>(control); }
+void FormBinder::visit(TabStrip& control) { bind<TabStripBinder, QTabBar>(control); }
+void FormBinder::visit(ToolBar& control) { bind<ToolBarBinder, QToolBar>(control); }
+
+void FormBinder::visit(TextBox& control) {
+    if (!try_bind<MessageBinder, MessageEdit>(control)) bind<LineBinder, QLineEdit>(control);
+}
+
+void FormBinder::visit(Menu& control) {
+    const QString name = to_qstring(control.name());
+    auto* action = bound_.window.findChild<QAction*>(name);
+    if (const auto* menu = bound_.window.findChild<QMenu*>(name)) action = menu->menuAction();
+    if (action == nullptr) return add_fault(control);
+    binders_.push_back(new MenuBinder(bound_, control, *action));
+    binders_.back()->setParent(&owner_);
+}
+
+template <class BinderType, class Widget, class ControlType>
+bool FormBinder::try_bind(ControlType& control) {
+    auto* widget = bound_.window.findChild<Widget*>(to_qstring(control.name()));
+    if (widget == nullptr) return false;
+    binders_.push_back(new BinderType(bound_, control, *widget));
+    binders_.back()->setParent(&owner_);
+    return true;
+}
+
+template <class BinderType, class Widget, class ControlType>
+void FormBinder::bind(ControlType& control) {
+    if (!try_bind<BinderType, Widget>(control)) add_fault(control);
+}
+
+void FormBinder::add_fault(const Control& control) {
+    const QString name = to_qstring(control.name());
+    const QObject* other = bound_.window.findChild<QObject*>(name);
+    faults_.push_back(other == nullptr
+                          ? QStringLiteral("%1: no widget for it").arg(name)
+                          : QStringLiteral("%1: a %2 cannot show it")
+                                .arg(name, QString::fromLatin1(other->metaObject()->className())));
+}
+
+}  // namespace platform::qt

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/qt/form_binder.h"
+
+#include <QObject>
+
+class QKeyEvent;
+
+namespace platform::qt {
+
+/// The window of a form, whatever its kind: it shows the form's caption and place and tells the form what
+/// becomes of them. It belongs to its window and goes with it.
+class FormWindow : public QObject, public FormView {
+    Q_OBJECT
+
+  public:
+    FormWindow(Form& form, QWidget& window, Files& files);
+    ~FormWindow() override;
+
+    QWidget& window() { return window_; }
+    const std::optional<QPoint>& popup_point() const { return bound_.popup_point; }
+
+    /// Shows the window, or brings it before the others when it is shown already, and activates the form,
+    /// whether or not the desktop gives the window the focus yet.
+    void show();
+    /// Shows it as a modal one that stays in front of another.
+    void show_in_front_of(QWidget* parent);
+
+    /// Parts with the form, which may be destroyed afterwards, and takes the window away as soon as nothing
+    /// of it is running any more.
+    void close();
+
+    void caption_changed() override;
+    void placement_changed() override;
+    void minimum_size_changed() override;
+
+  signals:
+    void closed();
+
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    bool press_key(const QKeyEvent& event);
+    void activate();
+    void activate_if_late();
+    Placement place() const;
+    void report_place();
+
+    Form& form_;
+    QWidget& window_;
+    BoundForm bound_;
+    FormBinder binder_;
+    Placement placed_;
+    bool placing_ = false;
+    bool activated_ = false;
+    bool activated_early_ = false;
+};
+
+}  // namespace platform::qt

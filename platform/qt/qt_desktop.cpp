@@ -1,0 +1,117 @@
+#include "platform/qt/qt_desktop.h"
+
+#include "platform/controls/menu.h"
+#include "platform/qt/composition.h"
+#include "platform/qt/form_window.h"
+#include "platform/qt/message_box.h"
+#include "platform/qt/text_conversion.h"
+#include "platform/qt/twips.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QEventLoop>
+#include <QMenu>
+#include <QScreen>
+
+namespace platform::qt {
+
+QtDesktop::~QtDesktop() {
+    for (const auto& [form, window] : windows_) {
+        if (window != nullptr) delete &window->window();
+    }
+}
+
+void QtDesktop::run_until_closed(const Form& form) {
+    wait_for_close(form);
+    // Nothing that is closed is running any more.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void QtDesktop::prepare(Form& form) {
+    QWidget* window = screens_.build(form.name()).release();
+    windows_[&form] = new FormWindow(form, *window, files_);
+}
+
+void QtDesktop::show(Form& form) {
+    if (FormWindow* window = window_of(form)) window->show();
+}
+
+void QtDesktop::show_modal(Form& form) {
+    commit_composition();
+    FormWindow* window = window_of(form);
+    if (window == nullptr) return;
+    const QPointer<QWidget> front = front_window();
+    window->show_in_front_of(front);
+    wait_for_close(form);
+    if (front != nullptr) front->activateWindow();
+}
+
+void QtDesktop::close(Form& form) {
+    const auto found = windows_.find(&form);
+    if (found == windows_.end()) return;
+    const QPointer<FormWindow> window = found->second;
+    windows_.erase(found);
+    if (window != nullptr) window->close();
+}
+
+void QtDesktop::popup_menu(Form& form, Menu& menu) {
+    FormWindow* window = window_of(form);
+    if (window == nullptr) return;
+    auto* popup = window->window().findChild<QMenu*>(to_qstring(menu.name()));
+    if (popup != nullptr) popup->exec(window->popup_point().value_or(QCursor::pos()));
+}
+
+BoxAnswer QtDesktop::message_box(const MessageBox& box) {
+    commit_composition();
+    return ask(box, title_, front_window());
+}
+
+/// The hourglass is a state, not a count: nobody has to give back each one that was set.
+void QtDesktop::set_pointer(Pointer pointer) {
+    const bool hourglass = pointer == Pointer::hourglass;
+    if (hourglass == hourglass_) return;
+    hourglass_ = hourglass;
+    if (hourglass) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
+void QtDesktop::set_clipboard(const Text& text) { QGuiApplication::clipboard()->setText(to_qstring(text)); }
+
+Screen QtDesktop::screen() const {
+    const QSize size = QGuiApplication::primaryScreen()->availableSize();
+    return {to_twips(size.width()), to_twips(size.height()), TWIPS_PER_PIXEL, TWIPS_PER_PIXEL};
+}
+
+void QtDesktop::set_application_title(const Text& title) { title_ = to_qstring(title); }
+
+void QtDesktop::yield() { QCoreApplication::processEvents(); }
+
+FormWindow* QtDesktop::window_of(const Form& form) const {
+    const auto found = windows_.find(&form);
+    return found == windows_.end() ? nullptr : found->second.data();
+}
+
+/// The window that boxes and modal forms stay in front of.
+QWidget* QtDesktop::front_window() const {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    for (const auto& [form, window] : windows_) {
+        if (window != nullptr && window->window().isVisible()) return &window->window();
+    }
+    return nullptr;
+}
+
+void QtDesktop::wait_for_close(const Form& form) const {
+    const FormWindow* window = window_of(form);
+    // Its own activation may have closed it.
+    if (window == nullptr) return;
+    QEventLoop loop;
+    QObject::connect(window, &FormWindow::closed, &loop, &QEventLoop::quit);
+    QObject::connect(window, &QObject::destroyed, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+}  // namespace platform::qt
