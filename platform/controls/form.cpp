@@ -59,11 +59,14 @@ void Form::window_placed(const Placement& placement, WindowState state) {
 
 void Form::move_focus(Control* control) {
     if (control == focused_) return;
-    Control* left = focused_;
+    Control* left = std::exchange(entered_, nullptr);
     focused_ = control;
     if (left != nullptr) left->LostFocus.raise();
-    // A handler of the loss may have sent the focus elsewhere, and that place has had its event already.
-    if (control != nullptr && focused_ == control) control->GotFocus.raise();
+    // A handler of the loss may have sent the focus elsewhere: that place has had its event already, and this
+    // one has neither.
+    if (control == nullptr || focused_ != control) return;
+    entered_ = control;
+    control->GotFocus.raise();
 }
 
 }  // namespace platform

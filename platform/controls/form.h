@@ -103,6 +103,8 @@ class Form {
     std::vector<Control*> controls_;
     FormView* view_ = nullptr;
     Control* focused_ = nullptr;
+    /// The control that has been told of the focus; only that one is told of its loss.
+    Control* entered_ = nullptr;
     Placement placement_;
     WindowState window_state_ = WindowState::normal;
     int minimum_width_ = 0;
