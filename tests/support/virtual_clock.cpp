@@ -36,7 +36,11 @@ std::unique_ptr<platform::Ticker> VirtualClock::every(int milliseconds, std::fun
 
 void VirtualClock::run_for(int milliseconds) {
     const long long end = elapsed_ + milliseconds;
-    for (auto entry = next_due(); entry && entry->due <= end; entry = next_due()) fire(*entry);
+    while (true) {
+        const auto entry = next_due();
+        if (!entry || entry->due > end) break;
+        fire(*entry);
+    }
     advance_to(end);
 }
 
