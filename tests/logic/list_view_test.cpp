@@ -1,0 +1,172 @@
+#include "platform/controls/list_view.h"
+
+#include "tests/support/scripted_desktop.h"
+#include "tests/support/utf8.h"
+
+#include <gtest/gtest.h>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace platform;
+using tests::utf8;
+using Names = std::vector<std::string>;
+using Order = ListView::SortOrder;
+
+struct Lists : testing::Test {
+    VirtualClock clock;
+    ScriptedDesktop desktop{clock};
+    struct Window : Form {
+        using Form::Form;
+    } window{desktop, u"window"};
+    ListView list{window, u"list", {{u"선택", {}}, {u"이름", {}}, {u"번호", {}}}, true};
+
+    Names column(int sub_item) const {
+        Names names;
+        for (std::size_t row = 0; row < list.row_count(); ++row)
+            names.push_back(utf8(list.row(row).sub_item(sub_item)));
+        return names;
+    }
+
+    /// What the index is there to answer, by walking every row.
+    std::optional<std::size_t> walk(TextView beginning) const {
+        if (beginning.empty()) return std::nullopt;
+        for (std::size_t row = 0; row < list.row_count(); ++row) {
+            for (int column = 1; column <= list.row(row).sub_item_count(); ++column) {
+                if (list.row(row).sub_item(column).starts_with(beginning)) return row;
+            }
+        }
+        return std::nullopt;
+    }
+};
+
+TEST_F(Lists, OnlyTheUsersCheckRaisesTheEventAndEveryCheckIsCounted) {
+    for (const bool checked : {true, false, true}) list.add_row(u"", {u"이름"}, checked);
+    Names events;
+    list.ItemCheck.connect([&](std::size_t row) {
+        events.push_back(std::to_string(row) + (list.row(row).checked() ? " on" : " off"));
+    });
+    EXPECT_EQ(list.checked_count(), 2u);
+    list.set_checked(1, true);
+    list.set_checked(1, true);
+    EXPECT_EQ(list.checked_count(), 3u);
+    EXPECT_TRUE(events.empty());
+    list.user_check(0, false);
+    list.user_check(0, false);
+    list.user_check(0, true);
+    EXPECT_EQ(events, (Names{"0 off", "0 on"}));
+
+    list.user_check(2, false);
+    list.user_select(0, true);
+    list.remove_selected_rows();
+    EXPECT_EQ(list.checked_count(), 1u) << "a row takes its mark with it";
+    list.clear();
+    EXPECT_EQ(list.checked_count(), 0u);
+}
+
+TEST_F(Lists, TheSelectedItemIsOneRowAndSelectedRowsAreMany) {
+    for (const char16_t* name : {u"가", u"나", u"다", u"라"}) list.add_row(u"", {name});
+    EXPECT_EQ(list.selected_item(), std::nullopt);
+    list.deselect_item();
+
+    list.user_select(0, true);
+    list.select_item(2);
+    EXPECT_EQ(list.selected_item(), 2u);
+    EXPECT_TRUE(list.row(0).selected()) << "other rows keep their selection";
+    list.deselect_item();
+    EXPECT_EQ(list.selected_item(), std::nullopt);
+    EXPECT_FALSE(list.row(2).selected());
+    EXPECT_TRUE(list.row(0).selected());
+
+    list.user_selected_item(3);
+    list.remove_selected_rows();
+    EXPECT_EQ(column(1), (Names{"나", "다", "라"}));
+    EXPECT_EQ(list.selected_item(), 2u) << "it moves up with its row";
+
+    list.select_all();
+    EXPECT_EQ(list.selected_item(), 2u);
+    list.user_selected_item(std::nullopt);
+    list.select_all();
+    EXPECT_EQ(list.selected_item(), 0u) << "keys need a row to act on";
+    list.remove_selected_rows();
+    EXPECT_EQ(list.row_count(), 0u);
+    EXPECT_EQ(list.selected_item(), std::nullopt);
+    list.select_all();
+    EXPECT_EQ(list.selected_item(), std::nullopt);
+}
+
+TEST_F(Lists, SortingKeepsTheOrderOfEqualRowsBothWaysAndIgnoresCase) {
+    const struct {
+        const char16_t *name, *number;
+    } rows[] = {{u"b", u"1"}, {u"가", u"2"}, {u"A", u"3"}, {u"B", u"4"}, {u"a", u"5"}, {u"", u"6"}};
+    for (const auto& row : rows) list.add_row(u"", {row.name, row.number});
+    list.select_item(3);
+
+    list.sort(1, Order::ascending);
+    EXPECT_EQ(column(2), (Names{"6", "3", "5", "1", "4", "2"}));
+    EXPECT_EQ(list.selected_item(), 4u) << "the selected item goes with its row";
+    list.sort(1, Order::descending);
+    EXPECT_EQ(column(2), (Names{"2", "1", "4", "3", "5", "6"}));
+    list.sort(7, Order::ascending);
+    EXPECT_EQ(column(2), (Names{"2", "1", "4", "3", "5", "6"})) << "no such column: all are equal";
+    list.add_row(u"", {u"0", u"7"});
+    EXPECT_EQ(column(2).back(), "7") << "a new row stands where the user sees it";
+}
+
+TEST_F(Lists, ASubItemBehindTheLastOneIsEmptyUntilItIsSet) {
+    list.add_row(u"", {u"홍길동"});
+    EXPECT_EQ(utf8(list.row(0).sub_item(3)), "");
+    list.set_sub_item(0, 3, u"등록성공");
+    EXPECT_EQ(utf8(list.row(0).sub_item(3)), "등록성공");
+    EXPECT_EQ(list.find_in_sub_items(u"등록"), 0u);
+}
+
+TEST_F(Lists, FindingLooksAtTheBeginningOfAllSubItemsAndNotAtTheItemText) {
+    list.add_row(u"0309", {u"홍길동", u"01012345678"});
+    list.add_row(u"", {u"이사", u"0212345678", u"", u"부장"});
+    const struct {
+        const char16_t* beginning;
+        std::optional<std::size_t> row;
+    } rows[] = {{u"010", 0u},       {u"01012345678", 0u}, {u"010123456789", {}}, {u"홍", 0u}, {u"부장", 1u},
+                {u"0", 0u},         {u"02", 1u},          {u"0309", {}},         {u"장", {}}, {u"", {}},
+                {u"홍길동 님", {}}, {u"이", 1u}};
+    for (const auto& row : rows)
+        EXPECT_EQ(list.find_in_sub_items(row.beginning), row.row) << utf8(row.beginning);
+}
+
+TEST_F(Lists, FindingAgreesWithAWalkOverAllRowsWhateverHasHappenedToTheList) {
+    std::mt19937 random(20261123);
+    const auto below = [&](std::size_t end) { return static_cast<std::size_t>(random() % end); };
+    // Few different beginnings, so that there are duplicates, and texts longer than the index's keys.
+    const auto text = [&] {
+        static const Text ALPHABET[] = {u"0", u"1", u"01012345678", u"02", u"가", u"각", u"이름없음", u"a"};
+        Text made;
+        for (std::size_t parts = below(5); parts > 0; --parts) made += ALPHABET[below(std::size(ALPHABET))];
+        return made;
+    };
+
+    for (int step = 0; step < 5000; ++step) {
+        const std::size_t rows = list.row_count();
+        const std::size_t act = below(100);
+        if (act < 45 || rows == 0) {
+            list.add_row(text(), {text(), text(), u"", text()}, true);
+        } else if (act < 70) {
+            list.set_sub_item(below(rows), static_cast<int>(1 + below(5)), text());
+        } else if (act < 80) {
+            for (std::size_t n = below(4); n > 0; --n) list.user_select(below(rows), true);
+            list.remove_selected_rows();
+        } else if (act < 82) {
+            list.sort(static_cast<int>(below(5)), below(2) == 0 ? Order::ascending : Order::descending);
+        } else if (act == 82 && below(200) == 0) {
+            list.clear();
+        }
+        const Text beginning = text();
+        ASSERT_EQ(list.find_in_sub_items(beginning), walk(beginning))
+            << "step " << step << ": " << utf8(beginning);
+    }
+    EXPECT_GT(list.row_count(), 500u) << "the walk has to leave the index's first chunk";
+}
+
+}  // namespace
