@@ -22,15 +22,27 @@ const Text& PrefixIndex::Entry::text() const { return row->sub_item(column); }
 
 bool PrefixIndex::Entry::operator<(const Entry& other) const {
     if (key != other.key) return key < other.key;
-    if (const int order = text().compare(other.text()); order != 0) return order < 0;
+    const bool goes_on = key.back() != u'\0';
+    if (const int order = goes_on ? text().compare(other.text()) : 0; order != 0) return order < 0;
     if (row != other.row) return std::less<>()(row, other.row);
     return column < other.column;
+}
+
+int PrefixIndex::Entry::compare_beginning(TextView prefix) const {
+    const TextView beginning(key.data(), std::min(prefix.size(), key.size()));
+    const int order = beginning.compare(prefix.substr(0, key.size()));
+    return order != 0 || prefix.size() <= key.size()
+               ? order
+               : TextView(text()).substr(0, prefix.size()).compare(prefix);
 }
 
 void PrefixIndex::add(const ListItem& row, int column) {
     if (row.sub_item(column).empty()) return;
     const Entry entry(row, column);
-    if (chunks_.empty()) chunks_.emplace_back();
+    if (chunks_.empty()) {
+        chunks_.push_back({entry});
+        return;
+    }
     const std::size_t place = chunk_for(entry);
     Chunk& chunk = chunks_[place];
     chunk.insert(std::upper_bound(chunk.begin(), chunk.end(), entry), entry);
@@ -53,14 +65,14 @@ void PrefixIndex::remove(const ListItem& row, int column) {
 
 const ListItem* PrefixIndex::first_row(TextView prefix) const {
     if (prefix.empty()) return nullptr;
-    const auto before = [prefix](const Entry& entry) { return TextView(entry.text()) < prefix; };
+    const auto before = [prefix](const Entry& entry) { return entry.compare_beginning(prefix) < 0; };
     auto chunk = std::partition_point(chunks_.begin(), chunks_.end(),
                                       [&](const Chunk& c) { return before(c.back()); });
     if (chunk == chunks_.end()) return nullptr;
 
     const ListItem* first = nullptr;
     auto entry = std::partition_point(chunk->begin(), chunk->end(), before);
-    while (entry->text().starts_with(prefix)) {
+    while (entry->compare_beginning(prefix) == 0) {
         if (first == nullptr || entry->row->position() < first->position()) first = entry->row;
         if (++entry == chunk->end()) {
             if (++chunk == chunks_.end()) break;

@@ -38,6 +38,8 @@ class PrefixIndex {
         Entry(const ListItem& row, int column);
         const Text& text() const;
         bool operator<(const Entry& other) const;
+        /// How the text's beginning, as long as the prefix, stands to it: below, equal (0) or above.
+        int compare_beginning(TextView prefix) const;
     };
     using Chunk = std::vector<Entry>;
 
