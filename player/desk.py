@@ -1,0 +1,93 @@
+"""The desk of a user: finds what is on the screen by the names that a screen reader says, and acts with real keys and clicks."""
+import subprocess
+import time
+
+import pyatspi
+
+PATIENCE = 20  # seconds until something that ought to appear is missed
+
+
+class Desk:
+    def __init__(self, results):
+        self.results = results
+        self.pictures = []
+        self.program = None
+
+    # The program.
+
+    def start(self):
+        self.program = subprocess.Popen(["./zent"], cwd=self.results / "app")
+
+    def close_program(self):
+        self.keys("alt+F4")
+        self.program.wait(PATIENCE)
+
+    def kill_program(self):
+        if self.program.poll() is None:
+            self.program.kill()
+
+    # What is on the screen.
+
+    def windows(self):
+        for application in pyatspi.Registry.getDesktop(0):
+            if application is not None and application.get_process_id() == self.program.pid:
+                yield from (window for window in application if window is not None)
+
+    def find(self, name, role=None, within=None):
+        """Waits for something shown whose name begins with `name`."""
+        return self._wait(f"'{name}'", lambda: self._search(name, role, within))
+
+    def window(self, title):
+        """Waits for a window whose title contains `title`."""
+        return self._wait(f"window '{title}'", lambda: next((w for w in self.windows() if title in w.name), None))
+
+    def gone(self, title):
+        self._wait(f"the end of window '{title}'", lambda: all(title not in w.name for w in self.windows()))
+
+    def _search(self, name, role, within):
+        for window in [within] if within is not None else list(self.windows()):
+            found = pyatspi.findDescendant(window, lambda thing: self._matches(thing, name, role))
+            if found is not None:
+                return found
+        return None
+
+    @staticmethod
+    def _matches(thing, name, role):
+        try:
+            return (
+                thing.name.startswith(name)
+                and (role is None or thing.getRoleName() == role)
+                and thing.getState().contains(pyatspi.STATE_SHOWING)
+            )
+        except Exception:  # it went away meanwhile
+            return False
+
+    def _wait(self, what, look):
+        end = time.monotonic() + PATIENCE
+        while time.monotonic() < end:
+            if self.program.poll() is not None:
+                raise RuntimeError(f"the program ended while {what} was awaited")
+            found = look()
+            if found:
+                return found
+            time.sleep(0.1)
+        raise RuntimeError(f"{what} never came")
+
+    # Keys, clicks, pictures.
+
+    def keys(self, *keys):
+        subprocess.run(["xdotool", "key", "--clearmodifiers", "--delay", "60", *keys], check=True)
+
+    def write(self, text):
+        subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", "40", text], check=True)
+
+    def click(self, thing):
+        box = thing.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        x, y = box.x + box.width // 2, box.y + box.height // 2
+        subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
+
+    def picture(self, name):
+        time.sleep(0.3)
+        path = self.results / f"{len(self.pictures) + 1:02}-{name}.png"
+        subprocess.run(["import", "-window", "root", str(path)], check=True)
+        self.pictures.append(path)

@@ -1,0 +1,30 @@
+"""The main job: log in by typing, write a text, add recipients by typing, send, read the report."""
+
+RECIPIENTS = [("홍길동", "010-1234-5678"), ("김영희", "010-2345-6789"), ("이철수", "010-3456-7890")]
+
+
+def play(desk):
+    login = desk.window("로그인")
+    desk.picture("login")
+    desk.click(desk.find("사용자 아이디", "text", login))
+    desk.write("demo\tdemo1234\n")
+    desk.gone("로그인")
+
+    main = desk.window("[문자메시지]")
+    desk.click(desk.find("메시지 내용", "text", main))
+    desk.keys("ctrl+End")
+    desk.write(" 안녕하세요. 오늘 오후 3시 회의실에서 뵙겠습니다.")
+    for name, number in RECIPIENTS:
+        desk.click(desk.find("이름", "text", main))
+        desk.write(f"{name}\n{number}\n")
+    desk.picture("draft")
+
+    desk.click(desk.find("보내기", "push button", main))
+    desk.window("메시지 발송확인")
+    desk.picture("confirmation")
+    desk.keys("Return")
+    desk.window("등록완료")
+    desk.picture("report")
+    desk.keys("Return")
+    desk.gone("등록완료")
+    desk.picture("sent")
