@@ -1,0 +1,21 @@
+#include "app/application.h"
+
+#include "core/entry_routine.h"
+#include "send/send_check.h"
+
+namespace app {
+
+Application::Application(platform::Platform& platform)
+    : platform_(platform), main_(platform, state_, service_doors_, doors()) {}
+
+bool Application::start() {
+    return core::entry_routine(platform_, state_, [this] { main_.show(); });
+}
+
+compose::MainDoors Application::doors() {
+    compose::MainDoors doors;
+    doors.send = [this] { send::Command1_Click(platform_, state_, main_, service_doors_); };
+    return doors;
+}
+
+}  // namespace app
