@@ -1,0 +1,19 @@
+#pragma once
+
+#include "compose/main_form.h"
+#include "send/kinds.h"
+
+namespace send {
+
+/// Whom a draft goes to: the checked rows.
+struct Recipients {
+    int count = 0;
+    platform::Text first_name;
+    platform::Text first_number;
+};
+
+/// What the user reads before the message goes.
+platform::Text confirmation_text(const compose::frmZent& form, const Kind& kind,
+                                 const Recipients& recipients);
+
+}  // namespace send

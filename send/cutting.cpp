@@ -1,0 +1,61 @@
+// A text in pieces of one message each, every piece a minute behind the one before: nothing else keeps their
+// order.
+
+#include "compose/text_cutting.h"
+#include "platform/text/format.h"
+#include "send/draft.h"
+#include "send/frmZentSend.h"
+
+namespace send {
+
+using platform::Text;
+
+/// The first piece goes when the draft says, or now.
+void frmZentSend::begin_pieces(SendJob& job, const Text& text) {
+    mText1.set_text(text);
+    job.pieces = 0;
+    if (main_form_.Option1.chosen()) {
+        const platform::LocalTime now = platform_.clock.now();
+        DTP1.set_value(platform::date_part(now));
+        Combo1.set_list_index(platform::break_up(now).hour);
+        Combo2.set_list_index(platform::break_up(now).minute);
+    } else {
+        DTP1.set_value(main_form_.DTP1.value());
+        Combo1.set_list_index(main_form_.Combo1.list_index());
+        Combo2.set_list_index(main_form_.Combo2.list_index());
+    }
+}
+
+/// Cuts a piece and puts it, with its time, into the job's message.
+void frmZentSend::next_piece(SendJob& job) {
+    Text1.set_text(CUT_NEXT_PIECE());
+    if (++job.pieces > 1) ADD_SCHEDULE_MINUTES(1);
+    job.message.s_sms_content = Text1.text();
+    job.message.s_schedule_time = schedule_digits(DTP1, Combo1, Combo2);
+}
+
+Text frmZentSend::CUT_NEXT_PIECE() {
+    Text text = mText1.text();
+    Text piece = compose::LLL(text, compose::TEXT_LIMIT);
+    // Deliberately trimmed at its end only: a blank that opens a piece is the user's.
+    mText1.set_text(platform::right_trim(text.substr(piece.size())));
+    return piece;
+}
+
+void frmZentSend::ADD_SCHEDULE_MINUTES(int minutes) {
+    const int minute = Combo2.list_index() + minutes;
+    if (minute < 60) {
+        Combo2.set_list_index(minute);
+        return;
+    }
+    Combo2.set_list_index(minute - 60);
+    const int hour = Combo1.list_index() + 1;
+    if (hour < 24) {
+        Combo1.set_list_index(hour);
+        return;
+    }
+    DTP1.set_value(platform::add_days(DTP1.value(), 1));
+    Combo1.set_list_index(hour - 24);
+}
+
+}  // namespace send

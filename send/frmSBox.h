@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/app_state.h"
+#include "platform/controls/command_button.h"
+#include "platform/controls/form.h"
+#include "platform/controls/label.h"
+#include "platform/controls/text_box.h"
+#include "platform/ports/platform.h"
+
+namespace send {
+
+/// Shows what is about to go and asks for the last time. The answer is in `gDialogConfirmed`.
+class frmSBox : public platform::Form {
+  public:
+    frmSBox(platform::Platform& platform, core::AppState& state);
+
+    platform::TextBox Text1{*this, u"Text1"};
+    platform::Label Label1{*this, u"Label1", u"발송을 시작하시겠습니까?"};
+    platform::CommandButton Command1{*this, u"Command1", u"발송시작(&S)"};
+    platform::CommandButton Command2{*this, u"Command2", u"취소(&C)"};
+
+  protected:
+    void Form_Load() override;
+    void Form_Escape() override { answer(false); }
+    void Form_Close() override { answer(false); }
+
+  private:
+    void answer(bool start);
+
+    core::AppState& state_;
+};
+
+}  // namespace send

@@ -1,0 +1,84 @@
+#include "send/frmZentSend.h"
+
+#include "core/files.h"
+#include "core/windows.h"
+#include "platform/text/format.h"
+#include "send/recipient_text.h"
+
+namespace send {
+
+using platform::Text;
+
+frmZentSend::frmZentSend(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form,
+                         const gateway::ServiceDoors& doors)
+    : Form(platform.desktop, u"frmZentSend"),
+      Timer1(platform.clock, 500),
+      RecipientRows(main_form.ListView1),
+      platform_(platform),
+      state_(state),
+      main_form_(main_form),
+      doors_(doors),
+      gateway_(platform, state) {
+    set_caption(u"폰디라 서버에 메시지 등록...");
+    Command1.set_tool_tip(u"메시지 등록을 중지합니다.");
+    Command1.Click.connect([this] { Command1_Click(); });
+    Timer1.Tick.connect([this] { Timer1_Timer(); });
+}
+
+void frmZentSend::Form_Load() {
+    core::CENTER_FORM(platform_.desktop, *this);
+    state_.gSendFormOpen = true;
+    main_form_.Timer1.set_enabled(false);
+    SendAnimationPath = platform_.files.application_directory() + u"\\resource\\send.avi";
+    if (core::FILE_EXISTS(platform_, SendAnimationPath)) {
+        Animation1.open(SendAnimationPath);
+        Animation1.play();
+    }
+    DTP1.set_value(main_form_.DTP1.value());
+    for (int hour = 0; hour < 24; ++hour) Combo1.add_row(platform::format_number(hour, u"00"));
+    for (int minute = 0; minute < 60; ++minute) Combo2.add_row(platform::format_number(minute, u"00"));
+    Combo1.set_list_index(main_form_.Combo1.list_index());
+    Combo2.set_list_index(main_form_.Combo2.list_index());
+}
+
+void frmZentSend::Form_Activate() {
+    state_.gSendFormOpen = true;
+    // The window becomes active again when a box over it closes; there is one job all the same.
+    if (!Timer1.tag().empty()) return;
+    Timer1.set_tag(u"OK");
+    Timer1.set_enabled(true);
+}
+
+void frmZentSend::Form_Unload() {
+    Timer1.set_enabled(false);
+    normal_cursor();
+    state_.gSendFormOpen = false;
+    main_form_.Timer1.set_enabled(true);
+}
+
+/// A running job never ends unseen: closing the window asks it to stop.
+void frmZentSend::Form_Close() { job_started_ ? Command1_Click() : unload(); }
+
+void frmZentSend::Command1_Click() {
+    // Deliberately not the caption that a finished job gives the button: a late click must not close the
+    // window under the report.
+    if (Command1.caption() == u"닫기(&C)") {
+        unload();
+        return;
+    }
+    StopRequested = true;
+    Command1.set_enabled(false);
+}
+
+bool frmZentSend::is_personal() const { return main_form_.Check1.checked() && main_form_.Check1.on_screen(); }
+
+void frmZentSend::Timer1_Timer() {
+    Timer1.set_enabled(false);
+    if (is_personal() && has_placeholder(main_form_.mText1.text())) {
+        SEND_PERSONAL();
+    } else {
+        SEND_BATCHES(caption());
+    }
+}
+
+}  // namespace send

@@ -1,0 +1,134 @@
+#pragma once
+
+#include "compose/main_form.h"
+#include "core/app_state.h"
+#include "gateway/gateway.h"
+#include "gateway/service_doors.h"
+#include "platform/boolean_word.h"
+#include "platform/controls/animation.h"
+#include "platform/controls/combo_box.h"
+#include "platform/controls/command_button.h"
+#include "platform/controls/date_picker.h"
+#include "platform/controls/form.h"
+#include "platform/controls/label.h"
+#include "platform/controls/list_view.h"
+#include "platform/controls/progress_bar.h"
+#include "platform/controls/text_box.h"
+#include "platform/controls/timer.h"
+#include "platform/ports/platform.h"
+#include "send/send_job.h"
+
+#include <functional>
+#include <optional>
+
+namespace send {
+
+/// The window of a send job. Half a second after its activation it runs one of four routines, which all do
+/// the same for their recipients, one submit after the other: open a session with the carrier, register, wait
+/// for the service's pace, note the result in the rows, close the session. They differ in how they group the
+/// recipients and what they do with the text:
+///
+///     SEND_BATCHES        up to 100 recipients a submit, the text whole
+///     SEND_LONG_BATCHES   the same once for every piece of a text that is too long for one message
+///     SEND_PERSONAL       one recipient a submit, the text filled in for each and cut into pieces
+///     SEND_SINGLES        one recipient a submit, the text filled in, too long a text being a failure
+///
+/// What they share stands in job_steps.cpp; each has a file of its own.
+class frmZentSend : public platform::Form {
+  public:
+    frmZentSend(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form,
+                const gateway::ServiceDoors& doors);
+
+    platform::Animation Animation1{*this, u"Animation1"};
+    platform::Label Label1_0{*this, u"Label1_0", u"KT 폰디라 서버와 통신중입니다."};
+    platform::Label Label1_1{*this, u"Label1_1", u"등록이 완료될 때까지 잠시만 기다려 주십시오..."};
+    platform::ProgressBar PBar1{*this, u"PBar1"};
+    platform::CommandButton Command1{*this, u"Command1", u"등록중지"};
+    platform::Timer Timer1;
+
+    // Working storage of the routines that cut a text, never shown.
+    /// The text still to send.
+    platform::TextBox mText1;
+    /// The piece being sent.
+    platform::TextBox Text1;
+    /// When the piece is to go.
+    platform::DatePicker DTP1;
+    platform::ComboBox Combo1;
+    platform::ComboBox Combo2;
+
+    /// How many recipients there are to register.
+    std::int32_t MSGSendCount = 0;
+    platform::ListView& RecipientRows;
+    platform::BooleanWord StopRequested;
+    platform::Text SendAnimationPath;
+
+    // Each runs the whole job and closes the window.
+    void SEND_BATCHES(const platform::Text& kind);
+    void SEND_LONG_BATCHES();
+    void SEND_PERSONAL();
+    /// Nothing calls it yet; it is the one-recipient form of SEND_BATCHES.
+    void SEND_SINGLES(const platform::Text& kind);
+
+    /// Takes the next message of at most 80 bytes off `mText1`; no character is split.
+    platform::Text CUT_NEXT_PIECE();
+    /// Moves the working schedule on by less than an hour.
+    void ADD_SCHEDULE_MINUTES(int minutes);
+
+  protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_Unload() override;
+    void Form_Escape() override { Form_Close(); }
+    void Form_Close() override;
+
+  private:
+    /// Which of its doings a pass over the rows shows.
+    struct PassOptions {
+        bool leaves_trace;
+        bool shows_progress;
+    };
+
+    void Command1_Click();
+    void Timer1_Timer();
+    void wait_cursor() { platform_.desktop.set_pointer(platform::Pointer::hourglass); }
+    void normal_cursor() { platform_.desktop.set_pointer(platform::Pointer::normal); }
+
+    // What all routines share: job_steps.cpp.
+    void run_job(const platform::Text& kind, Pauses pauses, const std::function<void(SendJob&)>& send_rows);
+    SendJob prepare(const platform::Text& kind, Pauses pauses);
+    void open_session(SendJob& job);
+    platform::Text submit(SendJob& job, platform::TextView without_call = NOT_REGISTERED);
+    void close_session(const SendJob& job);
+    static void count(SendJob& job, const platform::Text& result, int recipients);
+    void write_status(std::size_t first_row, std::size_t end_row, const platform::Text& status);
+    void tell_stopped();
+    void report(const SendJob& job);
+    void SEND_FINISHED();
+
+    // Recipients in batches: send_batches.cpp.
+    void pass_over_rows(SendJob& job, Batch& batch, PassOptions options);
+    bool gather(Batch& batch, std::size_t& current) const;
+    void submit_batch(SendJob& job, Batch& batch, std::size_t current, bool leaves_trace);
+
+    // Recipients one by one: send_personal.cpp, send_singles.cpp.
+    /// The user has asked for personal messages, and the kind shown knows them.
+    bool is_personal() const;
+    void for_each_recipient(const std::function<void(std::size_t row)>& send_row);
+    std::optional<platform::Text> filled_in(const platform::Text& text,
+                                            const platform::ListItem& recipient) const;
+    void send_personal_row(SendJob& job, std::size_t row);
+    void send_single_row(SendJob& job, std::size_t row);
+
+    // Texts in pieces: cutting.cpp.
+    void begin_pieces(SendJob& job, const platform::Text& text);
+    void next_piece(SendJob& job);
+
+    platform::Platform& platform_;
+    core::AppState& state_;
+    compose::frmZent& main_form_;
+    const gateway::ServiceDoors& doors_;
+    gateway::Gateway gateway_;
+    bool job_started_ = false;
+};
+
+}  // namespace send

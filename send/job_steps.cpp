@@ -1,0 +1,136 @@
+// What the four routines share: preparation, the session around a submit, the rows' status, the end.
+
+#include "core/files.h"
+#include "core/windows.h"
+#include "gateway/result_text.h"
+#include "platform/error.h"
+#include "send/draft.h"
+#include "send/frmSendEndBox.h"
+#include "send/frmZentSend.h"
+#include "send/report.h"
+
+namespace send {
+
+using platform::Text;
+
+namespace {
+
+constexpr platform::TextView FAILURE_MESSAGE =
+    u"메시지 등록을 실패하였습니다. 원인은 다음과 같습니다.\r\n\r\n"
+    u"원인 1) 인터넷 연결이 안된 경우.\r\n"
+    u"원인 2) 폰디라 서버가 응닶이 없는 경우.\r\n"
+    u"원인 3) 폰디라 가입을 해지한 경우.\r\n"
+    u"원인 4) 폰디라 사용이 일시 정지된 경우.\r\n\r\n"
+    u"인터넷 연결상태를 확인하시고 잠시 후 다시 시작하여 주십시오.";
+
+/// The highest state of the contract in which the service may be used.
+constexpr std::int32_t LAST_USABLE_STATE = 1;
+
+}  // namespace
+
+/// Whatever fails on the way ends the job where it is, without a report; rows that are done keep their
+/// status.
+void frmZentSend::run_job(const Text& kind, Pauses pauses, const std::function<void(SendJob&)>& send_rows) {
+    job_started_ = true;
+    try {
+        SendJob job = prepare(kind, pauses);
+        send_rows(job);
+        report(job);
+    } catch (const SessionRefused&) {
+        normal_cursor();
+        core::warn(platform_.desktop, Text(FAILURE_MESSAGE));
+    } catch (const platform::RuntimeError& error) {
+        normal_cursor();
+        core::show_error(platform_.desktop, error, platform::BoxIcon::critical);
+    }
+    unload();
+}
+
+SendJob frmZentSend::prepare(const Text& kind_text, Pauses pauses) {
+    StopRequested = false;
+    fill_empty_callback(main_form_, state_);
+    const platform::LocalTime now = platform_.clock.now();
+    const Kind* kind = find_kind(kind_text);
+    SendJob job{.kind = kind,
+                .pauses = pauses,
+                .started = now,
+                .message = message_of_draft(main_form_, kind, now),
+                .subject = {}};
+    job.subject = job.message.s_subject;
+    state_.gSubmitSequence = 1;
+    return job;
+}
+
+void frmZentSend::open_session(SendJob& job) {
+    wait_cursor();
+    bool usable = gateway_.GATEWAY_BIND(job.kind != nullptr ? job.kind->bind_mode : 1);
+    if (usable && !job.account_checked) {
+        job.account_checked = true;
+        usable = gateway_.GATEWAY_MONEY_STATUS() && state_.gServiceState <= LAST_USABLE_STATE;
+    }
+    if (usable) return;
+    gateway_.GATEWAY_UNBIND();
+    throw SessionRefused();
+}
+
+/// Registers the job's message and, when the carrier has taken it, waits. Returns what the rows are to show.
+Text frmZentSend::submit(SendJob& job, platform::TextView without_call) {
+    wait_cursor();
+    const Text result = job.kind != nullptr ? gateway_.UMS_SEND_START(job.message) : Text(without_call);
+    wait_cursor();
+    if (result == gateway::REGISTERED) {
+        platform_.desktop.yield();
+        platform_.clock.pause(job.pauses.after_success);
+    }
+    return result;
+}
+
+void frmZentSend::close_session(const SendJob& job) {
+    platform_.desktop.yield();
+    platform_.clock.pause(job.pauses.before_unbind);
+    gateway_.GATEWAY_UNBIND();
+    wait_cursor();
+    ++state_.gSubmitSequence;
+}
+
+void frmZentSend::count(SendJob& job, const Text& result, int recipients) {
+    (result == gateway::REGISTERED ? job.success : job.failure) += recipients;
+}
+
+/// Tells the checked rows of the range how it went with them. Who failed stays checked, so that sending again
+/// tries just these.
+void frmZentSend::write_status(std::size_t first_row, std::size_t end_row, const Text& status) {
+    for (std::size_t row = first_row; row < end_row; ++row) {
+        if (!RecipientRows.row(row).checked()) continue;
+        RecipientRows.set_sub_item(row, compose::RECIPIENT_STATUS, status);
+        if (status == gateway::REGISTERED) RecipientRows.set_checked(row, false);
+    }
+}
+
+void frmZentSend::tell_stopped() {
+    normal_cursor();
+    core::warn(platform_.desktop, u"메시지 등록이 중지되었습니다");
+}
+
+void frmZentSend::report(const SendJob& job) {
+    normal_cursor();
+    const Text text = report_text(job, MSGSendCount, platform_.clock.now());
+    SEND_FINISHED();
+    frmSendEndBox box(platform_, doors_);
+    box.load();
+    box.Text1.set_text(Text(platform::CRLF) + text);
+    if (job.success > 0) box.offer_results();
+    box.show_modal();
+}
+
+/// Leaves the window as it stands behind the report: the film on its first picture, the button as a way out.
+void frmZentSend::SEND_FINISHED() {
+    if (core::FILE_EXISTS(platform_, SendAnimationPath)) {
+        Animation1.open(SendAnimationPath);
+        Animation1.stop();
+    }
+    Command1.set_caption(u"닫기");
+    Command1.set_enabled(true);
+}
+
+}  // namespace send

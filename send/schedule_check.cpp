@@ -1,0 +1,62 @@
+#include "send/schedule_check.h"
+
+#include "core/ini_file.h"
+#include "core/windows.h"
+#include "platform/text/format.h"
+#include "platform/text/number.h"
+
+#include <algorithm>
+
+namespace send {
+
+using platform::LocalTime;
+using platform::Text;
+
+namespace {
+
+/// The lead that the user has chosen, in minutes. Too large a lead counts as 90 here and as 30 when the
+/// schedule is set; both stay.
+double minimum_lead(const platform::Platform& platform) {
+    const Text saved = core::INI_READ(platform, core::application_ini(platform), u"SET", u"P_TIME");
+    const double minutes = platform::leading_number(saved.empty() ? u"30" : saved);
+    return std::min(static_cast<double>(platform::round_half_even(minutes)), 90.0);
+}
+
+LocalTime scheduled_moment(const compose::frmZent& form) {
+    return platform::date_part(form.DTP1.value()) + std::chrono::hours(form.Combo1.list_index()) +
+           std::chrono::minutes(form.Combo2.list_index());
+}
+
+long long date_digits(LocalTime time) {
+    return static_cast<long long>(platform::leading_number(platform::format_date(time, u"yyyyMMdd")));
+}
+
+/// The digits of day, hour, minute and second between two moments, read as one number: 30 minutes are 3000
+/// and an hour 10000. Deliberately digits and no minutes: any later date passes, as users who schedule past
+/// midnight are used to.
+double lead_digits(LocalTime scheduled, LocalTime now) {
+    return platform::leading_number(
+        platform::decimal(date_digits(scheduled) - date_digits(now)) +
+        platform::format_day_fraction(platform::day_difference(scheduled, now), u"hhmm00"));
+}
+
+}  // namespace
+
+bool schedule_is_possible(const platform::Platform& platform, compose::frmZent& form) {
+    if (!form.Option2.chosen()) return true;
+    const double minutes = minimum_lead(platform);
+    // Deliberately without the check for a past time too: whoever switches the lead off may send at once so.
+    if (minutes == 0) return true;
+    form.DT1[0].set_value(scheduled_moment(form));
+    form.DT1[1].set_value(platform.clock.now());
+    const LocalTime scheduled = form.DT1[0].value();
+    const LocalTime now = form.DT1[1].value();
+    if (lead_digits(scheduled, now) >= minutes * 100 && scheduled >= now) return true;
+    core::warn(platform.desktop,
+               u"예약 전송은 현재 시간에서 " + platform::decimal(static_cast<long long>(minutes)) +
+                   u"분 후부터 가능합니다!",
+               u"시간 확인");
+    return false;
+}
+
+}  // namespace send

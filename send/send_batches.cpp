@@ -1,0 +1,105 @@
+// SEND_BATCHES: the whole text to up to 100 recipients a submit, one pass over the rows.
+
+#include "core/common.h"
+#include "platform/text/format.h"
+#include "send/frmZentSend.h"
+#include "send/percent.h"
+#include "send/recipient_text.h"
+
+namespace send {
+
+using platform::Text;
+
+namespace {
+
+/// The most recipients that the carrier takes in one submit.
+constexpr int RECIPIENT_LIMIT = 100;
+/// The most bytes of cp949 in one submit's addresses.
+constexpr std::size_t ADDRESS_LIMIT = 2048;
+
+/// The service converts faxes one by one and asks for a long wait.
+constexpr int FAX_PAUSE = 15'000;
+constexpr int PAUSE = 500;
+
+}  // namespace
+
+void frmZentSend::SEND_BATCHES(const Text& kind) {
+    if (kind == TEXT_KIND && core::BYTE_LEN(main_form_.mText1.text()) > compose::TEXT_LIMIT) {
+        SEND_LONG_BATCHES();
+        return;
+    }
+    const Pauses pauses{.after_success = kind == FAX_KIND ? FAX_PAUSE : PAUSE, .before_unbind = PAUSE};
+    run_job(kind, pauses, [this](SendJob& job) {
+        Batch batch;
+        pass_over_rows(job, batch, {.leaves_trace = true, .shows_progress = true});
+    });
+}
+
+/// Goes once over the rows and submits a batch whenever one is full. `current` is the number of the row, from
+/// 1, that is being looked at.
+void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options) {
+    const std::size_t rows = RecipientRows.row_count();
+    std::size_t current = 0;
+    while (current != rows) {
+        ++current;
+        if (options.leaves_trace) RecipientRows.make_visible(current - 1);
+        if (gather(batch, current)) submit_batch(job, batch, current, options.leaves_trace);
+        if (options.shows_progress) PBar1.set_value(percent(current, rows));
+        if (current == rows) {
+            // The last rows were left out after others had been gathered.
+            if (!batch.s_dest_addr.empty()) submit_batch(job, batch, current, options.leaves_trace);
+        } else if (StopRequested) {
+            // Deliberately not looked at behind the last row: everything is done there. What was gathered for
+            // the open batch stays unsent and checked.
+            tell_stopped();
+            return;
+        }
+    }
+}
+
+/// Adds the row to the batch when it is to be sent to. Returns whether the batch is to go now; a row that it
+/// has no room for is given back, to be read again behind the submit.
+bool frmZentSend::gather(Batch& batch, std::size_t& current) const {
+    const platform::ListItem& row = RecipientRows.row(current - 1);
+    if (!row.checked()) return false;
+    const std::optional<Text> address = address_of(row);
+    if (!address) return false;
+
+    const std::size_t bytes = batch.bytes + core::BYTE_LEN(*address);
+    if (bytes > ADDRESS_LIMIT) {
+        // A recipient that is too long for any batch is left out like one without a number.
+        if (batch.s_dest_addr.empty()) return false;
+        --current;
+        return true;
+    }
+    batch.s_dest_addr += *address;
+    batch.bytes = bytes;
+    ++batch.count;
+    // Deliberately the batch's first row stays what it was: a result reaches back over rows that failed
+    // before, and they show it.
+    if (bytes == ADDRESS_LIMIT) return true;
+    if (batch.count == 1) batch.first_row = current - 1;
+    return batch.count == RECIPIENT_LIMIT || current == RecipientRows.row_count();
+}
+
+void frmZentSend::submit_batch(SendJob& job, Batch& batch, std::size_t current, bool leaves_trace) {
+    open_session(job);
+    ++job.batch_sequence;
+    job.message.s_subject = job.subject;
+    if (MSGSendCount > RECIPIENT_LIMIT) {
+        job.message.s_subject += platform::format_number(job.batch_sequence, u"00");
+    }
+    job.message.s_dest_addr_count = batch.count;
+    job.message.s_dest_addr = batch.s_dest_addr;
+    const Text result = submit(job);
+    if (leaves_trace) {
+        count(job, result, batch.count);
+        write_status(batch.first_row, current, result);
+    }
+    close_session(job);
+    batch.count = 0;
+    batch.bytes = 0;
+    batch.s_dest_addr.clear();
+}
+
+}  // namespace send

@@ -1,0 +1,193 @@
+#include "send/send_check.h"
+
+#include "core/common.h"
+#include "core/files.h"
+#include "core/windows.h"
+#include "send/confirmation.h"
+#include "send/draft.h"
+#include "send/frmSBox.h"
+#include "send/frmZentSend.h"
+#include "send/percent.h"
+#include "send/schedule_check.h"
+
+#include <optional>
+
+namespace send {
+
+using compose::frmZent;
+using core::AppState;
+using platform::Platform;
+using platform::Text;
+
+namespace {
+
+/// A number of this many characters or fewer lacks its area code.
+constexpr std::size_t LOCAL_NUMBER_LENGTH = 8;
+
+void complete_sender(frmZent& form, const AppState& state) {
+    form.txtUserName.set_text(platform::trim(form.txtUserName.text()));
+    fill_empty_callback(form, state);
+}
+
+bool check_text(const Platform& platform, frmZent& form) {
+    if (!platform::trim(platform::remove_all(form.mText1.text(), form.sender_tag())).empty()) return true;
+    core::warn(platform.desktop, u"메시지 내용을 입력하십시오!");
+    form.mText1.set_focus();
+    return false;
+}
+
+bool check_speech(const Platform& platform, frmZent& form) {
+    if (!platform::trim(platform::remove_all(form.ttsText.text(), platform::CRLF)).empty()) return true;
+    core::warn(platform.desktop, u"음성으로 변환할 TTS내용을 입력하십시오.");
+    form.ttsText.set_focus();
+    return false;
+}
+
+bool check_sound_file(const Platform& platform, const frmZent& form) {
+    if (core::FILE_EXISTS(platform, form.TTSFileTxt.text())) return true;
+    core::warn(platform.desktop, u"첨부할 WAV파일을 선택하여 주십시오.");
+    return false;
+}
+
+/// The list of documents for the carrier goes into the tag of `FAX1`.
+bool check_documents(const Platform& platform, frmZent& form) {
+    if (form.FAX1.row_count() == 0) {
+        core::warn(platform.desktop, u"보낼문서를 지정하여 주십시오.");
+        form.FAXBttn1.set_focus();
+        return false;
+    }
+    Text attachments;
+    form.FAX1.set_tag({});
+    for (std::size_t row = 0; row < form.FAX1.row_count(); ++row) {
+        const Text& path = form.FAX1.row(row).text();
+        if (!core::FILE_EXISTS(platform, path)) {
+            core::warn(platform.desktop, path + u"\r\n\r\n위 파일을 찾을 수 없습니다. 확인하여 주십시오.");
+            return false;
+        }
+        attachments += path + u";";
+        form.FAX1.set_tag(attachments);
+    }
+    return true;
+}
+
+bool check_content(const Platform& platform, frmZent& form, Content content) {
+    switch (content) {
+        case Content::text:
+            return check_text(platform, form);
+        case Content::speech:
+            return check_speech(platform, form);
+        case Content::recording:
+            return !form.SaveWave(Text(core::SOUND_FOLDER), u"tmp.wav");
+        case Content::sound_file:
+            return check_sound_file(platform, form);
+        case Content::documents:
+            return check_documents(platform, form);
+    }
+    return false;
+}
+
+/// What is wrong with the number for this kind of message; empty when nothing is.
+Text fault_of_number(const frmZent& form, const Text& number, const Kind& kind) {
+    // Deliberately the caption of column 2, the name, though the number stands in column 3: support knows the
+    // messages so.
+    const Text& column = form.ListView1.column(2).caption;
+    const Text wrong = column + u" '" + number + u"' 오류입니다.\r\n\r\n";
+    const Text digits = core::DIGITS_ONLY(number);
+    if (digits.empty()) return wrong + u"(전송할 " + column + u"을(를) 입력하여 주십시오.)";
+    if (digits.size() <= LOCAL_NUMBER_LENGTH) {
+        return wrong + u"(동일 통화지역도 만드시 지역번호(DDD)를 입력하여 주십시오.)";
+    }
+    if (kind.sms && !core::TEXT_NUMBER_OK(number)) {
+        return wrong + u"(문자, 문자플러스 메시지 전송은 모바일(휴대폰)번호만 발송이 가능합니다.)";
+    }
+    if (kind.content == Content::documents && !core::FAX_NUMBER_OK(number)) {
+        return u"팩스보낼 번호 '" + number +
+               u"' 오류입니다.\r\n\r\n(모바일(휴대폰), 03030, 0502, 0505로 시작되는 번호는 팩스메시지 발송이 "
+               u"불가하오니 확인하여 주십시오.)";
+    }
+    return {};
+}
+
+void refuse_row(const Platform& platform, frmZent& form, std::size_t row, const Text& fault) {
+    form.PBar1.hide();
+    platform.desktop.set_pointer(platform::Pointer::normal);
+    core::warn(platform.desktop, fault);
+    form.ListView1.make_visible(row);
+    form.ListView1.set_focus();
+}
+
+/// The checked rows, each with a number that can be sent to; nothing when one has none or no row is checked.
+std::optional<Recipients> check_recipients(const Platform& platform, frmZent& form, const Kind& kind) {
+    const std::size_t rows = form.ListView1.row_count();
+    if (rows == 0) {
+        core::warn(platform.desktop, u"받는사람을 입력하여 주십시오!");
+        return std::nullopt;
+    }
+    form.PBar1.set_value(0);
+    form.PBar1.show();
+    Recipients recipients;
+    for (std::size_t row = 0; row < rows; ++row) {
+        const platform::ListItem& recipient = form.ListView1.row(row);
+        if (recipient.checked()) {
+            const Text& number = recipient.sub_item(compose::RECIPIENT_NUMBER);
+            if (const Text fault = fault_of_number(form, number, kind); !fault.empty()) {
+                refuse_row(platform, form, row, fault);
+                return std::nullopt;
+            }
+            if (++recipients.count == 1) {
+                recipients.first_name = recipient.sub_item(compose::RECIPIENT_NAME);
+                recipients.first_number = number;
+            }
+        }
+        form.PBar1.set_value(percent(row + 1, rows));
+    }
+    form.PBar1.hide();
+    form.RECIPIENT_COUNT_CAPTION();
+    if (recipients.count > 0) return recipients;
+    platform.desktop.set_pointer(platform::Pointer::normal);
+    core::warn(platform.desktop, u"받는사람을 선택하여 주십시오.");
+    return std::nullopt;
+}
+
+bool confirmed(Platform& platform, AppState& state, const Kind& kind, const Text& text) {
+    state.gDialogConfirmed = false;
+    frmSBox box(platform, state);
+    box.load();
+    box.Text1.set_text(Text(platform::CRLF) + text);
+    box.Label1.set_caption(Text(kind.text) + u" 발송을 시작하시겠습니까?");
+    box.show_modal();
+    return state.gDialogConfirmed;
+}
+
+}  // namespace
+
+void Command1_Click(Platform& platform, AppState& state, frmZent& form, const gateway::ServiceDoors& doors) {
+    if (!state.gLoggedIn) {
+        core::warn(platform.desktop, u"KT 폰디라 Login과정을 거쳐야 합니다.");
+        form.cmdLogin_Click();
+        return;
+    }
+    core::make_folder_when_missing(platform, Text(core::SOUND_FOLDER));
+    form.subjectText_CHECK();
+    complete_sender(form, state);
+
+    const Kind& kind = kind_of_draft(form);
+    if (!check_content(platform, form, kind.content)) return;
+    const auto recipients = check_recipients(platform, form, kind);
+    if (!recipients || !schedule_is_possible(platform, form)) return;
+
+    // No hand-over of the card manager may change the list while the user reads the box.
+    form.Timer1.set_enabled(false);
+    if (confirmed(platform, state, kind, confirmation_text(form, kind, *recipients))) {
+        frmZentSend job(platform, state, form, doors);
+        job.load();
+        job.set_caption(Text(kind.text));
+        job.MSGSendCount = recipients->count;
+        job.show_modal();
+        form.RECIPIENT_COUNT_CAPTION();
+        platform.desktop.set_pointer(platform::Pointer::normal);
+    }
+    form.Timer1.set_enabled(true);
+}
+
+}  // namespace send

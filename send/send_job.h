@@ -1,0 +1,59 @@
+#pragma once
+
+#include "gateway/gateway.h"
+#include "platform/text/calendar.h"
+#include "platform/text/text.h"
+#include "send/kinds.h"
+
+#include <cstddef>
+
+namespace send {
+
+/// How long a job waits within each submit, in milliseconds: the service's pacing, not ours to shorten.
+struct Pauses {
+    int after_success;
+    int before_unbind;
+};
+
+/// What a run of a job routine knows beside the rows.
+struct SendJob {
+    /// Null for a text that is no kind: nothing is submitted then and every row fails.
+    const Kind* kind;
+    Pauses pauses;
+    platform::LocalTime started;
+
+    /// The registration in the making; each routine fills in what its submits differ in.
+    gateway::UmsMessage message;
+    /// As the user wrote it; a batch of many goes under it and a number.
+    platform::Text subject;
+
+    bool account_checked = false;
+    int batch_sequence = 0;
+    /// Pieces cut from the text so far.
+    int pieces = 0;
+
+    // In recipients.
+    int success = 0;
+    int failure = 0;
+};
+
+/// Recipients gathered for one submit.
+struct Batch {
+    platform::Text s_dest_addr;
+    /// Length of the address text in cp949. Kept, since measuring the whole text anew for each row would make
+    /// a long list slow.
+    std::size_t bytes = 0;
+    int count = 0;
+    /// Where in the list it begins, counted from 0.
+    std::size_t first_row = 0;
+};
+
+/// The carrier cannot be reached or the account cannot be used: the job ends without a report.
+struct SessionRefused {};
+
+/// Stands in a row for which no call was made.
+inline constexpr platform::TextView NOT_REGISTERED = u"등록실패";
+/// Stands in a row whose name the text asks for in vain.
+inline constexpr platform::TextView NAME_MISSING = u"등록실패(이름없음)";
+
+}  // namespace send

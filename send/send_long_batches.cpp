@@ -1,0 +1,48 @@
+// SEND_LONG_BATCHES: a text too long for one message, a pass over the rows for each piece.
+
+#include "core/common.h"
+#include "platform/text/number.h"
+#include "send/frmZentSend.h"
+#include "send/percent.h"
+
+namespace send {
+
+using platform::Text;
+
+namespace {
+
+/// To the nearest, halves to even, so a text with a rest below half a message counts as one piece fewer than
+/// it has.
+std::size_t expected_pieces(const Text& text) {
+    const double messages = static_cast<double>(core::BYTE_LEN(text)) / compose::TEXT_LIMIT;
+    return static_cast<std::size_t>(platform::round_half_even(messages));
+}
+
+}  // namespace
+
+void frmZentSend::SEND_LONG_BATCHES() {
+    constexpr Pauses PAUSES{.after_success = 500, .before_unbind = 500};
+    run_job(Text(TEXT_KIND), PAUSES, [this](SendJob& job) {
+        begin_pieces(job, platform::right_trim(main_form_.mText1.text()));
+        const std::size_t expected = expected_pieces(mText1.text());
+        Batch batch;
+        while (!mText1.text().empty()) {
+            next_piece(job);
+            state_.gSubmitSequence = 1;
+            job.account_checked = false;
+            job.batch_sequence = 0;
+            // Deliberately without the address text: what a stopped pass had gathered stays in it.
+            batch.count = 0;
+            batch.first_row = 0;
+
+            // Deliberately only the last piece counts and marks its rows: they must stay checked until then,
+            // or the pieces behind would reach nobody. A stop ends the pass of one piece alone.
+            const bool last = mText1.text().empty();
+            pass_over_rows(job, batch, {.leaves_trace = last, .shows_progress = false});
+            // Deliberately unchecked: above 100 it is the error that ends such a job.
+            if (!last) PBar1.set_value(percent(static_cast<std::size_t>(job.pieces), expected));
+        }
+    });
+}
+
+}  // namespace send

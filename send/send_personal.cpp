@@ -1,0 +1,67 @@
+// SEND_PERSONAL: a text with the recipient's name or title in it, one recipient a submit. Also what it shares
+// with the other routine that goes recipient by recipient.
+
+#include "core/list_columns.h"
+#include "send/frmZentSend.h"
+#include "send/percent.h"
+#include "send/recipient_text.h"
+
+namespace send {
+
+using platform::Text;
+
+void frmZentSend::SEND_PERSONAL() {
+    constexpr Pauses PAUSES{.after_success = 250, .before_unbind = 250};
+    run_job(Text(TEXT_KIND), PAUSES, [this](SendJob& job) {
+        for_each_recipient([&](std::size_t row) { send_personal_row(job, row); });
+    });
+}
+
+/// The checked rows, one after the other, until the user stops the job; here the stop is told behind the last
+/// row too.
+void frmZentSend::for_each_recipient(const std::function<void(std::size_t row)>& send_row) {
+    for (std::size_t row = 0; row < RecipientRows.row_count(); ++row) {
+        RecipientRows.make_visible(row);
+        if (RecipientRows.row(row).checked()) send_row(row);
+        if (StopRequested) {
+            tell_stopped();
+            return;
+        }
+    }
+}
+
+/// The text for this recipient; nothing when it asks for a name that is missing.
+std::optional<Text> frmZentSend::filled_in(const Text& text, const platform::ListItem& recipient) const {
+    const int title = core::FIND_COLUMN(u"직위", RecipientRows) - 1;
+    return fill_placeholders(text, recipient.sub_item(compose::RECIPIENT_NAME), recipient.sub_item(title));
+}
+
+void frmZentSend::send_personal_row(SendJob& job, std::size_t row) {
+    const platform::ListItem& recipient = RecipientRows.row(row);
+    const std::optional<Text> text = filled_in(platform::right_trim(main_form_.mText1.text()), recipient);
+    if (!text) {
+        ++job.failure;
+        write_status(row, row + 1, Text(NAME_MISSING));
+        return;
+    }
+    const std::optional<Text> address = address_of(recipient);
+    if (!address) return;
+    job.message.s_dest_addr_count = 1;
+    job.message.s_dest_addr = *address;
+
+    Text result(NOT_REGISTERED);
+    begin_pieces(job, *text);
+    while (!mText1.text().empty()) {
+        next_piece(job);
+        open_session(job);
+        PBar1.set_value(percent(row + 1, RecipientRows.row_count()));
+        result = submit(job);
+        // Deliberately the last piece alone decides: a recipient who got the end of a text is not sent all of
+        // it again.
+        if (mText1.text().empty()) count(job, result, 1);
+        close_session(job);
+    }
+    write_status(row, row + 1, result);
+}
+
+}  // namespace send

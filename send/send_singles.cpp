@@ -1,0 +1,53 @@
+// SEND_SINGLES: one recipient a submit, for all kinds; a personal text that is too long fails instead of
+// being cut.
+
+#include "core/common.h"
+#include "send/frmZentSend.h"
+#include "send/percent.h"
+#include "send/recipient_text.h"
+
+namespace send {
+
+using platform::Text;
+
+namespace {
+
+constexpr platform::TextView TEXT_TOO_LONG = u"등록실패(문자초과)";
+/// Deliberately another word than in the other routines: by it support tells which one has run.
+constexpr platform::TextView FAILED = u"실패";
+
+}  // namespace
+
+void frmZentSend::SEND_SINGLES(const Text& kind) {
+    constexpr Pauses PAUSES{.after_success = 500, .before_unbind = 500};
+    run_job(kind, PAUSES, [this](SendJob& job) {
+        for_each_recipient([&](std::size_t row) { send_single_row(job, row); });
+    });
+}
+
+void frmZentSend::send_single_row(SendJob& job, std::size_t row) {
+    const auto fail = [&](platform::TextView status) {
+        ++job.failure;
+        write_status(row, row + 1, Text(status));
+    };
+    const platform::ListItem& recipient = RecipientRows.row(row);
+    if (is_personal()) {
+        const std::optional<Text> text = filled_in(main_form_.mText1.text(), recipient);
+        if (!text) return fail(NAME_MISSING);
+        if (core::BYTE_LEN(*text) > compose::TEXT_LIMIT) return fail(TEXT_TOO_LONG);
+        job.message.s_sms_content = *text;
+    }
+    const std::optional<Text> address = address_of(recipient);
+    if (!address) return;
+    job.message.s_dest_addr_count = 1;
+    job.message.s_dest_addr = *address;
+
+    open_session(job);
+    PBar1.set_value(percent(row + 1, RecipientRows.row_count()));
+    const Text result = submit(job, FAILED);
+    count(job, result, 1);
+    close_session(job);
+    write_status(row, row + 1, result);
+}
+
+}  // namespace send
