@@ -13,7 +13,23 @@
 #include <QMenu>
 #include <QScreen>
 
+/// The pictures lie in a static library, from which the linker takes only what is asked for.
+static void load_pictures() { Q_INIT_RESOURCE(resource); }
+
 namespace platform::qt {
+
+namespace {
+
+/// Desktops differ in whether they give the window before a closed one the focus again.
+void give_back_focus(QWidget* window) {
+    if (window != nullptr && QApplication::activeWindow() == nullptr) window->activateWindow();
+}
+
+}  // namespace
+
+QtDesktop::QtDesktop(const Screens& screens, Files& files) : screens_(screens), files_(files) {
+    load_pictures();
+}
 
 QtDesktop::~QtDesktop() {
     for (const auto& [form, window] : windows_) {
@@ -43,7 +59,7 @@ void QtDesktop::show_modal(Form& form) {
     const QPointer<QWidget> front = front_window();
     window->show_in_front_of(front);
     wait_for_close(form);
-    if (front != nullptr) front->activateWindow();
+    give_back_focus(front);
 }
 
 void QtDesktop::close(Form& form) {
@@ -63,7 +79,10 @@ void QtDesktop::popup_menu(Form& form, Menu& menu) {
 
 BoxAnswer QtDesktop::message_box(const MessageBox& box) {
     commit_composition();
-    return ask(box, title_, front_window());
+    const QPointer<QWidget> front = front_window();
+    const BoxAnswer answer = ask(box, title_, front);
+    give_back_focus(front);
+    return answer;
 }
 
 /// The hourglass is a state, not a count: nobody has to give back each one that was set.

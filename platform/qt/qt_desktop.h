@@ -16,7 +16,7 @@ class FormWindow;
 class QtDesktop : public Desktop {
   public:
     /// Both have to outlive the desktop.
-    QtDesktop(const Screens& screens, Files& files) : screens_(screens), files_(files) {}
+    QtDesktop(const Screens& screens, Files& files);
     ~QtDesktop() override;
 
     /// Runs the program until the form is closed.

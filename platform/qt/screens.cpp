@@ -1,5 +1,13 @@
 #include "platform/qt/screens.h"
 
+#include "ui_frmAbout.h"
+#include "ui_frmAutoLogin.h"
+#include "ui_frmSBox.h"
+#include "ui_frmSendEndBox.h"
+#include "ui_frmZent.h"
+#include "ui_frmZentLogin.h"
+#include "ui_frmZentSend.h"
+
 #include <stdexcept>
 
 namespace platform::qt {
@@ -12,6 +20,13 @@ std::unique_ptr<QWidget> Screens::build(const Text& form) const {
 
 Screens program_screens() {
     Screens screens;
+    screens.add<Ui::frmZent, QMainWindow>(u"frmZent");
+    screens.add<Ui::frmZentLogin, QDialog>(u"frmZentLogin");
+    screens.add<Ui::frmAutoLogin, QDialog>(u"frmAutoLogin");
+    screens.add<Ui::frmAbout, QDialog>(u"frmAbout");
+    screens.add<Ui::frmSBox, QDialog>(u"frmSBox");
+    screens.add<Ui::frmZentSend, QDialog>(u"frmZentSend");
+    screens.add<Ui::frmSendEndBox, QDialog>(u"frmSendEndBox");
     return screens;
 }
 
