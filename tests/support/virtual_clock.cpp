@@ -12,11 +12,14 @@ struct VirtualClock::Entry {
     int interval;
     long long due;
     std::function<void()> tick;
+    /// An entry outlives its ticker when that ends in the entry's own tick.
+    bool running = true;
 };
 
 class VirtualClock::VirtualTicker : public platform::Ticker {
   public:
     explicit VirtualTicker(std::shared_ptr<Entry> entry) : entry_(std::move(entry)) {}
+    ~VirtualTicker() override { entry_->running = false; }
 
   private:
     std::shared_ptr<Entry> entry_;
@@ -58,7 +61,7 @@ std::shared_ptr<VirtualClock::Entry> VirtualClock::next_due() const {
     std::shared_ptr<Entry> next;
     for (const auto& weak : entries_) {
         const auto entry = weak.lock();
-        if (entry && (!next || entry->due < next->due)) next = entry;
+        if (entry && entry->running && (!next || entry->due < next->due)) next = entry;
     }
     return next;
 }
