@@ -1,0 +1,318 @@
+#include "core/deployment.h"
+#include "core/entry_routine.h"
+#include "platform/error.h"
+#include "tests/support/main_window.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace platform;
+using tests::utf8;
+using Forms = std::vector<Text>;
+
+struct Entry : testing::Test, TestPlatform {
+    bool enter() {
+        return core::entry_routine(platform, state, [this] {
+            shown_with_folders = files.folders;
+            ++shown;
+        });
+    }
+    int shown = 0;
+    std::set<Text> shown_with_folders;
+};
+
+TEST_F(Entry, TheFirstInstancePreparesFoldersAndStateAndThenShowsTheMainWindow) {
+    files.files[app_ini] = "[SET]\r\nZentUserNickName=Hong\r\nZENTUserPhoneID=0212345678\r\n";
+    state.gLoginAccepted = 1;
+    state.gServiceState = 0;
+    EXPECT_TRUE(enter());
+    EXPECT_EQ(shown, 1);
+    EXPECT_EQ(shown_with_folders,
+              (std::set<Text>{u"c:\\temp", u"z:\\app\\내모음함", u"z:\\app\\내모음함\\내모음함"}));
+    EXPECT_EQ(utf8(desktop.title), "Cardvale 폰디라 통합메시징 서비스");
+    EXPECT_EQ(utf8(state.gPartnerPath), "kelmora");
+    EXPECT_EQ(utf8(state.gPartnerCode), "07190533");
+    EXPECT_EQ(utf8(state.gPartnerSubCode), "026");
+    EXPECT_EQ(utf8(state.gServiceNumber), "03030xxxxxxx");
+    EXPECT_EQ(utf8(state.gInfoServiceNumber), "03030xxxxxxx");
+    EXPECT_EQ(state.gServiceState, 3);
+    EXPECT_EQ(state.gLoginAccepted, 0);
+    EXPECT_EQ(utf8(state.gSavedSenderName), "Hong");
+    EXPECT_EQ(utf8(state.gSavedCallback), "0212345678");
+}
+
+TEST_F(Entry, ASecondInstanceEndsWithoutATrace) {
+    shell.another_instance = true;
+    EXPECT_FALSE(enter());
+    EXPECT_EQ(shown, 0);
+    EXPECT_TRUE(files.folders.empty());
+    EXPECT_TRUE(files.files.empty());
+    EXPECT_TRUE(desktop.boxes.empty());
+}
+
+TEST_F(Entry, AReadOnlyDiskDoesNotKeepTheWindowFromShowing) {
+    files.failure = ErrorNumber::path_access;
+    EXPECT_TRUE(enter());
+    EXPECT_EQ(shown, 1);
+}
+
+struct MainWindowLife : testing::Test, tests::MainWindow {
+    /// Shows the window and lets the first tick come; a manual login is cancelled.
+    void first_tick() {
+        form.show();
+        clock.run_for(1);
+    }
+    void cancel_login() {
+        in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });
+    }
+    void TearDown() override { form.unload(); }
+};
+
+using Placement_ = platform::Placement;
+
+TEST(MainWindowPlacement, IsRestoredWithinTheScreenOrTheDefaultSizeIsCentred) {
+    constexpr Placement_ DEFAULT{.left = 8400, .top = 3600, .width = 12000, .height = 9000};
+    const struct {
+        const char* settings;
+        Placement_ placement;
+        WindowState state = WindowState::normal;
+    } rows[] = {
+        {"", DEFAULT},
+        {"M_MAX=0\r\n", DEFAULT},
+        {"M_LEFT=1\r\nM_TOP=2\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n", DEFAULT},
+        {"M_MAX=0\r\nM_LEFT=1\r\nM_TOP=2\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n", {1, 2, 13000, 8000}},
+        {"M_MAX=1\r\nM_LEFT=1\r\nM_TOP=2\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n", {1, 2, 13000, 8000}},
+        {"M_MAX=0\r\nM_LEFT=-1\r\nM_TOP=-2\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n", {0, 0, 13000, 8000}},
+        {"M_MAX=0\r\nM_LEFT=99999\r\nM_TOP=99999\r\nM_WIDTH=99999\r\nM_HEIGHT=99999\r\n",
+         {27800, 15600, 28800, 16200}},
+        {"M_MAX=0\r\nM_LEFT=99999999999999999999\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n",
+         {27800, 0, 13000, 8000}},
+        {"M_MAX=0\r\nM_LEFT=5\r\n", DEFAULT},  // no size is a window that nobody sees
+        {"M_MAX=0\r\nM_LEFT=5\r\nM_WIDTH=-3\r\nM_HEIGHT=8000\r\n", DEFAULT},
+        {"M_MAX=2\r\nM_LEFT=1\r\nM_TOP=2\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n", DEFAULT,
+         WindowState::maximised},
+        {"M_MAX=Max\r\nM_WIDTH=13000\r\n", DEFAULT, WindowState::maximised},
+        {"M_MAX=2\r\n", DEFAULT},  // never placed: not maximised either
+    };
+    for (const auto& row : rows) {
+        tests::MainWindow window;
+        window.files.files[window.app_ini] = std::string("[WINDOW SIZE]\r\n") + row.settings;
+        window.form.load();
+        EXPECT_EQ(window.form.placement(), row.placement) << row.settings;
+        EXPECT_EQ(window.form.window_state(), row.state) << row.settings;
+    }
+}
+
+TEST_F(MainWindowLife, LoadingFillsTheControlsFromTheClock) {
+    desktop.screen_size.twips_per_pixel_x = 16;
+    clock.set(make_time(2026, 12, 31, 23, 5, 59));
+    form.load();
+    EXPECT_EQ(state.gMinTrackX, 698) << "697.5 pixels";
+    EXPECT_EQ(state.gMinTrackY, 493);
+    EXPECT_EQ(utf8(form.caption()), "Cardvale 폰디라 통합메시징 서비스");
+    EXPECT_EQ(utf8(form.STBar1.panel(4).text), "버전:" + utf8(core::deployment::version()));
+    EXPECT_EQ(form.DTP1.value(), make_time(2026, 12, 31));
+    EXPECT_EQ(utf8(form.Combo1.text()), "23");
+    EXPECT_EQ(utf8(form.Combo2.text()), "05");
+    EXPECT_EQ(form.Combo1.rows().size(), 24u);
+    EXPECT_EQ(form.Combo2.rows().size(), 60u);
+    EXPECT_EQ(utf8(form.Combo3.text()), "선택해주세요.");
+    EXPECT_EQ(utf8(form.Combo4.text()), "1");
+    EXPECT_EQ(form.Combo4.rows().size(), 5u);
+    EXPECT_EQ(utf8(form.Label4.caption()), "전체>0>대상>0");
+    EXPECT_TRUE(form.Option1.chosen());
+    EXPECT_FALSE(form.Picture1.border());
+    EXPECT_TRUE(desktop.clipboard.empty()) << "filling a list inserts nothing";
+}
+
+TEST(MainWindowLoad, TheAutoLoginMarkIsOnForOneAndForNothingElse) {
+    for (const char16_t* value : {u"1", u"0", u"", u"1abc", u"1.0", u"2", u"on"}) {
+        tests::MainWindow window;
+        window.save_setting(u"LOGIN", u"AUTOLOGIN", value);
+        window.form.load();
+        EXPECT_EQ(window.form.mnuAutoLogin.checked(), Text(value) == u"1") << utf8(value);
+        EXPECT_EQ(utf8(window.form.mnuAutoLogin.tag()), Text(value) == u"1" ? "1" : "0");
+    }
+}
+
+TEST(FirstTick, LogsInByItselfOnlyWithAutoLoginOnAndBothIdAndPasswordSaved) {
+    const struct {
+        const char16_t *auto_login, *user_id, *password;
+        const char16_t* form;
+    } rows[] = {
+        {u"1", u"hong", u"secret", u"frmAutoLogin"}, {u"1abc", u"hong", u"secret", u"frmAutoLogin"},
+        {u"0", u"hong", u"secret", u"frmZentLogin"}, {u"2", u"hong", u"secret", u"frmZentLogin"},
+        {u"", u"hong", u"secret", u"frmZentLogin"},  {u"1", u"", u"secret", u"frmZentLogin"},
+        {u"1", u"hong", u"", u"frmZentLogin"},
+    };
+    for (const auto& row : rows) {
+        tests::MainWindow window;
+        window.save_setting(u"LOGIN", u"AUTOLOGIN", row.auto_login);
+        window.save_login(u"LOGINID", row.user_id);
+        window.save_login(u"LOGINPW", row.password);
+        if (Text(row.form) == u"frmZentLogin") {
+            window.in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });
+        }
+        window.form.show();
+        window.clock.run_for(1);
+        EXPECT_EQ(window.desktop.forms, (Forms{u"frmZent", row.form}));
+        EXPECT_EQ(bool(window.state.gLoggedIn), Text(row.form) == u"frmAutoLogin");
+    }
+}
+
+TEST_F(MainWindowLife, TheFirstTickComesOnceAndPollsAfterwards) {
+    cancel_login();
+    int hand_overs = 0;
+    hand_over = [&] {
+        EXPECT_TRUE(++hand_overs > 1 || !form.Toolbar1.button(2).pressed) << "before a kind is chosen";
+    };
+    first_tick();
+    form.window_activated();
+    clock.run_for(499);
+    EXPECT_EQ(hand_overs, 1);
+    EXPECT_TRUE(form.Toolbar1.button(2).pressed);
+    clock.run_for(1);
+    EXPECT_EQ(hand_overs, 2);
+    EXPECT_EQ(desktop.forms, (Forms{u"frmZent", u"frmZentLogin"}));
+}
+
+TEST_F(MainWindowLife, TheFirstTickLeavesTheLoginToAHandOverThatBringsItsOwn) {
+    hand_over = [&] { form.Timer2.set_tag(u"OK"); };
+    first_tick();
+    EXPECT_EQ(desktop.forms, Forms{u"frmZent"});
+    EXPECT_TRUE(form.Timer1.enabled());
+}
+
+TEST_F(MainWindowLife, TheFirstTickAsksNobodyWhoIsLoggedInAlready) {
+    hand_over = [&] { state.gLoggedIn = true; };
+    first_tick();
+    EXPECT_EQ(desktop.forms, Forms{u"frmZent"});
+}
+
+TEST_F(MainWindowLife, AnErrorInTheFirstTickIsShownAndPollingStartsAllTheSame) {
+    hand_over = [&] {
+        hand_over = [] {};
+        throw RuntimeError(ErrorNumber::permission_denied);
+    };
+    desktop.expect_box(u"오류번호:70\r\n\r\n사용 권한이 없습니다.");
+    first_tick();
+    EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::exclamation);
+    EXPECT_FALSE(form.Timer2.enabled());
+    EXPECT_TRUE(form.Timer1.enabled());
+}
+
+TEST_F(MainWindowLife, TheCheckForUpdatesAtTheStartStaysAwayWhateverTheMenuShows) {
+    save_setting(u"SET", u"STARTUPDATECHECK", u"1");
+    cancel_login();
+    form.mnuStartUpdate.set_checked(true);
+    first_tick();
+    EXPECT_TRUE(opened.empty());
+}
+
+TEST_F(MainWindowLife, ItStopsByItsMenuItsButtonAndItsFrame) {
+    for (int way = 0; way < 3; ++way) {
+        tests::MainWindow window;
+        window.form.load();
+        if (way == 0) window.form.mmuEnd.Click.raise();
+        if (way == 1) window.form.Command2.Click.raise();
+        if (way == 2) window.form.close_requested();
+        EXPECT_FALSE(window.form.loaded()) << way;
+        EXPECT_TRUE(window.carrier.calls.empty()) << "nothing is bound, so nothing is told to the carrier";
+    }
+}
+
+TEST(Stop, AutoLoginOffBlanksThePasswordAndKeepsTheId) {
+    for (const bool auto_login : {true, false}) {
+        tests::MainWindow window;
+        window.save_login(u"LOGINID", u"hong");
+        window.save_login(u"LOGINPW", u"secret");
+        window.form.load();
+        window.form.mnuAutoLogin.set_checked(auto_login);
+        window.form.mnuStartUpdate.set_checked(!auto_login);
+        window.form.unload();
+        EXPECT_EQ(window.saved_login(u"LOGINID"), "hong");
+        EXPECT_EQ(window.saved_login(u"LOGINPW"), auto_login ? "secret" : "");
+        EXPECT_EQ(window.setting(u"LOGIN", u"AUTOLOGIN"), auto_login ? "1" : "0");
+        EXPECT_EQ(window.setting(u"SET", u"STARTUPDATECHECK"), auto_login ? "0" : "1");
+    }
+}
+
+TEST(Stop, SenderAndReplyNumberAreSavedWhenTheyDifferFromWhatWasRead) {
+    const struct {
+        const char16_t *field, *read;
+        const char* saved;
+    } rows[] = {
+        {u" 홍길동 ", u"", "홍길동"},
+        {u"홍길동", u"이순신", "홍길동"},
+        {u"", u"이순신", ""},
+        {u" 이순신", u"이순신 ", "untouched"},
+    };
+    for (const auto& row : rows) {
+        tests::MainWindow window;
+        window.form.load();
+        for (const char16_t* key : {u"ZentUserNickName", u"ZentUserPhoneID"})
+            window.save_setting(u"SET", key, u"untouched");
+        window.state.gSavedSenderName = window.state.gSavedCallback = row.read;
+        window.form.txtUserName.set_text(row.field);
+        window.form.txtCallback.set_text(row.field);
+        window.form.unload();
+        EXPECT_EQ(window.setting(u"SET", u"ZentUserNickName"), row.saved);
+        EXPECT_EQ(window.setting(u"SET", u"ZentUserPhoneID"), row.saved);
+    }
+}
+
+TEST(Stop, APlaceIsSavedWithANormalWindowAndOnlyTheStateWithAnother) {
+    const struct {
+        WindowState state;
+        const char *max, *left, *top, *width, *height;
+    } rows[] = {
+        {WindowState::normal, "0", "-30", "45", "12345", "9876"},
+        {WindowState::minimised, "1", "10", "20", "13000", "8000"},
+        {WindowState::maximised, "2", "10", "20", "13000", "8000"},
+    };
+    for (const auto& row : rows) {
+        tests::MainWindow window;
+        window.files.files[window.app_ini] =
+            "[WINDOW SIZE]\r\nM_MAX=0\r\nM_LEFT=10\r\nM_TOP=20\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n";
+        window.form.load();
+        window.form.window_placed({.left = -30, .top = 45, .width = 12345, .height = 9876}, row.state);
+        window.form.unload();
+        EXPECT_EQ(window.setting(u"WINDOW SIZE", u"M_MAX"), row.max);
+        EXPECT_EQ(window.setting(u"WINDOW SIZE", u"M_LEFT"), row.left);
+        EXPECT_EQ(window.setting(u"WINDOW SIZE", u"M_TOP"), row.top);
+        EXPECT_EQ(window.setting(u"WINDOW SIZE", u"M_WIDTH"), row.width);
+        EXPECT_EQ(window.setting(u"WINDOW SIZE", u"M_HEIGHT"), row.height);
+    }
+}
+
+TEST_F(MainWindowLife, StoppingClearsAwayTheFilesOfTheSessionAndNothingElse) {
+    for (const char16_t* name : {u"temp\\isend.text", u"temp\\tmpman.txt", u"temp\\other.txt",
+                                 u"update_temp\\setup\\a.exe", u"내모음함\\a.txt"}) {
+        files.files[u"z:\\app\\" + Text(name)] = "x";
+    }
+    files.folders = {u"z:\\app\\update_temp", u"z:\\app\\update_temp\\setup", u"z:\\app\\temp"};
+    form.load();
+    form.unload();
+    files.files.erase(app_ini);
+    files.files.erase(login_ini);
+    EXPECT_EQ(files.files, (std::map<Text, std::string>{{u"z:\\app\\temp\\other.txt", "x"},
+                                                        {u"z:\\app\\내모음함\\a.txt", "x"}}));
+    EXPECT_FALSE(files.folders.contains(u"z:\\app\\update_temp"));
+}
+
+TEST_F(MainWindowLife, AReadOnlyDiskLosesPreferencesSilently) {
+    files.files[u"z:\\app\\temp\\isend.text"] = "x";
+    files.folders = {u"z:\\app\\update_temp"};
+    files.failure = ErrorNumber::permission_denied;
+    log_in(u"hong", u"secret");
+    first_tick();
+    EXPECT_TRUE(state.gLoggedIn);
+    form.unload();
+    EXPECT_FALSE(form.loaded());
+    EXPECT_TRUE(desktop.boxes.empty());
+}
+
+}  // namespace

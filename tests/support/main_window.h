@@ -1,0 +1,97 @@
+#pragma once
+
+#include "compose/main_form.h"
+#include "core/ini_file.h"
+#include "gateway/frmZentLogin.h"
+#include "tests/support/test_platform.h"
+#include "tests/support/utf8.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tests {
+
+/// The main window on a machine of doubles. Its doors write down that they were gone through.
+struct MainWindow : TestPlatform {
+    /// The doors gone through, in order.
+    std::vector<std::string> opened;
+    std::function<void()> pick_recipients = [] {};
+    std::function<void()> hand_over = [] {};
+
+    compose::frmZent form{platform, state, service_doors(), main_doors()};
+
+    /// The window as it stands before the first tick, with a kind chosen and a sender's name.
+    void compose_as(platform::TextView sender, int kind = compose::TEXT_MESSAGE) {
+        form.load();
+        form.txtUserName.set_text(platform::Text(sender));
+        form.TabStrip1.select(kind);
+    }
+
+    /// What the user does in the manual login the next time that it opens.
+    void in_login(const std::function<void(gateway::frmZentLogin&)>& act) {
+        desktop.in_form<gateway::frmZentLogin>(u"frmZentLogin", act);
+    }
+    void log_in(const platform::Text& user_id, const platform::Text& password) {
+        in_login([=](gateway::frmZentLogin& login) {
+            login.Text1.set_text(user_id);
+            login.Text2.set_text(password);
+            login.Command1.Click.raise();
+        });
+    }
+
+    std::string setting(platform::TextView section, platform::TextView key) const {
+        return utf8(core::INI_READ(platform, app_ini, section, key));
+    }
+    std::string saved_login(platform::TextView key) const {
+        return utf8(core::INI_READ(platform, login_ini, u"LOGIN", key));
+    }
+    void save_setting(platform::TextView section, platform::TextView key, platform::TextView value) {
+        core::INI_WRITE(platform, app_ini, section, key, value);
+    }
+    void save_login(platform::TextView key, platform::TextView value) {
+        core::INI_WRITE(platform, login_ini, u"LOGIN", key, value);
+    }
+
+  private:
+    gateway::ServiceDoors service_doors() {
+        return {.sign_up = write("sign_up"),
+                .new_member = write("new_member"),
+                .find_id_or_password = write("find_id_or_password"),
+                .service_guide = write("service_guide"),
+                .home_page = write("home_page"),
+                .KTSMS_LINK = [this](int index) { opened.push_back("KTSMS_LINK " + std::to_string(index)); }};
+    }
+    compose::MainDoors main_doors() {
+        return {.send = write("send"),
+                .pick_recipients = [this] { pick_recipients(); },
+                .NEW_SENDMAN_LOAD = [this] { hand_over(); },
+                .message_box = write("message_box"),
+                .update_check = write("update_check"),
+                .SaveWave = {}};
+    }
+    std::function<void()> write(const char* door) {
+        return [this, door] { opened.emplace_back(door); };
+    }
+};
+
+/// A key as the user presses it in a text box: the key press, and unless that swallowed it, its character in
+/// place of the selection.
+inline void press(platform::TextBox& box, char16_t key) {
+    platform::KeyPressed pressed{key};
+    box.KeyPress.raise(pressed);
+    if (pressed.swallowed()) return;
+    platform::Text text = box.text();
+    std::size_t caret = box.selection_start();
+    if (key == platform::KEY_BACKSPACE && box.selection_length() == 0) {
+        if (caret == 0) return;
+        text.erase(--caret, 1);
+    } else if (key == platform::KEY_BACKSPACE) {
+        text.erase(caret, box.selection_length());
+    } else {
+        text.replace(caret++, box.selection_length(), 1, key);
+    }
+    box.user_edit(text, caret);
+}
+
+}  // namespace tests
