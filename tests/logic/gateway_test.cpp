@@ -1,0 +1,282 @@
+#include "gateway/gateway.h"
+
+#include "gateway/result_text.h"
+#include "tests/support/test_platform.h"
+#include "tests/support/utf8.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace gateway;
+using platform::CarrierCallback;
+using platform::Text;
+using tests::utf8;
+using Texts = std::vector<std::string>;
+
+/// A library that writes down its arguments and scribbles into the texts that it gets, as it may.
+struct ScribblingCarrier : RecordingCarrier {
+    Texts arguments;
+    std::vector<std::int32_t> constants;
+    CarrierCallback notify = nullptr, notify_last = nullptr;
+    platform::Pointer pointer_meanwhile = platform::Pointer::normal;
+    const ScriptedDesktop* desktop = nullptr;
+
+    void note(std::initializer_list<std::string*> texts) {
+        pointer_meanwhile = desktop->pointer;
+        for (std::string* text : texts) {
+            arguments.push_back(*text);
+            if (!text->empty()) text->front() = '#';
+        }
+    }
+
+    std::int32_t fn_x_bind(std::int32_t one, std::string& user_id, std::string& password, std::string& domain,
+                           std::int32_t five, CarrierCallback six, std::int32_t seven,
+                           CarrierCallback eight) override {
+        note({&user_id, &password, &domain});
+        constants = {one, five, seven};
+        notify = six;
+        notify_last = eight;
+        return RecordingCarrier::fn_x_bind(one, user_id, password, domain, five, six, seven, eight);
+    }
+    std::int32_t fn_x_unbind(std::string& user_id, std::string& password) override {
+        note({&user_id, &password});
+        return RecordingCarrier::fn_x_unbind(user_id, password);
+    }
+    std::int32_t fn_x_money_status(std::string& user_id, std::string& domain, std::string& number,
+                                   std::string& address, MoneyStatus& status) override {
+        note({&user_id, &domain, &number, &address});
+        status.field1 = 11;
+        status.field4 = 44;
+        status.field5 = 55;
+        return RecordingCarrier::fn_x_money_status(user_id, domain, number, address, status);
+    }
+    std::int32_t fn_x_user_info(std::string& user_id, std::string& domain, std::string& number,
+                                std::string& address, std::string& info_number, std::string& info_name,
+                                std::string& info_sender, std::string& info_callback) override {
+        note({&user_id, &domain, &number, &address});
+        for (const std::string* buffer : {&info_number, &info_name, &info_sender, &info_callback})
+            arguments.push_back(*buffer);
+        return RecordingCarrier::fn_x_user_info(user_id, domain, number, address, info_number, info_name,
+                                                info_sender, info_callback);
+    }
+    std::int32_t fn_x_submit(Submit& submit) override {
+        pointer_meanwhile = desktop->pointer;
+        submit.user_id = submit.service_number = "scribble";
+        return RecordingCarrier::fn_x_submit(submit);
+    }
+};
+
+struct Wrappers : testing::Test, TestPlatform {
+    Wrappers() {
+        library.desktop = &desktop;
+        state.gLoginUserId = u"홍hong";
+        state.gLoginPassword = u"secret";
+        state.gServiceDomain = u"pondira.example";
+        state.gServiceNumber = u"03030xxxxxxx";
+        state.gClientAddress = u"127.0.0.1";
+    }
+
+    ScribblingCarrier library;
+    platform::Platform machine{.desktop = desktop,
+                               .clock = clock,
+                               .files = files,
+                               .settings = settings,
+                               .shell = shell,
+                               .carrier = library};
+    Gateway carrier_gateway{machine, state};
+
+    struct Wrapper {
+        std::string operation;
+        std::function<bool()> call;
+    };
+    std::vector<Wrapper> wrappers() {
+        return {{"bind", [this] { return carrier_gateway.GATEWAY_BIND(0); }},
+                {"unbind", [this] { return carrier_gateway.GATEWAY_UNBIND(); }},
+                {"money_status", [this] { return carrier_gateway.GATEWAY_MONEY_STATUS(); }},
+                {"user_info", [this] { return carrier_gateway.GATEWAY_USER_INFO(); }}};
+    }
+};
+
+TEST_F(Wrappers, HandOverTheSessionInCp949AndTakeBackWhatTheLibraryLeft) {
+    EXPECT_TRUE(carrier_gateway.GATEWAY_BIND(0));
+    EXPECT_EQ(library.arguments, (Texts{"\xC8\xAB"
+                                        "hong",
+                                        "secret", "pondira.example"}));
+    EXPECT_EQ(library.constants, (std::vector<std::int32_t>{1, 1, 0}));
+    EXPECT_EQ(utf8(state.gLoginPassword), "#ecret") << "inputs are rewritten too";
+    EXPECT_EQ(utf8(state.gServiceDomain), "#ondira.example");
+
+    library.arguments.clear();
+    state.gLoginUserId = u"hong";
+    EXPECT_TRUE(carrier_gateway.GATEWAY_UNBIND());
+    EXPECT_EQ(library.arguments, (Texts{"hong", "#ecret"}));
+    EXPECT_EQ(utf8(state.gLoginUserId), "#ong");
+
+    library.arguments.clear();
+    library.service_type = 24;
+    library.service_state = 1;
+    EXPECT_TRUE(carrier_gateway.GATEWAY_MONEY_STATUS());
+    EXPECT_EQ(library.arguments, (Texts{"#ong", "#ondira.example", "03030xxxxxxx", "127.0.0.1"}));
+    EXPECT_EQ(utf8(state.gServiceNumber), "#3030xxxxxxx");
+    EXPECT_EQ(utf8(state.gClientAddress), "#27.0.0.1");
+    EXPECT_EQ(state.gServiceType, 24);
+    EXPECT_EQ(state.gServiceState, 1);
+    EXPECT_EQ(state.gMoneyField1, 11);
+    EXPECT_EQ(state.gMoneyField4, 44);
+    EXPECT_EQ(state.gMoneyField5, 55);
+}
+
+TEST_F(Wrappers, TheModeOfABindChoosesTheFirstCallbackAndEveryCallbackAnswersOne) {
+    using Int = std::int32_t;
+    carrier_gateway.GATEWAY_BIND(0);
+    const CarrierCallback six = library.notify;
+    EXPECT_EQ(reinterpret_cast<Int (*)(Int, Int, Int, Int, Int, Int)>(six)(1, 2, 3, 4, 5, 6), 1);
+    carrier_gateway.GATEWAY_BIND(2);
+    EXPECT_EQ(library.notify, six) << "only 1 is the other mode";
+    carrier_gateway.GATEWAY_BIND(1);
+    EXPECT_NE(library.notify, six);
+    EXPECT_EQ(reinterpret_cast<Int (*)(Int, Int, Int, Int, Int, Int, Int, Int)>(library.notify)(1, 2, 3, 4, 5,
+                                                                                                6, 7, 8),
+              1);
+    EXPECT_EQ(reinterpret_cast<Int (*)(Int, Int, Int, Int, Int, Int, Int, Int, Int, Int, Int)>(
+                  library.notify_last)(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11),
+              1);
+}
+
+TEST_F(Wrappers, TheProfileComesBackInPaddedBuffersOfTheirLengths) {
+    library.info_user_name = "\xC8\xAB\xB1\xE6\xB5\xBF";
+    EXPECT_TRUE(carrier_gateway.GATEWAY_USER_INFO());
+    EXPECT_EQ(library.arguments, (Texts{"\xC8\xAB"
+                                        "hong",
+                                        "pondira.example", "03030xxxxxxx", "127.0.0.1", std::string(20, ' '),
+                                        std::string(40, ' '), std::string(40, ' '), std::string(20, ' ')}));
+    EXPECT_EQ(utf8(state.gInfoUserName), "홍길동" + std::string(1, '\0') + std::string(33, ' '));
+    EXPECT_EQ(state.gInfoServiceNumber.size(), 20u);
+    EXPECT_EQ(utf8(state.gInfoServiceNumber.substr(0, 12)), "030312345678");
+}
+
+TEST_F(Wrappers, ALibraryThatWritesNothingLeavesBlanks) {
+    for (const bool missing : {false, true}) {
+        state.gInfoServiceNumber = state.gInfoUserName = state.gInfoSenderName = state.gInfoCallback = u"old";
+        library.results[{"user_info", 1}] = 5;
+        if (missing) {
+            library.missing = {"user_info"};
+            desktop.expect_box(u"오류번호:453");
+        }
+        EXPECT_FALSE(carrier_gateway.GATEWAY_USER_INFO());
+        EXPECT_EQ(utf8(state.gInfoServiceNumber), std::string(20, ' '));
+        EXPECT_EQ(utf8(state.gInfoUserName), std::string(40, ' '));
+        EXPECT_EQ(utf8(state.gInfoSenderName), std::string(40, ' '));
+        EXPECT_EQ(utf8(state.gInfoCallback), std::string(20, ' '));
+    }
+}
+
+TEST_F(Wrappers, AreTrueForOneAndSayNothingAboutAnythingElse) {
+    for (const std::int32_t result : {1, 0, 2, -1, 153}) {
+        for (const Wrapper& wrapper : wrappers()) {
+            library.calls.clear();
+            library.results[{wrapper.operation, 1}] = result;
+            EXPECT_EQ(wrapper.call(), result == 1) << wrapper.operation << " " << result;
+            EXPECT_EQ(library.pointer_meanwhile, platform::Pointer::hourglass);
+            EXPECT_EQ(desktop.pointer, platform::Pointer::normal);
+        }
+    }
+    EXPECT_TRUE(desktop.boxes.empty());
+}
+
+TEST_F(Wrappers, AMissingExportIsShownInABoxWithThePointerRestored) {
+    for (const Wrapper& wrapper : wrappers()) {
+        library.missing = {wrapper.operation};
+        desktop.expect_box(u"오류번호:453\r\n\r\n지정한 DLL 함수를 찾을 수 없습니다.");
+        EXPECT_FALSE(wrapper.call()) << wrapper.operation;
+        EXPECT_EQ(desktop.boxes.back().icon, platform::BoxIcon::critical);
+        EXPECT_EQ(utf8(desktop.boxes.back().title), "");
+        EXPECT_EQ(desktop.pointer, platform::Pointer::normal);
+    }
+}
+
+struct Registrations : Wrappers {
+    UmsMessage message{.s_data_type = 4,
+                       .s_data_sub_type = 2,
+                       .s_subject = u"제목",
+                       .s_schedule_time = u"20261123100000",
+                       .s_callback = u"0212345678",
+                       .s_reply_flag = 3,
+                       .s_dest_addr_count = 1,
+                       .s_dest_addr = u"홍길동:01012345678;",
+                       .s_sms_content = u"본문",
+                       .s_tts_content = u"음성",
+                       .s_attach_file_count = 1,
+                       .s_attach_file = u"C:\\Temp\\문서 A.WAV;"};
+};
+
+TEST_F(Registrations, OnlyAnIndexOfOneGoesThroughTheSecondSubmit) {
+    state.gSubmitSequence = 7;
+    for (const int index : {0, 1, 2, -1}) {
+        message.SMSIndex = index;
+        EXPECT_EQ(utf8(carrier_gateway.UMS_SEND_START(message)), "등록성공");
+        const auto& arrived = library.registrations.back();
+        EXPECT_EQ(arrived.submit_2, index == 1);
+        EXPECT_EQ(arrived.s_data_type, 4);
+        EXPECT_EQ(arrived.s_data_sub_type, 2);
+        EXPECT_EQ(arrived.submit_sequence, 7);
+        EXPECT_EQ(utf8(arrived.s_subject), "제목");
+        EXPECT_EQ(utf8(arrived.s_schedule_time), "20261123100000");
+        EXPECT_EQ(utf8(arrived.s_callback), "0212345678");
+        EXPECT_EQ(arrived.s_reply_flag, 3);
+        EXPECT_EQ(arrived.s_dest_addr_count, 1);
+        EXPECT_EQ(utf8(arrived.s_dest_addr), "홍길동:01012345678;");
+        EXPECT_EQ(utf8(arrived.s_sms_content), "본문");
+        EXPECT_EQ(utf8(arrived.s_tts_content), "음성");
+        EXPECT_EQ(arrived.s_attach_file_count, 1);
+        EXPECT_EQ(utf8(arrived.s_attach_file), "c:\\temp\\문서 a.wav;");
+    }
+    EXPECT_EQ(utf8(library.registrations[1].user_id), "홍hong");
+    EXPECT_EQ(utf8(library.registrations[1].service_domain), "pondira.example");
+    EXPECT_EQ(utf8(library.registrations[1].client_address), "127.0.0.1");
+    EXPECT_EQ(utf8(state.gLoginUserId), "홍hong") << "a submit works on copies";
+    EXPECT_EQ(utf8(state.gServiceNumber), "03030xxxxxxx");
+    EXPECT_EQ(library.pointer_meanwhile, platform::Pointer::hourglass);
+    EXPECT_EQ(desktop.pointer, platform::Pointer::normal);
+}
+
+TEST_F(Registrations, ARefusalIsATextAndAnErrorIsOneTooWithoutABox) {
+    library.results[{"submit", 1}] = 8;
+    EXPECT_EQ(utf8(carrier_gateway.UMS_SEND_START(message)), "등록실패X8(착신자수초과)");
+    library.missing = {"submit"};
+    EXPECT_EQ(utf8(carrier_gateway.UMS_SEND_START(message)), "등록실패-453");
+    EXPECT_EQ(desktop.pointer, platform::Pointer::normal);
+}
+
+TEST(ResultText, NamesTheCodeAndWhatItMeans) {
+    const struct {
+        std::int32_t code;
+        const char* text;
+    } rows[] = {
+        {1, "등록성공"},
+        {2, "등록실패X2(Pondira에 인증실패)"},
+        {3, "등록실패X3(폰디라 데이터 전송에러)"},
+        {4, "등록실패X4(아직 지원되지 않는 함수)"},
+        {5, "등록실패X5(Pondira 접속에러)"},
+        {6, "등록실패X6(Pondira 응답 없음)"},
+        {7, "등록실패X7(FTP/HTTP 전송에러)"},
+        {8, "등록실패X8(착신자수초과)"},
+        {9, "등록실패X9(첨부파일갯수초과)"},
+        {10, "등록실패X10(알수없는에러)"},
+        {15, "등록실패X15(알수없는에러)"},
+        {16, "등록실패X16(첨부파일없음)"},
+        {17, "등록실패X17(알수없는에러)"},
+        {152, "등록실패X152(알수없는에러)"},
+        {153, "등록실패X153(기타에러)"},
+        {0, "등록실패X0(알수없는에러)"},
+        {-1, "등록실패X-1(알수없는에러)"},
+        {-2147483647 - 1, "등록실패X-2147483648(알수없는에러)"},
+    };
+    for (const auto& row : rows) EXPECT_EQ(utf8(GATEWAY_RESULT_TEXT(row.code)), row.text);
+}
+
+}  // namespace
