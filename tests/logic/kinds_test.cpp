@@ -1,0 +1,295 @@
+#include "gateway/frmAbout.h"
+#include "tests/support/main_window.h"
+
+#include <gtest/gtest.h>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace compose;
+using platform::BoxAnswer;
+using platform::Text;
+using tests::utf8;
+using Doors = std::vector<std::string>;
+
+const std::string PLUS_TEXT = "[홍길동]\r\n\r\n\r\n\r\n☎통화를눌러확인하세요";
+
+struct Kinds : testing::Test, tests::MainWindow {
+    void SetUp() override { compose_as(u" 홍길동 "); }
+
+    int pressed_button() const {
+        int pressed = 0;
+        for (int button = 1; button <= form.Toolbar1.count(); ++button) {
+            if (form.Toolbar1.button(button).pressed) pressed = pressed * 10 + button;
+        }
+        return pressed;
+    }
+};
+
+using Bars = Kinds;
+using StartingAnew = Kinds;
+using Emoticons = Kinds;
+
+TEST_F(Kinds, EachShowsItsOwnPanelCaptionsAndControls) {
+    const struct {
+        MessageKind kind;
+        const char *name, *number;
+        std::size_t panel;
+        bool sender, reply;
+    } rows[] = {
+        {TEXT_PLUS, "문자플러스", "문자보낼번호", 1, false, true},
+        {VOICE_MESSAGE, "음성메시지", "음성보낼번호", 1, false, true},
+        {FAX_MESSAGE, "팩스메시지", "팩스보낼번호", 2, false, false},
+        {TEXT_MESSAGE, "문자메시지", "문자보낼번호", 0, true, false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        form.TabStrip2.select(3);
+        form.TabStrip1.select(row.kind);
+        EXPECT_EQ(utf8(form.caption()), std::string("Cardvale 폰디라 통합메시징 서비스[") + row.name + "]");
+        EXPECT_EQ(pressed_button(), row.kind + 1);
+        for (std::size_t panel = 0; panel < 3; ++panel)
+            EXPECT_EQ(form.Frame1[panel].visible(), panel == row.panel) << panel;
+        EXPECT_EQ(utf8(form.Label2_5.caption()), std::string(row.number) + ":");
+        EXPECT_EQ(utf8(form.ListView1.column(3).caption), row.number);
+        for (const platform::Control* control : std::initializer_list<const platform::Control*>{
+                 &form.Label2_0, &form.Label2_1, &form.txtUserName, &form.txtCallback}) {
+            EXPECT_EQ(control->visible(), row.sender) << utf8(control->name());
+        }
+        for (const platform::Control* control : std::initializer_list<const platform::Control*>{
+                 &form.Check2, &form.Combo4, &form.Label3_4, &form.Label3_5, &form.Command4}) {
+            EXPECT_EQ(control->visible(), row.reply) << utf8(control->name());
+        }
+        if (row.panel == 1) {
+            EXPECT_EQ(form.TabStrip2.selected(), 1);
+            EXPECT_EQ(form.Picture2[1].visible(), row.kind == TEXT_PLUS);
+        } else {
+            EXPECT_EQ(form.TabStrip2.selected(), 3) << "left alone";
+        }
+    }
+}
+
+TEST_F(Kinds, EnteringAKindThrowsItsOwnTextAwayAndNothingElse) {
+    const auto fill = [&] {
+        form.subjectText.set_tag(u"END");
+        form.mText1.set_text(u"본문");
+        form.mText2.set_text(u"짧은 글");
+        form.ttsText.set_text(u"음성");
+        form.TTSFileTxt.set_text(u"c:\\a.wav");
+        form.subjectText.set_text(u"제목");
+    };
+    form.ListView1.add_row(u"", {u"이름", u"0212345678"}, true);
+    const struct {
+        MessageKind kind;
+        std::string text, plus_text;
+    } rows[] = {
+        {TEXT_MESSAGE, "[홍길동]", "짧은 글"},
+        {TEXT_PLUS, "본문", PLUS_TEXT},
+        {VOICE_MESSAGE, "본문", "짧은 글"},
+        {FAX_MESSAGE, "본문", "짧은 글"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.kind);
+        fill();
+        form.subjectText.set_tag(u"");
+        form.TabStrip1.select(row.kind);
+        EXPECT_EQ(utf8(form.mText1.text()), row.text);
+        EXPECT_EQ(utf8(form.mText2.text()), row.plus_text);
+        EXPECT_EQ(utf8(form.ttsText.text()), "음성");
+        EXPECT_EQ(utf8(form.TTSFileTxt.text()), "c:\\a.wav");
+        EXPECT_EQ(utf8(form.subjectText.text()), "제목") << "what a kind writes is no subject";
+        EXPECT_EQ(utf8(form.subjectText.tag()), "") << "it follows the text again";
+        EXPECT_EQ(form.ListView1.row_count(), 1u);
+    }
+    form.TabStrip1.select(TEXT_PLUS);
+    EXPECT_EQ(utf8(form.mHLen2.caption()), "38/80Byte");
+}
+
+TEST_F(Kinds, ASubKindShowsItsPanelAlone) {
+    for (int tab = 1; tab <= 3; ++tab) {
+        form.TabStrip2.select(tab);
+        for (std::size_t panel = 0; panel < 3; ++panel)
+            EXPECT_EQ(form.TPIC[panel].visible(), panel + 1 == static_cast<std::size_t>(tab));
+    }
+}
+
+TEST_F(Kinds, TheDraftIsResetWhenNoKindIsPressedAndLeftAloneOtherwise) {
+    in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });
+    form.mText1.set_text(u"본문");
+    form.TabStrip1.select(FAX_MESSAGE);
+    form.show();
+    clock.run_for(1);
+    EXPECT_EQ(form.TabStrip1.selected(), FAX_MESSAGE);
+    EXPECT_EQ(utf8(form.mText1.text()), "본문");
+
+    tests::MainWindow fresh;
+    fresh.in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });
+    fresh.form.load();
+    fresh.form.mText1.set_text(u"본문");
+    fresh.form.mText2.set_text(u"짧은 글");
+    fresh.form.show();
+    fresh.clock.run_for(1);
+    EXPECT_EQ(fresh.form.TabStrip1.selected(), TEXT_MESSAGE);
+    EXPECT_TRUE(fresh.form.Toolbar1.button(2).pressed);
+    EXPECT_EQ(utf8(fresh.form.mText1.text()), "");
+    EXPECT_EQ(utf8(fresh.form.mText2.text()), "");
+    EXPECT_EQ(utf8(fresh.form.subjectText.text()), "");
+}
+
+TEST_F(Bars, ToolBarButtonsChooseKindsAndOpenPages) {
+    for (int button = 1; button <= 9; ++button) {
+        const int kind_before = form.TabStrip1.selected();
+        opened.clear();
+        form.Toolbar1.ButtonClick.raise(button);
+        EXPECT_EQ(form.TabStrip1.selected(), button >= 2 && button <= 5 ? button - 1 : kind_before);
+        const Doors page = button == 7   ? Doors{"KTSMS_LINK 0"}
+                           : button == 8 ? Doors{"KTSMS_LINK 3"}
+                           : button == 9 ? Doors{"KTSMS_LINK 1"}
+                                         : Doors{};
+        EXPECT_EQ(opened, page) << button;
+    }
+}
+
+TEST_F(Bars, StatusBarPanelsAnswerTheLeftButtonByTheLoginState) {
+    const auto click = [&](int panel, platform::MouseButton button) {
+        opened.clear();
+        desktop.forms.clear();
+        form.STBar1.MouseDown.raise(button);
+        form.STBar1.PanelClick.raise(panel);
+    };
+    for (int panel = 1; panel <= 4; ++panel) {
+        click(panel, platform::MouseButton::right);
+        EXPECT_TRUE(opened.empty() && desktop.forms.empty()) << panel;
+    }
+    click(2, platform::MouseButton::left);
+    click(3, platform::MouseButton::left);
+    EXPECT_TRUE(opened.empty()) << "nobody is logged in";
+
+    log_in(u"hong", u"secret");
+    click(1, platform::MouseButton::left);
+    EXPECT_EQ(desktop.forms, std::vector<Text>{u"frmZentLogin"});
+    click(2, platform::MouseButton::left);
+    EXPECT_EQ(opened, Doors{"KTSMS_LINK 2"});
+    click(3, platform::MouseButton::left);
+    EXPECT_EQ(opened, Doors{"KTSMS_LINK 3"});
+    desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::yes);
+    click(1, platform::MouseButton::left);
+    EXPECT_FALSE(state.gLoggedIn);
+
+    desktop.in_form<gateway::frmAbout>(u"frmAbout", [&](gateway::frmAbout& about) {
+        EXPECT_EQ(utf8(about.caption()), "Cardvale 폰디라 통합메시징 서비스 정보");
+        about.Label1_3.Click.raise();
+        about.escape_pressed();
+    });
+    click(4, platform::MouseButton::left);
+    EXPECT_EQ(opened, Doors{"home_page"});
+}
+
+TEST_F(Bars, MenuItemsWithoutAnActionStaySilent) {
+    for (platform::Menu* item :
+         {&form.sendmenu1_0, &form.sendmenu1_1, &form.sendmenu1_2, &form.sendmenu1_3, &form.cmdPonResult,
+          &form.cmdUserCharge, &form.mnuInBox, &form.cmdUserInfo2}) {
+        item->Click.raise();
+    }
+    EXPECT_EQ(form.TabStrip1.selected(), TEXT_MESSAGE);
+    EXPECT_TRUE(opened.empty());
+    EXPECT_TRUE(desktop.forms.empty());
+}
+
+TEST_F(Bars, ButtonsAndMenusGoThroughTheirDoors) {
+    form.Command1.Click.raise();
+    form.MyMsgBttn.Click.raise();
+    form.mnuUpDate.Click.raise();
+    form.cmdRegister.Click.raise();
+    form.cmdGoPondira.Click.raise();
+    form.TOPLogo.Click.raise();
+    EXPECT_EQ(opened,
+              (Doors{"send", "message_box", "update_check", "sign_up", "service_guide", "home_page"}));
+}
+
+TEST_F(Bars, TheCautionIsShownInTheServicesWords) {
+    desktop.expect_box(
+        u"폰디라 메시지 발송 등록 시 여러사용자의 발송부하를 방지하기위해 100건씩 나누어 등록되므로 발송이 "
+        u"지연될 수 "
+        u"있습니다.\r\n너무 많은 메시지를 보내실 경우 1,000~2,000건씩 나누어 등록하시기 바랍니다.");
+    form.Command5.Click.raise();
+    EXPECT_EQ(desktop.boxes[0].icon, platform::BoxIcon::information);
+    EXPECT_EQ(utf8(desktop.boxes[0].title), "주의사항");
+}
+
+TEST_F(StartingAnew, NoKeepsEverythingAndYesEmptiesTheDraftButNotItsKindAndSchedule) {
+    form.TabStrip1.select(TEXT_PLUS);
+    form.subjectText.set_tag(u"END");
+    form.mText1.set_text(u"본문");
+    form.mText2.set_text(u"짧은 글");
+    form.ttsText.set_text(u"음성");
+    form.TTSFileTxt.set_text(u"c:\\a.wav");
+    form.subjectText.set_text(u"제목");
+    form.ListView1.add_row(u"", {u"이름", u"0212345678"}, true);
+    form.FAX1.add_row(u"c:\\a.hwp", {});
+    form.FAXFileSize1.set_caption(u"12KB");
+    form.Option2.set_chosen(true);
+    form.RECIPIENT_COUNT_CAPTION();
+
+    desktop.expect_box(u"모든 내용을 삭제하고 새로 작성하시겠습니까?", BoxAnswer::no);
+    form.Command3.Click.raise();
+    EXPECT_EQ(desktop.boxes[0].icon, platform::BoxIcon::question);
+    EXPECT_EQ(desktop.boxes[0].default_answer, BoxAnswer::no);
+    EXPECT_EQ(utf8(form.mText1.text()), "본문");
+    EXPECT_EQ(utf8(form.subjectText.text()), "제목");
+    EXPECT_EQ(form.ListView1.row_count(), 1u);
+
+    desktop.expect_box(u"모든 내용을 삭제하고 새로 작성하시겠습니까?", BoxAnswer::yes);
+    form.Command3.Click.raise();
+    EXPECT_EQ(utf8(form.mText1.text()), "[홍길동]");
+    EXPECT_EQ(utf8(form.mText2.text()), PLUS_TEXT);
+    EXPECT_EQ(utf8(form.ttsText.text()), "");
+    EXPECT_EQ(utf8(form.TTSHLen.caption()), "0/1000Byte");
+    EXPECT_EQ(utf8(form.TTSFileTxt.text()), "");
+    EXPECT_EQ(utf8(form.subjectText.text()), "");
+    EXPECT_EQ(form.ListView1.row_count(), 0u);
+    EXPECT_EQ(form.FAX1.row_count(), 0u);
+    EXPECT_EQ(utf8(form.FAXFileSize1.caption()), "12KB") << "until the next document";
+    EXPECT_EQ(utf8(form.Label4.caption()), "전체>0>대상>0");
+    EXPECT_EQ(form.TabStrip1.selected(), TEXT_PLUS);
+    EXPECT_TRUE(form.Option2.chosen());
+}
+
+TEST_F(Emoticons, ThereAreTwentyEightInTheOrderOfTheScreen) {
+    const std::vector<std::string> captions = {"(*_*)", "(=_=;)", "(-.-)Zzz..", "(^0^) (~0~)",
+                                               "■",     "↓",      "<@_@>",      "!(^_^)!(^_^)V",
+                                               "♡",     "▶",      "◀",          "♤",
+                                               "♠",     "♣",      "♩",          "♬",
+                                               "♪",     "♨",      "☎",          "☏",
+                                               "◎",     "●",      "○",          "☞",
+                                               "☜",     "☆",      "★",          "♡"};
+    ASSERT_EQ(form.mBttn1.size(), 28u);
+    for (std::size_t i = 0; i < captions.size(); ++i) {
+        EXPECT_EQ(utf8(form.mBttn1[i].caption()), captions[i]);
+        EXPECT_EQ(utf8(form.mBttn1[i].name()), "mBttn1_" + std::to_string(27 - i));
+    }
+}
+
+TEST_F(Emoticons, AreInsertedAtTheCaretInPlaceOfTheSelectionThroughTheClipboard) {
+    desktop.clipboard = u"what the user copied";
+    form.mText1.set_text(u"가나다라");
+    form.mText1.select(1, 2);
+    form.mBttn1[18].Click.raise();
+    EXPECT_EQ(utf8(form.mText1.text()), "가☎라");
+    EXPECT_EQ(form.mText1.selection_start(), 2u);
+    EXPECT_EQ(utf8(desktop.clipboard), "☎");
+    EXPECT_EQ(utf8(form.mHLen1.caption()), "6Bytes");
+}
+
+TEST_F(Emoticons, AtTheLimitAnEmoticonIsCutLikeTyping) {
+    form.mText1.set_text(Text(79, u'a'));
+    form.mText1.set_caret_to_end();
+    desktop.expect_box(u"80Byte이상 입력하시겠습니까?", BoxAnswer::no);
+    desktop.expect_box(u"입력하신 문자가 80Byte를 넘었습니다.");
+    form.mBttn1[0].Click.raise();
+    EXPECT_EQ(utf8(form.mText1.text()), std::string(79, 'a') + "(");
+}
+
+}  // namespace
