@@ -1,9 +1,12 @@
 """The desk of a user: finds what is on the screen by the names that a screen reader says, and acts with real keys and clicks."""
+import re
 import subprocess
 import time
 
 import pyatspi
 
+# Milliseconds between characters: Hangul is typed by changing the keyboard's map, which programs learn with a delay.
+TYPING_DELAY = "100"
 PATIENCE = 20  # seconds until something that ought to appear is missed
 
 
@@ -79,7 +82,19 @@ class Desk:
         subprocess.run(["xdotool", "key", "--clearmodifiers", "--delay", "60", *keys], check=True)
 
     def write(self, text):
-        subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", "40", text], check=True)
+        """Types the text; a line end presses Enter and a tab Tab."""
+        for piece in re.split("([\n\t])", text):
+            if piece in ("\n", "\t"):
+                self.keys("Return" if piece == "\n" else "Tab")
+            elif piece:
+                subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", TYPING_DELAY, piece], check=True)
+
+    def fill(self, field, text):
+        """Writes in place of what the field holds."""
+        self.click(field)
+        self._wait("the focus", lambda: field.getState().contains(pyatspi.STATE_FOCUSED))
+        self.keys("ctrl+a")
+        self.write(text)
 
     def click(self, thing):
         box = thing.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)

@@ -6,17 +6,13 @@ RECIPIENTS = [("홍길동", "010-1234-5678"), ("김영희", "010-2345-6789"), ("
 def play(desk):
     login = desk.window("로그인")
     desk.picture("login")
-    desk.click(desk.find("사용자 아이디", "text", login))
-    desk.write("demo\tdemo1234\n")
+    desk.fill(desk.find("사용자 아이디", "text", login), "demo\tdemo1234\n")
     desk.gone("로그인")
 
     main = desk.window("[문자메시지]")
-    desk.click(desk.find("메시지 내용", "text", main))
-    desk.keys("ctrl+End")
-    desk.write(" 안녕하세요. 오늘 오후 3시 회의실에서 뵙겠습니다.")
+    desk.fill(desk.find("문자 내용", "text", main), "[길동상사] 안녕하세요. 오늘 오후 3시 회의실에서 뵙겠습니다.")
     for name, number in RECIPIENTS:
-        desk.click(desk.find("이름", "text", main))
-        desk.write(f"{name}\n{number}\n")
+        desk.fill(desk.find("이름", "text", main), f"{name}\n{number}\n")
     desk.picture("draft")
 
     desk.click(desk.find("보내기", "push button", main))
