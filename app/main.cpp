@@ -6,6 +6,7 @@
 #include "platform/posix/posix_carrier_library.h"
 #include "platform/posix/posix_files.h"
 #include "platform/posix/posix_shell.h"
+#include "platform/qt/desk_style.h"
 #include "platform/qt/korean_translator.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_desktop.h"
@@ -13,7 +14,7 @@
 
 int main(int argc, char** argv) {
     QApplication qt(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new platform::qt::DeskStyle);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.svg")));
     QApplication::setQuitOnLastWindowClosed(false);
     platform::qt::KoreanTranslator korean;

@@ -21,9 +21,14 @@ void set_up(QTreeView& view) {
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.header()->setSectionsClickable(true);
     view.header()->setSectionsMovable(false);
+    // The screen's widths in pixels; columns with "*" share what the others leave.
     const QStringList widths = view.property("columnWidths").toStringList();
     for (int column = 0; column < widths.size(); ++column) {
-        view.header()->resizeSection(column, widths[column].toInt());
+        if (widths[column] == u'*') {
+            view.header()->setSectionResizeMode(column, QHeaderView::Stretch);
+        } else {
+            view.header()->resizeSection(column, widths[column].toInt());
+        }
     }
 }
 

@@ -1,0 +1,49 @@
+#include "platform/qt/desk_style.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+namespace platform::qt {
+
+namespace {
+
+constexpr int ROW_AIR = 6;
+
+/// Half way between the text and what it stands on, whichever of them is the dark one.
+QColor edge_colour(const QPalette& palette) {
+    const QColor text = palette.color(QPalette::Text);
+    const QColor ground = palette.color(QPalette::Base);
+    return QColor((text.red() + ground.red()) / 2, (text.green() + ground.green()) / 2,
+                  (text.blue() + ground.blue()) / 2);
+}
+
+}  // namespace
+
+QSize DeskStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                  const QWidget* widget) const {
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type == CT_ItemViewItem) size.rheight() += ROW_AIR;
+    return size;
+}
+
+/// The toolkit derives the edges of boxes and rings from the window's colour alone, which leaves an empty one
+/// unseen on a dark list.
+void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool box = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
+    if ((!box && element != PE_IndicatorRadioButton) || !(option->state & State_Enabled)) return;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(edge_colour(option->palette));
+    painter->setBrush(Qt::NoBrush);
+    const QRectF edge = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    if (box) {
+        painter->drawRoundedRect(edge, 1.5, 1.5);
+    } else {
+        painter->drawEllipse(edge);
+    }
+    painter->restore();
+}
+
+}  // namespace platform::qt
