@@ -1,0 +1,132 @@
+#include "tests/support/sending.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace platform;
+using tests::Sending;
+using tests::utf8;
+using Lines = std::vector<std::string>;
+using Registration = RecordingCarrier::Registration;
+
+Text content(const Registration& r) { return r.s_sms_content; }
+Text schedule(const Registration& r) { return r.s_schedule_time; }
+
+TEST(SendLongBatches, CutTheTextAtEightyBytesBetweenCharacters) {
+    const std::string a80(80, 'a'), a79(79, 'a');
+    const struct {
+        std::string text;
+        Lines pieces;
+    } rows[] = {
+        {a80 + "b", {a80, "b"}},       {a79 + "가나", {a79, "가나"}},
+        {a80 + "  b  ", {a80, "  b"}}, {a79 + "\r\nb", {a79 + "\r", "\nb"}},
+        {a79 + "      ", {a79}},       {a80 + a80 + a79, {a80, a80, a79}},
+    };
+    for (const auto& row : rows) {
+        Sending s;
+        s.type(from_utf8(row.text));
+        s.add_many(1);
+        s.send();
+        EXPECT_EQ(s.registered(content), row.pieces) << row.text;
+    }
+}
+
+TEST(SendLongBatches, KeepTheOrderOfThePiecesByTheMinute) {
+    const LocalTime last_minute = make_time(2026, 12, 31, 23, 59, 30);
+    const Lines over_midnight = {"20261231235900", "20270101000000", "20270101000100"};
+    Sending immediate;
+    immediate.clock.set(last_minute);
+    immediate.type(Text(240, u'a'));
+    immediate.add_many(1);
+    immediate.send();
+    EXPECT_EQ(immediate.registered(schedule), over_midnight);
+
+    Sending later;
+    later.type(Text(240, u'a'));
+    later.add_many(1);
+    later.form.Option2.set_chosen(true);
+    later.form.DTP1.set_value(last_minute);
+    later.form.Combo1.set_list_index(23);
+    later.form.Combo2.set_list_index(59);
+    later.send();
+    EXPECT_EQ(later.registered(schedule), over_midnight);
+}
+
+TEST(SendLongBatches, GoOverAllRowsForEachPieceAndMarkThemByTheLast) {
+    Sending s;
+    s.type(Text(81, u'a'));
+    s.form.subjectText.set_text(u"긴 글");
+    s.add_many(150);
+    s.carrier.results[{"submit", 1}] = 5;
+    s.carrier.results[{"submit", 4}] = 8;
+    std::string marks_before_last;
+    s.carrier.at_submit = [&] {
+        if (s.carrier.registrations.size() == 2) marks_before_last = s.marks();
+    };
+    s.send();
+    EXPECT_EQ(s.registered([](const Registration& r) {
+        return r.s_subject + u" " + decimal(r.s_dest_addr_count) + u" " + decimal(r.submit_sequence);
+    }),
+              (Lines{"긴 글01 100 1", "긴 글02 50 2", "긴 글01 100 1", "긴 글02 50 2"}));
+    EXPECT_EQ(s.carrier.count("money_status"), 2) << "once a piece";
+    EXPECT_EQ(marks_before_last, std::string(150, 'x'));
+    EXPECT_EQ(s.marks(), std::string(100, '-') + std::string(50, 'x'));
+    EXPECT_EQ(s.status(149), "등록실패X8(착신자수초과)");
+    EXPECT_NE(s.report.find("등록성공: 100건\r\n 등록실패: 50건\r\n 등록중지: 0건"), std::string::npos);
+    EXPECT_EQ(s.clock.pauses, (std::vector<int>{500, 500, 500, 500, 500, 500}));
+}
+
+TEST(SendLongBatches, ShowTheirProgressByExpectedPieces) {
+    for (const auto& [bytes, after_first] : {std::pair{100, 100}, {120, 50}, {240, 33}}) {
+        Sending s;
+        s.type(Text(static_cast<std::size_t>(bytes), u'a'));
+        s.add_many(1);
+        // The third pause is the second piece's first.
+        s.at_pause(3, [after = after_first, bytes = bytes](send::frmZentSend& job) {
+            EXPECT_EQ(job.PBar1.value(), after) << bytes;
+        });
+        s.send();
+    }
+}
+
+TEST(SendLongBatches, MorePiecesThanTheProgressCanShowEndTheJobWithItsError) {
+    Sending s;
+    Text text;
+    // 43 pieces that are a byte short of full, and one more: expected are 42.
+    for (int i = 0; i < 43; ++i) text += u"가a" + Text(38, u'가');
+    s.form.Check1.set_checked(true);
+    s.form.mText1.set_text(text + u"가");
+    s.add_many(1);
+    s.send_in_vain(u"오류번호:380");
+    EXPECT_EQ(s.desktop.boxes.back().icon, BoxIcon::critical);
+    EXPECT_EQ(s.carrier.registrations.size(), 43u);
+    EXPECT_EQ(s.marks(), "x");
+    EXPECT_FALSE(s.state.gSendFormOpen);
+    EXPECT_TRUE(s.form.Timer1.enabled());
+}
+
+TEST(SendLongBatches, AStopEndsThePassOfEveryPieceThatIsLeft) {
+    Sending s;
+    s.type(Text(240, u'a'));
+    s.add_many(120);
+    s.stop_at_pause(1);
+    for (int piece = 0; piece < 3; ++piece) s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+    s.send();
+    EXPECT_EQ(s.carrier.registrations.size(), 1u);
+    EXPECT_EQ(s.marks(), std::string(120, 'x'));
+    EXPECT_NE(s.report.find("등록성공: 0건\r\n 등록실패: 0건\r\n 등록중지: 120건"), std::string::npos);
+    EXPECT_FALSE(s.results_offered);
+}
+
+TEST(SendLongBatches, AStopGoesUnnoticedWithASingleRow) {
+    Sending s;
+    s.type(Text(240, u'a'));
+    s.add_many(1);
+    s.stop_at_pause(1);
+    s.send();
+    EXPECT_EQ(s.carrier.registrations.size(), 3u);
+    EXPECT_EQ(s.marks(), "-");
+}
+
+}  // namespace

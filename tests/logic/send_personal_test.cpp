@@ -1,0 +1,182 @@
+#include "tests/support/sending.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace platform;
+using tests::Sending;
+using tests::utf8;
+using Lines = std::vector<std::string>;
+using Registration = RecordingCarrier::Registration;
+
+struct Personal : Sending {
+    explicit Personal(const Text& text) {
+        form.Check1.set_checked(true);
+        form.mText1.set_text(text);
+    }
+};
+
+Text to_and_content(const Registration& r) { return r.s_dest_addr + u" " + r.s_sms_content; }
+
+TEST(SendPersonal, FillsInNameAndTitleAndFailsForAMissingNameAlone) {
+    Personal s(u"{이름}{직위}님, {이름}{직위}!");
+    s.add(u"김철수", u"01011112222", true, u"과장");
+    s.add(u"이름없음", u"01022223333", true, u"부장");
+    s.add(u"", u"01033334444");
+    s.add(u"박:영희", u"01044445555");
+    s.add(u"최", u"01055556666", false);
+    s.add_many(1);
+    s.send();
+    EXPECT_EQ(s.registered(to_and_content),
+              (Lines{"김철수:01011112222; 김철수과장님, 김철수과장!",
+                     "박영희:01044445555; 박:영희님, 박:영희!", "a1:01010000001; a1님, a1!"}));
+    EXPECT_EQ(s.marks(), "-xx---");
+    EXPECT_EQ(s.status(1), "등록실패(이름없음)");
+    EXPECT_EQ(s.status(2), "등록실패(이름없음)");
+    EXPECT_EQ(s.status(4), "");
+    EXPECT_EQ(s.carrier.registrations[2].submit_sequence, 3);
+    EXPECT_EQ(s.carrier.count("money_status"), 1);
+    EXPECT_EQ(s.clock.pauses, (std::vector<int>{250, 250, 250, 250, 250, 250}));
+    EXPECT_NE(s.report.find("등록대상: 5건\r\n 등록성공: 3건\r\n 등록실패: 2건\r\n 등록중지: 0건"),
+              std::string::npos);
+}
+
+TEST(SendPersonal, IsChosenByTheTickAndAPlaceholderTogether) {
+    const struct {
+        bool ticked;
+        const char16_t* text;
+        std::size_t submits;
+        const char* first;
+    } rows[] = {
+        {true, u"{직위}님", 2, "님"},
+        {true, u"안녕", 1, "안녕"},
+        {true, u"{이 름}", 1, "{이 름}"},
+        {false, u"{이름}님", 1, "{이름}님"},
+    };
+    for (const auto& row : rows) {
+        Sending s;
+        s.form.Check1.set_checked(row.ticked);
+        s.form.mText1.set_text(row.text);
+        s.add(u"이름없음", u"01011112222");
+        s.add_many(1);
+        s.send();
+        EXPECT_EQ(s.carrier.registrations.size(), row.submits) << utf8(row.text);
+        EXPECT_EQ(utf8(s.carrier.registrations.at(0).s_sms_content), row.first);
+    }
+}
+
+TEST(SendPersonal, OtherKindsDoNotKnowTheTick) {
+    Personal s(u"{이름}");
+    s.form.TabStrip1.select(3);
+    s.form.ttsText.set_text(u"{이름}");
+    s.add_many(2);
+    s.send();
+    EXPECT_EQ(s.carrier.registrations.size(), 1u);
+}
+
+TEST(SendPersonal, CutsEachRecipientsOwnTextAndStartsTheScheduleAnew) {
+    Personal s(u"{이름}" + Text(70, u'a'));
+    s.form.Option2.set_chosen(true);
+    s.form.DTP1.set_value(make_time(2027, 7, 5));
+    s.form.Combo1.set_list_index(23);
+    s.form.Combo2.set_list_index(59);
+    s.add(Text(20, u'n'), u"01011112222");
+    s.add(Text(10, u'm'), u"01022223333");
+    s.send();
+    EXPECT_EQ(s.registered([](const Registration& r) { return r.s_schedule_time + u" " + r.s_sms_content; }),
+              (Lines{"20270705235900 " + std::string(20, 'n') + std::string(60, 'a'),
+                     "20270706000000 " + std::string(10, 'a'),
+                     "20270705235900 " + std::string(10, 'm') + std::string(70, 'a')}));
+}
+
+TEST(SendPersonal, TheLastPieceAloneDecides) {
+    const struct {
+        int refused_submit;
+        const char* mark;
+        const char* status;
+        const char* counted;
+        std::vector<int> pauses;
+    } rows[] = {
+        {1, "-", "등록성공", "등록성공: 1건\r\n 등록실패: 0건", {250, 250, 250}},
+        {2, "x", "등록실패X6(Pondira 응답 없음)", "등록성공: 0건\r\n 등록실패: 1건", {250, 250, 250}},
+    };
+    for (const auto& row : rows) {
+        Personal s(u"{이름}" + Text(90, u'a'));
+        s.add_many(1);
+        s.carrier.results[{"submit", row.refused_submit}] = 6;
+        s.send();
+        EXPECT_EQ(s.carrier.registrations.size(), 2u);
+        EXPECT_EQ(s.marks(), row.mark);
+        EXPECT_EQ(s.status(0), row.status);
+        EXPECT_NE(s.report.find(row.counted), std::string::npos) << s.report;
+        EXPECT_EQ(s.clock.pauses, row.pauses);
+    }
+}
+
+TEST(SendPersonal, ARowWhoseTextComesOutEmptyIsNotTakenForASuccess) {
+    Personal s(u"{직위}");
+    s.add(u"a", u"01011112222", true, u"과장");
+    s.add(u"b", u"01022223333");
+    s.send();
+    EXPECT_EQ(s.carrier.registrations.size(), 1u);
+    EXPECT_EQ(s.marks(), "-x");
+    EXPECT_EQ(s.status(1), "등록실패");
+}
+
+TEST(SendPersonal, AStopIsToldBehindTheRowThatIsBeingSentEvenTheLast) {
+    for (const std::size_t pause : {std::size_t{1}, std::size_t{5}}) {
+        Personal s(u"{이름}님");
+        s.add_many(3);
+        s.stop_at_pause(pause);
+        s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+        s.send();
+        EXPECT_EQ(s.marks(), pause == 1 ? "-xx" : "---");
+    }
+}
+
+/// The routine that no button runs.
+void send_singles(Sending& s, const Text& kind) {
+    s.expect_report();
+    send::frmZentSend job(s.platform, s.state, s.form, s.service_doors);
+    job.load();
+    job.MSGSendCount = static_cast<int>(s.form.ListView1.checked_count());
+    job.SEND_SINGLES(kind);
+}
+
+TEST(SendSingles, FailATextThatIsTooLongInsteadOfCuttingIt) {
+    Personal s(u"{이름}" + Text(70, u'a'));
+    s.add(Text(11, u'n'), u"01011112222");
+    s.add(Text(10, u'n'), u"01022223333");
+    s.add(u"이름없음", u"01033334444");
+    s.add(u"b", u" ");
+    s.add(u"c", u"01055556666");
+    s.carrier.results[{"submit", 2}] = 5;
+    send_singles(s, u"문자메시지");
+    EXPECT_EQ(s.status(0), "등록실패(문자초과)");
+    EXPECT_EQ(s.status(1), "등록성공");
+    EXPECT_EQ(s.status(2), "등록실패(이름없음)");
+    EXPECT_EQ(s.status(3), "");
+    EXPECT_EQ(s.status(4), "등록실패X5(Pondira 접속에러)");
+    EXPECT_EQ(s.marks(), "x-xxx");
+    EXPECT_EQ(s.clock.pauses, (std::vector<int>{500, 500, 500}));
+    EXPECT_NE(s.report.find("등록성공: 1건\r\n 등록실패: 3건\r\n 등록중지: 1건"), std::string::npos);
+}
+
+TEST(SendSingles, SendAnyKindWholeToOneRecipientASubmit) {
+    Sending s;
+    s.type(Text(81, u'a'));
+    s.add_many(120);
+    send_singles(s, u"문자메시지");
+    EXPECT_EQ(s.carrier.registrations.size(), 120u);
+    EXPECT_EQ(s.carrier.registrations[119].s_sms_content.size(), 81u);
+    EXPECT_EQ(s.carrier.registrations[119].s_dest_addr_count, 1);
+    EXPECT_EQ(utf8(s.carrier.registrations[119].s_subject), utf8(s.carrier.registrations[0].s_subject));
+
+    Sending letter;
+    letter.add_many(1);
+    send_singles(letter, u"편지");
+    EXPECT_EQ(letter.status(0), "실패");
+}
+
+}  // namespace

@@ -1,0 +1,183 @@
+#include "send/report.h"
+#include "tests/support/sending.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace platform;
+using tests::Sending;
+using tests::utf8;
+using Lines = std::vector<std::string>;
+
+constexpr const char* FAILURE =
+    "메시지 등록을 실패하였습니다. 원인은 다음과 같습니다.\r\n\r\n원인 1) 인터넷 연결이 안된 경우.\r\n"
+    "원인 2) 폰디라 서버가 응닶이 없는 경우.\r\n원인 3) 폰디라 가입을 해지한 경우.\r\n"
+    "원인 4) 폰디라 사용이 일시 정지된 경우.\r\n\r\n"
+    "인터넷 연결상태를 확인하시고 잠시 후 다시 시작하여 주십시오.";
+
+TEST(SendWindow, StartsOneJobHalfASecondAfterItsActivation) {
+    Sending s;
+    s.files.files[u"z:\\app\\resource\\send.avi"] = "";
+    s.add_many(1);
+    s.form.Timer1.set_enabled(true);
+    s.desktop.in_form<send::frmZentSend>(u"frmZentSend", [&](send::frmZentSend& job) {
+        EXPECT_TRUE(s.state.gSendFormOpen);
+        EXPECT_FALSE(s.form.Timer1.enabled());
+        EXPECT_EQ(utf8(job.caption()), "문자메시지");
+        EXPECT_TRUE(job.Animation1.playing());
+        EXPECT_EQ(utf8(job.Command1.tool_tip()), "메시지 등록을 중지합니다.");
+        s.clock.run_for(499);
+        EXPECT_TRUE(s.carrier.calls.empty());
+        s.desktop.in_form<send::frmSendEndBox>(u"frmSendEndBox", [&](send::frmSendEndBox& box) {
+            job.window_activated();
+            s.clock.run_for(1000);
+            EXPECT_FALSE(job.Animation1.playing());
+            EXPECT_EQ(utf8(job.Command1.caption()), "닫기");
+            EXPECT_TRUE(job.Command1.enabled());
+            EXPECT_EQ(utf8(box.caption()), "KT 폰디라 서버에 메시지 등록완료...");
+            box.Command1.Click.raise();
+            EXPECT_TRUE(box.loaded());
+            box.escape_pressed();
+        });
+    });
+    s.confirm();
+    s.click();
+    EXPECT_EQ(s.carrier.registrations.size(), 1u);
+    EXPECT_EQ(s.pages, std::vector<int>{0});
+    EXPECT_FALSE(s.state.gSendFormOpen);
+    EXPECT_TRUE(s.form.Timer1.enabled());
+    EXPECT_EQ(s.desktop.pointer, Pointer::normal);
+}
+
+TEST(SendWindow, TheResultPageIsOfferedOnlyWhereThereIsAWayToIt) {
+    Sending s;
+    s.service_doors.KTSMS_LINK = {};
+    s.add_many(1);
+    s.send();
+    EXPECT_FALSE(s.results_offered);
+}
+
+TEST(SendWindow, AnythingThatWouldCloseItStopsTheJobAndGreysTheButton) {
+    const std::function<void(send::frmZentSend&)> ways[] = {
+        [](send::frmZentSend& job) { job.Command1.Click.raise(); },
+        [](send::frmZentSend& job) { job.close_requested(); },
+        [](send::frmZentSend& job) { job.escape_pressed(); },
+    };
+    for (const auto& way : ways) {
+        Sending s;
+        s.add_many(120);
+        s.at_pause(1, [&](send::frmZentSend& job) {
+            way(job);
+            EXPECT_FALSE(job.Command1.enabled());
+            EXPECT_TRUE(job.loaded());
+        });
+        s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+        s.send();
+        EXPECT_EQ(s.desktop.boxes.back().icon, BoxIcon::exclamation);
+        EXPECT_EQ(s.marks(), std::string(100, '-') + std::string(20, 'x'));
+        EXPECT_EQ(s.status(100), "");
+        EXPECT_NE(s.report.find("등록대상: 120건\r\n 등록성공: 100건\r\n 등록실패: 0건\r\n 등록중지: 20건"),
+                  std::string::npos);
+    }
+}
+
+TEST(SendWindow, AStopDuringTheLastBatchGoesUnnoticed) {
+    Sending s;
+    s.add_many(120);
+    s.stop_at_pause(3);
+    s.send();
+    EXPECT_EQ(s.marks(), std::string(120, '-'));
+}
+
+TEST(SendWindow, ClosedBeforeTheJobStartsItSendsNothing) {
+    Sending s;
+    s.add_many(1);
+    s.confirm();
+    s.desktop.in_form<send::frmZentSend>(u"frmZentSend",
+                                         [](send::frmZentSend& job) { job.close_requested(); });
+    s.click();
+    s.clock.run_for(5000);
+    EXPECT_TRUE(s.carrier.calls.empty());
+    EXPECT_TRUE(s.form.Timer1.enabled());
+}
+
+TEST(SendSession, AJobWithoutACarrierOrAnAccountEndsWithItsMessageAndNoReport) {
+    const struct {
+        const char* what;
+        std::function<void(RecordingCarrier&)> trouble;
+        Lines calls;
+        std::size_t sent;
+    } rows[] = {
+        {"no bind",
+         [](auto& c) {
+             c.results[{"bind", 1}] = 2;
+         },
+         {"bind", "unbind"},
+         0},
+        {"no status",
+         [](auto& c) {
+             c.results[{"money_status", 1}] = 0;
+         },
+         {"bind", "money_status", "unbind"},
+         0},
+        {"a contract out of use",
+         [](auto& c) { c.service_state = 2; },
+         {"bind", "money_status", "unbind"},
+         0},
+        {"no bind at the third batch",
+         [](auto& c) {
+             c.results[{"bind", 3}] = 6;
+         },
+         {"bind", "money_status", "submit", "unbind", "bind", "submit", "unbind", "bind", "unbind"},
+         200},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        Sending s;
+        s.add_many(250);
+        row.trouble(s.carrier);
+        s.send_in_vain(u"메시지 등록을 실패하였습니다.");
+        EXPECT_EQ(utf8(s.desktop.boxes.back().text), FAILURE);
+        EXPECT_EQ(s.desktop.boxes.back().icon, BoxIcon::exclamation);
+        EXPECT_EQ(s.carrier.calls, row.calls);
+        EXPECT_EQ(s.marks(), std::string(row.sent, '-') + std::string(250 - row.sent, 'x'));
+        EXPECT_FALSE(s.state.gSendFormOpen);
+        EXPECT_EQ(s.desktop.pointer, Pointer::normal);
+    }
+}
+
+TEST(SendSession, AStateOfOneMaySend) {
+    Sending s;
+    s.add_many(1);
+    s.carrier.service_state = 1;
+    s.send();
+    EXPECT_EQ(s.marks(), "-");
+}
+
+TEST(SendSession, ALibraryThatLacksTheSubmitFailsTheRowsAndTheJobGoesOn) {
+    Sending s;
+    s.add_many(150);
+    s.carrier.missing.insert("submit");
+    s.send();
+    EXPECT_EQ(s.status(149), "등록실패-453");
+    EXPECT_EQ(s.clock.pauses, (std::vector<int>{500, 500}));
+    EXPECT_FALSE(s.results_offered);
+    EXPECT_NE(s.report.find("등록이 완료되었습니다."), std::string::npos);
+}
+
+TEST(SendReport, GroupsThousandsAndCountsTheRestAsStopped) {
+    send::SendJob job{.kind = nullptr,
+                      .pauses = {},
+                      .started = make_time(2026, 11, 23, 9, 59, 58),
+                      .message = {},
+                      .subject = {}};
+    job.success = 12345;
+    job.failure = 1000;
+    EXPECT_EQ(utf8(send::report_text(job, 1234567, make_time(2026, 11, 23, 11, 0, 0))),
+              " KT 폰디라 서버에 메시지 등록이 완료되었습니다.\r\n\r\n 등록대상: 1,234,567건\r\n"
+              " 등록성공: 12,345건\r\n 등록실패: 1,000건\r\n 등록중지: 1,221,222건\r\n\r\n"
+              " 걸린시간: 01:00:02");
+}
+
+}  // namespace
