@@ -1,0 +1,418 @@
+#include "compose/text_cutting.h"
+#include "core/common.h"
+#include "tests/support/main_window.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace {
+
+using platform::BoxAnswer;
+using platform::BoxIcon;
+using platform::Text;
+using tests::press;
+using tests::utf8;
+
+constexpr platform::TextView QUESTION =
+    u"[장문메시지 알림] 80Byte이상 입력하시겠습니까?\r\n\r\n[예]를 선택하시면 입력된 전체 메시지를 80Byte씩 "
+    u"나누어서 전송하게 됩니다.";
+constexpr platform::TextView TOO_LONG =
+    u"입력하신 문자가 80Byte를 넘었습니다.\r\n한 번에 80Byte까지만 전송이 가능합니다.";
+constexpr platform::TextView TTS_TOO_LONG =
+    u"입력하신 문자가 1000Byte를 넘었습니다.\r\n한 번에 1000Byte까지만 전송이 가능합니다.";
+
+/// `count` syllables of two bytes each.
+Text syllables(std::size_t count) { return Text(count, u'한'); }
+Text letters(std::size_t count) { return Text(count, u'a'); }
+
+TEST(Cutting, TrimsAtTheRightAndKeepsWhatFitsInWholeCharacters) {
+    const struct {
+        Text text;
+        std::size_t limit;
+        Text cut, left;
+    } rows[] = {
+        {u"", 80, u"", u""},
+        {u"   ", 80, u"", u""},
+        {u"  가 ", 80, u"  가", u"  가"},
+        {letters(80), 80, letters(80), letters(80)},
+        {letters(81), 80, letters(80), letters(81)},
+        {letters(79) + u"한", 80, letters(79), letters(79) + u"한"},
+        {letters(78) + u"한a", 80, letters(78) + u"한", letters(78) + u"한a"},
+        {letters(70) + Text(20, u' '), 80, letters(70), letters(70)},
+        {letters(70) + Text(20, u' ') + u"a", 80, letters(70) + Text(10, u' '),
+         letters(70) + Text(20, u' ') + u"a"},
+        {letters(79) + u"\r\nb", 80, letters(79) + u"\r", letters(79) + u"\r\nb"},
+        {syllables(501), 1000, syllables(500), syllables(501)},
+        {u"한", 1, u"", u"한"},
+        {u"a", 0, u"", u"a"},
+    };
+    for (const auto& row : rows) {
+        Text text = row.text;
+        EXPECT_EQ(utf8(compose::LLL(text, row.limit)), utf8(row.cut));
+        EXPECT_EQ(utf8(text), utf8(row.left)) << "the trimmed text is written back";
+    }
+}
+
+struct Entry : testing::Test, tests::MainWindow {
+    void SetUp() override { compose_as(u""); }
+
+    void expect_question(BoxAnswer answer) {
+        desktop.expect_box(Text(QUESTION), answer);
+        if (answer == BoxAnswer::no) desktop.expect_box(Text(TOO_LONG));
+    }
+    /// The user's edit at the end of the field.
+    static void edit(platform::TextBox& field, const Text& text) { field.user_edit(text, text.size()); }
+    std::string counter() const { return utf8(form.mHLen1.caption()); }
+};
+
+using LongMessages = Entry;
+using ShortTexts = Entry;
+using SpokenTexts = Entry;
+using Subject = Entry;
+using Personalised = Entry;
+using SenderName = Entry;
+
+// The text message.
+
+TEST_F(LongMessages, TheCounterCountsBytesAndTheMarkShowsBeyondEighty) {
+    form.Check1.set_checked(true);
+    const struct {
+        Text text;
+        const char* counter;
+        bool mark;
+    } rows[] = {
+        {u"", "0Bytes", false},
+        {u"한a\r\n", "5Bytes", false},
+        {syllables(40), "80Bytes", false},
+        {syllables(40) + u"a", "81Bytes", true},
+        {letters(200), "200Bytes", true},
+        {letters(3) + u"   ", "6Bytes", false},
+    };
+    for (const auto& row : rows) {
+        edit(form.mText1, row.text);
+        EXPECT_EQ(counter(), row.counter);
+        EXPECT_EQ(form.mHLen3.visible(), row.mark) << row.counter;
+    }
+}
+
+TEST_F(LongMessages, YesIsRememberedUntilTheTextFallsBelowEightyBytes) {
+    edit(form.mText1, letters(80));
+    EXPECT_TRUE(desktop.boxes.empty()) << "80 fit";
+    expect_question(BoxAnswer::yes);
+    form.mText1.set_focus();
+    form.mText1.user_edit(letters(81), 3);
+    EXPECT_EQ(desktop.boxes[0].icon, BoxIcon::question);
+    EXPECT_EQ(utf8(desktop.boxes[0].title), "장문메시지 확인");
+    EXPECT_EQ(utf8(form.mText1.tag()), "LONG");
+    EXPECT_EQ(form.mText1.selection_start(), 81u);
+    EXPECT_TRUE(form.mText1.has_focus());
+    EXPECT_EQ(counter(), "81Bytes");
+    EXPECT_TRUE(form.mHLen3.visible());
+
+    edit(form.mText1, letters(120));
+    press(form.mText1, u'b');
+    edit(form.mText1, letters(80));
+    EXPECT_EQ(utf8(form.mText1.tag()), "LONG") << "at exactly 80 the answer still holds";
+    edit(form.mText1, letters(81));
+    EXPECT_EQ(desktop.boxes.size(), 1u);
+
+    edit(form.mText1, letters(79));
+    EXPECT_EQ(utf8(form.mText1.tag()), "");
+    expect_question(BoxAnswer::yes);
+    edit(form.mText1, letters(81));
+}
+
+TEST_F(LongMessages, NoCutsTheEndWhereverTheExcessCameIn) {
+    const struct {
+        Text text, cut;
+    } rows[] = {
+        {letters(81), letters(80)},
+        {letters(79) + u"한", letters(79)},
+        {u"한" + letters(80), u"한" + letters(78)},
+        {syllables(100), syllables(40)},
+        {letters(75) + Text(20, u' '), letters(75)},
+    };
+    for (const auto& row : rows) {
+        expect_question(BoxAnswer::no);
+        form.mText1.set_focus();
+        form.mText1.user_edit(row.text, 1);
+        EXPECT_EQ(utf8(form.mText1.text()), utf8(row.cut));
+        EXPECT_EQ(form.mText1.selection_start(), row.cut.size()) << "the caret goes to the new end";
+        EXPECT_EQ(utf8(form.mText1.tag()), "");
+        EXPECT_TRUE(form.mText1.has_focus());
+        EXPECT_FALSE(form.mHLen3.visible());
+        EXPECT_EQ(counter(), std::to_string(core::BYTE_LEN(row.cut)) + "Bytes");
+        EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::exclamation);
+        EXPECT_EQ(utf8(desktop.boxes.back().title), "입력 초과");
+        form.mText1.set_text(u"");
+    }
+}
+
+TEST_F(LongMessages, AfterACutTheFieldHasLostTheFocusOnceAndHasItAgain) {
+    int lost = 0;
+    form.mText1.LostFocus.connect([&] { ++lost; });
+    form.mText1.set_focus();
+    expect_question(BoxAnswer::no);
+    edit(form.mText1, letters(81));
+    EXPECT_EQ(lost, 1) << "so that the input method lets go of its syllable";
+    EXPECT_TRUE(form.mText1.has_focus());
+}
+
+TEST_F(LongMessages, AKeyEnforcesTheLimitWithoutAskingAndBackspaceDoesNot) {
+    // Longer than 80 bytes without an answer: a personalised text that no longer is one, as a handler sees
+    // it.
+    form.Check1.set_checked(true);
+    edit(form.mText1, letters(100));
+    expect_question(BoxAnswer::yes);
+    form.Check1.set_checked(false);
+    form.mText1.set_tag(u"");
+
+    platform::KeyPressed backspace{platform::KEY_BACKSPACE};
+    form.mText1.KeyPress.raise(backspace);
+    EXPECT_EQ(form.mText1.text().size(), 100u);
+
+    desktop.expect_box(Text(TOO_LONG));
+    platform::KeyPressed key{u'b'};
+    form.mText1.KeyPress.raise(key);
+    EXPECT_FALSE(key.swallowed());
+    EXPECT_EQ(utf8(form.mText1.text()), utf8(letters(80)));
+    EXPECT_EQ(form.mText1.selection_start(), 80u);
+    EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::exclamation);
+}
+
+TEST_F(LongMessages, NeitherAskedNorCutWhileTheTextIsPersonalised) {
+    form.Check1.set_checked(true);
+    edit(form.mText1, letters(200));
+    press(form.mText1, u'b');
+    EXPECT_EQ(form.mText1.text().size(), 201u);
+    EXPECT_TRUE(form.mHLen3.visible());
+    EXPECT_TRUE(desktop.boxes.empty());
+}
+
+// The text beside a voice message.
+
+TEST_F(ShortTexts, EndAtEightyBytesWithoutAQuestion) {
+    form.TabStrip1.select(compose::TEXT_PLUS);
+    edit(form.mText2, syllables(40));
+    EXPECT_EQ(utf8(form.mHLen2.caption()), "80/80Byte");
+    EXPECT_TRUE(desktop.boxes.empty());
+    desktop.expect_box(Text(TOO_LONG));
+    form.mText2.set_focus();
+    form.mText2.user_edit(syllables(41), 1);
+    EXPECT_EQ(utf8(form.mText2.text()), utf8(syllables(40)));
+    EXPECT_EQ(form.mText2.selection_start(), 40u);
+    EXPECT_TRUE(form.mText2.has_focus());
+    EXPECT_EQ(utf8(form.mHLen2.caption()), "80/80Byte");
+    EXPECT_EQ(desktop.boxes[0].icon, BoxIcon::exclamation);
+    EXPECT_EQ(utf8(desktop.boxes[0].title), "입력 초과");
+    form.Check1.set_checked(true);
+    desktop.expect_box(Text(TOO_LONG));
+    edit(form.mText2, letters(81));
+}
+
+TEST_F(ShortTexts, EveryKeyEnforcesTheLimitBackspaceToo) {
+    // The subject changes before the text is cut, so a key that comes with it meets the excess.
+    std::size_t bytes_behind_the_key = 0;
+    form.subjectText.Change.connect([&] {
+        if (bytes_behind_the_key != 0) return;
+        platform::KeyPressed backspace{platform::KEY_BACKSPACE};
+        form.mText2.KeyPress.raise(backspace);
+        bytes_behind_the_key = form.mText2.text().size();
+    });
+    form.subjectText.set_tag(u"");
+    desktop.expect_box(Text(TOO_LONG));
+    edit(form.mText2, letters(81));
+    EXPECT_EQ(bytes_behind_the_key, 80u);
+    EXPECT_EQ(desktop.boxes.size(), 1u);
+}
+
+// The text to be spoken.
+
+TEST_F(SpokenTexts, EndAtAThousandBytesAndTheCaretStaysWhereItWas) {
+    form.TabStrip1.select(compose::VOICE_MESSAGE);
+    edit(form.ttsText, syllables(500));
+    EXPECT_EQ(utf8(form.TTSHLen.caption()), "1000/1000Byte");
+    EXPECT_TRUE(desktop.boxes.empty());
+    form.ttsText.select(100, 0);
+    desktop.expect_box(Text(TTS_TOO_LONG));
+    form.ttsText.paste(letters(3000));
+    EXPECT_EQ(utf8(form.ttsText.text()), utf8(syllables(100) + letters(800)));
+    EXPECT_EQ(form.ttsText.selection_start(), 900u) << "no further than the end";
+    EXPECT_EQ(utf8(form.TTSHLen.caption()), "1000/1000Byte");
+    EXPECT_EQ(utf8(desktop.boxes[0].title), "입력 초과");
+
+    desktop.expect_box(Text(TTS_TOO_LONG));
+    form.ttsText.select(10, 0);
+    form.ttsText.paste(u"x");
+    EXPECT_EQ(form.ttsText.selection_start(), 11u);
+    EXPECT_EQ(utf8(form.subjectText.text()), "") << "a spoken text leads no subject";
+}
+
+// The subject.
+
+TEST_F(Subject, FollowsTheTextWithoutLineEndsInFifteenCharacters) {
+    const struct {
+        Text text;
+        const char* subject;
+    } rows[] = {
+        {u"가", "가"},
+        {u"가\r\n나", "가나"},
+        {u"123456789012345", "123456789012345"},
+    };
+    for (const auto& row : rows) {
+        form.subjectText.set_text(u"");
+        edit(form.mText1, row.text);
+        EXPECT_EQ(utf8(form.subjectText.text()), row.subject);
+    }
+    edit(form.mText1, u"xyz");
+    EXPECT_EQ(utf8(form.subjectText.text()), "123456789012345") << "15 characters are enough";
+
+    form.subjectText.set_text(u"");
+    edit(form.mText1, u"12345678901234567890");
+    EXPECT_EQ(utf8(form.subjectText.text()), "123456789012345");
+    EXPECT_EQ(utf8(form.subjectText.tag()), "");
+
+    form.subjectText.set_text(u"");
+    edit(form.mText2, u"12345678\r\n901234567890");
+    EXPECT_EQ(utf8(form.subjectText.text()), "12345678901234567890") << "the other text's subject is not cut";
+    EXPECT_EQ(utf8(form.subjectText.tag()), "END") << "and stands at once";
+}
+
+TEST_F(Subject, StandsOnceItIsLongOrAFieldIsLeftAndFollowsAgainWhenEmptied) {
+    edit(form.subjectText, u"제목");
+    EXPECT_EQ(utf8(form.subjectText.tag()), "");
+    edit(form.subjectText, Text(15, u'가'));
+    EXPECT_EQ(utf8(form.subjectText.tag()), "");
+    edit(form.subjectText, Text(16, u'가'));
+    EXPECT_EQ(utf8(form.subjectText.tag()), "END");
+    edit(form.subjectText, u"  ");
+    EXPECT_EQ(utf8(form.subjectText.tag()), "");
+
+    for (platform::TextBox* field : {&form.subjectText, &form.mText1, &form.mText2}) {
+        SCOPED_TRACE(utf8(field->name()));
+        form.Frame1[1].show();
+        form.subjectText.set_text(u"");
+        form.Command1.set_focus();
+        field->set_focus();
+        form.Command1.set_focus();
+        EXPECT_EQ(utf8(form.subjectText.tag()), "") << "an empty subject does not stand";
+        edit(form.subjectText, u"제목");
+        field->set_focus();
+        form.Command1.set_focus();
+        EXPECT_EQ(utf8(form.subjectText.tag()), "END");
+        edit(form.mText1, u"다른 글");
+        EXPECT_EQ(utf8(form.subjectText.text()), "제목");
+        edit(form.subjectText, u"");
+        edit(form.mText1, u"또 다른 글");
+        EXPECT_EQ(utf8(form.subjectText.text()), "또 다른 글");
+    }
+}
+
+TEST_F(Subject, AnEmptyOneIsFilledFromTheTextMessageOrWithAWordForNone) {
+    const struct {
+        compose::MessageKind kind;
+        Text subject, text;
+        const char* filled;
+    } rows[] = {
+        {compose::TEXT_MESSAGE, u"제목", u"본문", "제목"},
+        {compose::TEXT_MESSAGE, u"", u" \r\n 본문\r\n둘째 줄 ", "본문둘째 줄"},
+        {compose::TEXT_MESSAGE, u"", u"12345678901234567890", "123456789012345"},
+        {compose::TEXT_MESSAGE, u"", u"  ", "제목없음"},
+        {compose::TEXT_MESSAGE, u"", u"\r\n\r\n", "제목없음"},
+        {compose::VOICE_MESSAGE, u"", u"본문", "제목없음"},
+    };
+    for (const auto& row : rows) {
+        form.TabStrip1.select(row.kind);
+        form.subjectText.set_tag(u"END");
+        form.mText1.set_text(row.text);
+        form.subjectText.set_text(row.subject);
+        form.subjectText_CHECK();
+        EXPECT_EQ(utf8(form.subjectText.text()), row.filled);
+    }
+}
+
+// Personalised messages.
+
+TEST_F(Personalised, TheFieldsListAndItsCautionGoWithTheCheckMark) {
+    EXPECT_FALSE(form.Combo3.enabled());
+    EXPECT_FALSE(form.Label1_4.visible());
+    form.Check1.set_checked(true);
+    EXPECT_TRUE(form.Combo3.enabled());
+    EXPECT_TRUE(form.Label1_4.visible());
+    form.Check1.set_checked(false);
+    EXPECT_FALSE(form.Combo3.enabled());
+    EXPECT_FALSE(form.Label1_4.visible());
+}
+
+TEST_F(Personalised, UncheckingALongTextMeetsTheQuestionAtOnce) {
+    for (const BoxAnswer answer : {BoxAnswer::no, BoxAnswer::yes}) {
+        form.Check1.set_checked(true);
+        edit(form.mText1, letters(200));
+        form.mText1.set_tag(u"LONG");
+        expect_question(answer);
+        form.Check1.set_checked(false);
+        EXPECT_EQ(form.mText1.text().size(), answer == BoxAnswer::no ? 80u : 200u);
+    }
+}
+
+TEST_F(Personalised, APlaceholderIsPastedAndTheListStaysOnIt) {
+    form.Check1.set_checked(true);
+    edit(form.mText1, u"님 안녕");
+    form.mText1.select(0, 0);
+    form.Combo3.set_list_index(1);
+    EXPECT_EQ(utf8(form.mText1.text()), "{이름}님 안녕");
+    EXPECT_EQ(utf8(desktop.clipboard), "{이름}");
+    form.Combo3.set_list_index(0);
+    EXPECT_EQ(utf8(form.mText1.text()), "{이름}님 안녕");
+    form.Combo3.set_list_index(2);
+    form.Combo3.set_list_index(2);
+    EXPECT_EQ(utf8(form.mText1.text()), "{이름}{직위}{직위}님 안녕");
+    EXPECT_EQ(form.Combo3.list_index(), 2);
+}
+
+// Sender and reply number.
+
+TEST_F(SenderName, ANewOneTakesTheOldOnesPlaceInTheTextAndIsSaved) {
+    const struct {
+        compose::MessageKind kind;
+        const char16_t* name;
+        const char* text;
+    } rows[] = {
+        {compose::TEXT_MESSAGE, u"이순신", "[이순신] 글 [이순신]"},
+        {compose::TEXT_MESSAGE, u" 이순신 ", "[ 이순신 ] 글 [ 이순신 ]"},
+        {compose::TEXT_MESSAGE, u"", "[홍길동] 글 [홍길동]"},
+        {compose::FAX_MESSAGE, u"이순신", "[홍길동] 글 [홍길동]"},
+    };
+    for (const auto& row : rows) {
+        state.gSavedSenderName = u"홍길동";
+        save_setting(u"SET", u"ZentUserNickName", u"홍길동");
+        form.TabStrip1.select(row.kind);
+        form.txtUserName.show();
+        form.txtUserName.set_text(u"홍길동");
+        form.mText1.set_text(u"[홍길동] 글 [홍길동]");
+        form.txtUserName.set_focus();
+        form.txtUserName.user_edit(row.name);
+        form.Command1.set_focus();
+        EXPECT_EQ(utf8(form.mText1.text()), row.text);
+        EXPECT_EQ(setting(u"SET", u"ZentUserNickName"), utf8(platform::trim(row.name)));
+        EXPECT_EQ(utf8(state.gSavedSenderName), "홍길동") << "read again at the next login only";
+    }
+}
+
+TEST_F(SenderName, WhatIsSavedAlreadyIsNotWrittenAgain) {
+    state.gSavedSenderName = u"홍길동 ";
+    state.gSavedCallback = u" 0212345678";
+    form.txtUserName.set_text(u"홍길동");
+    form.txtCallback.set_text(u"0212345678");
+    for (platform::ComboBox* box : {&form.txtUserName, &form.txtCallback}) {
+        box->set_focus();
+        form.Command1.set_focus();
+    }
+    EXPECT_TRUE(files.files.empty());
+    form.txtCallback.set_focus();
+    form.txtCallback.user_edit(u" 0311234567 ");
+    form.Command1.set_focus();
+    EXPECT_EQ(setting(u"SET", u"ZentUserPhoneID"), "0311234567");
+}
+
+}  // namespace
