@@ -1,0 +1,94 @@
+#include "platform/error.h"
+#include "platform/text/cp949.h"
+#include "tests/support/main_window.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace {
+
+using platform::BoxIcon;
+using platform::Text;
+using tests::utf8;
+
+const Text FOLDER = u"z:\\app\\내모음함\\내모음함\\";
+
+struct SavingAText : testing::Test, tests::MainWindow {
+    void SetUp() override { compose_as(u"홍길동"); }
+
+    void save(const Text& subject, const Text& text) {
+        form.mText1.set_text(text);
+        form.subjectText.set_text(subject);
+        form.MySave.Click.raise();
+    }
+    std::string saved(const Text& title) const {
+        const auto file = files.files.find(FOLDER + title + u".txt");
+        return file == files.files.end() ? "no file" : utf8(platform::decode_cp949(file->second));
+    }
+};
+
+TEST_F(SavingAText, WritesTheBodyWithoutTheSendersNameUnderTheSubject) {
+    const struct {
+        const char16_t *subject, *text;
+        const char16_t* title;
+        const char* body;
+    } rows[] = {
+        {u"인사", u"[홍길동] 안녕하세요\r\n[홍길동] ☎ ", u"인사", "안녕하세요\r\n ☎"},
+        {u"", u"[홍길동] 새해 복 많이 받으세요", u"[홍길동] 새해 복 많이 받", "새해 복 많이 받으세요"},
+        {u"다른 이름", u"[이순신] 글", u"다른 이름", "[이순신] 글"},
+    };
+    for (const auto& row : rows) {
+        files.folders.clear();
+        form.txtUserName.set_text(u" 홍길동  ");
+        desktop.expect_box(u"내 모음함에 '" + Text(row.title) + u"' 제목으로 등록 되었습니다.");
+        save(row.subject, row.text);
+        EXPECT_EQ(saved(row.title), row.body);
+        EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::information);
+        EXPECT_EQ(utf8(form.txtUserName.text()), "홍길동");
+        EXPECT_TRUE(files.folders.contains(u"z:\\app\\내모음함"));
+        EXPECT_TRUE(files.folders.contains(u"z:\\app\\내모음함\\내모음함"));
+    }
+}
+
+TEST_F(SavingAText, ATextOfTheSendersNameAloneIsNone) {
+    for (const char16_t* text : {u"", u"[홍길동]", u"  [홍길동] [홍길동] "}) {
+        desktop.expect_box(u"메시지 내용을 입력하세요!");
+        form.Command1.set_focus();
+        save(u"인사", text);
+        EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::exclamation);
+        EXPECT_TRUE(form.mText1.has_focus());
+    }
+    EXPECT_TRUE(files.files.empty());
+}
+
+TEST_F(SavingAText, ASubjectThatIsTakenGetsTheFirstFreeNumberUpToTwoHundred) {
+    const auto take = [&](const Text& title) { files.files[FOLDER + title + u".txt"] = "old"; };
+    take(u"인사");
+    take(u"인사1");
+    take(u"인사3");
+    desktop.expect_box(u"내 모음함에 '인사2' 제목으로 등록 되었습니다.");
+    save(u"인사", u"글");
+    EXPECT_EQ(saved(u"인사2"), "글");
+    EXPECT_EQ(saved(u"인사1"), "old");
+    EXPECT_EQ(utf8(form.subjectText.text()), "인사") << "the draft keeps its subject";
+
+    for (int i = 2; i < 200; ++i) take(u"인사" + platform::decimal(i));
+    desktop.expect_box(u"'인사200' 제목으로");
+    save(u"인사", u"글");
+    EXPECT_EQ(saved(u"인사200"), "글");
+
+    desktop.expect_box(u"'인사201' 제목은 이미 존재하고 있습니다.");
+    save(u"인사", u"글");
+    EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::none);
+    EXPECT_EQ(saved(u"인사201"), "no file");
+}
+
+TEST_F(SavingAText, AFullDiskIsToldAndNothingCountsAsSaved) {
+    files.failure = platform::ErrorNumber::disk_full;
+    desktop.expect_box(u"오류번호:61");
+    save(u"인사", u"글");
+    EXPECT_EQ(saved(u"인사"), "no file");
+    EXPECT_EQ(desktop.boxes.size(), 1u);
+}
+
+}  // namespace
