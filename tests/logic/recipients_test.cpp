@@ -1,0 +1,275 @@
+#include "tests/support/main_window.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace compose;
+using platform::BoxAnswer;
+using platform::BoxIcon;
+using platform::Text;
+using tests::utf8;
+
+const std::string TEXT_ONLY = "(문자, 문자플러스 메시지 전송은 모바일(휴대폰)번호만 발송이 가능합니다.)";
+const std::string NO_FAX =
+    "(모바일(휴대폰), 03030, 0502, 0505로 시작되는 번호는 팩스메시지 발송이 불가하오니 확인하여 주십시오.)";
+const std::string NO_AREA_CODE = "(동일 통화지역도 만드시 지역번호(DDD)를 입력하여 주십시오.)";
+
+std::string wrong(const std::string& caption, const std::string& number, const std::string& why) {
+    return caption + " '" + number + "' 오류입니다.\r\n\r\n" + why;
+}
+
+struct Recipients : testing::Test, tests::MainWindow {
+    void SetUp() override { compose_as(u"홍길동"); }
+
+    void add(const Text& name, const Text& number, const Text& status = {}, bool checked = true) {
+        form.ListView1.add_row(u"", {name, number, status, u""}, checked);
+    }
+    /// "name number status" of each row, a checked one with "*" before and a selected one with "!".
+    std::vector<std::string> rows() const {
+        std::vector<std::string> shown;
+        for (std::size_t i = 0; i < form.ListView1.row_count(); ++i) {
+            const platform::ListItem& row = form.ListView1.row(i);
+            shown.push_back((row.checked() ? "*" : "") + std::string(row.selected() ? "!" : "") +
+                            utf8(row.sub_item(RECIPIENT_NAME)) + " " + utf8(row.sub_item(RECIPIENT_NUMBER)) +
+                            (row.sub_item(RECIPIENT_STATUS).empty() ? "" : " ") +
+                            utf8(row.sub_item(RECIPIENT_STATUS)));
+        }
+        return shown;
+    }
+    std::string counts() const { return utf8(form.Label4.caption()); }
+};
+
+using Rows = std::vector<std::string>;
+using Typed = Recipients;
+using Deleting = Recipients;
+using Checking = Recipients;
+using Sorting = Recipients;
+using Picking = Recipients;
+
+TEST_F(Typed, ANumberIsJudgedByTheKindAfterTheSearchForDuplicates) {
+    const struct {
+        MessageKind kind;
+        const char16_t *name, *number;
+        std::string box;  // none: the row is added
+        std::string row;
+    } entries[] = {
+        {TEXT_MESSAGE, u"이순신", u"010-9999-8888", "", "이순신 01099998888"},
+        {TEXT_MESSAGE, u"", u"01099998888", "", "이름없음 01099998888"},
+        {TEXT_MESSAGE, u" : : ", u"01099998888", "", "이름없음 01099998888"},
+        {TEXT_MESSAGE, u"이 순:신 ", u"1588-12345", "", "이순신 158812345"},
+        {TEXT_MESSAGE, u"이순신", u"   ", "문자보낼번호를(을) 입력하여 주십시오!", ""},
+        {VOICE_MESSAGE, u"", u"", "음성보낼번호를(을) 입력하여 주십시오!", ""},
+        {FAX_MESSAGE, u"", u"", "팩스보낼번호를(을) 입력하여 주십시오!", ""},
+        {TEXT_MESSAGE, u"", u"02-123-4567", wrong("문자보낼번호", "021234567", TEXT_ONLY), ""},
+        {TEXT_PLUS, u"", u"0641234567", wrong("문자보낼번호", "0641234567", TEXT_ONLY), ""},
+        {VOICE_MESSAGE, u"", u"02-123-4567", "", "이름없음 021234567"},
+        {VOICE_MESSAGE, u"", u"030301234567", "", "이름없음 030301234567"},
+        {FAX_MESSAGE, u"", u"02-123-4567", "", "이름없음 021234567"},
+        {FAX_MESSAGE, u"", u"01099998888", wrong("팩스보낼번호", "01099998888", NO_FAX), ""},
+        {FAX_MESSAGE, u"", u"05021234567", wrong("팩스보낼번호", "05021234567", NO_FAX), ""},
+        {TEXT_MESSAGE, u"", u"0109999", wrong("문자보낼번호", "0109999", NO_AREA_CODE), ""},
+        {TEXT_MESSAGE, u"", u"02123456", wrong("문자보낼번호", "02123456", NO_AREA_CODE), ""},
+        {VOICE_MESSAGE, u"", u"12345678", wrong("음성보낼번호", "12345678", NO_AREA_CODE), ""},
+        {TEXT_MESSAGE, u"", u"000000000", wrong("문자보낼번호", "000000000", TEXT_ONLY), ""},
+        {VOICE_MESSAGE, u"", u"번호를모르는사람임", "", "이름없음 번호를모르는사람임"},
+        // Duplicates come first: they are told even where the number is too short or of the wrong kind.
+        {TEXT_MESSAGE, u"", u"0101234", "이미 동일한 이름가 존재합니다.", "duplicate"},
+        {FAX_MESSAGE, u"", u"01012345678", "이미 동일한 이름가 존재합니다.", "duplicate"},
+        {VOICE_MESSAGE, u"", u"김", "이미 동일한 이름가 존재합니다.", "duplicate"},
+        {VOICE_MESSAGE, u"", u"부장", "이미 동일한 이름가 존재합니다.", "duplicate"},
+    };
+    for (const auto& entry : entries) {
+        SCOPED_TRACE(utf8(entry.name) + "/" + utf8(entry.number));
+        desktop.boxes.clear();
+        form.TabStrip1.select(entry.kind);
+        form.ListView1.clear();
+        form.ListView1.add_row(u"", {u"김유신", u"01012345678", u"", u"부장"}, true);
+        form.ListView1.add_row(u"", {u"계백", u"0317654321"}, false);
+        form.ListView1.select_item(1);
+        form.RECIPIENT_COUNT_CAPTION();
+        form.Command1.set_focus();
+        form.HText1[0].set_text(entry.name);
+        form.HText1[1].set_text(entry.number);
+        if (!entry.box.empty()) desktop.expect_box(platform::from_utf8(entry.box));
+        form.HBttn1.Click.raise();
+
+        const bool duplicate = entry.row == "duplicate", added = entry.box.empty();
+        Rows expected = {"*김유신 01012345678", "!계백 0317654321"};
+        if (duplicate) expected = {"*!김유신 01012345678", "계백 0317654321"};
+        if (added) expected = {"*김유신 01012345678", "계백 0317654321", "*!" + entry.row};
+        EXPECT_EQ(rows(), expected);
+        EXPECT_EQ(form.ListView1.selected_item(), duplicate ? 0u : added ? 2u : 1u);
+        EXPECT_EQ(counts(), added ? "전체>3>대상>2" : "전체>2>대상>1");
+        EXPECT_EQ(form.HText1[1].has_focus(), !added && !duplicate);
+        EXPECT_EQ(form.HText1[0].has_focus(), added);
+        EXPECT_EQ(utf8(form.HText1[0].text()), added ? "" : utf8(entry.name)) << "a refused entry stays";
+        EXPECT_EQ(form.HText1[1].text().empty(), added || platform::trim(entry.number).empty());
+        if (!added) {
+            EXPECT_EQ(utf8(desktop.boxes[0].text), entry.box);
+            EXPECT_EQ(desktop.boxes[0].icon, BoxIcon::exclamation);
+            EXPECT_EQ(utf8(desktop.boxes[0].title), "");
+        }
+    }
+}
+
+TEST_F(Typed, EnterGoesFromTheNameToTheNumberAndThenAdds) {
+    form.HText1[0].set_focus();
+    tests::press(form.HText1[0], u'김');
+    tests::press(form.HText1[0], u'\r');
+    EXPECT_TRUE(form.HText1[1].has_focus());
+    for (const char16_t digit : Text(u"01012345678")) tests::press(form.HText1[1], digit);
+    EXPECT_EQ(form.ListView1.row_count(), 0u);
+    tests::press(form.HText1[1], u'\r');
+    EXPECT_EQ(rows(), Rows{"*!김 01012345678"});
+    EXPECT_TRUE(form.HText1[0].has_focus());
+}
+
+TEST_F(Typed, RowsStayOverAChangeOfKind) {
+    add(u"가", u"0212345678", u"등록성공");
+    for (const MessageKind kind : {FAX_MESSAGE, VOICE_MESSAGE, TEXT_PLUS, TEXT_MESSAGE}) {
+        form.TabStrip1.select(kind);
+        EXPECT_EQ(rows(), Rows{"*가 0212345678 등록성공"});
+    }
+}
+
+TEST_F(Deleting, TakesTheSelectedRowsWhenTheUserSaysYes) {
+    platform::KeyPressed other_key{65};
+    platform::KeyPressed delete_key{platform::KEY_DELETE};
+    const std::vector<std::function<void()>> ways = {
+        [&] { form.HBttn2.Click.raise(); },
+        [&] { form.ListView1.KeyDown.raise(delete_key); },
+        [&] { form.mnusubpopup9.Click.raise(); },
+    };
+    for (const auto& delete_rows : ways) {
+        form.ListView1.clear();
+        for (const char16_t* name : {u"가", u"나", u"다", u"라"}) add(name, u"010");
+        form.RECIPIENT_COUNT_CAPTION();
+        form.ListView1.user_select(1, true);
+        delete_rows();
+        EXPECT_EQ(form.ListView1.row_count(), 4u) << "without a selected item nothing is said";
+        form.ListView1.select_item(3);
+        form.ListView1.KeyDown.raise(other_key);
+
+        desktop.expect_box(u"선택한 목록을 삭제하시겠습니까?", BoxAnswer::no);
+        delete_rows();
+        EXPECT_EQ(form.ListView1.row_count(), 4u);
+        EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::exclamation);
+        EXPECT_EQ(utf8(desktop.boxes.back().title), "삭제 확인");
+
+        desktop.expect_box(u"선택한 목록을 삭제하시겠습니까?", BoxAnswer::yes);
+        delete_rows();
+        EXPECT_EQ(rows(), (Rows{"*가 010", "*다 010"}));
+        EXPECT_EQ(counts(), "전체>2>대상>2");
+    }
+}
+
+TEST_F(Checking, ByTheUserEmptiesTheStatusSoThatAFailedRowIsSentAgain) {
+    add(u"가", u"010", u"등록실패", false);
+    add(u"나", u"011", u"등록성공", true);
+    form.ListView1.user_check(0, true);
+    EXPECT_EQ(rows(), (Rows{"*가 010", "*나 011 등록성공"}));
+    EXPECT_EQ(counts(), "전체>2>대상>2");
+    form.ListView1.user_check(1, false);
+    EXPECT_EQ(rows(), (Rows{"*가 010", "나 011 등록성공"}));
+    EXPECT_EQ(counts(), "전체>2>대상>1");
+}
+
+TEST_F(Checking, TheMenuChecksAndUnchecksTheSelectedRows) {
+    for (const char16_t* name : {u"가", u"나", u"다"}) add(name, u"010", u"등록실패", false);
+    form.ListView1.user_select(2, true);
+    form.mnusubpopup4.Click.raise();
+    EXPECT_EQ(rows(), (Rows{"가 010 등록실패", "나 010 등록실패", "!다 010 등록실패"})) << "no selected item";
+    form.ListView1.select_item(0);
+    form.mnusubpopup4.Click.raise();
+    EXPECT_EQ(rows(), (Rows{"*!가 010", "나 010 등록실패", "*!다 010"}));
+    EXPECT_EQ(counts(), "전체>3>대상>2");
+    form.ListView1.set_sub_item(0, RECIPIENT_STATUS, u"등록성공");
+    form.mnusubpopup5.Click.raise();
+    EXPECT_EQ(rows(), (Rows{"!가 010 등록성공", "나 010 등록실패", "!다 010"}));
+    EXPECT_EQ(counts(), "전체>3>대상>0");
+}
+
+TEST_F(Checking, ProgressShowsAboveFiveHundredRowsOnly) {
+    struct : platform::ControlView {
+        void refresh(platform::Aspect aspect) override {
+            if (aspect == platform::Aspect::visible) shown += bar->visible() ? 1 : 0;
+            if (aspect == platform::Aspect::value) values.push_back(bar->value());
+        }
+        const platform::ProgressBar* bar = nullptr;
+        int shown = 0;
+        std::vector<int> values;
+    } view;
+    view.bar = &form.PBar1;
+    form.PBar1.attach(&view);
+
+    for (int i = 0; i < 500; ++i) add(u"가", u"010", {}, false);
+    form.ListView1.select_all();
+    form.mnusubpopup4.Click.raise();
+    EXPECT_EQ(view.shown, 0);
+    EXPECT_TRUE(view.values.empty());
+
+    add(u"나", u"011", {}, false);
+    form.mnusubpopup5.Click.raise();
+    EXPECT_EQ(view.shown, 1);
+    ASSERT_EQ(view.values.size(), 100u);
+    EXPECT_EQ(view.values.front(), 1);
+    EXPECT_EQ(view.values.back(), 100);
+    EXPECT_FALSE(form.PBar1.visible());
+    form.PBar1.attach(nullptr);
+}
+
+TEST_F(Recipients, CtrlAAndTheMenuSelectEveryRowAndTheRightButtonOpensTheMenu) {
+    platform::KeyPressed a{u'a'}, ctrl_a{platform::KEY_CTRL_A};
+    for (const char16_t* name : {u"가", u"나"}) add(name, u"010", {}, false);
+    form.ListView1.KeyPress.raise(a);
+    EXPECT_FALSE(form.ListView1.row(0).selected());
+    form.ListView1.KeyPress.raise(ctrl_a);
+    EXPECT_EQ(rows(), (Rows{"!가 010", "!나 010"}));
+    form.ListView1.deselect_item();
+    form.mnusubpopup7.Click.raise();
+    EXPECT_EQ(rows(), (Rows{"!가 010", "!나 010"}));
+    EXPECT_EQ(form.ListView1.checked_count(), 0u) << "selection, not check marks";
+
+    form.ListView1.MouseUp.raise(platform::MouseButton::left);
+    EXPECT_TRUE(desktop.popups.empty());
+    form.ListView1.MouseUp.raise(platform::MouseButton::right);
+    EXPECT_EQ(desktop.popups, std::vector<const platform::Menu*>{&form.mnuSubPopup});
+}
+
+TEST_F(Sorting, EveryClickOnAColumnTurnsTheOrderAndTheCheckBoxesSortByTheName) {
+    add(u"나", u"1");
+    add(u"가", u"2");
+    const struct {
+        int column;
+        Rows rows;
+    } clicks[] = {
+        {1, {"*나 1", "*가 2"}}, {2, {"*가 2", "*나 1"}}, {3, {"*가 2", "*나 1"}},
+        {3, {"*나 1", "*가 2"}}, {1, {"*나 1", "*가 2"}},
+    };
+    for (const auto& click : clicks) {
+        form.ListView1.ColumnClick.raise(click.column);
+        EXPECT_EQ(rows(), click.rows);
+        EXPECT_EQ(form.ListView1.sort_key(), click.column == 3 ? 2 : 1);
+    }
+}
+
+TEST_F(Picking, CountsAgainWhenRowsCameOrTheDialogWasConfirmed) {
+    for (const auto& [adds, confirms, counted] :
+         {std::tuple{false, false, false}, std::tuple{true, false, true}, std::tuple{false, true, true}}) {
+        for (platform::Event<>* way : {&form.Command7.Click, &form.mnusubpopup1.Click}) {
+            form.Label4.set_caption(u"old");
+            state.gDialogConfirmed = true;
+            pick_recipients = [&, adds = adds, confirms = confirms] {
+                if (adds) add(u"가", u"010");
+                state.gDialogConfirmed = confirms;
+            };
+            way->raise();
+            EXPECT_EQ(counts() != "old", counted);
+        }
+    }
+}
+
+}  // namespace
