@@ -1,0 +1,14 @@
+#include "platform/qt/desk_style.h"
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_ACCESSIBILITY", "1");
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle(new platform::qt::DeskStyle);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "platform/qt/qt_desktop.h"
+#include "tests/screen/sample_forms.h"
+#include "tests/support/memory_files.h"
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QMessageBox>
+#include <QTest>
+#include <QWidget>
+#include <deque>
+#include <functional>
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+namespace tests {
+
+/// The screens of the sample forms.
+platform::qt::Screens sample_screens();
+
+/// Plays the user in front of message boxes.
+class BoxPlayer : public QObject {
+  public:
+    BoxPlayer() { qApp->installEventFilter(this); }
+
+    /// What to press in the boxes that open from now on, one after the other. Another box fails the test.
+    std::deque<QMessageBox::StandardButton> answers;
+    /// Happens while a box is open.
+    std::function<void()> meanwhile = [] {};
+    std::vector<QString> asked;
+
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    void play(QMessageBox& box);
+};
+
+/// The sample window on the offscreen desktop, found and driven as a user would.
+class ScreenTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        form.show();
+        settle();
+    }
+    void TearDown() override {
+        form.unload();
+        settle();
+    }
+
+    /// Lets everything happen that waits in the event loop.
+    static void settle() {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    template <class Widget = QWidget>
+    static Widget& find(const char* name) {
+        for (QWidget* window : QApplication::topLevelWidgets()) {
+            if (auto* found = window->findChild<Widget*>(QString::fromLatin1(name))) return *found;
+        }
+        throw std::runtime_error(name);
+    }
+
+    /// A step of an input method in the field that has the focus: what it commits, and what it has unfinished
+    /// then.
+    static void compose(const QString& commit, const QString& unfinished) {
+        QWidget* field = QApplication::focusWidget();
+        if (field == nullptr) throw std::logic_error("nothing has the focus");
+        QInputMethodEvent event(unfinished, {});
+        event.setCommitString(commit);
+        QCoreApplication::sendEvent(field, &event);
+    }
+
+    BoxPlayer boxes;
+    platform::qt::Screens screens = sample_screens();
+    MemoryFiles files;
+    platform::qt::QtDesktop desktop{screens, files};
+    frmSample form{desktop};
+};
+
+}  // namespace tests

@@ -1,0 +1,157 @@
+#include "platform/qt/message_edit.h"
+#include "platform/qt/text_conversion.h"
+#include "tests/screen/screen_fixture.h"
+
+#include <QClipboard>
+#include <QLineEdit>
+#include <QMimeData>
+
+namespace tests {
+namespace {
+
+using platform::KeyPressed;
+using platform::Text;
+
+TEST(TextConversionTest, places_are_the_same_on_both_sides_of_every_kind_of_line_end) {
+    struct Case {
+        Text program;
+        QString shown;
+        std::vector<std::pair<std::size_t, int>> places;
+    };
+    for (const Case& c : std::vector<Case>{
+             {u"", "", {{0, 0}}},
+             {u"가\r\n나", "가\n나", {{0, 0}, {1, 1}, {3, 2}, {4, 3}}},
+             {u"\r\n\r\n", "\n\n", {{0, 0}, {2, 1}, {4, 2}}},
+             {u"a\nb\rc", "a\nb\nc", {{1, 1}, {2, 2}, {3, 3}, {4, 4}, {5, 5}}},
+             {u"a\u2028b\u2029", "a\nb\n", {{2, 2}, {4, 4}}},
+             {u"\U0001F600\r\n", "\U0001F600\n", {{2, 2}, {4, 3}}},
+         }) {
+        SCOPED_TRACE(c.shown.toStdString());
+        EXPECT_EQ(platform::qt::shown_text(c.program), c.shown);
+        for (const auto& [program, shown] : c.places) {
+            EXPECT_EQ(platform::qt::shown_position(c.program, program), shown);
+            EXPECT_EQ(platform::qt::program_position(c.program, shown), program);
+        }
+    }
+    EXPECT_EQ(platform::qt::shown_position(u"가\r\n나", 2), 1) << "between CR and LF is before the line end";
+    EXPECT_EQ(platform::qt::program_text(QString("a\u2029b\rc\r\nd") + QChar(u'\0')), u"a\r\nb\r\nc\r\nd");
+}
+
+class TextFieldTest : public ScreenTest {
+  protected:
+    void SetUp() override {
+        ScreenTest::SetUp();
+        form.mText1.set_focus();
+        form.mText1.Change.connect([this] { changes.push_back(form.mText1.text()); });
+        form.mText1.KeyPress.connect([this](KeyPressed& key) {
+            codes.push_back(key.code);
+            on_key(key);
+        });
+    }
+
+    platform::qt::MessageEdit& edit() { return find<platform::qt::MessageEdit>("mText1"); }
+
+    std::vector<Text> changes;
+    std::vector<int> codes;
+    std::function<void(KeyPressed&)> on_key = [](KeyPressed&) {};
+};
+
+TEST_F(TextFieldTest, keys_raise_a_key_press_and_then_a_change_with_the_caret_in_the_programs_places) {
+    QTest::keyClicks(&edit(), "ab");
+    QTest::keyClick(&edit(), Qt::Key_Return);
+    QTest::keyClick(&edit(), Qt::Key_C);
+    EXPECT_EQ(form.mText1.text(), u"ab\r\nc");
+    EXPECT_EQ(form.mText1.selection_start(), 5u);
+    QTest::keyClick(&edit(), Qt::Key_Left);
+    EXPECT_EQ(form.mText1.selection_start(), 4u);
+    QTest::keyClick(&edit(), Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_EQ(form.mText1.selection_start(), 2u);
+    EXPECT_EQ(form.mText1.selection_length(), 2u);
+    QTest::keyClick(&edit(), Qt::Key_Backspace);
+    EXPECT_EQ(form.mText1.text(), u"abc");
+    EXPECT_EQ(form.mText1.selection_start(), 2u);
+    QTest::keyClick(&edit(), Qt::Key_Delete);
+    EXPECT_EQ(codes, (std::vector<int>{'a', 'b', platform::KEY_ENTER, 'c', platform::KEY_BACKSPACE}));
+    QTest::keyClick(&edit(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(form.mText1.text(), u"abc") << "undo is an edit like others";
+    EXPECT_EQ(changes.size(), 7u);
+}
+
+TEST_F(TextFieldTest, a_swallowed_key_changes_nothing_and_a_cut_before_the_key_stands) {
+    QTest::keyClicks(&edit(), "abc");
+    on_key = [](KeyPressed& key) { key.swallow(); };
+    QTest::keyClicks(&edit(), "d");
+    EXPECT_EQ(form.mText1.text(), u"abc");
+    on_key = [this](KeyPressed&) {
+        form.mText1.set_text(u"a");
+        form.mText1.set_caret_to_end();
+        form.Picture2.set_focus();
+    };
+    QTest::keyClick(&edit(), Qt::Key_E);
+    EXPECT_EQ(form.mText1.text(), u"ae");
+    EXPECT_EQ(edit().committed_text(), "ae");
+}
+
+TEST_F(TextFieldTest, what_is_pasted_is_plain_text_and_one_change_without_a_key_press_of_its_own) {
+    auto* rich = new QMimeData;
+    rich->setHtml("<b>가</b><br>나");
+    rich->setText(QString("가\r나\u2028다\r\n") + QChar(u'\0') + "라");
+    QGuiApplication::clipboard()->setMimeData(rich);
+    edit().paste();
+    settle();
+    EXPECT_EQ(changes, std::vector<Text>{u"가\r\n나\r\n다\r\n라"});
+    EXPECT_EQ(form.mText1.selection_start(), form.mText1.text().size());
+    EXPECT_TRUE(codes.empty());
+
+    form.HText1.set_focus();
+    find<QLineEdit>("HText1_0").paste();
+    settle();
+    EXPECT_EQ(form.HText1.text(), u"가나다라") << "one line has no line ends";
+}
+
+TEST_F(TextFieldTest, text_and_selection_set_by_code_show_and_raise_one_change) {
+    form.mText1.set_text(u"가\r\n나다");
+    EXPECT_EQ(edit().committed_text(), "가\n나다");
+    EXPECT_EQ(edit().textCursor().position(), 0);
+    form.mText1.select(3, 1);
+    EXPECT_EQ(edit().textCursor().selectedText(), "나");
+    form.mText1.paste(u"☎");
+    EXPECT_EQ(edit().committed_text(), "가\n☎다");
+    EXPECT_EQ(edit().textCursor().position(), 3);
+    settle();
+    EXPECT_EQ(changes, (std::vector<Text>{u"가\r\n나다", u"가\r\n☎다"}));
+    edit().undo();
+    settle();
+    EXPECT_EQ(form.mText1.text(), u"가\r\n나다");
+}
+
+TEST_F(TextFieldTest, a_handler_that_sets_the_text_again_wins) {
+    form.mText1.Change.connect([this] {
+        if (form.mText1.text() == u"x") form.mText1.set_text(u"y");
+    });
+    QTest::keyClicks(&edit(), "x");
+    EXPECT_EQ(edit().committed_text(), "y");
+    QTest::keyClick(&edit(), Qt::Key_End);
+    QTest::keyClicks(&edit(), "z");
+    EXPECT_EQ(form.mText1.text(), u"yz");
+}
+
+TEST_F(TextFieldTest, enter_in_a_one_line_field_is_its_handlers) {
+    auto& field = find<QLineEdit>("HText1_0");
+    form.HText1.KeyPress.connect([this](KeyPressed& key) {
+        if (key.code != platform::KEY_ENTER) return;
+        form.ListView1.add_row(u"", {form.HText1.text()});
+        form.HText1.set_text(u"");
+        form.mText1.set_focus();
+    });
+    form.HText1.set_focus();
+    QTest::keyClicks(&field, "010");
+    EXPECT_EQ(form.HText1.selection_start(), 3u);
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(form.ListView1.row(0).sub_item(1), u"010");
+    EXPECT_EQ(field.text(), "");
+    EXPECT_EQ(QApplication::focusWidget(), &edit());
+}
+
+}  // namespace
+}  // namespace tests
