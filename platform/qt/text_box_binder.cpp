@@ -119,11 +119,8 @@ bool LineBinder::filter(QObject&, QEvent& event) {
 
 /// A paste may bring line ends, which have no place in one line.
 void LineBinder::join_lines() {
-    const QString text = edit_.text();
-    if (text.contains(u'\n') || text.contains(u'\r') || text.contains(u'\0')) {
-        const auto one_line = [](QString part) {
-            return part.remove(u'\r').remove(u'\n').remove(QChar(u'\0'));
-        };
+    const auto one_line = [](const QString& text) { return to_lines(text).remove(u'\n'); };
+    if (const QString text = edit_.text(); has_edit() && text != one_line(text)) {
         const auto caret = one_line(text.left(edit_.cursorPosition())).size();
         const QScopedValueRollback<bool> working(working_, true);
         edit_.setText(one_line(text));

@@ -31,6 +31,9 @@ class TextBoxBinder : public WidgetBinder, protected EditedField {
     /// The widget is done with an edit or a move of the caret.
     void edited();
 
+    /// Whether the user has changed the text since it was handed over.
+    bool has_edit() const { return edits_.waiting(); }
+
     void hand_over() final;
     void write_back() final;
     bool is_live() const final { return is_bound_live(); }
