@@ -1,0 +1,190 @@
+#include "compose/main_form.h"
+#include "gateway/frmAbout.h"
+#include "gateway/frmAutoLogin.h"
+#include "gateway/frmZentLogin.h"
+#include "platform/qt/qt_desktop.h"
+#include "platform/qt/screen_faults.h"
+#include "platform/qt/text_conversion.h"
+#include "send/frmSBox.h"
+#include "send/frmSendEndBox.h"
+#include "send/frmZentSend.h"
+#include "tests/support/test_platform.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QRadioButton>
+#include <QTabBar>
+#include <gtest/gtest.h>
+
+namespace {
+
+using platform::Form;
+
+/// The whole system over doubles, but with real windows.
+struct System {
+    TestPlatform machine;
+    platform::qt::Screens screens = platform::qt::program_screens();
+    platform::qt::QtDesktop desktop{screens, machine.files};
+    platform::Platform platform{.desktop = desktop,
+                                .clock = machine.clock,
+                                .files = machine.files,
+                                .settings = machine.settings,
+                                .shell = machine.shell,
+                                .carrier = machine.carrier};
+    gateway::ServiceDoors service_doors;
+    compose::frmZent main{platform, machine.state, service_doors, compose::MainDoors{}};
+
+    std::vector<std::unique_ptr<Form>> dialogs() {
+        std::vector<std::unique_ptr<Form>> forms;
+        forms.push_back(
+            std::make_unique<gateway::frmZentLogin>(platform, machine.state, service_doors, main.Timer1));
+        forms.push_back(std::make_unique<gateway::frmAutoLogin>(platform, machine.state, service_doors));
+        forms.push_back(std::make_unique<gateway::frmAbout>(platform, service_doors));
+        forms.push_back(std::make_unique<send::frmSBox>(platform, machine.state));
+        forms.push_back(std::make_unique<send::frmZentSend>(platform, machine.state, main, service_doors));
+        forms.push_back(std::make_unique<send::frmSendEndBox>(platform, service_doors));
+        return forms;
+    }
+};
+
+void settle() {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    QCoreApplication::processEvents();
+}
+
+QWidget& window_of(const Form& form) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->windowTitle() == platform::qt::to_qstring(form.caption()))
+            return *window;
+    }
+    throw std::logic_error("no window of " + platform::to_utf8(form.name()));
+}
+
+QRect place_in(const QWidget& window, const QWidget& widget) {
+    return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
+}
+
+std::string name_of(const QWidget& widget) { return widget.objectName().toStdString(); }
+
+/// The room that a button's picture and text take, with the edge that the style draws around them.
+int width_needed(const QAbstractButton& button) {
+    if (qobject_cast<const QCheckBox*>(&button) || qobject_cast<const QRadioButton*>(&button))
+        return button.sizeHint().width();
+    constexpr int EDGES = 8;
+    const int picture = button.icon().isNull() ? 0 : button.iconSize().width() + 4;
+    return picture + button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width() + EDGES;
+}
+
+bool shows_its_text(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+        if (label->text().isEmpty()) return true;
+        if (label->wordWrap()) return label->height() >= label->heightForWidth(label->width());
+        return label->width() >= label->sizeHint().width() && label->height() >= label->sizeHint().height();
+    }
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+        return button->text().isEmpty() || button->width() >= width_needed(*button);
+    }
+    if (const auto* tabs = qobject_cast<const QTabBar*>(&widget)) {
+        return tabs->width() >= tabs->minimumSizeHint().width();
+    }
+    return true;
+}
+
+void expect_everything_readable(const QWidget& window) {
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || widget->isWindow() || widget->objectName().isEmpty()) continue;
+        EXPECT_TRUE(shows_its_text(*widget)) << name_of(*widget) << " cuts its text";
+        EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry()))
+            << name_of(*widget) << " is cut off by what holds it";
+    }
+}
+
+/// The widgets that Tab visits, from the first one on.
+std::vector<QWidget*> tab_order(QWidget& window) {
+    std::vector<QWidget*> order;
+    for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
+        if (next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus) &&
+            next->focusProxy() == nullptr && next->window() == &window)
+            order.push_back(next);
+    }
+    return order;
+}
+
+/// Tab goes down, or up to the head of the next column. A widget that the screen's order forgets comes before
+/// all others, which is a jump upwards for the one after it.
+void expect_tab_order_of_a_reader(QWidget& window) {
+    const auto order = tab_order(window);
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        const QRect from = place_in(window, *order[i - 1]);
+        const QRect to = place_in(window, *order[i]);
+        EXPECT_TRUE(to.bottom() >= from.top() || to.left() > from.right())
+            << "from " << name_of(*order[i - 1]) << " up to " << name_of(*order[i]);
+    }
+}
+
+void expect_good_screen(QWidget& window) {
+    settle();
+    expect_everything_readable(window);
+    expect_tab_order_of_a_reader(window);
+}
+
+TEST(AllScreens, have_a_widget_for_every_control_and_a_control_for_every_widget) {
+    System system;
+    auto forms = system.dialogs();
+    std::vector<Form*> all{&system.main};
+    for (const auto& form : forms) all.push_back(form.get());
+    for (Form* form : all) {
+        const auto window = system.screens.build(form->name());
+        for (const QString& fault : platform::qt::screen_faults(*form, *window, system.machine.files))
+            ADD_FAILURE() << platform::to_utf8(form->name()) << ": " << fault.toStdString();
+    }
+}
+
+TEST(AllScreens, show_every_dialog_whole) {
+    System system;
+    system.main.load();
+    for (const auto& form : system.dialogs()) {
+        SCOPED_TRACE(platform::to_utf8(form->name()));
+        form->load();
+        form->show();
+        expect_good_screen(window_of(*form));
+        form->unload();
+        settle();
+    }
+    system.main.unload();
+    settle();
+}
+
+TEST(AllScreens, show_the_main_window_whole_at_its_smallest) {
+    System system;
+    compose::frmZent& form = system.main;
+    form.show();
+    settle();
+    QWidget& window = window_of(form);
+    const QSize smallest = window.minimumSize();
+    ASSERT_EQ(smallest, QSize(744, 493));
+    form.Check1.set_checked(true);
+    form.Option2.set_chosen(true);
+    QWidget& panel = *window.findChild<QWidget*>(QStringLiteral("_messagePanel"));
+    std::optional<QRect> panel_place;
+    for (int kind = compose::TEXT_MESSAGE; kind <= compose::FAX_MESSAGE; ++kind) {
+        for (int source = 1; source <= 3; ++source) {
+            SCOPED_TRACE(testing::Message() << "kind " << kind << ", source " << source);
+            form.TabStrip1.select(kind);
+            form.TabStrip2.select(source);
+            window.resize(smallest);
+            expect_good_screen(window);
+            EXPECT_EQ(window.size(), smallest);
+            const QRect place = place_in(window, panel);
+            EXPECT_EQ(place, panel_place.value_or(place)) << "a change of kind moves the panel";
+            panel_place = place;
+        }
+    }
+    form.unload();
+    settle();
+}
+
+}  // namespace
