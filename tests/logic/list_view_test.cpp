@@ -115,6 +115,17 @@ TEST_F(Lists, SortingKeepsTheOrderOfEqualRowsBothWaysAndIgnoresCase) {
     EXPECT_EQ(column(2).back(), "7") << "a new row stands where the user sees it";
 }
 
+TEST_F(Lists, SortingALongListKeepsTheOrderOfEqualRowsToo) {
+    for (int i = 0; i < 300; ++i) list.add_row(u"", {decimal(i % 3), decimal(1000 + i)});
+    for (const Order order : {Order::descending, Order::ascending}) {
+        list.sort(1, order);
+        for (std::size_t row = 1; row < list.row_count(); ++row) {
+            if (list.row(row - 1).sub_item(1) != list.row(row).sub_item(1)) continue;
+            ASSERT_LT(list.row(row - 1).sub_item(2), list.row(row).sub_item(2)) << row;
+        }
+    }
+}
+
 TEST_F(Lists, ASubItemBehindTheLastOneIsEmptyUntilItIsSet) {
     list.add_row(u"", {u"홍길동"});
     EXPECT_EQ(utf8(list.row(0).sub_item(3)), "");
