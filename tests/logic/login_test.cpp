@@ -188,6 +188,11 @@ TEST_F(ManualLogin, EnterGoesToThePasswordAndThenLogsIn) {
         login.Text1.set_text(u"hong");
         login.Text1.set_focus();
         EXPECT_EQ(login.Text1.selection_length(), 4u) << "a field that gets the focus is selected";
+        login.Text2.set_text(u"old");
+        login.Text2.set_focus();
+        EXPECT_EQ(login.Text2.selection_length(), 3u);
+        login.Text2.set_text(u"");
+        login.Text1.set_focus();
         press(login.Text1, u'x');
         EXPECT_EQ(utf8(login.Text1.text()), "x");
         platform::KeyPressed enter_key{platform::KEY_ENTER};
@@ -219,6 +224,7 @@ TEST_F(ManualLogin, AFailedBindIsExplainedAndTheFormStaysForAnotherTry) {
         EXPECT_TRUE(login.loaded());
         EXPECT_FALSE(login.Picture1.visible());
         EXPECT_FALSE(login.Animation1.playing());
+        EXPECT_EQ(state.gSubmitSequence, 1) << "set before the bind";
         EXPECT_FALSE(state.gLoginResult);
         EXPECT_TRUE(login.Text2.has_focus());
         EXPECT_EQ(login.Text2.selection_start(), 0u);
