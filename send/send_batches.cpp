@@ -75,8 +75,8 @@ bool frmZentSend::gather(Batch& batch, std::size_t& current) const {
     batch.s_dest_addr += *address;
     batch.bytes = bytes;
     ++batch.count;
-    // Deliberately the batch's first row stays what it was: a result reaches back over rows that failed
-    // before, and they show it.
+    // Deliberately without noting the first row: a token that fills a batch alone also marks rows that failed
+    // in the batch before. Users and support know the status column so.
     if (bytes == ADDRESS_LIMIT) return true;
     if (batch.count == 1) batch.first_row = current - 1;
     return batch.count == RECIPIENT_LIMIT || current == RecipientRows.row_count();

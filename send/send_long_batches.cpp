@@ -31,7 +31,8 @@ void frmZentSend::SEND_LONG_BATCHES() {
             state_.gSubmitSequence = 1;
             job.account_checked = false;
             job.batch_sequence = 0;
-            // Deliberately without the address text: what a stopped pass had gathered stays in it.
+            // Deliberately all but the address text, which keeps what a stopped pass had gathered: the
+            // service has always been given such a batch as it stands.
             batch.count = 0;
             batch.first_row = 0;
 

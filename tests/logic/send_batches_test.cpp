@@ -196,6 +196,18 @@ TEST(SendKinds, GiveTheCarrierTheirCodesAndTheirFieldsAlone) {
     }
 }
 
+TEST(SendKinds, ARecipientMayAnswerOnlyWhenTheTickSaysSo) {
+    for (const bool ticked : {false, true}) {
+        Sending s;
+        s.form.TabStrip1.select(compose::VOICE_MESSAGE);
+        s.form.ttsText.set_text(u"음성");
+        s.form.Check2.set_checked(ticked);
+        s.add_many(1);
+        s.send();
+        EXPECT_EQ(s.carrier.registrations.at(0).s_reply_flag, ticked ? 1 : 0);
+    }
+}
+
 TEST(SendKinds, ATextThatIsNoKindIsNotSubmittedAndItsRowsFail) {
     Sending s;
     s.add_many(2);

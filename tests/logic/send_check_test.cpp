@@ -168,6 +168,10 @@ struct Confirmation {
 
 TEST(SendBox, ShowsWhatIsAboutToGo) {
     const Confirmation confirmations[] = {
+        {[](Sending& s) { s.form.txtCallback.set_text(u" "); },
+         "\r\n 메시지제목   : 인사\r\n 메시지구분   : 문자메시지\r\n 발송예약시간: 즉시전송\r\n"
+         " 회신번호      : 02-999-0000\r\n 발송대상      : a(010-1111-2222)",
+         "문자메시지 발송을 시작하시겠습니까?"},
         {[](Sending&) {},
          "\r\n 메시지제목   : 인사\r\n 메시지구분   : 문자메시지\r\n 발송예약시간: 즉시전송\r\n"
          " 회신번호      : 02-123-4567\r\n 발송대상      : a(010-1111-2222)",

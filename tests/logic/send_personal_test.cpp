@@ -166,12 +166,15 @@ TEST(SendSingles, FailATextThatIsTooLongInsteadOfCuttingIt) {
 TEST(SendSingles, SendAnyKindWholeToOneRecipientASubmit) {
     Sending s;
     s.type(Text(81, u'a'));
+    s.form.txtCallback.set_text(u"");
     s.add_many(120);
     send_singles(s, u"문자메시지");
     EXPECT_EQ(s.carrier.registrations.size(), 120u);
     EXPECT_EQ(s.carrier.registrations[119].s_sms_content.size(), 81u);
     EXPECT_EQ(s.carrier.registrations[119].s_dest_addr_count, 1);
     EXPECT_EQ(utf8(s.carrier.registrations[119].s_subject), utf8(s.carrier.registrations[0].s_subject));
+
+    EXPECT_EQ(utf8(s.carrier.registrations[119].s_callback), "029990000");
 
     Sending letter;
     letter.add_many(1);
