@@ -71,13 +71,11 @@ struct MainWindowLife : testing::Test, tests::MainWindow {
     void TearDown() override { form.unload(); }
 };
 
-using Placement_ = platform::Placement;
-
 TEST(MainWindowPlacement, IsRestoredWithinTheScreenOrTheDefaultSizeIsCentred) {
-    constexpr Placement_ DEFAULT{.left = 8400, .top = 3600, .width = 12000, .height = 9000};
+    constexpr Placement DEFAULT{.left = 8400, .top = 3600, .width = 12000, .height = 9000};
     const struct {
         const char* settings;
-        Placement_ placement;
+        Placement placement;
         WindowState state = WindowState::normal;
     } rows[] = {
         {"", DEFAULT},
