@@ -83,6 +83,7 @@ void ComboBoxBinder::choose(int index) {
     if (!is_bound_live()) return;
     if (!is_editable()) return act([&] { control_.set_list_index(index); });
     edits_.written();
+    drop_composition(combo_);
     edits_.run([&] { control_.set_list_index(index); });
     edits_.settle();
 }

@@ -32,6 +32,9 @@ bool filter_field_event(QWidget& field, QEvent& event, const std::function<void(
         case QEvent::FocusOut:
             if (static_cast<QFocusEvent&>(event).reason() != Qt::PopupFocusReason) commit_composition(field);
             return false;
+        case QEvent::MouseButtonPress:
+            commit_composition(field);
+            return false;
         case QEvent::KeyPress:
         case QEvent::InputMethod:
             break;

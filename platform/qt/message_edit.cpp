@@ -58,6 +58,8 @@ void MessageEdit::focusOutEvent(QFocusEvent* event) {
 }
 
 bool MessageEdit::viewportEvent(QEvent* event) {
+    // The click moves the caret away from the syllable, and the toolkit would throw it away.
+    if (event->type() == QEvent::MouseButtonPress) commit_composition(*this);
     bool handled = false;
     work([&] { handled = QPlainTextEdit::viewportEvent(event); });
     return handled;

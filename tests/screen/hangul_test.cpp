@@ -236,6 +236,22 @@ TEST_F(HangulTest, setting_another_text_in_mid_composition_ends_it) {
     EXPECT_EQ(shown(), "다다른 글");
 }
 
+TEST_F(HangulTest, a_click_into_the_field_keeps_the_syllable) {
+    form.mText1.set_text(u"가나");
+    form.mText1.set_caret_to_end();
+    compose("", "다");
+    QTest::mouseClick(edit().viewport(), Qt::LeftButton, {}, QPoint(1, 8));
+    EXPECT_EQ(shown(), "가나다");
+    EXPECT_EQ(form.mText1.text(), u"가나다");
+    EXPECT_EQ(form.mText1.selection_start(), 0u);
+
+    form.HText1.set_focus();
+    compose("", "한");
+    QTest::mouseClick(&find("HText1_0"), Qt::LeftButton);
+    settle();
+    EXPECT_EQ(form.HText1.text(), u"한");
+}
+
 TEST_F(HangulTest, one_line_fields_and_editable_boxes_follow_the_same_order) {
     form.HText1.set_focus();
     std::vector<Text> texts;
