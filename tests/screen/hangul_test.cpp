@@ -201,6 +201,7 @@ TEST_F(HangulTest, an_input_method_that_commits_late_counts_as_an_edit_after_the
     bool rewrite = false;
     on_change = [&] {
         if (changes.size() != 1) return;
+        if (rewrite) form.mText1.set_text(u"새");
         boxes.answers = {QMessageBox::Ok};
         boxes.meanwhile = [this] {
             QInputMethodEvent event;
@@ -208,7 +209,6 @@ TEST_F(HangulTest, an_input_method_that_commits_late_counts_as_an_edit_after_the
             QCoreApplication::sendEvent(&edit(), &event);
         };
         desktop.message_box({.text = u"?", .title = u""});
-        if (rewrite) form.mText1.set_text(u"새");
     };
     compose("나", "");
     EXPECT_EQ(changes, (std::vector<Text>{u"가나", u"가나다"}));
