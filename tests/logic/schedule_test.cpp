@@ -69,7 +69,7 @@ TEST_F(Schedule, AScheduledMessageBeginsAtTheSavedLeadWithTwoMinutesMargin) {
         {u"91", 10, 0, "11/23 10:32"},
         {u"120", 10, 0, "11/23 10:32"},
         {u"99999999999999999999", 10, 0, "11/23 10:32"},
-        {u"-99999999999999999999", 10, 7, "11/23 10:07"},
+        {u"-4294967286", 10, 7, "11/23 10:07"},
     };
     for (const auto& row : rows) {
         save_setting(u"SET", u"P_TIME", row.lead);
