@@ -3,6 +3,7 @@
 #include "platform/qt/key_code.h"
 
 #include <QContextMenuEvent>
+#include <QFontInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QTreeView>
@@ -21,13 +22,14 @@ void set_up(QTreeView& view) {
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.header()->setSectionsClickable(true);
     view.header()->setSectionsMovable(false);
-    // The screen's widths in pixels; columns with "*" share what the others leave.
+    // The screen's widths, drawn for text of 12 pixels; columns with "*" share what the others leave.
     const QStringList widths = view.property("columnWidths").toStringList();
     for (int column = 0; column < widths.size(); ++column) {
         if (widths[column] == u'*') {
             view.header()->setSectionResizeMode(column, QHeaderView::Stretch);
         } else {
-            view.header()->resizeSection(column, widths[column].toInt());
+            view.header()->resizeSection(column,
+                                         widths[column].toInt() * QFontInfo(view.font()).pixelSize() / 12);
         }
     }
 }
