@@ -113,10 +113,12 @@ FormWindow* QtDesktop::window_of(const Form& form) const {
     return found == windows_.end() ? nullptr : found->second.data();
 }
 
-/// The window that boxes and modal forms stay in front of.
+/// The window that boxes and modal forms stay in front of. A window that has just been closed may still count
+/// as the active one; what it took as its child would go with it.
 QWidget* QtDesktop::front_window() const {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-    if (QWidget* active = QApplication::activeWindow()) return active;
+    if (QWidget* active = QApplication::activeWindow(); active != nullptr && active->isVisible())
+        return active;
     for (const auto& [form, window] : windows_) {
         if (window != nullptr && window->window().isVisible()) return &window->window();
     }

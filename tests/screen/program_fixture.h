@@ -1,0 +1,91 @@
+#pragma once
+
+#include "app/application.h"
+#include "carrier/database.h"
+#include "platform/ini/ini_settings.h"
+#include "platform/posix/posix_carrier_library.h"
+#include "platform/posix/posix_files.h"
+#include "platform/posix/posix_shell.h"
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_desktop.h"
+#include "tests/support/temporary_folder.h"
+
+#include <QTimer>
+#include <deque>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace tests {
+
+/// The machine's clock on which nobody waits: what a pause is for still happens in it.
+class HastyClock : public platform::qt::QtClock {
+  public:
+    void pause(int milliseconds) override;
+};
+
+/// The user in front of the real program: what he does in each window, in the order in which he expects them.
+class WindowPlayer : public QObject {
+  public:
+    WindowPlayer();
+    ~WindowPlayer() override;
+
+    using Act = std::function<void(QWidget& window)>;
+    using Condition = std::function<bool()>;
+
+    /// Once a window of this name is in front and the condition holds, does this in it. Message boxes are
+    /// windows named "messageBox".
+    void in_window(
+        const char* name, Act act, Condition condition = [] { return true; });
+
+  private:
+    void look();
+
+    struct Step {
+        QString window;
+        Act act;
+        Condition condition;
+    };
+    std::deque<Step> steps_;
+};
+
+/// The whole program as it is installed, in a folder of its own: real windows, real files, the carrier's
+/// library and its ledger.
+class ProgramTest : public testing::Test {
+  protected:
+    ProgramTest();
+    ~ProgramTest() override;
+
+    /// Runs the program from its start to its end.
+    void run();
+    /// Adds lines to the carrier's orders.
+    void order(const std::string& lines);
+    /// The field of every registration, in their order.
+    std::vector<std::string> ledger(const std::string& field) const;
+    void log_in();
+
+    /// Types in place of what the field holds.
+    static void type_into(QWidget& window, const char* field, const QString& text);
+    static void press_enter(QWidget& window, const char* field);
+    static void press(QWidget& window, const char* button);
+    static QString text_of(QWidget& window, const char* field);
+
+    TemporaryFolder folder;
+    WindowPlayer user;
+    platform::posix::Paths paths{folder.path().string()};
+    platform::posix::PosixFiles files{paths, (folder.path() / "windows").string()};
+    platform::IniSettings settings{files};
+    platform::posix::PosixShell shell{paths};
+    platform::posix::PosixCarrierLibrary carrier;
+    HastyClock clock;
+    platform::qt::Screens screens = platform::qt::program_screens();
+    platform::qt::QtDesktop desktop{screens, files};
+    platform::Platform platform{.desktop = desktop,
+                                .clock = clock,
+                                .files = files,
+                                .settings = settings,
+                                .shell = shell,
+                                .carrier = carrier};
+    app::Application application{platform};
+};
+
+}  // namespace tests
