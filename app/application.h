@@ -6,7 +6,8 @@
 
 namespace app {
 
-/// The system put together over a machine: the shared variables, the main window, and the doors between the wings.
+/// The system put together over a machine: the shared variables, the main window, and the doors between the
+/// wings.
 class Application {
   public:
     explicit Application(platform::Platform& platform);

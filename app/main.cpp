@@ -1,7 +1,6 @@
-#include <QApplication>
-#include <QIcon>
-
 #include "app/application.h"
+#include "core/windows.h"
+#include "platform/error.h"
 #include "platform/ini/ini_settings.h"
 #include "platform/posix/posix_carrier_library.h"
 #include "platform/posix/posix_files.h"
@@ -12,8 +11,37 @@
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/screens.h"
 
+#include <QApplication>
+#include <QIcon>
+
+namespace {
+
+/// The toolkit's application, in which an error that a handler let through is shown and the program goes on:
+/// a draft is never lost to it.
+class Toolkit : public QApplication {
+  public:
+    using QApplication::QApplication;
+
+    void show_errors_on(platform::Desktop& desktop) { desktop_ = &desktop; }
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const platform::RuntimeError& error) {
+            if (desktop_ == nullptr) throw;
+            core::show_error(*desktop_, error, platform::BoxIcon::critical);
+            return true;
+        }
+    }
+
+  private:
+    platform::Desktop* desktop_ = nullptr;
+};
+
+}  // namespace
+
 int main(int argc, char** argv) {
-    QApplication qt(argc, argv);
+    Toolkit qt(argc, argv);
     QApplication::setStyle(new platform::qt::DeskStyle);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.svg")));
     QApplication::setQuitOnLastWindowClosed(false);
@@ -28,6 +56,7 @@ int main(int argc, char** argv) {
     platform::qt::QtClock clock;
     const platform::qt::Screens screens = platform::qt::program_screens();
     platform::qt::QtDesktop desktop(screens, files);
+    qt.show_errors_on(desktop);
     platform::Platform platform{.desktop = desktop,
                                 .clock = clock,
                                 .files = files,
