@@ -38,6 +38,9 @@ inline constexpr platform::TextView NO_NAME = u"이름없음";
 /// The tabs of `frmZent::TabStrip1`.
 enum MessageKind { TEXT_MESSAGE = 1, TEXT_PLUS = 2, VOICE_MESSAGE = 3, FAX_MESSAGE = 4 };
 
+/// The buttons of `frmZent::Toolbar1` behind those of the kinds.
+enum PageButton { RESULTS_BUTTON = 7, INBOX_BUTTON = 8, CHARGES_BUTTON = 9 };
+
 /// The most bytes of one text message, in cp949.
 inline constexpr std::size_t TEXT_LIMIT = 80;
 /// The most bytes of a text to be spoken.
@@ -51,7 +54,7 @@ inline constexpr std::size_t TTS_LIMIT = 1000;
 /// main_form_recipients, schedule and reply in main_form_schedule.
 class frmZent : public platform::Form {
   public:
-    frmZent(platform::Platform& platform, core::AppState& state, gateway::ServiceDoors service_doors,
+    frmZent(platform::Platform& platform, core::AppState& state, const gateway::ServiceDoors& service_doors,
             MainDoors doors);
 
     // Kinds, toolbar, status bar.
@@ -316,7 +319,7 @@ class frmZent : public platform::Form {
 
     platform::Platform& platform_;
     core::AppState& state_;
-    gateway::ServiceDoors service_doors_;
+    const gateway::ServiceDoors& service_doors_;
     MainDoors doors_;
     platform::MouseButton status_bar_button_ = platform::MouseButton::left;
 };

@@ -1,6 +1,7 @@
 // The four kinds of message and what shows for each; toolbar, status bar, starting anew.
 
 #include "compose/main_form.h"
+#include "compose/recipient_number.h"
 #include "core/windows.h"
 #include "gateway/frmAbout.h"
 
@@ -10,14 +11,9 @@ using platform::Text;
 
 namespace {
 
-/// Indexes of the service's pages.
-constexpr int PAGE_RESULTS = 0;
-constexpr int PAGE_CHARGES = 1;
-constexpr int PAGE_MEMBER_DATA = 2;
-constexpr int PAGE_INBOX = 3;
-
-/// Toolbar button of the first kind; the buttons of the kinds follow each other.
-constexpr int FIRST_KIND_BUTTON = 2;
+/// Toolbar buttons of the kinds; they follow each other.
+constexpr int FIRST_KIND_BUTTON = TEXT_MESSAGE + 1;
+constexpr int LAST_KIND_BUTTON = FAX_MESSAGE + 1;
 
 }  // namespace
 
@@ -47,6 +43,10 @@ void frmZent::connect_kinds() {
     if (doors_.message_box) MyMsgBttn.Click.connect(doors_.message_box);
     if (doors_.update_check) mnuUpDate.Click.connect(doors_.update_check);
     mnuAbout.Click.connect([this] { mnuAbout_Click(); });
+
+    // The window is painted before its first tick chooses a kind: it shows the panel of that kind alone.
+    show_panel(0);
+    TabStrip2_Click();
 }
 
 void frmZent::TabStrip1_Click() {
@@ -65,14 +65,14 @@ void frmZent::TabStrip1_Click() {
         show_voice_kind(false);
     } else if (kind == u"팩스메시지") {
         show_panel(2);
-        set_number_captions(u"팩스보낼번호");
+        set_number_captions(FAX_NUMBER);
     }
     subjectText.set_tag(u"");
 }
 
 void frmZent::show_text_kind() {
     show_panel(0);
-    set_number_captions(u"문자보낼번호");
+    set_number_captions(TEXT_NUMBER);
     show_sender_controls(true);
     mText1.set_text(u"");
     start_text_message();
@@ -80,7 +80,7 @@ void frmZent::show_text_kind() {
 
 void frmZent::show_voice_kind(bool with_text) {
     show_panel(1);
-    set_number_captions(with_text ? u"문자보낼번호" : u"음성보낼번호");
+    set_number_captions(with_text ? TEXT_NUMBER : VOICE_NUMBER);
     TabStrip2.select(1);
     Picture2[1].set_visible(with_text);
     show_reply_controls(true);
@@ -119,14 +119,14 @@ void frmZent::TabStrip2_Click() {
 }
 
 void frmZent::Toolbar1_ButtonClick(int index) {
-    if (index >= FIRST_KIND_BUTTON && index < FIRST_KIND_BUTTON + 4) {
+    if (index >= FIRST_KIND_BUTTON && index <= LAST_KIND_BUTTON) {
         TabStrip1.select(index - 1);
-    } else if (index == 7) {
-        KTSMS_LINK(PAGE_RESULTS);
-    } else if (index == 8) {
-        KTSMS_LINK(PAGE_INBOX);
-    } else if (index == 9) {
-        KTSMS_LINK(PAGE_CHARGES);
+    } else if (index == RESULTS_BUTTON) {
+        KTSMS_LINK(gateway::PAGE_RESULTS);
+    } else if (index == INBOX_BUTTON) {
+        KTSMS_LINK(gateway::PAGE_INBOX);
+    } else if (index == CHARGES_BUTTON) {
+        KTSMS_LINK(gateway::PAGE_CHARGES);
     }
 }
 
@@ -135,9 +135,9 @@ void frmZent::STBar1_PanelClick(int panel) {
     if (panel == 1) {
         state_.gLoggedIn ? cmdLogOut_Click() : cmdLogin_Click();
     } else if (panel == 2 && state_.gLoggedIn) {
-        KTSMS_LINK(PAGE_MEMBER_DATA);
+        KTSMS_LINK(gateway::PAGE_MEMBER_DATA);
     } else if (panel == 3 && state_.gLoggedIn) {
-        KTSMS_LINK(PAGE_INBOX);
+        KTSMS_LINK(gateway::PAGE_INBOX);
     } else if (panel == 4) {
         mnuAbout_Click();
     }
@@ -149,7 +149,7 @@ void frmZent::mnuAbout_Click() {
 }
 
 void frmZent::DRAFT_RESET_IF_NO_KIND() {
-    for (int button = FIRST_KIND_BUTTON; button < FIRST_KIND_BUTTON + 4; ++button) {
+    for (int button = FIRST_KIND_BUTTON; button <= LAST_KIND_BUTTON; ++button) {
         if (Toolbar1.button(button).pressed) return;
     }
     TabStrip1.select(TEXT_MESSAGE);

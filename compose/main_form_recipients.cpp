@@ -1,6 +1,7 @@
 // The recipient list: typed recipients, duplicates, deleting, check marks, order, counts.
 
 #include "compose/main_form.h"
+#include "compose/recipient_number.h"
 #include "core/common.h"
 #include "core/list_columns.h"
 #include "core/windows.h"
@@ -13,8 +14,6 @@ using platform::Text;
 
 namespace {
 
-/// A number of this many characters or fewer lacks its area code.
-constexpr std::size_t LOCAL_NUMBER_LENGTH = 8;
 /// Above this many rows a run over the list shows its progress.
 constexpr std::size_t LONG_LIST = 500;
 
@@ -76,16 +75,12 @@ void frmZent::HBttn1_Click() {
     // number.
     if (point_at_duplicate(number)) return;
 
-    const Text wrong = number_caption + u" '" + number + u"' 오류입니다.\r\n\r\n";
     if (number.size() <= LOCAL_NUMBER_LENGTH) {
-        refuse_number(wrong + u"(동일 통화지역도 만드시 지역번호(DDD)를 입력하여 주십시오.)");
-    } else if (number_caption == u"문자보낼번호" && !core::TEXT_NUMBER_OK(number)) {
-        refuse_number(wrong + u"(문자, 문자플러스 메시지 전송은 모바일(휴대폰)번호만 발송이 가능합니다.)");
-    } else if (number_caption == u"팩스보낼번호" && !core::FAX_NUMBER_OK(number)) {
-        refuse_number(
-            wrong +
-            u"(모바일(휴대폰), 03030, 0502, 0505로 시작되는 번호는 팩스메시지 발송이 불가하오니 확인하여 "
-            u"주십시오.)");
+        refuse_number(wrong_number(number_caption, number, AREA_CODE_MISSING));
+    } else if (number_caption == TEXT_NUMBER && !core::TEXT_NUMBER_OK(number)) {
+        refuse_number(wrong_number(number_caption, number, MOBILE_ONLY));
+    } else if (number_caption == FAX_NUMBER && !core::FAX_NUMBER_OK(number)) {
+        refuse_number(wrong_number(number_caption, number, NO_FAX_TO_NUMBER));
     } else {
         add_typed_recipient(name, number);
     }

@@ -1,15 +1,12 @@
 // When a message goes, and whether its recipient may answer.
 
 #include "compose/main_form.h"
-#include "core/ini_file.h"
-#include "platform/error.h"
+#include "compose/schedule_time.h"
 #include "platform/text/number.h"
 
 #include <algorithm>
 
 namespace compose {
-
-using platform::Text;
 
 void frmZent::connect_schedule() {
     Option1.set_chosen(true);
@@ -33,12 +30,7 @@ void frmZent::connect_schedule() {
     Check2.Click.connect([this] { Combo4.set_enabled(Check2.checked()); });
 }
 
-void frmZent::show_present_time() {
-    const platform::LocalTime now = platform_.clock.now();
-    DTP1.set_value(platform::date_part(now));
-    Combo1.set_list_index(platform::break_up(now).hour);
-    Combo2.set_list_index(platform::break_up(now).minute);
-}
+void frmZent::show_present_time() { show_schedule({DTP1, Combo1, Combo2}, platform_.clock.now()); }
 
 void frmZent::Option1_Click() {
     Option2.set_chosen(false);
@@ -57,8 +49,7 @@ void frmZent::Option2_Click() {
     Command6.show();
     show_present_time();
 
-    const Text saved = core::INI_READ(platform_, core::application_ini(platform_), u"SET", u"P_TIME");
-    double lead = platform::leading_number(saved.empty() ? u"30" : saved);
+    double lead = saved_schedule_lead(platform_);
     // Too large a lead counts as 30 here and as 90 when the draft is checked; both stay.
     if (lead > 90) lead = 30;
     // A margin, so that the lead still holds when the message is finished.
@@ -66,22 +57,6 @@ void frmZent::Option2_Click() {
     RESERVE_TIME_ADD(static_cast<int>(platform::round_half_even(std::max(lead, -60.0))));
 }
 
-/// Only one hour's carry is made: with more than an hour to add late in an hour, the minute has no row to go
-/// to and stays while the hour has moved. Schedules have always come out so.
-void frmZent::RESERVE_TIME_ADD(int minutes) {
-    const int minute = Combo2.list_index() + minutes;
-    if (minute < 60) {
-        platform::ignore_errors([&] { Combo2.set_list_index(minute); });
-        return;
-    }
-    platform::ignore_errors([&] { Combo2.set_list_index(minute - 60); });
-    const int hour = Combo1.list_index() + 1;
-    if (hour < 24) {
-        platform::ignore_errors([&] { Combo1.set_list_index(hour); });
-        return;
-    }
-    DTP1.set_value(platform::add_days(DTP1.value(), 1));
-    platform::ignore_errors([&] { Combo1.set_list_index(hour - 24); });
-}
+void frmZent::RESERVE_TIME_ADD(int minutes) { add_schedule_minutes({DTP1, Combo1, Combo2}, minutes); }
 
 }  // namespace compose

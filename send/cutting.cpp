@@ -1,6 +1,7 @@
 // A text in pieces of one message each, every piece a minute behind the one before: nothing else keeps their
 // order.
 
+#include "compose/schedule_time.h"
 #include "compose/text_cutting.h"
 #include "platform/text/format.h"
 #include "send/draft.h"
@@ -15,10 +16,7 @@ void frmZentSend::begin_pieces(SendJob& job, const Text& text) {
     mText1.set_text(text);
     job.pieces = 0;
     if (main_form_.Option1.chosen()) {
-        const platform::LocalTime now = platform_.clock.now();
-        DTP1.set_value(platform::date_part(now));
-        Combo1.set_list_index(platform::break_up(now).hour);
-        Combo2.set_list_index(platform::break_up(now).minute);
+        compose::show_schedule({DTP1, Combo1, Combo2}, platform_.clock.now());
     } else {
         DTP1.set_value(main_form_.DTP1.value());
         Combo1.set_list_index(main_form_.Combo1.list_index());
@@ -43,19 +41,7 @@ Text frmZentSend::CUT_NEXT_PIECE() {
 }
 
 void frmZentSend::ADD_SCHEDULE_MINUTES(int minutes) {
-    const int minute = Combo2.list_index() + minutes;
-    if (minute < 60) {
-        Combo2.set_list_index(minute);
-        return;
-    }
-    Combo2.set_list_index(minute - 60);
-    const int hour = Combo1.list_index() + 1;
-    if (hour < 24) {
-        Combo1.set_list_index(hour);
-        return;
-    }
-    DTP1.set_value(platform::add_days(DTP1.value(), 1));
-    Combo1.set_list_index(hour - 24);
+    compose::add_schedule_minutes({DTP1, Combo1, Combo2}, minutes);
 }
 
 }  // namespace send

@@ -1,5 +1,7 @@
 #include "send/kinds.h"
 
+#include "platform/error.h"
+
 #include <algorithm>
 
 namespace send {
@@ -53,9 +55,12 @@ const Kind* find_kind(platform::TextView text) {
 
 const Kind& kind_of_draft(const compose::frmZent& form) {
     const Content content = content_of_tabs(form);
-    return *std::ranges::find_if(KINDS, [&](const Kind& kind) {
+    const auto* found = std::ranges::find_if(KINDS, [&](const Kind& kind) {
         return kind.tab == form.TabStrip1.selected() && kind.content == content;
     });
+    // A tab that somebody adds without a kind must not send as another one.
+    if (found == KINDS.end()) throw platform::RuntimeError(platform::ErrorNumber::subscript_out_of_range);
+    return *found;
 }
 
 }  // namespace send

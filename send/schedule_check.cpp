@@ -1,6 +1,6 @@
 #include "send/schedule_check.h"
 
-#include "core/ini_file.h"
+#include "compose/schedule_time.h"
 #include "core/windows.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
@@ -17,9 +17,8 @@ namespace {
 /// The lead that the user has chosen, in minutes. Too large a lead counts as 90 here and as 30 when the
 /// schedule is set; both stay.
 double minimum_lead(const platform::Platform& platform) {
-    const Text saved = core::INI_READ(platform, core::application_ini(platform), u"SET", u"P_TIME");
-    const double minutes = platform::leading_number(saved.empty() ? u"30" : saved);
-    return std::min(static_cast<double>(platform::round_half_even(minutes)), 90.0);
+    return std::min(static_cast<double>(platform::round_half_even(compose::saved_schedule_lead(platform))),
+                    90.0);
 }
 
 LocalTime scheduled_moment(const compose::frmZent& form) {

@@ -1,5 +1,6 @@
 #include "send/send_check.h"
 
+#include "compose/recipient_number.h"
 #include "core/common.h"
 #include "core/files.h"
 #include "core/windows.h"
@@ -20,9 +21,6 @@ using platform::Platform;
 using platform::Text;
 
 namespace {
-
-/// A number of this many characters or fewer lacks its area code.
-constexpr std::size_t LOCAL_NUMBER_LENGTH = 8;
 
 void complete_sender(frmZent& form, const AppState& state) {
     form.txtUserName.set_text(platform::trim(form.txtUserName.text()));
@@ -91,19 +89,18 @@ Text fault_of_number(const frmZent& form, const Text& number, const Kind& kind) 
     // Deliberately the caption of column 2, the name, though the number stands in column 3: support knows the
     // messages so.
     const Text& column = form.ListView1.column(2).caption;
-    const Text wrong = column + u" '" + number + u"' 오류입니다.\r\n\r\n";
     const Text digits = core::DIGITS_ONLY(number);
-    if (digits.empty()) return wrong + u"(전송할 " + column + u"을(를) 입력하여 주십시오.)";
-    if (digits.size() <= LOCAL_NUMBER_LENGTH) {
-        return wrong + u"(동일 통화지역도 만드시 지역번호(DDD)를 입력하여 주십시오.)";
+    if (digits.empty()) {
+        return compose::wrong_number(column, number, u"(전송할 " + column + u"을(를) 입력하여 주십시오.)");
+    }
+    if (digits.size() <= compose::LOCAL_NUMBER_LENGTH) {
+        return compose::wrong_number(column, number, compose::AREA_CODE_MISSING);
     }
     if (kind.sms && !core::TEXT_NUMBER_OK(number)) {
-        return wrong + u"(문자, 문자플러스 메시지 전송은 모바일(휴대폰)번호만 발송이 가능합니다.)";
+        return compose::wrong_number(column, number, compose::MOBILE_ONLY);
     }
     if (kind.content == Content::documents && !core::FAX_NUMBER_OK(number)) {
-        return u"팩스보낼 번호 '" + number +
-               u"' 오류입니다.\r\n\r\n(모바일(휴대폰), 03030, 0502, 0505로 시작되는 번호는 팩스메시지 발송이 "
-               u"불가하오니 확인하여 주십시오.)";
+        return compose::wrong_number(u"팩스보낼 번호", number, compose::NO_FAX_TO_NUMBER);
     }
     return {};
 }

@@ -19,7 +19,8 @@ struct MainWindow : TestPlatform {
     std::function<void()> pick_recipients = [] {};
     std::function<void()> hand_over = [] {};
 
-    compose::frmZent form{platform, state, service_doors(), main_doors()};
+    gateway::ServiceDoors pages{service_doors()};
+    compose::frmZent form{platform, state, pages, main_doors()};
 
     /// The window as it stands before the first tick, with a kind chosen and a sender's name.
     void compose_as(platform::TextView sender, int kind = compose::TEXT_MESSAGE) {

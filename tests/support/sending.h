@@ -28,7 +28,7 @@ struct Sending : TestPlatform {
     bool nothing_recorded = false;
     std::vector<platform::Text> saved_waves;
 
-    compose::frmZent form{platform, state, {}, main_doors()};
+    compose::frmZent form{platform, state, service_doors, main_doors()};
 
     /// What the last report said, and whether it offered the results.
     std::string report;
