@@ -67,7 +67,9 @@ void frmZent::read_auto_login_mark() {
 
 void frmZent::go_on_after_login() {
     state_.gSubmitSequence = 1;
-    if (state_.gServiceType < 23 || state_.gServiceType > 25) {
+    // After an automatic login, which does not look at the kind of service, the buttons alone say that this
+    // one is of no use: the user stays logged in.
+    if (state_.gServiceType < core::SERVICE_PRO || state_.gServiceType > core::SERVICE_POP) {
         SET_LOGIN_BUTTONS(false);
         return;
     }

@@ -13,6 +13,15 @@ inline constexpr platform::TextView APPLICATION_TITLE = u"Cardvale 폰디라 통
 /// The service number as long as the carrier has not told another one.
 inline constexpr platform::TextView UNKNOWN_SERVICE_NUMBER = u"03030xxxxxxx";
 
+/// Kinds of service contract (`gServiceType`): the two that the system is for, and one that its users have to
+/// give up first.
+inline constexpr std::int32_t SERVICE_PRO = 23;
+inline constexpr std::int32_t SERVICE_PARTNER = 24;
+inline constexpr std::int32_t SERVICE_POP = 25;
+
+/// The highest state of the contract (`gServiceState`) in which the service may be used.
+inline constexpr std::int32_t LAST_USABLE_STATE = 1;
+
 /// The state of the contract that counts as "not to be used"; also what stands while nobody is logged in.
 inline constexpr std::int32_t SERVICE_STATE_NONE = 3;
 

@@ -22,7 +22,8 @@ void warn(platform::Desktop& desktop, platform::Text text, platform::Text title 
 bool ask(platform::Desktop& desktop, platform::Text text, platform::Text title, platform::BoxIcon icon,
          platform::BoxAnswer default_answer = platform::BoxAnswer::yes);
 
-/// The hourglass for as long as this object lives.
+/// The hourglass for as long as this object lives. The pointer is a state and no count: an exchange inside
+/// another ends both.
 class BusyPointer {
   public:
     explicit BusyPointer(platform::Desktop& desktop) : desktop_(desktop) {

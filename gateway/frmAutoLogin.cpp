@@ -20,7 +20,7 @@ frmAutoLogin::frmAutoLogin(platform::Platform& platform, core::AppState& state, 
 }
 
 void frmAutoLogin::Form_Load() {
-    const Text film = platform_.files.application_directory() + u"\\resource\\timer.avi";
+    const Text film = busy_film(platform_);
     if (core::FILE_EXISTS(platform_, film)) {
         Animation1.open(film);
         Animation1.play();
@@ -51,7 +51,7 @@ void frmAutoLogin::Timer1_Timer() {
 }
 
 void frmAutoLogin::judge() {
-    if (state_.gServiceState < 2) {
+    if (state_.gServiceState <= core::LAST_USABLE_STATE) {
         state_.gLoginAccepted = 1;
         state_.gLoginUserId = Text1.text();
         state_.gLoginPassword = Text2.text();

@@ -42,7 +42,7 @@ void frmZentLogin::Form_Load() {
     core::CENTER_FORM(platform_.desktop, *this);
     set_caption(Text(core::APPLICATION_TITLE) + u" 로그인");
     polling_.set_enabled(false);
-    if (core::FILE_EXISTS(platform_, film())) Animation1.open(film());
+    if (core::FILE_EXISTS(platform_, busy_film(platform_))) Animation1.open(busy_film(platform_));
     core::make_folder_when_missing(platform_, Text(core::SOUND_FOLDER));
     const bool auto_login =
         core::INI_IS_ON(platform_, core::application_ini(platform_), u"LOGIN", u"AUTOLOGIN");
@@ -103,8 +103,8 @@ void frmZentLogin::Command1_Click() {
         Text2.set_focus();
         return;
     }
-    if (core::FILE_EXISTS(platform_, film())) {
-        Animation1.open(film());
+    if (core::FILE_EXISTS(platform_, busy_film(platform_))) {
+        Animation1.open(busy_film(platform_));
         Animation1.play();
         Animation1.show();
     }
@@ -127,7 +127,7 @@ void frmZentLogin::Timer1_Timer() {
         Text2.select_all();
         return;
     }
-    if (state_.gServiceType == 23 || state_.gServiceType == 24) {
+    if (state_.gServiceType == core::SERVICE_PRO || state_.gServiceType == core::SERVICE_PARTNER) {
         accept();
     } else {
         refuse_by_service_type();
@@ -147,7 +147,7 @@ void frmZentLogin::accept() {
 
 void frmZentLogin::refuse_by_service_type() {
     hide_busy_picture();
-    const bool is_pop = state_.gServiceType == 25;
+    const bool is_pop = state_.gServiceType == core::SERVICE_POP;
     login_.refuse();
     if (is_pop) {
         core::warn(platform_.desktop,
@@ -164,8 +164,6 @@ void frmZentLogin::refuse_by_service_type() {
         Command3_Click();
     }
 }
-
-Text frmZentLogin::film() const { return platform_.files.application_directory() + u"\\resource\\timer.avi"; }
 
 void frmZentLogin::hide_busy_picture() {
     Animation1.stop();

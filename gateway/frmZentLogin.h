@@ -54,7 +54,6 @@ class frmZentLogin : public platform::Form {
     void Command3_Click();
     void Timer1_Timer();
 
-    platform::Text film() const;
     void hide_busy_picture();
     void accept();
     void refuse_by_service_type();

@@ -8,6 +8,10 @@ namespace gateway {
 
 using platform::Text;
 
+Text busy_film(const platform::Platform& platform) {
+    return platform.files.application_directory() + u"\\resource\\timer.avi";
+}
+
 bool Login::prove(const Text& user_id, const Text& password) {
     core::make_folder_when_missing(platform_, Text(core::SOUND_FOLDER));
     state_.gLoginUserId = user_id;

@@ -4,6 +4,9 @@
 
 namespace gateway {
 
+/// The film of the busy picture.
+platform::Text busy_film(const platform::Platform& platform);
+
 /// What both login forms do with the carrier; what they accept afterwards differs and is told in each.
 class Login {
   public:

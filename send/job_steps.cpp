@@ -23,9 +23,6 @@ constexpr platform::TextView FAILURE_MESSAGE =
     u"원인 4) 폰디라 사용이 일시 정지된 경우.\r\n\r\n"
     u"인터넷 연결상태를 확인하시고 잠시 후 다시 시작하여 주십시오.";
 
-/// The highest state of the contract in which the service may be used.
-constexpr std::int32_t LAST_USABLE_STATE = 1;
-
 }  // namespace
 
 /// Whatever fails on the way ends the job where it is, without a report; rows that are done keep their
@@ -66,7 +63,7 @@ void frmZentSend::open_session(SendJob& job) {
     bool usable = gateway_.GATEWAY_BIND(job.kind != nullptr ? job.kind->bind_mode : 1);
     if (usable && !job.account_checked) {
         job.account_checked = true;
-        usable = gateway_.GATEWAY_MONEY_STATUS() && state_.gServiceState <= LAST_USABLE_STATE;
+        usable = gateway_.GATEWAY_MONEY_STATUS() && state_.gServiceState <= core::LAST_USABLE_STATE;
     }
     if (usable) return;
     gateway_.GATEWAY_UNBIND();
