@@ -16,7 +16,6 @@ class Application {
     bool start();
 
     compose::frmZent& main_form() { return main_; }
-    core::AppState& state() { return state_; }
 
   private:
     compose::MainDoors doors();

@@ -11,7 +11,6 @@ class BooleanWord {
     constexpr BooleanWord(bool value) : word_(value ? -1 : 0) {}  // NOLINT(google-explicit-constructor)
 
     constexpr operator bool() const { return word_ != 0; }  // NOLINT(google-explicit-constructor)
-    constexpr std::int16_t word() const { return word_; }
 
   private:
     std::int16_t word_ = 0;

@@ -96,8 +96,6 @@ class Control {
         return true;
     }
 
-    ControlView* view() const { return view_; }
-
   private:
     friend class Form;
 

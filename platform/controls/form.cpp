@@ -6,6 +6,10 @@ namespace platform {
 
 Form::Form(Desktop& desktop, TextView name) : desktop_(desktop), name_(name) {}
 
+Form::~Form() {
+    if (loaded_) desktop_.close(*this);
+}
+
 void Form::set_caption(Text caption) {
     caption_ = std::move(caption);
     if (view_ != nullptr) view_->caption_changed();

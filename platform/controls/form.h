@@ -39,7 +39,8 @@ class Form {
     Form(Desktop& desktop, TextView name);
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
-    virtual ~Form() = default;
+    /// A form that is dropped while it is loaded takes its window with it, without the unload handler.
+    virtual ~Form();
 
     const Text& name() const { return name_; }
     /// The controls with a place on the screen, in the order of their making.

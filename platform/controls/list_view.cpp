@@ -16,29 +16,29 @@ void ListView::accept(ControlVisitor& visitor) { visitor.visit(*this); }
 
 void ListView::set_column_caption(int number, Text caption) {
     columns_[static_cast<std::size_t>(number - 1)].caption = std::move(caption);
-    if (rows_view() != nullptr) rows_view()->columns_changed();
+    if (rows_view_ != nullptr) rows_view_->columns_changed();
 }
 
 void ListView::set_column_picture(int number, std::optional<int> picture) {
     columns_[static_cast<std::size_t>(number - 1)].picture = picture;
-    if (rows_view() != nullptr) rows_view()->columns_changed();
+    if (rows_view_ != nullptr) rows_view_->columns_changed();
 }
 
 std::size_t ListView::add_row(Text text, std::vector<Text> sub_items, bool checked) {
     const std::size_t row = rows_.size();
-    if (rows_view() != nullptr) rows_view()->rows_about_to_be_added(row, 1);
+    if (rows_view_ != nullptr) rows_view_->rows_about_to_be_added(row, 1);
     rows_.push_back(std::make_unique<ListItem>(std::move(text), std::move(sub_items)));
     ListItem& added = item(row);
     added.position_ = row;
     added.checked_ = checked;
     if (checked) ++checked_count_;
     for (int column = 1; column <= added.sub_item_count(); ++column) index_.add(added, column);
-    if (rows_view() != nullptr) rows_view()->rows_added();
+    if (rows_view_ != nullptr) rows_view_->rows_added();
     return row;
 }
 
 void ListView::remove_selected_rows() {
-    if (rows_view() != nullptr) rows_view()->rows_about_to_be_rearranged();
+    if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     if (selected_item_ != nullptr && selected_item_->selected()) selected_item_ = nullptr;
     std::erase_if(rows_, [this](const std::unique_ptr<ListItem>& row) {
         if (!row->selected()) return false;
@@ -47,16 +47,16 @@ void ListView::remove_selected_rows() {
         return true;
     });
     number_rows();
-    if (rows_view() != nullptr) rows_view()->rows_rearranged();
+    if (rows_view_ != nullptr) rows_view_->rows_rearranged();
 }
 
 void ListView::clear() {
-    if (rows_view() != nullptr) rows_view()->rows_about_to_be_rearranged();
+    if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     index_.clear();
     rows_.clear();
     selected_item_ = nullptr;
     checked_count_ = 0;
-    if (rows_view() != nullptr) rows_view()->rows_rearranged();
+    if (rows_view_ != nullptr) rows_view_->rows_rearranged();
 }
 
 void ListView::set_sub_item(std::size_t row, int sub_item, Text text) {
@@ -66,12 +66,12 @@ void ListView::set_sub_item(std::size_t row, int sub_item, Text text) {
     index_.remove(changed, sub_item);
     changed.sub_items_[static_cast<std::size_t>(sub_item - 1)] = std::move(text);
     index_.add(changed, sub_item);
-    if (rows_view() != nullptr) rows_view()->row_changed(row);
+    if (rows_view_ != nullptr) rows_view_->row_changed(row);
 }
 
 void ListView::set_checked(std::size_t row, bool checked) {
     change_checked(row, checked);
-    if (rows_view() != nullptr) rows_view()->row_changed(row);
+    if (rows_view_ != nullptr) rows_view_->row_changed(row);
 }
 
 void ListView::change_checked(std::size_t row, bool checked) {
@@ -88,7 +88,7 @@ std::optional<std::size_t> ListView::selected_item() const {
 void ListView::select_item(std::size_t row) {
     item(row).selected_ = true;
     selected_item_ = &item(row);
-    if (rows_view() != nullptr) rows_view()->row_selection_changed(row);
+    if (rows_view_ != nullptr) rows_view_->row_selection_changed(row);
 }
 
 void ListView::deselect_item() {
@@ -96,17 +96,17 @@ void ListView::deselect_item() {
     const std::size_t row = selected_item_->position();
     selected_item_ = nullptr;
     item(row).selected_ = false;
-    if (rows_view() != nullptr) rows_view()->row_selection_changed(row);
+    if (rows_view_ != nullptr) rows_view_->row_selection_changed(row);
 }
 
 void ListView::select_all() {
     for (const auto& row : rows_) row->selected_ = true;
     if (selected_item_ == nullptr && !rows_.empty()) selected_item_ = rows_.front().get();
-    refresh(Aspect::selection);
+    if (rows_view_ != nullptr) rows_view_->selection_changed();
 }
 
 void ListView::make_visible(std::size_t row) const {
-    if (rows_view() != nullptr) rows_view()->make_visible(row);
+    if (rows_view_ != nullptr) rows_view_->make_visible(row);
 }
 
 std::optional<std::size_t> ListView::find_in_sub_items(TextView beginning) const {
@@ -118,7 +118,7 @@ std::optional<std::size_t> ListView::find_in_sub_items(TextView beginning) const
 void ListView::sort(int sort_key, SortOrder order) {
     sort_key_ = sort_key;
     sort_order_ = order;
-    if (rows_view() != nullptr) rows_view()->rows_about_to_be_rearranged();
+    if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     std::vector<std::pair<Text, std::unique_ptr<ListItem>>> keyed;
     keyed.reserve(rows_.size());
     for (auto& row : rows_) keyed.emplace_back(lower_case(row->sub_item(sort_key)), std::move(row));
@@ -128,13 +128,13 @@ void ListView::sort(int sort_key, SortOrder order) {
     std::transform(keyed.begin(), keyed.end(), rows_.begin(),
                    [](auto& row) { return std::move(row.second); });
     number_rows();
-    if (rows_view() != nullptr) rows_view()->rows_rearranged();
+    if (rows_view_ != nullptr) rows_view_->rows_rearranged();
 }
 
 void ListView::user_check(std::size_t row, bool checked) {
     if (item(row).checked() == checked) return;
     change_checked(row, checked);
-    if (rows_view() != nullptr) rows_view()->row_changed(row);
+    if (rows_view_ != nullptr) rows_view_->row_changed(row);
     ItemCheck.raise(row);
 }
 

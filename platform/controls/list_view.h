@@ -37,9 +37,11 @@ class ListItem {
     bool selected_ = false;
 };
 
-/// The widget's side of a list: it reads the rows in place and is told what becomes of them.
-class ListViewView : public ControlView {
+/// The widget's side of a list's rows: it reads them in place and is told what becomes of them.
+class RowsView {
   public:
+    virtual ~RowsView() = default;
+
     virtual void rows_about_to_be_added(std::size_t first, std::size_t count) = 0;
     virtual void rows_added() = 0;
     /// Many rows go or change places: everything is to be read anew afterwards.
@@ -47,6 +49,8 @@ class ListViewView : public ControlView {
     virtual void rows_rearranged() = 0;
     virtual void row_changed(std::size_t row) = 0;
     virtual void row_selection_changed(std::size_t row) = 0;
+    /// Any number of rows are selected or no longer.
+    virtual void selection_changed() = 0;
     virtual void columns_changed() = 0;
     virtual void make_visible(std::size_t row) = 0;
 };
@@ -107,6 +111,9 @@ class ListView : public Control {
     /// Sorts the rows that are there; rows with equal texts keep their order. Cases of letters are the same.
     void sort(int sort_key, SortOrder order);
 
+    /// The widget that shows the rows, beside the one that shows the control's other aspects.
+    void attach_rows(RowsView* view) { rows_view_ = view; }
+
     // What the user does.
     void user_check(std::size_t row, bool checked);
     void user_select(std::size_t row, bool selected);
@@ -120,11 +127,11 @@ class ListView : public Control {
     Event<> DblClick;
 
   private:
-    ListViewView* rows_view() const { return static_cast<ListViewView*>(view()); }
     ListItem& item(std::size_t row) { return *rows_[row]; }
     void change_checked(std::size_t row, bool checked);
     void number_rows();
 
+    RowsView* rows_view_ = nullptr;
     std::vector<Column> columns_;
     bool check_boxes_;
     std::vector<std::unique_ptr<ListItem>> rows_;

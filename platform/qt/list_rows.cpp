@@ -6,8 +6,7 @@
 
 namespace platform::qt {
 
-ListRows::ListRows(ListView& list, QTreeView& view, ControlView& rest)
-    : list_(list), view_(view), rest_(rest), model_(list, this) {
+ListRows::ListRows(ListView& list, QTreeView& view) : list_(list), view_(view), model_(list, this) {
     view.setModel(&model_);
     const QItemSelectionModel* selection = view.selectionModel();
     connect(selection, &QItemSelectionModel::selectionChanged, this, &ListRows::take_selection);
@@ -30,8 +29,7 @@ void ListRows::let_go() {
     model_.let_go();
 }
 
-void ListRows::refresh(Aspect aspect) {
-    if (aspect != Aspect::selection) return rest_.refresh(aspect);
+void ListRows::selection_changed() {
     selection_changed_ = true;
     gather();
 }

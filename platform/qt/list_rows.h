@@ -15,12 +15,11 @@ namespace platform::qt {
 /// Handlers add, select and mark rows one by one, up to 100,000 of them. What the view does not need at once
 /// (which rows look different, which are selected, where to scroll) is gathered and told once a turn of the
 /// event loop.
-class ListRows : public QObject, public ListViewView {
+class ListRows : public QObject, public RowsView {
     Q_OBJECT
 
   public:
-    /// What is not about rows goes to `rest`.
-    ListRows(ListView& list, QTreeView& view, ControlView& rest);
+    ListRows(ListView& list, QTreeView& view);
 
     ListViewModel& model() { return model_; }
 
@@ -28,13 +27,13 @@ class ListRows : public QObject, public ListViewView {
     void bring_up_to_date();
     void let_go();
 
-    void refresh(Aspect aspect) override;
     void rows_about_to_be_added(std::size_t first, std::size_t count) override;
     void rows_added() override;
     void rows_about_to_be_rearranged() override;
     void rows_rearranged() override;
     void row_changed(std::size_t row) override;
     void row_selection_changed(std::size_t row) override;
+    void selection_changed() override;
     void columns_changed() override;
     void make_visible(std::size_t row) override;
 
@@ -48,7 +47,6 @@ class ListRows : public QObject, public ListViewView {
 
     ListView& list_;
     QTreeView& view_;
-    ControlView& rest_;
     ListViewModel model_;
 
     bool live_ = true;

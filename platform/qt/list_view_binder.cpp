@@ -6,6 +6,7 @@
 #include <QFontInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScopeGuard>
 #include <QTreeView>
 
 namespace platform::qt {
@@ -55,8 +56,8 @@ bool moves_through_rows(const QKeyEvent& event) {
 }  // namespace
 
 ListViewBinder::ListViewBinder(BoundForm& bound, ListView& control, QTreeView& view)
-    : WidgetBinder(bound, control, view), control_(control), view_(view), rows_(control, view, *this) {
-    control.attach(&rows_);
+    : WidgetBinder(bound, control, view), control_(control), view_(view), rows_(control, view) {
+    control.attach_rows(&rows_);
     set_up(view);
     view.viewport()->installEventFilter(this);
     connect(&rows_.model(), &ListViewModel::checked_by_user, this,
@@ -67,6 +68,7 @@ ListViewBinder::ListViewBinder(BoundForm& bound, ListView& control, QTreeView& v
 }
 
 void ListViewBinder::release() {
+    control_.attach_rows(nullptr);
     rows_.let_go();
     WidgetBinder::release();
 }
@@ -119,8 +121,8 @@ void ListViewBinder::open_menu(const QContextMenuEvent& event) {
     if (event.reason() != QContextMenuEvent::Keyboard) return;
     const QRect row = view_.visualRect(view_.currentIndex());
     bound().popup_point = view_.viewport()->mapToGlobal(row.bottomLeft());
+    const auto shown = qScopeGuard([this] { bound().popup_point.reset(); });
     control_.MouseUp.raise(MouseButton::right);
-    bound().popup_point.reset();
 }
 
 void ListViewBinder::toggle_check() {
