@@ -6,6 +6,7 @@
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QScopeGuard>
 #include <QWidget>
 
 namespace platform::qt {
@@ -17,7 +18,7 @@ bool admit(QWidget& field, QEvent& event, const std::function<void(KeyPressed&)>
     if (event.type() == QEvent::InputMethod) {
         return note_composition(field, static_cast<const QInputMethodEvent&>(event));
     }
-    note_key(field);
+    note_key();
     KeyPressed key{key_code(static_cast<const QKeyEvent&>(event))};
     if (key.swallowed()) return true;
     press_key(key);
@@ -46,8 +47,8 @@ bool filter_field_event(QWidget& field, QEvent& event, const std::function<void(
         return true;
     }
     working(true);
+    const auto done = qScopeGuard([&] { working(false); });
     static_cast<QObject&>(field).event(&event);
-    working(false);
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <algorithm>
@@ -39,7 +40,7 @@ void MessageEdit::write(const QString& text) {
 }
 
 void MessageEdit::keyPressEvent(QKeyEvent* event) {
-    note_key(*this);
+    note_key();
     if (KeyPressed key{key_code(*event)}; !key.swallowed()) {
         emit key_pressed(key);
         if (key.swallowed()) return event->accept();
@@ -71,9 +72,11 @@ void MessageEdit::insertFromMimeData(const QMimeData* source) {
 }
 
 void MessageEdit::work(const std::function<void()>& step) {
-    ++working_;
-    step();
-    if (--working_ == 0) emit edited();
+    {
+        const QScopedValueRollback<int> working(working_, working_ + 1);
+        step();
+    }
+    if (working_ == 0) emit edited();
 }
 
 /// For changes that come by no event of this widget, as from its context menu.

@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QEventLoop>
+#include <QScopedValueRollback>
 #include <QTimer>
 
 namespace platform::qt {
@@ -25,9 +26,8 @@ class QtTicker : public Ticker {
     /// The tick may end its own ticker, and it may open a box under which the timer goes on.
     static void run(const std::shared_ptr<Tick> tick) {
         if (tick->running) return;
-        tick->running = true;
+        const QScopedValueRollback<bool> running(tick->running, true);
         tick->action();
-        tick->running = false;
     }
 
     std::shared_ptr<Tick> tick_;
