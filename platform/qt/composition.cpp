@@ -15,28 +15,39 @@ constexpr char ENDED[] = "endedSyllable";
 
 QString unfinished(const QWidget& field) { return field.property(UNFINISHED).toString(); }
 
-/// Ends the composition from our side: the field gets its last event, the input method is told to start anew.
+/// The last syllable that was ended, until something else is typed. There is one input method for all fields,
+/// and what it commits late goes to the field that has the focus by then.
+QString ended() { return qApp->property(ENDED).toString(); }
+void set_ended(const QString& syllable) { qApp->setProperty(ENDED, syllable); }
+
+/// The last event of a composition that is ended from our side.
+class Ending : public QInputMethodEvent {};
+
 void end(QWidget& field, const QString& syllable, const QString& commit) {
-    QInputMethodEvent event;
+    set_ended(syllable);
+    // Before the field's handlers may open a box, at which an input method commits what it still has.
+    if (QGuiApplication::focusObject() == &field) QGuiApplication::inputMethod()->reset();
+    Ending event;
     event.setCommitString(commit);
     QCoreApplication::sendEvent(&field, &event);
-    if (QGuiApplication::focusObject() == &field) QGuiApplication::inputMethod()->reset();
-    field.setProperty(ENDED, syllable);
 }
 
 }  // namespace
 
 bool note_composition(QWidget& field, const QInputMethodEvent& event) {
-    const QString ended = field.property(ENDED).toString();
-    if (!ended.isEmpty()) field.setProperty(ENDED, QVariant());
-    if (!ended.isEmpty() && event.commitString() == ended && event.preeditString().isEmpty()) return false;
-    if (event.preeditString() != unfinished(field)) field.setProperty(UNFINISHED, event.preeditString());
+    const QString& syllable = event.preeditString();
+    const QString& commit = event.commitString();
+    const bool ours = dynamic_cast<const Ending*>(&event) != nullptr;
+    if (!ours && !(syllable.isEmpty() && commit.isEmpty())) {
+        if (syllable.isEmpty() && commit == ended()) return false;
+        const bool ends = syllable.isEmpty() && commit == unfinished(field);
+        set_ended(ends ? commit : QString());
+    }
+    if (syllable != unfinished(field)) field.setProperty(UNFINISHED, syllable);
     return true;
 }
 
-void note_key(QWidget& field) {
-    if (field.property(ENDED).isValid()) field.setProperty(ENDED, QVariant());
-}
+void note_key() { set_ended({}); }
 
 bool is_composing(const QWidget& field) { return !unfinished(field).isEmpty(); }
 

@@ -11,11 +11,12 @@ namespace platform::qt {
 
 /// Notes what the event leaves unfinished in the field; to be called before the field handles it. Returns
 /// false for an event that has to be thrown away: some input methods commit once more what has been dropped
-/// or committed here.
+/// or committed, when they are told of it or while the handlers of the commit run, and into whichever field
+/// has the focus by then.
 bool note_composition(QWidget& field, const QInputMethodEvent& event);
 
-/// A key on its way to the field shows that no late commit is on its way any more.
-void note_key(QWidget& field);
+/// A key on its way to a field shows that no late commit is on its way any more.
+void note_key();
 
 bool is_composing(const QWidget& field);
 

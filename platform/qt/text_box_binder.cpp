@@ -24,7 +24,9 @@ void TextBoxBinder::refresh(Aspect aspect) {
 }
 
 void TextBoxBinder::press_key(KeyPressed& key) {
-    if (!is_live()) return;
+    // A key that an input method lets go while a box of the field's handlers is open would open another one.
+    // Its text waits as any edit does.
+    if (!is_live() || edits_.running()) return;
     edits_.run([&] { control_.KeyPress.raise(key); });
     edits_.settle();
     if (!is_live()) key.swallow();

@@ -38,6 +38,9 @@ class UserEdits {
     /// The widget has just been given the model's text.
     void written();
 
+    /// Whether handlers are running.
+    bool running() const { return running_; }
+
     /// Whether the widget has an edit that has not been handed over.
     bool waiting() const { return field_.widget_text() != agreed_; }
 
