@@ -44,6 +44,10 @@ class Desk:
         """Waits for a window whose title contains `title`."""
         return self._wait(f"window '{title}'", lambda: next((w for w in self.windows() if title in w.name), None))
 
+    def window_called(self, title):
+        """Waits for a window whose whole title this is."""
+        return self._wait(f"window '{title}'", lambda: next((w for w in self.windows() if w.name == title), None))
+
     def gone(self, title):
         self._wait(f"the end of window '{title}'", lambda: all(title not in w.name for w in self.windows()))
 

@@ -19,6 +19,8 @@ def play(desk):
     desk.window("메시지 발송확인")
     desk.picture("confirmation")
     desk.keys("Return")
+    desk.window_called("문자메시지")
+    desk.picture("sending")
     desk.window("등록완료")
     desk.picture("report")
     desk.keys("Return")
