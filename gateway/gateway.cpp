@@ -105,7 +105,7 @@ bool Gateway::GATEWAY_USER_INFO() {
     });
 }
 
-Text Gateway::UMS_SEND_START(UmsMessage message) {
+Text Gateway::UMS_SEND_START(const UmsMessage& message) {
     using platform::encode_cp949;
     platform::CarrierLibrary::Submit submit{
         .s_data_type = message.s_data_type,

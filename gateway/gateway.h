@@ -47,7 +47,7 @@ class Gateway {
 
     /// Registers a message. Returns "등록성공", the text of the carrier's refusal, or for an error on the way
     /// "등록실패-" with its number: no box, the job goes on.
-    platform::Text UMS_SEND_START(UmsMessage message);
+    platform::Text UMS_SEND_START(const UmsMessage& message);
 
   private:
     template <class Call>
