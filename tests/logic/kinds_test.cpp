@@ -107,6 +107,15 @@ TEST_F(Kinds, EnteringAKindThrowsItsOwnTextAwayAndNothingElse) {
     EXPECT_EQ(utf8(form.mHLen2.caption()), "38/80Byte");
 }
 
+TEST_F(Kinds, TheFirstPaintShowsOnePanelThoughNoKindIsChosenYet) {
+    tests::MainWindow fresh;
+    fresh.form.load();
+    for (std::size_t panel = 0; panel < 3; ++panel) {
+        EXPECT_EQ(fresh.form.Frame1[panel].visible(), panel == 0);
+        EXPECT_EQ(fresh.form.TPIC[panel].visible(), panel == 0);
+    }
+}
+
 TEST_F(Kinds, ASubKindShowsItsPanelAlone) {
     for (int tab = 1; tab <= 3; ++tab) {
         form.TabStrip2.select(tab);
