@@ -18,6 +18,7 @@ bool continues_utf8(char byte) { return (static_cast<unsigned char>(byte) & 0xC0
 template <typename Skipped>
 std::string convert(std::string_view input, const char* from, const char* to, Skipped skipped) {
     const iconv_t converter = iconv_open(to, from);
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the value by which iconv_open says no.
     if (converter == reinterpret_cast<iconv_t>(-1)) {
         throw std::runtime_error(std::string("no conversion from ") + from + " to " + to);
     }

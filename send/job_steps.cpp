@@ -73,7 +73,7 @@ void frmZentSend::open_session(SendJob& job) {
 /// Registers the job's message and, when the carrier has taken it, waits. Returns what the rows are to show.
 Text frmZentSend::submit(SendJob& job, platform::TextView without_call) {
     wait_cursor();
-    const Text result = job.kind != nullptr ? gateway_.UMS_SEND_START(job.message) : Text(without_call);
+    Text result = job.kind != nullptr ? gateway_.UMS_SEND_START(job.message) : Text(without_call);
     wait_cursor();
     if (result == gateway::REGISTERED) {
         platform_.desktop.yield();

@@ -75,7 +75,7 @@ bool is_normal_file(const fs::path& path) {
 
 }  // namespace
 
-PosixFiles::PosixFiles(Paths paths) : PosixFiles(paths, default_windows_directory(paths)) {}
+PosixFiles::PosixFiles(const Paths& paths) : PosixFiles(paths, default_windows_directory(paths)) {}
 
 PosixFiles::PosixFiles(Paths paths, std::string windows_directory)
     : paths_(std::move(paths)), windows_directory_(std::move(windows_directory)) {}

@@ -9,7 +9,7 @@ namespace platform::posix {
 class PosixFiles : public Files {
   public:
     /// With `~/.config/cardvale` as the Windows directory, of the home that the user database tells.
-    explicit PosixFiles(Paths paths);
+    explicit PosixFiles(const Paths& paths);
     /// With another Windows directory, an absolute path; the first write into it makes it.
     PosixFiles(Paths paths, std::string windows_directory);
 
