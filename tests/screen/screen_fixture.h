@@ -37,18 +37,9 @@ class BoxPlayer : public QObject {
     void play(QMessageBox& box);
 };
 
-/// The sample window on the offscreen desktop, found and driven as a user would.
-class ScreenTest : public testing::Test {
+/// A window on the offscreen desktop, found and driven as a user would.
+class DeskTest : public testing::Test {
   protected:
-    void SetUp() override {
-        form.show();
-        settle();
-    }
-    void TearDown() override {
-        form.unload();
-        settle();
-    }
-
     /// Lets everything happen that waits in the event loop.
     static void settle() {
         QCoreApplication::processEvents();
@@ -71,6 +62,19 @@ class ScreenTest : public testing::Test {
         QInputMethodEvent event(unfinished, {});
         event.setCommitString(commit);
         QCoreApplication::sendEvent(field, &event);
+    }
+};
+
+/// The sample window.
+class ScreenTest : public DeskTest {
+  protected:
+    void SetUp() override {
+        form.show();
+        settle();
+    }
+    void TearDown() override {
+        form.unload();
+        settle();
     }
 
     BoxPlayer boxes;

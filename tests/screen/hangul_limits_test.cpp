@@ -1,0 +1,495 @@
+// The main window at the byte limit of its texts, while syllables are unfinished.
+
+#include "compose/main_form.h"
+#include "core/common.h"
+#include "platform/ini/ini_settings.h"
+#include "platform/qt/message_edit.h"
+#include "platform/qt/text_conversion.h"
+#include "send/send_check.h"
+#include "tests/screen/program_fixture.h"
+#include "tests/screen/screen_fixture.h"
+#include "tests/support/recording_carrier.h"
+#include "tests/support/test_platform.h"
+#include "tests/support/utf8.h"
+
+#include <QAbstractItemView>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QTabBar>
+#include <optional>
+#include <utility>
+
+namespace tests {
+namespace {
+
+using compose::TEXT_MESSAGE;
+using compose::TEXT_PLUS;
+using platform::Text;
+
+/// What an input method does when the field ends a composition, or the focus goes where no text is.
+enum class Manner {
+    /// Nothing: it relies on the field.
+    silent,
+    /// Commits what it has, though the field may have done so, and only then forgets it; and when it is told
+    /// to forget, it commits once more, to whoever has the focus by then.
+    commits_again,
+};
+
+class InputMethod : public QObject {
+  public:
+    explicit InputMethod(Manner manner) : manner_(manner) { qApp->installEventFilter(this); }
+
+    void compose(const QString& commit, const QString& unfinished) {
+        // A box that has just closed gives the focus back in a while.
+        QCoreApplication::processEvents();
+        unfinished_ = unfinished;
+        send(commit, unfinished);
+    }
+
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (manner_ == Manner::silent || unfinished_.isEmpty() || object != QApplication::focusWidget() ||
+            event == own_) {
+            return false;
+        }
+        if (event->type() == QEvent::FocusAboutToChange) {
+            send(unfinished_, {});
+            forget();
+        } else if (event->type() == QEvent::InputMethod) {
+            forget();
+        }
+        return false;
+    }
+
+  private:
+    void forget() {
+        if (unfinished_.isEmpty()) return;
+        QMetaObject::invokeMethod(
+            this, [this, late = std::exchange(unfinished_, {})] { send(late, {}); }, Qt::QueuedConnection);
+    }
+    void send(const QString& commit, const QString& unfinished) {
+        QWidget* field = QApplication::focusWidget();
+        if (field == nullptr) return;
+        QInputMethodEvent event(unfinished, {});
+        event.setCommitString(commit);
+        const QScopedValueRollback<QEvent*> own(own_, &event);
+        QCoreApplication::sendEvent(field, &event);
+    }
+
+    Manner manner_;
+    QString unfinished_;
+    QEvent* own_ = nullptr;
+};
+
+/// The main window with one of its texts in the works. Of what is around it the desktop alone is real.
+struct Draft {
+    Draft(int kind, Manner manner) : method(manner), kind(kind) {
+        state.gLoggedIn = true;
+        form.show();
+        QCoreApplication::processEvents();
+        form.TabStrip1.select(kind);
+        form.txtCallback.set_text(u"02-123-4567");
+        form.ListView1.add_row(u"", {u"김", u"010-1234-5678", u"", u""}, true);
+        form.ttsText.set_text(u"안내");
+    }
+    ~Draft() {
+        form.unload();
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    platform::TextBox& field() { return kind == TEXT_MESSAGE ? form.mText1 : form.mText2; }
+    const char* field_name() const { return kind == TEXT_MESSAGE ? "mText1" : "mText2"; }
+
+    void write(const Text& text) {
+        field().set_focus();
+        field().set_text(text);
+        field().set_caret_to_end();
+    }
+
+    /// The steps of a syllable up to its end.
+    void type_han() {
+        leave_han_unfinished();
+        method.compose("한", "");
+    }
+    void leave_han_unfinished() {
+        for (const char* step : {"ㅎ", "하", "한"}) method.compose("", step);
+    }
+
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QCoreApplication::processEvents();
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+    void paste(const QString& text) {
+        QGuiApplication::clipboard()->setText(text);
+        key(Qt::Key_V, Qt::ControlModifier);
+    }
+
+    BoxPlayer boxes;
+    platform::qt::Screens screens = platform::qt::program_screens();
+    HastyClock clock;
+    MemoryFiles files;
+    platform::IniSettings settings{files};
+    RecordingShell shell;
+    RecordingCarrier carrier;
+    platform::qt::QtDesktop desktop{screens, files};
+    platform::Platform platform{.desktop = desktop,
+                                .clock = clock,
+                                .files = files,
+                                .settings = settings,
+                                .shell = shell,
+                                .carrier = carrier};
+    core::AppState state;
+    InputMethod method;
+    int kind;
+    compose::frmZent form{platform,
+                          state,
+                          {},
+                          {.send = [this] { send::Command1_Click(platform, state, form, {}); },
+                           .pick_recipients = {},
+                           .NEW_SENDMAN_LOAD = {},
+                           .message_box = {},
+                           .update_check = {},
+                           .SaveWave = {}}};
+};
+
+/// A line end counts two bytes, and there are none in the subject.
+const Text LINES = [] {
+    Text text;
+    for (int i = 0; i < 35; ++i) text += platform::CRLF;
+    return text;
+}();
+const Text AT_74 = LINES + u"가나";
+const Text AT_76 = LINES + u"가나다";
+const Text AT_78 = LINES + u"가나다라";
+const Text AT_79 = LINES + u"가나다라a";
+
+struct Case {
+    const char* name;
+    /// The caret is at its end.
+    Text before;
+    std::function<void(Draft&)> act;
+    /// The boxes that open: Y and N for the question about a long text and its answer, ! for the warning.
+    std::string boxes;
+    Text after;
+    Text subject;
+    /// At the end when it is not told.
+    std::optional<std::size_t> caret = {};
+};
+
+class HangulLimits : public DeskTest {
+  protected:
+    void play(int kind, const std::vector<Case>& cases) {
+        for (const Manner manner : {Manner::silent, Manner::commits_again}) {
+            for (const Case& c : cases) {
+                SCOPED_TRACE(std::string(c.name) + (manner == Manner::silent ? "" : ", committed again"));
+                Draft draft(kind, manner);
+                expect_boxes(draft, c.boxes);
+                draft.write(c.before);
+                c.act(draft);
+                settle();
+                check(draft, c);
+                // Nothing is left unfinished that another key would bring back.
+                draft.field().set_focus();
+                draft.key(Qt::Key_End, Qt::ControlModifier);
+                settle();
+                EXPECT_EQ(utf8(draft.field().text()), utf8(c.after));
+            }
+        }
+    }
+
+    static void expect_boxes(Draft& draft, const std::string& boxes) {
+        for (const char box : boxes) {
+            draft.boxes.answers.push_back(box == 'Y'   ? QMessageBox::Yes
+                                          : box == 'N' ? QMessageBox::No
+                                                       : QMessageBox::Ok);
+        }
+    }
+
+    static void check(Draft& draft, const Case& c) {
+        const platform::TextBox& field = draft.field();
+        const auto& edit = find<platform::qt::MessageEdit>(draft.field_name());
+        EXPECT_EQ(utf8(field.text()), utf8(c.after));
+        EXPECT_EQ(edit.committed_text().toStdString(), platform::qt::shown_text(c.after).toStdString());
+        const std::size_t caret = c.caret.value_or(c.after.size());
+        EXPECT_EQ(field.selection_start(), caret);
+        EXPECT_EQ(field.selection_length(), 0U);
+        EXPECT_EQ(edit.textCursor().position(), platform::qt::shown_position(c.after, caret));
+
+        const auto bytes = core::BYTE_LEN(c.after);
+        if (draft.kind == TEXT_MESSAGE) {
+            EXPECT_EQ(utf8(draft.form.mHLen1.caption()), std::to_string(bytes) + "Bytes");
+            EXPECT_EQ(draft.form.mHLen3.visible(), bytes > compose::TEXT_LIMIT);
+        } else {
+            EXPECT_EQ(utf8(draft.form.mHLen2.caption()), std::to_string(bytes) + "/80Byte");
+        }
+        EXPECT_EQ(utf8(draft.form.subjectText.text()), utf8(c.subject));
+        EXPECT_EQ(find<QLineEdit>("subjectText").text().toStdString(), utf8(c.subject));
+
+        std::string boxes;
+        for (const QString& text : draft.boxes.asked) {
+            boxes += text.contains("입력하시겠습니까")      ? '?'
+                     : text.contains("80Byte를 넘었습니다") ? '!'
+                                                            : 'x';
+        }
+        std::string expected = c.boxes;
+        for (char& box : expected) box = box == '!' ? '!' : '?';
+        EXPECT_EQ(boxes, expected);
+        EXPECT_EQ(field.has_focus(), edit.hasFocus());
+    }
+};
+
+void press(const char* button) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() != QStringLiteral("frmZent")) continue;
+        QTest::mouseClick(window->findChild<QWidget*>(QString::fromLatin1(button)), Qt::LeftButton);
+        return;
+    }
+    throw std::logic_error(button);
+}
+
+void han(Draft& draft) { draft.type_han(); }
+
+void han_and_the_next(Draft& draft) {
+    draft.leave_han_unfinished();
+    draft.method.compose("한", "ㄱ");
+}
+
+/// In front of the letters, behind the line ends.
+void han_in_the_middle(Draft& draft) {
+    draft.field().select(LINES.size(), 0);
+    draft.type_han();
+}
+
+void paste_behind_han(Draft& draft) {
+    draft.type_han();
+    draft.paste("마바사");
+}
+
+void paste_before_the_end_of_han(Draft& draft) {
+    draft.leave_han_unfinished();
+    draft.paste("마바사");
+    draft.method.compose("한", "");
+}
+
+void emoticon(Draft& draft) {
+    draft.leave_han_unfinished();
+    press("mBttn1_5");
+}
+
+void click_subject(Draft& draft) {
+    draft.leave_han_unfinished();
+    press("subjectText");
+}
+
+/// Too long to follow the text. One that follows may be left before or after the refusal, as desktops differ.
+const Text OWN_SUBJECT = u"열다섯 글자보다 더 긴 제목";
+
+void click_subject_of_its_own(Draft& draft) {
+    draft.form.subjectText.set_text(OWN_SUBJECT);
+    click_subject(draft);
+}
+
+TEST_F(HangulLimits, a_text_message_asks_once_and_neither_loses_nor_doubles_a_syllable) {
+    play(TEXT_MESSAGE,
+         {
+             {"to exactly 80", AT_78, han, "", AT_78 + u"한", u"가나다라한"},
+             {"over, yes", AT_79, han, "Y", AT_79 + u"한", u"가나다라a한"},
+             {"over, no", AT_79, han, "N!", AT_79, u"가나다라a"},
+             {"the next begun, yes", AT_79, han_and_the_next, "Y", AT_79 + u"한ㄱ", u"가나다라a한"},
+             {"the next begun, no", AT_79, han_and_the_next, "N!", AT_79, u"가나다라a"},
+             {"in the middle, below", AT_74, han_in_the_middle, "", LINES + u"한가나", u"한가나",
+              LINES.size() + 1},
+             {"in the middle, yes", AT_79, han_in_the_middle, "Y", LINES + u"한가나다라a", u"한가나다라a"},
+             {"in the middle, no", AT_79, han_in_the_middle, "N!", LINES + u"한가나다라", u"한가나다라"},
+             {"paste, yes", AT_74, paste_behind_han, "Y", AT_74 + u"한마바사", u"가나한마바사"},
+             {"paste, no", AT_74, paste_behind_han, "N!", AT_74 + u"한마바", u"가나한마바"},
+             {"paste in front of the unfinished syllable", AT_74, paste_before_the_end_of_han, "Y",
+              AT_74 + u"마바사한", u"가나마바사한"},
+             {"emoticon to exactly 80", AT_76, emoticon, "", AT_76 + u"한○", u"가나다한○"},
+             {"emoticon over, yes", AT_78, emoticon, "Y", AT_78 + u"한○", u"가나다라한○"},
+             {"emoticon over, no", AT_78, emoticon, "N!", AT_78 + u"한", u"가나다라한"},
+             {"syllable over by an emoticon, yes", AT_79, emoticon, "Y", AT_79 + u"한○", u"가나다라a한"},
+             {"syllable over by an emoticon, no, no", AT_79, emoticon, "N!N!", AT_79, u"가나다라a"},
+         });
+}
+
+TEST_F(HangulLimits, the_answer_about_a_long_text_holds_down_to_80_bytes) {
+    play(TEXT_MESSAGE, {
+                           {"at exactly 80", AT_78,
+                            [](Draft& draft) {
+                                for (const char* syllable : {"한", "글"}) draft.method.compose(syllable, "");
+                                draft.key(Qt::Key_Backspace);
+                                EXPECT_EQ(draft.form.mText1.tag(), u"LONG");
+                                EXPECT_FALSE(draft.form.mHLen3.visible());
+                                draft.method.compose("말", "");
+                            },
+                            "Y", AT_78 + u"한말", u"가나다라한글"},
+                           {"below it is asked again", AT_79,
+                            [](Draft& draft) {
+                                draft.type_han();
+                                draft.key(Qt::Key_Backspace);
+                                EXPECT_EQ(draft.form.mText1.tag(), u"");
+                                draft.type_han();
+                            },
+                            "YN!", AT_79, u"가나다라a한"},
+                           {"backspace above takes jamo and syllables without a word", AT_79,
+                            [](Draft& draft) {
+                                for (const char* syllable : {"한", "글"}) draft.method.compose(syllable, "");
+                                for (const char* step : {"ㅁ", "마", "ㅁ", ""})
+                                    draft.method.compose("", step);
+                                draft.key(Qt::Key_Backspace);
+                            },
+                            "Y", AT_79 + u"한", u"가나다라a한"},
+                       });
+}
+
+TEST_F(HangulLimits, a_placeholder_goes_behind_the_unfinished_syllable_of_an_unlimited_text) {
+    play(TEXT_MESSAGE, {{"chosen by the mouse", AT_79,
+                         [](Draft& draft) {
+                             draft.form.Check1.set_checked(true);
+                             draft.leave_han_unfinished();
+                             press("Combo3");
+                             QWidget* rows = find<QComboBox>("Combo3").view();
+                             QTest::keyClick(rows, Qt::Key_Down);
+                             QTest::keyClick(rows, Qt::Key_Return);
+                             EXPECT_EQ(draft.form.Combo3.list_index(), 1);
+                         },
+                         "", AT_79 + u"한{이름}", u"가나다라a한"}});
+}
+
+TEST_F(HangulLimits, a_plus_message_warns_and_is_cut) {
+    play(TEXT_PLUS,
+         {
+             {"to exactly 80", AT_78, han, "", AT_78 + u"한", u"가나다라한"},
+             {"over", AT_79, han, "!", AT_79, u"가나다라a"},
+             {"the next begun", AT_79, han_and_the_next, "!", AT_79, u"가나다라a"},
+             {"in the middle, below", AT_74, han_in_the_middle, "", LINES + u"한가나", u"한가나",
+              LINES.size() + 1},
+             {"in the middle", AT_79, han_in_the_middle, "!", LINES + u"한가나다라", u"한가나다라"},
+             {"paste", AT_74, paste_behind_han, "!", AT_74 + u"한마바", u"가나한마바"},
+         });
+}
+
+TEST_F(HangulLimits, a_click_into_the_subject_ends_the_syllable_first) {
+    const std::vector<Case> both{
+        {"below", AT_74, click_subject, "", AT_74 + u"한", u"가나한"},
+        {"to exactly 80", AT_78, click_subject, "", AT_78 + u"한", u"가나다라한"},
+    };
+    play(TEXT_MESSAGE, both);
+    play(TEXT_MESSAGE, {{"over, yes", AT_79, click_subject, "Y", AT_79 + u"한", u"가나다라a한"},
+                        {"over, no", AT_79, click_subject_of_its_own, "N!", AT_79, OWN_SUBJECT}});
+    play(TEXT_PLUS, both);
+    play(TEXT_PLUS, {{"over", AT_79, click_subject, "!", AT_79, u"가나다라a"}});
+}
+
+TEST_F(HangulLimits, a_key_that_comes_while_the_question_is_open_opens_no_second_box) {
+    const auto end_by_period = [](Draft& draft) {
+        auto& edit = find<platform::qt::MessageEdit>("mText1");
+        draft.boxes.meanwhile = [&] {
+            if (draft.boxes.asked.size() == 1) QTest::keyClick(&edit, Qt::Key_Period);
+        };
+        draft.type_han();
+    };
+    play(TEXT_MESSAGE, {
+                           {"yes", AT_79, end_by_period, "Y", AT_79 + u"한.", u"가나다라a한"},
+                           {"no", AT_79, end_by_period, "N!", AT_79, u"가나다라a"},
+                       });
+}
+
+TEST_F(HangulLimits, another_kind_begins_its_text_whatever_was_unfinished) {
+    for (const Manner manner : {Manner::silent, Manner::commits_again}) {
+        for (const std::string boxes : {"Y", "N!"}) {
+            SCOPED_TRACE(boxes);
+            Draft draft(TEXT_MESSAGE, manner);
+            expect_boxes(draft, boxes);
+            draft.form.txtUserName.set_text(u"홍");
+            draft.write(AT_79);
+            draft.leave_han_unfinished();
+            auto& tabs = find<QTabBar>("TabStrip1");
+            const auto click_tab = [&](int kind) {
+                QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(kind - 1).center());
+                settle();
+            };
+            click_tab(TEXT_PLUS);
+            EXPECT_EQ(draft.boxes.asked.size(), boxes.size());
+            EXPECT_EQ(draft.form.mText1.text(), boxes == "Y" ? AT_79 + u"한" : AT_79);
+            EXPECT_EQ(draft.form.subjectText.text(), boxes == "Y" ? u"가나다라a한" : u"가나다라a");
+
+            draft.kind = TEXT_PLUS;
+            const Text plus = u"[홍]\r\n\r\n\r\n\r\n☎통화를눌러확인하세요";
+            EXPECT_EQ(draft.form.mText2.text(), plus);
+            EXPECT_EQ(find<platform::qt::MessageEdit>("mText2").committed_text(),
+                      platform::qt::shown_text(plus));
+            draft.field().set_focus();
+            draft.leave_han_unfinished();
+            click_tab(TEXT_MESSAGE);
+            EXPECT_EQ(draft.form.mText2.text(), u"한" + plus);
+            EXPECT_EQ(draft.form.mText1.text(), u"[홍]");
+            EXPECT_EQ(find<platform::qt::MessageEdit>("mText1").committed_text(), "[홍]");
+        }
+    }
+}
+
+/// Sends a text whose last syllable is unfinished.
+class HangulSending : public HangulLimits {
+  protected:
+    static void send(Draft& draft, bool by_key) {
+        WindowPlayer user;
+        bool reported = false;
+        user.in_window("frmSBox", [](QWidget& window) {
+            QTest::mouseClick(window.findChild<QWidget*>("Command1"), Qt::LeftButton);
+        });
+        user.in_window("frmSendEndBox", [&](QWidget& window) {
+            reported = true;
+            QTest::mouseClick(window.findChild<QWidget*>("Command2"), Qt::LeftButton);
+        });
+        if (by_key) {
+            draft.key(Qt::Key_Return, Qt::ControlModifier);
+        } else {
+            press("Command1");
+        }
+        EXPECT_TRUE(QTest::qWaitFor([&] { return reported; }));
+    }
+
+    static std::vector<Text> sent(const Draft& draft) {
+        std::vector<Text> texts;
+        for (const auto& registration : draft.carrier.registrations)
+            texts.push_back(registration.s_sms_content);
+        return texts;
+    }
+};
+
+TEST_F(HangulSending, what_goes_is_the_text_with_the_syllable) {
+    struct Sent {
+        int kind;
+        Text before;
+        std::string boxes;
+        std::vector<Text> texts;
+    };
+    const Text syllables(39, u'가');
+    for (const auto& [kind, before, boxes, texts] : std::vector<Sent>{
+             {TEXT_MESSAGE, syllables, "", {syllables + u"한"}},
+             {TEXT_MESSAGE, syllables + u"a", "Y", {syllables + u"a", u"한"}},
+             {TEXT_MESSAGE, syllables + u"a", "N!", {syllables + u"a"}},
+             {TEXT_PLUS, syllables, "", {syllables + u"한"}},
+             {TEXT_PLUS, syllables + u"a", "!", {syllables + u"a"}},
+         }) {
+        for (const Manner manner : {Manner::silent, Manner::commits_again}) {
+            const bool by_key = manner == Manner::commits_again;
+            SCOPED_TRACE(boxes + (by_key ? " by its key" : " by the mouse"));
+            Draft draft(kind, manner);
+            expect_boxes(draft, boxes);
+            draft.write(before);
+            draft.leave_han_unfinished();
+            send(draft, by_key);
+            EXPECT_EQ(draft.boxes.asked.size(), boxes.size());
+            EXPECT_EQ(sent(draft), texts);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace tests
