@@ -11,9 +11,10 @@ namespace {
 
 class QtTicker : public Ticker {
   public:
-    QtTicker(int milliseconds, std::function<void()> tick)
-        : tick_(std::make_shared<Tick>(Tick{std::move(tick), false})) {
-        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { run(tick_); });
+    QtTicker(int milliseconds, std::function<void()> tick) {
+        // The slot keeps what it runs: the tick may end its own ticker.
+        auto kept = std::make_shared<Tick>(Tick{std::move(tick), false});
+        QObject::connect(&timer_, &QTimer::timeout, &timer_, [kept] { run(*kept); });
         timer_.start(milliseconds);
     }
 
@@ -23,14 +24,13 @@ class QtTicker : public Ticker {
         bool running;
     };
 
-    /// The tick may end its own ticker, and it may open a box under which the timer goes on.
-    static void run(const std::shared_ptr<Tick> tick) {
-        if (tick->running) return;
-        const QScopedValueRollback<bool> running(tick->running, true);
-        tick->action();
+    /// The tick may open a box under which the timer goes on.
+    static void run(Tick& tick) {
+        if (tick.running) return;
+        const QScopedValueRollback<bool> running(tick.running, true);
+        tick.action();
     }
 
-    std::shared_ptr<Tick> tick_;
     QTimer timer_;
 };
 

@@ -30,9 +30,7 @@ void StatusBarBinder::refresh(Aspect aspect) {
     switch (aspect) {
         case Aspect::text:
         case Aspect::picture:
-            return show_panels();
-        // The bar's own tool tip is none: each panel has one.
-        case Aspect::tool_tip:
+        case Aspect::tool_tip:  // the panels'; the bar has none of its own
             return show_panels();
         default:
             return WidgetBinder::refresh(aspect);
