@@ -14,6 +14,9 @@ constexpr const char16_t* MOBILE_ONLY =
 constexpr const char16_t* NO_AREA_CODE =
     u"이름 '12345678' 오류입니다.\r\n\r\n(동일 통화지역도 만드시 지역번호(DDD)를 입력하여 주십시오.)";
 
+const LocalTime MORNING = make_time(2026, 11, 23, 10, 0);
+const LocalTime LATE = make_time(2026, 11, 23, 23, 10);
+
 struct Refusal {
     const char* fault;
     std::function<void(Sending&)> make;
@@ -22,60 +25,48 @@ struct Refusal {
 };
 
 TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsMended) {
-    const auto voice = [](int kind, int source) {
-        return [=](Sending& s) {
-            s.form.TabStrip1.select(kind);
-            s.form.TabStrip2.select(source);
-        };
+    const auto voice = [](Sending& s, int kind, int source) {
+        s.form.TabStrip1.select(kind);
+        s.form.TabStrip2.select(source);
+    };
+    const auto fax = [](Sending& s, std::initializer_list<const char16_t*> documents) {
+        s.form.TabStrip1.select(4);
+        s.form.FAXBttn1.set_enabled(true);
+        s.files.files[u"c:\\a.txt"] = "a";
+        for (const char16_t* path : documents) s.form.FAX1.add_row(path, {});
     };
     const Refusal refusals[] = {
         {"the sender's name alone", [](Sending& s) { s.type(u" [홍길동] "); }, u"메시지 내용을 입력하십시오!",
          u"mText1"},
-        {"no speech", [&](Sending& s) { voice(2, 1)(s), s.form.ttsText.set_text(u" \r\n "); },
+        {"no speech", [&](Sending& s) { voice(s, 2, 1), s.form.ttsText.set_text(u" \r\n "); },
          u"음성으로 변환할 TTS내용을 입력하십시오.", u"ttsText"},
-        {"no speech", voice(3, 1), u"음성으로 변환할 TTS내용을 입력하십시오.", u"ttsText"},
-        {"no sound file", voice(2, 3), u"첨부할 WAV파일을 선택하여 주십시오.", u""},
         {"a sound file that has gone",
-         [&](Sending& s) { voice(3, 3)(s), s.form.TTSFileTxt.set_text(u"c:\\a.wav"); },
+         [&](Sending& s) { voice(s, 3, 3), s.form.TTSFileTxt.set_text(u"c:\\a.wav"); },
          u"첨부할 WAV파일을 선택하여 주십시오.", u""},
-        {"no document", [&](Sending& s) { s.form.TabStrip1.select(4), s.form.FAXBttn1.set_enabled(true); },
-         u"보낼문서를 지정하여 주십시오.", u"FAXBttn1"},
+        {"no document", [&](Sending& s) { fax(s, {}); }, u"보낼문서를 지정하여 주십시오.", u"FAXBttn1"},
         {"a document that has gone",
          [&](Sending& s) {
-             s.form.TabStrip1.select(4);
-             s.files.files[u"c:\\a.txt"] = "a";
-             s.form.FAX1.add_row(u"c:\\a.txt", {});
-             s.form.FAX1.add_row(u"c:\\b.txt", {});
+             fax(s, {u"c:\\a.txt", u"c:\\b.txt"});
          },
          u"c:\\b.txt\r\n\r\n위 파일을 찾을 수 없습니다. 확인하여 주십시오.", u""},
-        {"no rows", [](Sending& s) { s.form.ListView1.clear(); }, u"받는사람을 입력하여 주십시오!", u""},
-        {"no checked rows", [](Sending& s) { s.form.ListView1.set_checked(0, false); },
-         u"받는사람을 선택하여 주십시오.", u""},
         {"no number", [](Sending& s) { s.add(u"b", u" "); },
          u"이름 ' ' 오류입니다.\r\n\r\n(전송할 이름을(를) 입력하여 주십시오.)", u"ListView1"},
-        {"eight digits", [](Sending& s) { s.add(u"b", u"12345678"); }, NO_AREA_CODE, u"ListView1"},
         {"a fixed line for a text", [](Sending& s) { s.add(u"b", u"0212345678"); }, MOBILE_ONLY,
          u"ListView1"},
         {"a fixed line for a text with voice",
          [&](Sending& s) {
-             voice(2, 1)(s);
+             voice(s, 2, 1);
              s.form.ttsText.set_text(u"음성");
              s.add(u"b", u"0212345678");
          },
          MOBILE_ONLY, u"ListView1"},
-        {"a mobile number for a fax",
-         [](Sending& s) {
-             s.form.TabStrip1.select(4);
-             s.files.files[u"c:\\a.txt"] = "a";
-             s.form.FAX1.add_row(u"c:\\a.txt", {});
-         },
+        {"a mobile number for a fax", [&](Sending& s) { fax(s, {u"c:\\a.txt"}); },
          u"팩스보낼 번호 '01011112222' 오류입니다.\r\n\r\n(모바일(휴대폰), 03030, 0502, 0505로 시작되는 "
-         u"번호는 "
-         u"팩스메시지 발송이 불가하오니 확인하여 주십시오.)",
+         u"번호는 팩스메시지 발송이 불가하오니 확인하여 주십시오.)",
          u"ListView1"},
     };
     for (const Refusal& refusal : refusals) {
-        SCOPED_TRACE(refusal.fault + (": " + utf8(refusal.words)));
+        SCOPED_TRACE(refusal.fault);
         Sending s;
         s.add(u"a", u"01011112222");
         refusal.make(s);
@@ -122,15 +113,6 @@ TEST(SendCheck, TellsTheFirstOfSeveralFaults) {
     EXPECT_EQ(s.carrier.registrations.size(), 1u);
 }
 
-TEST(SendCheck, LetsNineDigitsPassForVoiceAndAsksNothingAboutThemElse) {
-    Sending s;
-    s.form.TabStrip1.select(3);
-    s.form.ttsText.set_text(u"음성");
-    s.add(u"a", u"021234567");
-    s.send();
-    EXPECT_EQ(s.carrier.registrations.size(), 1u);
-}
-
 TEST(SendCheck, ARecordingIsSavedForTheCarrierAndWithoutOneTheClickEndsSilently) {
     for (const int kind : {2, 3}) {
         Sending s;
@@ -160,22 +142,14 @@ TEST(SendCheck, CompletesSubjectAndSender) {
     EXPECT_EQ(utf8(s.carrier.registrations.at(0).s_callback), "029990000");
 }
 
-struct Confirmation {
-    std::function<void(Sending&)> draft;
-    const char* text;
-    const char* question;
-};
-
 TEST(SendBox, ShowsWhatIsAboutToGo) {
-    const Confirmation confirmations[] = {
-        {[](Sending& s) { s.form.txtCallback.set_text(u" "); },
+    const struct {
+        std::function<void(Sending&)> draft;
+        const char *kind, *text;
+    } confirmations[] = {
+        {[](Sending&) {}, "문자메시지",
          "\r\n 메시지제목   : 인사\r\n 메시지구분   : 문자메시지\r\n 발송예약시간: 즉시전송\r\n"
-         " 회신번호      : 02-999-0000\r\n 발송대상      : a(010-1111-2222)",
-         "문자메시지 발송을 시작하시겠습니까?"},
-        {[](Sending&) {},
-         "\r\n 메시지제목   : 인사\r\n 메시지구분   : 문자메시지\r\n 발송예약시간: 즉시전송\r\n"
-         " 회신번호      : 02-123-4567\r\n 발송대상      : a(010-1111-2222)",
-         "문자메시지 발송을 시작하시겠습니까?"},
+         " 회신번호      : 02-123-4567\r\n 발송대상      : a(010-1111-2222)"},
         {[](Sending& s) {
              s.type(Text(81, u'a'));
              s.form.subjectText.set_text(u"인사");
@@ -187,54 +161,42 @@ TEST(SendBox, ShowsWhatIsAboutToGo) {
              s.add(u"c", u"01033334444", false);
              s.add(u"d", u"01044445555");
          },
+         "문자메시지",
          "\r\n 메시지제목   : 인사\r\n 메시지구분   : 문자메시지(장문)\r\n"
          " 발송예약시간: 예약전송(2027년 7월 5일 09시05분)\r\n 회신번호      : 02-123-4567\r\n"
-         " 발송대상      : a(010-1111-2222)외 2건",
-         "문자메시지 발송을 시작하시겠습니까?"},
+         " 발송대상      : a(010-1111-2222)외 2건"},
         {[](Sending& s) {
              s.form.TabStrip1.select(2);
              s.form.subjectText.set_text(u"인사");
              s.form.ttsText.set_text(u"음성");
              s.form.Check2.set_checked(true);
          },
+         "문자플러스(TTS)",
          "\r\n 메시지제목   : 인사\r\n 메시지구분   : 문자플러스(TTS)\r\n 발송예약시간: 즉시전송\r\n"
-         " 답변받기      : 아니오\r\n 발송대상      : a(010-1111-2222)",
-         "문자플러스(TTS) 발송을 시작하시겠습니까?"},
+         " 답변받기      : 아니오\r\n 발송대상      : a(010-1111-2222)"},
         {[](Sending& s) {
              s.form.TabStrip1.select(3);
              s.form.ttsText.set_text(u"음성");
              s.form.Check1.set_checked(true);
              s.form.Combo4.set_list_index(2);
          },
+         "음성메시지(TTS)",
          "\r\n 메시지제목   : 인사\r\n 메시지구분   : 음성메시지(TTS)\r\n 발송예약시간: 즉시전송\r\n"
          " 회신번호      : 02-123-4567\r\n 답변받기      : 예\r\n 답변개수      : 3\r\n"
-         " 발송대상      : a(010-1111-2222)",
-         "음성메시지(TTS) 발송을 시작하시겠습니까?"},
-        {[](Sending& s) {
-             s.form.TabStrip1.select(4);
-             s.files.files[u"c:\\a.txt"] = "a";
-             s.form.FAX1.add_row(u"c:\\a.txt", {});
-             s.form.ListView1.clear();
-             s.add(u"a", u"0212345678");
-         },
-         "\r\n 메시지제목   : 인사\r\n 메시지구분   : 팩스메시지\r\n 발송예약시간: 즉시전송\r\n"
-         " 발송대상      : a(0212345678)",
-         "팩스메시지 발송을 시작하시겠습니까?"},
+         " 발송대상      : a(010-1111-2222)"},
     };
-    for (const Confirmation& confirmation : confirmations) {
+    for (const auto& confirmation : confirmations) {
         Sending s;
         s.add(u"a", u"010-1111-2222");
         confirmation.draft(s);
-        std::string text, question;
         s.desktop.in_form<send::frmSBox>(u"frmSBox", [&](send::frmSBox& box) {
-            text = utf8(box.Text1.text());
-            question = utf8(box.Label1.caption());
-            EXPECT_EQ(utf8(box.caption()), "메시지 발송확인");
+            EXPECT_EQ(utf8(box.Text1.text()), confirmation.text);
+            EXPECT_EQ(utf8(box.Label1.caption()),
+                      confirmation.kind + std::string(" 발송을 시작하시겠습니까?"));
             box.Command2.Click.raise();
         });
         s.click();
-        EXPECT_EQ(text, confirmation.text);
-        EXPECT_EQ(question, confirmation.question);
+        EXPECT_EQ(s.desktop.forms.size(), 1u);
     }
 }
 
@@ -259,71 +221,51 @@ TEST(SendBox, EveryWayOutButTheStartButtonCancels) {
     }
 }
 
-struct Schedule {
-    const char* saved;
-    int day, hour, minute;
-    /// The lead that the refusal names; none when the draft passes.
-    const char* refused_below;
-};
-
-TEST(ScheduleCheck, AsksForTheLeadByTheDigitsOfDayHourAndMinute) {
-    // Now is 23 November, 23:10:00.
-    const Schedule schedules[] = {
-        {"", 23, 23, 39, "30"},     {"", 23, 23, 40, nullptr},
-        {"30", 23, 23, 39, "30"},   {"20", 23, 23, 30, nullptr},
-        {"20", 23, 23, 29, "20"},   {"", 24, 0, 0, nullptr},  // 50 minutes, and another day in any case
-        {"", 23, 22, 40, "30"},                               // past, though as far away as the lead
-        {"", 22, 23, 59, "30"},     {"0", 23, 22, 0, nullptr},
-        {"-5", 23, 23, 9, "-5"},    {"-5", 23, 23, 10, nullptr},
-        {"120", 23, 23, 59, "90"},  {"120", 24, 0, 0, nullptr},
-        {"abc", 22, 0, 0, nullptr},
-    };
-    for (const Schedule& schedule : schedules) {
-        SCOPED_TRACE(std::string(schedule.saved) + " " + std::to_string(schedule.day) + ". " +
-                     std::to_string(schedule.hour) + ":" + std::to_string(schedule.minute));
-        Sending s;
-        s.clock.set(make_time(2026, 11, 23, 23, 10, 0));
-        s.files.files[s.app_ini] = std::string("[SET]\r\nP_TIME=") + schedule.saved + "\r\n";
-        s.add(u"a", u"01011112222");
-        s.form.Option2.set_chosen(true);
-        s.form.DTP1.set_value(make_time(2026, 11, schedule.day, 15));
-        s.form.Combo1.set_list_index(schedule.hour);
-        s.form.Combo2.set_list_index(schedule.minute);
-        if (schedule.refused_below == nullptr) {
-            s.send();
-            continue;
-        }
-        const Text words =
-            u"예약 전송은 현재 시간에서 " + from_ascii(schedule.refused_below) + u"분 후부터 가능합니다!";
-        s.desktop.expect_box(words);
-        s.click();
-    }
-}
-
-TEST(ScheduleCheck, SecondsThatHavePassedCountAgainstTheLeadAndAnHourCountsAsAHundredMinutes) {
+TEST(ScheduleCheck, AsksForTheLeadByTheDigitsOfDayHourMinuteAndSecond) {
     const struct {
-        int second, hour, minute;
-        const char16_t* lead;
-        bool passes;
+        LocalTime now;
+        const char* saved;
+        int day, hour, minute;
+        /// The lead that the refusal names; none when the draft passes.
+        const char* refused_below;
     } rows[] = {
-        {1, 10, 30, u"30", false}, {1, 10, 31, u"30", true},
-        {0, 10, 59, u"60", false}, {0, 11, 0, u"60", true},
-        {0, 10, 59, u"90", false}, {0, 11, 0, u"90", true},  // 60 minutes are 10000, 90 are 9000
+        {LATE, "", 23, 23, 39, "30"},
+        {LATE, "", 23, 23, 40, nullptr},
+        {LATE, "20", 23, 23, 29, "20"},
+        {LATE, "20", 23, 23, 30, nullptr},
+        {LATE, "", 24, 0, 0, nullptr},  // 50 minutes, and another day in any case
+        {LATE, "", 23, 22, 40, "30"},   // past, though as far away as the lead
+        {LATE, "", 22, 23, 59, "30"},
+        {LATE, "0", 23, 22, 0, nullptr},
+        {LATE, "abc", 22, 0, 0, nullptr},
+        {LATE, "-5", 23, 23, 9, "-5"},
+        {LATE, "-5", 23, 23, 10, nullptr},
+        {LATE, "120", 23, 23, 59, "90"},
+        {LATE, "120", 24, 0, 0, nullptr},
+        {MORNING + std::chrono::seconds(1), "30", 23, 10, 30, "30"},
+        {MORNING + std::chrono::seconds(1), "30", 23, 10, 31, nullptr},
+        {MORNING, "90", 23, 10, 59, "90"},
+        {MORNING, "90", 23, 11, 0, nullptr},  // 60 minutes are 10000, 90 are 9000
     };
     for (const auto& row : rows) {
+        SCOPED_TRACE(std::string(row.saved) + " " + std::to_string(row.hour) + ":" +
+                     std::to_string(row.minute));
         Sending s;
-        s.clock.set(make_time(2026, 11, 23, 10, 0, row.second));
-        s.files.files[s.app_ini] = "[SET]\r\nP_TIME=" + utf8(row.lead) + "\r\n";
+        s.clock.set(row.now);
+        s.files.files[s.app_ini] = std::string("[SET]\r\nP_TIME=") + row.saved + "\r\n";
         s.add(u"a", u"01011112222");
         s.form.Option2.set_chosen(true);
+        s.form.DTP1.set_value(make_time(2026, 11, row.day, 15));
         s.form.Combo1.set_list_index(row.hour);
         s.form.Combo2.set_list_index(row.minute);
-        if (row.passes) {
+        if (row.refused_below == nullptr) {
             s.send();
         } else {
-            s.desktop.expect_box(Text(row.lead) + u"분 후부터 가능합니다!");
+            s.desktop.expect_box(u"예약 전송은 현재 시간에서 " + from_ascii(row.refused_below) +
+                                 u"분 후부터 가능합니다!");
             s.click();
         }
+        EXPECT_EQ(s.carrier.registrations.size(), row.refused_below == nullptr ? 1u : 0u);
     }
 }
 

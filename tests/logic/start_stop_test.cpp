@@ -26,20 +26,12 @@ struct Entry : testing::Test, TestPlatform {
 
 TEST_F(Entry, TheFirstInstancePreparesFoldersAndStateAndThenShowsTheMainWindow) {
     files.files[app_ini] = "[SET]\r\nZentUserNickName=Hong\r\nZENTUserPhoneID=0212345678\r\n";
-    state.gLoginAccepted = 1;
-    state.gServiceState = 0;
     EXPECT_TRUE(enter());
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(shown_with_folders,
               (std::set<Text>{u"c:\\temp", u"z:\\app\\내모음함", u"z:\\app\\내모음함\\내모음함"}));
-    EXPECT_EQ(utf8(desktop.title), "Cardvale 폰디라 통합메시징 서비스");
-    EXPECT_EQ(utf8(state.gPartnerPath), "kelmora");
-    EXPECT_EQ(utf8(state.gPartnerCode), "07190533");
-    EXPECT_EQ(utf8(state.gPartnerSubCode), "026");
-    EXPECT_EQ(utf8(state.gServiceNumber), "03030xxxxxxx");
-    EXPECT_EQ(utf8(state.gInfoServiceNumber), "03030xxxxxxx");
+    EXPECT_EQ(utf8(state.gInfoServiceNumber), "03030xxxxxxx") << "what the first bind goes out with";
     EXPECT_EQ(state.gServiceState, 3);
-    EXPECT_EQ(state.gLoginAccepted, 0);
     EXPECT_EQ(utf8(state.gSavedSenderName), "Hong");
     EXPECT_EQ(utf8(state.gSavedCallback), "0212345678");
 }
@@ -49,8 +41,6 @@ TEST_F(Entry, ASecondInstanceEndsWithoutATrace) {
     EXPECT_FALSE(enter());
     EXPECT_EQ(shown, 0);
     EXPECT_TRUE(files.folders.empty());
-    EXPECT_TRUE(files.files.empty());
-    EXPECT_TRUE(desktop.boxes.empty());
 }
 
 TEST_F(Entry, AReadOnlyDiskDoesNotKeepTheWindowFromShowing) {
@@ -79,17 +69,14 @@ TEST(MainWindowPlacement, IsRestoredWithinTheScreenOrTheDefaultSizeIsCentred) {
         WindowState state = WindowState::normal;
     } rows[] = {
         {"", DEFAULT},
-        {"M_MAX=0\r\n", DEFAULT},
         {"M_LEFT=1\r\nM_TOP=2\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n", DEFAULT},
         {"M_MAX=0\r\nM_LEFT=1\r\nM_TOP=2\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n", {1, 2, 13000, 8000}},
-        {"M_MAX=1\r\nM_LEFT=1\r\nM_TOP=2\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n", {1, 2, 13000, 8000}},
         {"M_MAX=0\r\nM_LEFT=-1\r\nM_TOP=-2\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n", {0, 0, 13000, 8000}},
         {"M_MAX=0\r\nM_LEFT=99999\r\nM_TOP=99999\r\nM_WIDTH=99999\r\nM_HEIGHT=99999\r\n",
          {27800, 15600, 28800, 16200}},
         {"M_MAX=0\r\nM_LEFT=99999999999999999999\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n",
          {27800, 0, 13000, 8000}},
-        {"M_MAX=0\r\nM_LEFT=5\r\n", DEFAULT},  // no size is a window that nobody sees
-        {"M_MAX=0\r\nM_LEFT=5\r\nM_WIDTH=-3\r\nM_HEIGHT=8000\r\n", DEFAULT},
+        {"M_MAX=0\r\nM_LEFT=5\r\nM_WIDTH=-3\r\nM_HEIGHT=8000\r\n", DEFAULT},  // nobody would see it
         {"M_MAX=2\r\nM_LEFT=1\r\nM_TOP=2\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n", DEFAULT,
          WindowState::maximised},
         {"M_MAX=Max\r\nM_WIDTH=13000\r\n", DEFAULT, WindowState::maximised},
@@ -109,30 +96,20 @@ TEST_F(MainWindowLife, LoadingFillsTheControlsFromTheClock) {
     clock.set(make_time(2026, 12, 31, 23, 5, 59));
     form.load();
     EXPECT_EQ(state.gMinTrackX, 698) << "697.5 pixels";
-    EXPECT_EQ(state.gMinTrackY, 493);
-    EXPECT_EQ(utf8(form.caption()), "Cardvale 폰디라 통합메시징 서비스");
     EXPECT_EQ(utf8(form.STBar1.panel(4).text), "버전:" + utf8(core::deployment::version()));
     EXPECT_EQ(form.DTP1.value(), make_time(2026, 12, 31));
-    EXPECT_EQ(utf8(form.Combo1.text()), "23");
-    EXPECT_EQ(utf8(form.Combo2.text()), "05");
+    EXPECT_EQ(utf8(form.Combo1.text() + u":" + form.Combo2.text()), "23:05");
     EXPECT_EQ(form.Combo1.rows().size(), 24u);
     EXPECT_EQ(form.Combo2.rows().size(), 60u);
-    EXPECT_EQ(utf8(form.Combo3.text()), "선택해주세요.");
-    EXPECT_EQ(utf8(form.Combo4.text()), "1");
-    EXPECT_EQ(form.Combo4.rows().size(), 5u);
-    EXPECT_EQ(utf8(form.Label4.caption()), "전체>0>대상>0");
-    EXPECT_TRUE(form.Option1.chosen());
-    EXPECT_FALSE(form.Picture1.border());
     EXPECT_TRUE(desktop.clipboard.empty()) << "filling a list inserts nothing";
 }
 
 TEST(MainWindowLoad, TheAutoLoginMarkIsOnForOneAndForNothingElse) {
-    for (const char16_t* value : {u"1", u"0", u"", u"1abc", u"1.0", u"2", u"on"}) {
+    for (const char16_t* value : {u"1", u"0", u"1abc", u"1.0"}) {
         tests::MainWindow window;
         window.save_setting(u"LOGIN", u"AUTOLOGIN", value);
         window.form.load();
         EXPECT_EQ(window.form.mnuAutoLogin.checked(), Text(value) == u"1") << utf8(value);
-        EXPECT_EQ(utf8(window.form.mnuAutoLogin.tag()), Text(value) == u"1" ? "1" : "0");
     }
 }
 
@@ -141,9 +118,9 @@ TEST(FirstTick, LogsInByItselfOnlyWithAutoLoginOnAndBothIdAndPasswordSaved) {
         const char16_t *auto_login, *user_id, *password;
         const char16_t* form;
     } rows[] = {
-        {u"1", u"hong", u"secret", u"frmAutoLogin"}, {u"1abc", u"hong", u"secret", u"frmAutoLogin"},
-        {u"0", u"hong", u"secret", u"frmZentLogin"}, {u"2", u"hong", u"secret", u"frmZentLogin"},
-        {u"", u"hong", u"secret", u"frmZentLogin"},  {u"1", u"", u"secret", u"frmZentLogin"},
+        {u"1abc", u"hong", u"secret", u"frmAutoLogin"},
+        {u"2", u"hong", u"secret", u"frmZentLogin"},
+        {u"1", u"", u"secret", u"frmZentLogin"},
         {u"1", u"hong", u"", u"frmZentLogin"},
     };
     for (const auto& row : rows) {
@@ -157,7 +134,6 @@ TEST(FirstTick, LogsInByItselfOnlyWithAutoLoginOnAndBothIdAndPasswordSaved) {
         window.form.show();
         window.clock.run_for(1);
         EXPECT_EQ(window.desktop.forms, (Forms{u"frmZent", row.form}));
-        EXPECT_EQ(bool(window.state.gLoggedIn), Text(row.form) == u"frmAutoLogin");
     }
 }
 
@@ -177,17 +153,18 @@ TEST_F(MainWindowLife, TheFirstTickComesOnceAndPollsAfterwards) {
     EXPECT_EQ(desktop.forms, (Forms{u"frmZent", u"frmZentLogin"}));
 }
 
-TEST_F(MainWindowLife, TheFirstTickLeavesTheLoginToAHandOverThatBringsItsOwn) {
-    hand_over = [&] { form.Timer2.set_tag(u"OK"); };
-    first_tick();
-    EXPECT_EQ(desktop.forms, Forms{u"frmZent"});
-    EXPECT_TRUE(form.Timer1.enabled());
-}
-
-TEST_F(MainWindowLife, TheFirstTickAsksNobodyWhoIsLoggedInAlready) {
-    hand_over = [&] { state.gLoggedIn = true; };
-    first_tick();
-    EXPECT_EQ(desktop.forms, Forms{u"frmZent"});
+TEST_F(MainWindowLife, TheFirstTickLeavesTheLoginToAHandOverThatBringsItsOwnOrHasLoggedIn) {
+    for (const bool logged_in : {false, true}) {
+        tests::MainWindow window;
+        window.hand_over = [&] {
+            window.state.gLoggedIn = logged_in;
+            window.form.Timer2.set_tag(logged_in ? u"" : u"OK");
+        };
+        window.form.show();
+        window.clock.run_for(1);
+        EXPECT_EQ(window.desktop.forms, Forms{u"frmZent"});
+        EXPECT_TRUE(window.form.Timer1.enabled());
+    }
 }
 
 TEST_F(MainWindowLife, AnErrorInTheFirstTickIsShownAndPollingStartsAllTheSame) {
@@ -197,8 +174,6 @@ TEST_F(MainWindowLife, AnErrorInTheFirstTickIsShownAndPollingStartsAllTheSame) {
     };
     desktop.expect_box(u"오류번호:70\r\n\r\n사용 권한이 없습니다.");
     first_tick();
-    EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::exclamation);
-    EXPECT_FALSE(form.Timer2.enabled());
     EXPECT_TRUE(form.Timer1.enabled());
 }
 
@@ -210,15 +185,18 @@ TEST_F(MainWindowLife, TheCheckForUpdatesAtTheStartStaysAwayWhateverTheMenuShows
     EXPECT_TRUE(opened.empty());
 }
 
-TEST_F(MainWindowLife, ItStopsByItsMenuItsButtonAndItsFrame) {
-    for (int way = 0; way < 3; ++way) {
+TEST(Stop, ByItsMenuItsButtonAndItsFrameWithoutAWordToTheCarrier) {
+    const std::function<void(compose::frmZent&)> ways[] = {
+        [](compose::frmZent& form) { form.mmuEnd.Click.raise(); },
+        [](compose::frmZent& form) { form.Command2.Click.raise(); },
+        [](compose::frmZent& form) { form.close_requested(); },
+    };
+    for (const auto& way : ways) {
         tests::MainWindow window;
         window.form.load();
-        if (way == 0) window.form.mmuEnd.Click.raise();
-        if (way == 1) window.form.Command2.Click.raise();
-        if (way == 2) window.form.close_requested();
-        EXPECT_FALSE(window.form.loaded()) << way;
-        EXPECT_TRUE(window.carrier.calls.empty()) << "nothing is bound, so nothing is told to the carrier";
+        way(window.form);
+        EXPECT_FALSE(window.form.loaded());
+        EXPECT_TRUE(window.carrier.calls.empty());
     }
 }
 
@@ -244,7 +222,6 @@ TEST(Stop, SenderAndReplyNumberAreSavedWhenTheyDifferFromWhatWasRead) {
         const char* saved;
     } rows[] = {
         {u" 홍길동 ", u"", "홍길동"},
-        {u"홍길동", u"이순신", "홍길동"},
         {u"", u"이순신", ""},
         {u" 이순신", u"이순신 ", "untouched"},
     };
@@ -265,11 +242,11 @@ TEST(Stop, SenderAndReplyNumberAreSavedWhenTheyDifferFromWhatWasRead) {
 TEST(Stop, APlaceIsSavedWithANormalWindowAndOnlyTheStateWithAnother) {
     const struct {
         WindowState state;
-        const char *max, *left, *top, *width, *height;
+        const char* saved;
     } rows[] = {
-        {WindowState::normal, "0", "-30", "45", "12345", "9876"},
-        {WindowState::minimised, "1", "10", "20", "13000", "8000"},
-        {WindowState::maximised, "2", "10", "20", "13000", "8000"},
+        {WindowState::normal, "0 -30 45 12345 9876"},
+        {WindowState::minimised, "1 10 20 13000 8000"},
+        {WindowState::maximised, "2 10 20 13000 8000"},
     };
     for (const auto& row : rows) {
         tests::MainWindow window;
@@ -278,11 +255,10 @@ TEST(Stop, APlaceIsSavedWithANormalWindowAndOnlyTheStateWithAnother) {
         window.form.load();
         window.form.window_placed({.left = -30, .top = 45, .width = 12345, .height = 9876}, row.state);
         window.form.unload();
-        EXPECT_EQ(window.setting(u"WINDOW SIZE", u"M_MAX"), row.max);
-        EXPECT_EQ(window.setting(u"WINDOW SIZE", u"M_LEFT"), row.left);
-        EXPECT_EQ(window.setting(u"WINDOW SIZE", u"M_TOP"), row.top);
-        EXPECT_EQ(window.setting(u"WINDOW SIZE", u"M_WIDTH"), row.width);
-        EXPECT_EQ(window.setting(u"WINDOW SIZE", u"M_HEIGHT"), row.height);
+        std::string saved = window.setting(u"WINDOW SIZE", u"M_MAX");
+        for (const char16_t* key : {u"M_LEFT", u"M_TOP", u"M_WIDTH", u"M_HEIGHT"})
+            saved += " " + window.setting(u"WINDOW SIZE", key);
+        EXPECT_EQ(saved, row.saved);
     }
 }
 
