@@ -2,6 +2,7 @@
 
 #include "platform/qt/text_conversion.h"
 
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -61,6 +62,19 @@ QMessageBox::Icon icon_of(BoxIcon icon) {
     return QMessageBox::NoIcon;
 }
 
+/// Keeps keys with Ctrl from answering. For some input methods Ctrl alone ends the syllable, and the question
+/// that this brings up would be answered by the rest of the shortcut.
+class ShortcutsAreNoAnswers : public QObject {
+  public:
+    using QObject::QObject;
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        return (static_cast<QKeyEvent&>(*event).modifiers() & Qt::ControlModifier) != 0;
+    }
+};
+
 }  // namespace
 
 BoxAnswer ask(const MessageBox& box, const QString& application_title, QWidget* parent) {
@@ -72,9 +86,11 @@ BoxAnswer ask(const MessageBox& box, const QString& application_title, QWidget* 
     shown.setWindowTitle(box.title.empty() ? application_title : to_qstring(box.title));
     shown.setText(shown_text(box.text));
     shown.setStandardButtons(buttons_of(box.buttons));
+    auto* shortcuts = new ShortcutsAreNoAnswers(&shown);
     for (const Answer& answer : ANSWERS) {
         QAbstractButton* button = shown.button(answer.button);
         if (button == nullptr) continue;
+        button->installEventFilter(shortcuts);
         button->setText(QString::fromUtf8(answer.caption));
         if (answer.answer == box.default_answer) shown.setDefaultButton(answer.button);
         if (answer.answer == cautious_answer(box.buttons)) shown.setEscapeButton(answer.button);

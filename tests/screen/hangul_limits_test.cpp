@@ -12,6 +12,7 @@
 #include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QClipboard>
 #include <QComboBox>
@@ -397,6 +398,20 @@ TEST_F(HangulLimits, a_key_that_comes_while_the_question_is_open_opens_no_second
                            {"yes", AT_79, end_by_period, "Y", AT_79 + u"한.", u"가나다라a한"},
                            {"no", AT_79, end_by_period, "N!", AT_79, u"가나다라a"},
                        });
+}
+
+TEST_F(HangulLimits, the_rest_of_a_shortcut_does_not_answer_the_question) {
+    const auto hold_ctrl = [](Draft& draft) {
+        draft.boxes.meanwhile = [] {
+            const auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
+            for (QAbstractButton* button : box.buttons()) {
+                QTest::keyClick(button, Qt::Key_Return, Qt::ControlModifier);
+                EXPECT_TRUE(box.isVisible());
+            }
+        };
+        draft.type_han();
+    };
+    play(TEXT_MESSAGE, {{"no", AT_79, hold_ctrl, "N!", AT_79, u"가나다라a"}});
 }
 
 TEST_F(HangulLimits, another_kind_begins_its_text_whatever_was_unfinished) {
