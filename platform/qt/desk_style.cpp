@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QStyleOption>
+#include <QWidget>
 
 namespace platform::qt {
 
@@ -21,6 +22,14 @@ QColor edge_colour(const QPalette& palette) {
 
 QSize DeskStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                   const QWidget* widget) const {
+    if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+        header != nullptr && widget != nullptr) {
+        // The toolkit keeps room for bold captions, which no list has: the start would wait for that font.
+        QStyleOptionHeader plain(*header);
+        plain.version = QStyleOptionHeader::Version;
+        plain.fontMetrics = widget->fontMetrics();
+        return QProxyStyle::sizeFromContents(type, &plain, contents, widget);
+    }
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     if (type == CT_ItemViewItem) size.rheight() += ROW_AIR;
     return size;
