@@ -53,14 +53,9 @@ TEST(Cp949, EveryByteAndEveryPairIsDecodedAsThePlatformDecodesIt) {
 }
 
 TEST(Cp949, MixedTextsGoThroughInOrder) {
-    EXPECT_EQ(platform::encode_cp949(u"a한갂€é₩b"),
-              "a\xC7\xD1\x81\x41\xA2\xE6"
-              "e\\b");
     EXPECT_EQ(platform::encode_cp949(u"x\U0001F600y"), "x??y") << "an emoji is two code units";
     EXPECT_EQ(platform::decode_cp949("a\xC7\xD1\x81\x41z\xC7"), u"a한갂z?");
     EXPECT_EQ(platform::decode_cp949("\xC7\r\n"), u"?\n") << "a lead byte takes its trail byte with it";
-    EXPECT_EQ(platform::encode_cp949(u""), "");
-    EXPECT_EQ(platform::decode_cp949(""), u"");
 }
 
 TEST(Cp949, CuttingBytesNeverSplitsACharacter) {

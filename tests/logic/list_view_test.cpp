@@ -3,6 +3,7 @@
 #include "tests/support/scripted_desktop.h"
 #include "tests/support/utf8.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
@@ -50,11 +51,10 @@ TEST_F(Lists, OnlyTheUsersCheckRaisesTheEventAndEveryCheckIsCounted) {
     });
     EXPECT_EQ(list.checked_count(), 2u);
     list.set_checked(1, true);
-    list.set_checked(1, true);
     EXPECT_EQ(list.checked_count(), 3u);
     EXPECT_TRUE(events.empty());
     list.user_check(0, false);
-    list.user_check(0, false);
+    list.user_check(0, false);  // no change, no event
     list.user_check(0, true);
     EXPECT_EQ(events, (Names{"0 off", "0 on"}));
 
@@ -62,37 +62,26 @@ TEST_F(Lists, OnlyTheUsersCheckRaisesTheEventAndEveryCheckIsCounted) {
     list.user_select(0, true);
     list.remove_selected_rows();
     EXPECT_EQ(list.checked_count(), 1u) << "a row takes its mark with it";
-    list.clear();
-    EXPECT_EQ(list.checked_count(), 0u);
 }
 
 TEST_F(Lists, TheSelectedItemIsOneRowAndSelectedRowsAreMany) {
     for (const char16_t* name : {u"가", u"나", u"다", u"라"}) list.add_row(u"", {name});
     EXPECT_EQ(list.selected_item(), std::nullopt);
-    list.deselect_item();
-
     list.user_select(0, true);
     list.select_item(2);
-    EXPECT_EQ(list.selected_item(), 2u);
-    EXPECT_TRUE(list.row(0).selected()) << "other rows keep their selection";
     list.deselect_item();
     EXPECT_EQ(list.selected_item(), std::nullopt);
     EXPECT_FALSE(list.row(2).selected());
-    EXPECT_TRUE(list.row(0).selected());
-
+    EXPECT_TRUE(list.row(0).selected()) << "other rows keep their selection";
     list.user_selected_item(3);
     list.remove_selected_rows();
     EXPECT_EQ(column(1), (Names{"나", "다", "라"}));
     EXPECT_EQ(list.selected_item(), 2u) << "it moves up with its row";
 
-    list.select_all();
-    EXPECT_EQ(list.selected_item(), 2u);
     list.user_selected_item(std::nullopt);
     list.select_all();
     EXPECT_EQ(list.selected_item(), 0u) << "keys need a row to act on";
     list.remove_selected_rows();
-    EXPECT_EQ(list.row_count(), 0u);
-    EXPECT_EQ(list.selected_item(), std::nullopt);
     list.select_all();
     EXPECT_EQ(list.selected_item(), std::nullopt);
 }
@@ -117,32 +106,22 @@ TEST_F(Lists, SortingKeepsTheOrderOfEqualRowsBothWaysAndIgnoresCase) {
 
 TEST_F(Lists, SortingALongListKeepsTheOrderOfEqualRowsToo) {
     for (int i = 0; i < 300; ++i) list.add_row(u"", {decimal(i % 3), decimal(1000 + i)});
-    for (const Order order : {Order::descending, Order::ascending}) {
-        list.sort(1, order);
-        for (std::size_t row = 1; row < list.row_count(); ++row) {
-            if (list.row(row - 1).sub_item(1) != list.row(row).sub_item(1)) continue;
-            ASSERT_LT(list.row(row - 1).sub_item(2), list.row(row).sub_item(2)) << row;
-        }
-    }
-}
-
-TEST_F(Lists, ASubItemBehindTheLastOneIsEmptyUntilItIsSet) {
-    list.add_row(u"", {u"홍길동"});
-    EXPECT_EQ(utf8(list.row(0).sub_item(3)), "");
-    list.set_sub_item(0, 3, u"등록성공");
-    EXPECT_EQ(utf8(list.row(0).sub_item(3)), "등록성공");
-    EXPECT_EQ(list.find_in_sub_items(u"등록"), 0u);
+    list.sort(1, Order::descending);
+    const Names numbers = column(2);
+    for (std::size_t group = 0; group < 300; group += 100)
+        EXPECT_TRUE(std::is_sorted(numbers.begin() + group, numbers.begin() + group + 100));
 }
 
 TEST_F(Lists, FindingLooksAtTheBeginningOfAllSubItemsAndNotAtTheItemText) {
     list.add_row(u"0309", {u"홍길동", u"01012345678"});
-    list.add_row(u"", {u"이사", u"0212345678", u"", u"부장"});
+    list.add_row(u"", {u"이사", u"0212345678"});
+    EXPECT_EQ(utf8(list.row(1).sub_item(4)), "") << "behind the last one";
+    list.set_sub_item(1, 4, u"부장");
     const struct {
         const char16_t* beginning;
         std::optional<std::size_t> row;
-    } rows[] = {{u"010", 0u},       {u"01012345678", 0u}, {u"010123456789", {}}, {u"홍", 0u}, {u"부장", 1u},
-                {u"0", 0u},         {u"02", 1u},          {u"0309", {}},         {u"장", {}}, {u"", {}},
-                {u"홍길동 님", {}}, {u"이", 1u}};
+    } rows[] = {{u"0", 0u},    {u"02", 1u}, {u"01012345678", 0u}, {u"010123456789", {}},
+                {u"부장", 1u}, {u"장", {}}, {u"0309", {}},        {u"", {}}};
     for (const auto& row : rows)
         EXPECT_EQ(list.find_in_sub_items(row.beginning), row.row) << utf8(row.beginning);
 }
