@@ -1,9 +1,6 @@
-#include "platform/controls/check_box.h"
 #include "platform/controls/combo_box.h"
 #include "platform/controls/containers.h"
 #include "platform/controls/form.h"
-#include "platform/controls/option_button.h"
-#include "platform/controls/tab_strip.h"
 #include "platform/controls/text_box.h"
 #include "platform/error.h"
 #include "tests/support/scripted_desktop.h"
@@ -105,34 +102,6 @@ TEST_F(TextBoxes, APasteTakesThePlaceOfTheSelectionAndTheCaretStandsBehindIt) {
         EXPECT_EQ(first.selection_start(), row.caret) << row.text;
         EXPECT_EQ(first.selection_length(), 0u) << row.text;
     }
-}
-
-TEST_F(Choices, ATabIsClickedAlsoWhenItWasChosenAlready) {
-    TabStrip tabs(*this, u"tabs", {u"하나", u"둘"});
-    tabs.Click.connect([&] { log.push_back(utf8(tabs.selected_caption())); });
-    tabs.select(2);
-    tabs.select(2);
-    for (const int outside : {0, 3}) EXPECT_EQ(error_of([&] { tabs.select(outside); }), 9) << outside;
-    EXPECT_EQ(log, (Log{"둘", "둘"}));
-}
-
-TEST_F(Choices, OptionsAndCheckBoxesAreClickedWhenTheirValueChanges) {
-    OptionButton one(*this, u"one", u"하나");
-    OptionButton other(*this, u"other", u"둘");
-    CheckBox check(*this, u"check", u"셋");
-    one.Click.connect([&] { log.emplace_back("one"), other.set_chosen(false); });
-    other.Click.connect([&] { log.emplace_back("other"), one.set_chosen(false); });
-    check.Click.connect([&] { log.push_back(check.checked() ? "on" : "off"); });
-
-    one.set_chosen(true);
-    one.set_chosen(true);
-    other.set_chosen(true);
-    EXPECT_EQ(log, (Log{"one", "other"})) << "an option that goes out is not clicked";
-    EXPECT_FALSE(one.chosen());
-
-    log.clear();
-    for (const bool on : {false, true, true, false}) check.set_checked(on);
-    EXPECT_EQ(log, (Log{"on", "off"}));
 }
 
 TEST_F(Choices, AComboTakesRowsItHasAndErrorThreeHundredEightyOtherwise) {

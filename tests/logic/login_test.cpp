@@ -27,8 +27,7 @@ constexpr platform::TextView POP =
     u"서비스를 전환하셔야 합니다.";
 constexpr platform::TextView CHANGE_SERVICE =
     u"Cardvale 폰디라 통합메시징 서비스 연동기능(UMS)을 사용하시려면 폰디라 프로 또는 폰디라 파트너로 "
-    u"서비스를 "
-    u"전환하셔야 합니다. 지금 신청서를 다운받으시겠습니까?";
+    u"서비스를 전환하셔야 합니다. 지금 신청서를 다운받으시겠습니까?";
 constexpr platform::TextView REGISTER =
     u"KT 폰디라 통합 메시징 서비스(UMS) 연동 기능을 이용하기 위해서는 KT 폰디라 회원등록 및 결제방법을 "
     u"'전화요금합산청구'로 신청을 하셔야 합니다.\r\n\r\n지금 KT 폰디라에 등록하시겠습니까?";
@@ -152,10 +151,14 @@ TEST_F(ManualLogin, TakesTheProfilesNamesWhereNothingIsSavedAndLeavesTypedTexts)
     EXPECT_EQ(utf8(form.mText2.text()), "[Hong Office]\r\n\r\n\r\n\r\n☎통화를눌러확인하세요");
 }
 
-TEST_F(ManualLogin, AsksForWhatIsMissingAfterTheTrim) {
+TEST_F(ManualLogin, LeadsToTheServicesPagesAndAsksForWhatIsMissing) {
     desktop.expect_box(u"KT 폰디라 아이디를 입력하여 주십시오.");
     desktop.expect_box(u"비밀번호를 입력하여 주십시오.");
     in_login([&](gateway::frmZentLogin& login) {
+        login.Command3.Click.raise();
+        login.Command4.Click.raise();
+        login.Command5.Click.raise();
+        EXPECT_EQ(opened, (Calls{"sign_up", "find_id_or_password", "service_guide"}));
         enter(login, u"   ", u"secret");
         EXPECT_TRUE(login.Text1.has_focus());
         enter(login, u"hong", u"  ");
@@ -176,11 +179,10 @@ TEST_F(ManualLogin, EnterGoesToThePasswordAndThenLogsIn) {
         EXPECT_TRUE(login.Text2.has_focus());
         EXPECT_FALSE(login.Timer1.enabled());
         press(login.Text2, u'p');
-        press(login.Text2, u'\r');
-        EXPECT_TRUE(login.Timer1.enabled());
-        login.Timer1.set_enabled(false);
         press(login.Text1, u'\r');
         EXPECT_TRUE(login.Timer1.enabled()) << "with a password there, Enter in the id logs in";
+        login.Timer1.set_enabled(false);
+        press(login.Text2, u'\r');
     });
     form.cmdLogin.Click.raise();
     EXPECT_EQ(utf8(carrier.bound_user), "x");
@@ -271,17 +273,6 @@ TEST_F(ManualLogin, GoesOnWithoutAProfileButAsksForNoneWithoutAMoneyStatus) {
     expect_logged_out();
 }
 
-TEST_F(ManualLogin, ItsOtherButtonsLeadToTheServicesPages) {
-    in_login([&](gateway::frmZentLogin& login) {
-        login.Command3.Click.raise();
-        login.Command4.Click.raise();
-        login.Command5.Click.raise();
-        login.unload();
-    });
-    form.cmdLogin.Click.raise();
-    EXPECT_EQ(opened, (Calls{"sign_up", "find_id_or_password", "service_guide"}));
-}
-
 // The automatic form.
 
 TEST_F(AutomaticLogin, JudgesByTheContractsStateWhateverTheKindOfService) {
@@ -362,15 +353,6 @@ TEST_F(LogOut, AsksAndThenForgetsThatAnybodyIsLoggedIn) {
     log_in(u"hong", u"secret");
     form.cmdLogin.Click.raise();
     EXPECT_EQ(utf8(state.gServiceNumber.substr(0, 12)), "030312345678") << "the last known number goes along";
-}
-
-TEST_F(LogOut, TheAutoLoginMenuOnlyTurnsItsMark) {
-    const auto before = files.files;
-    for (const bool on : {true, false}) {
-        form.mnuAutoLogin.Click.raise();
-        EXPECT_EQ(form.mnuAutoLogin.checked(), on);
-    }
-    EXPECT_EQ(files.files, before);
 }
 
 }  // namespace

