@@ -33,7 +33,7 @@
 
 namespace {
 
-constexpr int RUNS = 15;
+constexpr int RUNS = 40;
 
 /// Ends the process as soon as a window has been painted.
 class FirstPaint : public QObject {
