@@ -69,11 +69,6 @@ TEST(Numbers, OnlyTheDigitsStayUnlessTheyMakeZero) {
     for (const auto& row : rows) EXPECT_EQ(utf8(DIGITS_ONLY(row.typed)), utf8(row.digits));
 }
 
-TEST(Texts, BytesAreCountedAsTheCarrierGetsThem) {
-    EXPECT_EQ(BYTE_LEN(u"한a"), 3u);
-    EXPECT_EQ(BYTE_LEN(u"ก"), 1u) << "one question mark";
-}
-
 TEST(Texts, ATextOutOfAPaddedBufferLosesItsPaddingAndKeepsWhatStandsInside) {
     const struct {
         Text buffer;
@@ -150,11 +145,6 @@ struct Columns : testing::Test, TestPlatform {
     ListView list{window, u"list", {{u"선택", {}}, {u"Name", {}}, {u"번호", {}}}};
 };
 
-TEST_F(Columns, AColumnIsFoundByItsCaptionInAnyCase) {
-    EXPECT_EQ(FIND_COLUMN(u"nAME", list), 2);
-    EXPECT_EQ(FIND_COLUMN(u"번", list), -1);
-}
-
 TEST_F(Columns, EveryClickTurnsTheOrderRoundAndMovesTheArrow) {
     for (const char16_t* number : {u"2", u"1", u"3"}) list.add_row(u"", {u"같은이름", number});
     const struct {
@@ -183,8 +173,8 @@ TEST_F(Columns, EveryClickTurnsTheOrderRoundAndMovesTheArrow) {
 TEST_F(Columns, AFormIsCentredUnlessItsWindowIsMinimisedOrMaximised) {
     using platform::WindowState;
     const platform::Placement before{.left = 1, .top = 2, .width = 3001, .height = 4000};
+    window.move(before);
     for (const auto state : {WindowState::minimised, WindowState::maximised}) {
-        window.move(before);
         window.set_window_state(state);
         CENTER_FORM(desktop, window);
         EXPECT_EQ(window.placement(), before);

@@ -118,6 +118,17 @@ TEST(SendLongBatches, AStopEndsThePassOfEveryPieceThatIsLeft) {
     EXPECT_NE(s.report.find("등록성공: 0건\r\n 등록실패: 0건\r\n 등록중지: 120건"), std::string::npos);
 }
 
+TEST(SendLongBatches, WhatAStoppedPieceHadGatheredStillReachesTheService) {
+    Sending s;
+    s.type(Text(240, u'a'));
+    for (int row = 0; row < 2; ++row) s.add(Text(1100, u'n'), u"01011112222");
+    s.stop_at_pause(1);
+    for (int piece = 0; piece < 3; ++piece) s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+    s.send();
+    EXPECT_EQ(s.registered([](const Registration& r) { return decimal(r.s_dest_addr_count); }),
+              (Lines{"1", "0"}));
+}
+
 TEST(SendLongBatches, AStopGoesUnnoticedWithASingleRow) {
     Sending s;
     s.type(Text(240, u'a'));
