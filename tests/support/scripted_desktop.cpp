@@ -59,8 +59,3 @@ BoxAnswer ScriptedDesktop::message_box(const platform::MessageBox& box) {
     expected_boxes_.pop_front();
     return answer;
 }
-
-void ScriptedDesktop::yield() {
-    ++yields;
-    if (during_yield) during_yield();
-}
