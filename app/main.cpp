@@ -6,6 +6,7 @@
 #include "platform/posix/posix_files.h"
 #include "platform/posix/posix_shell.h"
 #include "platform/qt/desk_style.h"
+#include "platform/qt/korean_font.h"
 #include "platform/qt/korean_translator.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_desktop.h"
@@ -43,6 +44,7 @@ class Toolkit : public QApplication {
 int main(int argc, char** argv) {
     Toolkit qt(argc, argv);
     QApplication::setStyle(new platform::qt::DeskStyle);
+    platform::qt::use_font_with_hangul();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.svg")));
     QApplication::setQuitOnLastWindowClosed(false);
     platform::qt::KoreanTranslator korean;
