@@ -12,6 +12,7 @@
 #include <QEventLoop>
 #include <QMenu>
 #include <QScreen>
+#include <QTimer>
 
 /// The pictures lie in a static library, from which the linker takes only what is asked for.
 static void load_pictures() { Q_INIT_RESOURCE(resource); }
@@ -20,9 +21,18 @@ namespace platform::qt {
 
 namespace {
 
-/// Desktops differ in whether they give the window before a closed one the focus again.
+/// Desktops differ in whether they give the window before a closed one the focus again, and when two windows
+/// close right behind each other some give it to neither, even when asked. So it is asked for unless the user
+/// has another window of ours before him, and once more when nothing has come of it.
 void give_back_focus(QWidget* window) {
-    if (window != nullptr && QApplication::activeWindow() == nullptr) window->activateWindow();
+    constexpr int LATE = 200;
+    if (window == nullptr) return;
+    const QWidget* active = QApplication::activeWindow();
+    if (active != nullptr && active != window && active->isVisible()) return;
+    window->activateWindow();
+    QTimer::singleShot(LATE, window, [window] {
+        if (QApplication::activeWindow() == nullptr && window->isVisible()) window->activateWindow();
+    });
 }
 
 }  // namespace
