@@ -22,6 +22,8 @@ class Desk:
         self.program = subprocess.Popen(["./zent"], cwd=self.results / "app")
 
     def close_program(self):
+        active = lambda window: window.getState().contains(pyatspi.STATE_ACTIVE)
+        self._wait("the focus in a window", lambda: any(active(window) for window in self.windows()))
         self.keys("alt+F4")
         self.program.wait(PATIENCE)
 
