@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/text/text.h"
+
 #include <exception>
 #include <string>
-
-#include "platform/text/text.h"
 
 namespace platform {
 

@@ -43,7 +43,8 @@ void WindowPlayer::in_window(const char* name, Act act, Condition condition) {
 }
 
 void WindowPlayer::look() {
-    // A timer of its own for each look: what a step does may open a window and return only when that is closed.
+    // A timer of its own for each look: what a step does may open a window and return only when that is
+    // closed.
     QTimer::singleShot(0, this, &WindowPlayer::look);
     QWidget* window = front_window();
     if (steps_.empty() || window == nullptr || window->objectName() != steps_.front().window) return;
