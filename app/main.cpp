@@ -1,16 +1,11 @@
 #include "app/application.h"
+#include "app/machine.h"
 #include "core/windows.h"
 #include "platform/error.h"
-#include "platform/ini/ini_settings.h"
-#include "platform/posix/posix_carrier_library.h"
-#include "platform/posix/posix_files.h"
-#include "platform/posix/posix_shell.h"
 #include "platform/qt/desk_style.h"
 #include "platform/qt/korean_font.h"
 #include "platform/qt/korean_translator.h"
 #include "platform/qt/qt_clock.h"
-#include "platform/qt/qt_desktop.h"
-#include "platform/qt/screens.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -51,22 +46,11 @@ int main(int argc, char** argv) {
     QApplication::installTranslator(&korean);
 
     const platform::posix::Paths paths;
-    platform::posix::PosixFiles files(paths);
-    platform::IniSettings settings(files);
-    platform::posix::PosixShell shell(paths);
-    platform::posix::PosixCarrierLibrary carrier;
     platform::qt::QtClock clock;
-    const platform::qt::Screens screens = platform::qt::program_screens();
-    platform::qt::QtDesktop desktop(screens, files);
-    qt.show_errors_on(desktop);
-    platform::Platform platform{.desktop = desktop,
-                                .clock = clock,
-                                .files = files,
-                                .settings = settings,
-                                .shell = shell,
-                                .carrier = carrier};
+    app::Machine machine(paths, platform::posix::PosixFiles(paths), clock);
+    qt.show_errors_on(machine.desktop);
 
-    app::Application application(platform);
-    if (application.start()) desktop.run_until_closed(application.main_form());
+    app::Application application(machine.platform);
+    if (application.start()) machine.desktop.run_until_closed(application.main_form());
     return 0;
 }

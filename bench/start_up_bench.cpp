@@ -4,16 +4,12 @@
 // this program adds. The time of a window with nothing in it is shown too.
 
 #include "app/application.h"
+#include "app/machine.h"
 #include "bench/ratio.h"
-#include "platform/ini/ini_settings.h"
-#include "platform/posix/posix_carrier_library.h"
-#include "platform/posix/posix_files.h"
-#include "platform/posix/posix_shell.h"
 #include "platform/qt/desk_style.h"
 #include "platform/qt/korean_font.h"
 #include "platform/qt/korean_translator.h"
 #include "platform/qt/qt_clock.h"
-#include "platform/qt/qt_desktop.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -79,21 +75,10 @@ void show_program(const std::string& folder) {
     QApplication::installTranslator(&korean);
 
     const platform::posix::Paths paths(folder);
-    platform::posix::PosixFiles files(paths, folder + "/windows");
-    platform::IniSettings settings(files);
-    platform::posix::PosixShell shell(paths);
-    platform::posix::PosixCarrierLibrary carrier;
     platform::qt::QtClock clock;
-    const platform::qt::Screens screens = platform::qt::program_screens();
-    platform::qt::QtDesktop desktop(screens, files);
-    platform::Platform platform{.desktop = desktop,
-                                .clock = clock,
-                                .files = files,
-                                .settings = settings,
-                                .shell = shell,
-                                .carrier = carrier};
-    app::Application application(platform);
-    if (application.start()) desktop.run_until_closed(application.main_form());
+    app::Machine machine(paths, platform::posix::PosixFiles(paths, folder + "/windows"), clock);
+    app::Application application(machine.platform);
+    if (application.start()) machine.desktop.run_until_closed(application.main_form());
 }
 
 int child(int argc, char** argv) {

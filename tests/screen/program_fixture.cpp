@@ -64,7 +64,7 @@ ProgramTest::~ProgramTest() = default;
 
 void ProgramTest::run() {
     ASSERT_TRUE(application.start());
-    desktop.run_until_closed(application.main_form());
+    machine.desktop.run_until_closed(application.main_form());
 }
 
 void ProgramTest::order(const std::string& lines) {

@@ -1,13 +1,9 @@
 #pragma once
 
 #include "app/application.h"
+#include "app/machine.h"
 #include "carrier/database.h"
-#include "platform/ini/ini_settings.h"
-#include "platform/posix/posix_carrier_library.h"
-#include "platform/posix/posix_files.h"
-#include "platform/posix/posix_shell.h"
 #include "platform/qt/qt_clock.h"
-#include "platform/qt/qt_desktop.h"
 #include "tests/support/temporary_folder.h"
 
 #include <QTimer>
@@ -72,20 +68,10 @@ class ProgramTest : public testing::Test {
     TemporaryFolder folder;
     WindowPlayer user;
     platform::posix::Paths paths{folder.path().string()};
-    platform::posix::PosixFiles files{paths, (folder.path() / "windows").string()};
-    platform::IniSettings settings{files};
-    platform::posix::PosixShell shell{paths};
-    platform::posix::PosixCarrierLibrary carrier;
     HastyClock clock;
-    platform::qt::Screens screens = platform::qt::program_screens();
-    platform::qt::QtDesktop desktop{screens, files};
-    platform::Platform platform{.desktop = desktop,
-                                .clock = clock,
-                                .files = files,
-                                .settings = settings,
-                                .shell = shell,
-                                .carrier = carrier};
-    app::Application application{platform};
+    app::Machine machine{paths, platform::posix::PosixFiles(paths, (folder.path() / "windows").string()),
+                         clock};
+    app::Application application{machine.platform};
 };
 
 }  // namespace tests
