@@ -3,6 +3,7 @@
 #include "platform/error.h"
 
 #include <algorithm>
+#include <array>
 
 namespace send {
 
@@ -10,6 +11,8 @@ using compose::FAX_MESSAGE;
 using compose::TEXT_MESSAGE;
 using compose::TEXT_PLUS;
 using compose::VOICE_MESSAGE;
+
+namespace {
 
 // clang-format off
 constexpr std::array<Kind, 8> KINDS = {{
@@ -24,8 +27,6 @@ constexpr std::array<Kind, 8> KINDS = {{
     {FAX_KIND,                 FAX_MESSAGE,   Content::documents,  1,    5,   2,  1,    false,   false, false, false},
 }};
 // clang-format on
-
-namespace {
 
 Content content_of_tabs(const compose::frmZent& form) {
     switch (form.TabStrip1.selected()) {

@@ -3,7 +3,6 @@
 #include "compose/main_form.h"
 #include "platform/text/text.h"
 
-#include <array>
 #include <cstdint>
 
 namespace send {
@@ -32,8 +31,6 @@ struct Kind {
 
 inline constexpr platform::TextView TEXT_KIND = u"문자메시지";
 inline constexpr platform::TextView FAX_KIND = u"팩스메시지";
-
-extern const std::array<Kind, 8> KINDS;
 
 /// The kind of this exact text; null when there is none.
 const Kind* find_kind(platform::TextView text);

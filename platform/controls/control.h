@@ -70,7 +70,6 @@ class Control {
 
     /// The frame or box that holds the control.
     void set_container(Control& container) { container_ = &container; }
-    const Control* container() const { return container_; }
 
     /// Moves the form's focus here and raises LostFocus and GotFocus; a hidden or disabled control stays
     /// without it.
