@@ -57,6 +57,10 @@ CREATE TABLE IF NOT EXISTS registration (
 CREATE INDEX IF NOT EXISTS registration_by_time   ON registration (time);
 CREATE INDEX IF NOT EXISTS registration_by_result ON registration (result, time);
 CREATE INDEX IF NOT EXISTS registration_by_user   ON registration (user_id, time);
+-- What the service's pages ask: a user's registered or refused ones, and what a month of them costs.
+CREATE INDEX IF NOT EXISTS registration_by_state  ON registration (user_id, result = 1, time);
+CREATE INDEX IF NOT EXISTS registration_charged
+    ON registration (user_id, result, data_type, time, recipient_count);
 )sql";
 
 /// Opens the file so that others may read while we write, and a process killed loses nothing that was

@@ -15,6 +15,7 @@ namespace {
 constexpr std::array<std::string_view, 6> operations = {
     "fn_x_bind", "fn_x_unbind", "fn_x_submit", "fn_x_submit_2", "fn_x_user_info", "fn_x_money_status"};
 constexpr std::string_view account_section = "account ";
+constexpr std::string_view inbox_section = "inbox ";
 constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
 
 std::string_view trimmed(std::string_view text) {
@@ -83,10 +84,50 @@ void set_account(Account& account, std::string_view section, std::string_view ke
     }
 }
 
+/// The pieces of a value between its bars.
+std::vector<std::string> pieces(std::string_view value) {
+    std::vector<std::string> found;
+    std::size_t bar = 0;
+    for (std::size_t start = 0; bar != std::string_view::npos; start = bar + 1) {
+        bar = value.find('|', start);
+        found.emplace_back(trimmed(value.substr(start, bar - start)));
+    }
+    return found;
+}
+
+Received received(std::string_view time, std::string_view value) {
+    const std::vector<std::string> texts = pieces(value);
+    if (texts.size() != 4) {
+        throw std::runtime_error("a line of an inbox reads time=kind|sender|size|title");
+    }
+    return {std::string(time), texts[0], texts[1], texts[2], texts[3]};
+}
+
+void set_price(Prices& prices, std::string_view section, std::string_view key, std::string_view value) {
+    if (key == "monthly") {
+        prices.monthly = number(value);
+    } else if (key == "text") {
+        prices.text = number(value);
+    } else if (key == "text_plus") {
+        prices.text_plus = number(value);
+    } else if (key == "voice") {
+        prices.voice = number(value);
+    } else if (key == "fax") {
+        prices.fax = number(value);
+    } else {
+        unknown_key(section);
+    }
+}
+
 void set(Settings& settings, std::string_view section, std::string_view key, std::string_view value) {
     if (section.starts_with(account_section)) {
         const std::string_view id = trimmed(section.substr(account_section.size()));
         set_account(settings.accounts[cp949_from_utf8(id)], section, key, value);
+    } else if (section.starts_with(inbox_section)) {
+        const std::string_view id = trimmed(section.substr(inbox_section.size()));
+        settings.inboxes[std::string(id)].push_back(received(key, value));
+    } else if (section == "prices") {
+        set_price(settings.prices, section, key, value);
     } else if (section == "carrier" && key == "ledger") {
         settings.ledger = value;
     } else if (section == "limits" && key == "recipients") {

@@ -20,6 +20,24 @@ struct Account {
     std::string callback;
 };
 
+/// What lies in a subscriber's inbox. Texts are UTF-8: they go to the service's pages alone.
+struct Received {
+    std::string time;  ///< yyyy-MM-dd HH:mm
+    std::string kind;
+    std::string sender;
+    std::string size;
+    std::string title;
+};
+
+/// What a recipient costs by kind of message, and the basic charge of a month, in won.
+struct Prices {
+    std::int32_t monthly = 2000;
+    std::int32_t text = 25;
+    std::int32_t text_plus = 80;
+    std::int32_t voice = 60;
+    std::int32_t fax = 50;
+};
+
 /// A result code to give instead of the operation's own, from the first to the last of these calls.
 struct Order {
     std::string operation;
@@ -37,7 +55,9 @@ struct BufferFaults {
 /// What carrier.ini says.
 struct Settings {
     std::string ledger = "carrier-ledger.db";
-    std::map<std::string, Account, std::less<>> accounts;  ///< by id
+    std::map<std::string, Account, std::less<>> accounts;               ///< by id
+    std::map<std::string, std::vector<Received>, std::less<>> inboxes;  ///< by id in UTF-8, as written
+    Prices prices;
     std::int32_t recipient_limit = 100;
     std::int32_t attachment_limit = 5;
     std::vector<Order> orders;

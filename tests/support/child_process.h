@@ -36,6 +36,8 @@ class ChildProcess {
         wait();
     }
 
+    void signal(int number) const { ::kill(id_, number); }
+
     /// Waits for the end: the number returned, or the signal that killed it as a negative number.
     int wait() {
         int status = 0;

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "carrier/site/page.h"
+
+namespace carrier::site {
+
+// What is the subscriber's own: results and charges out of the ledger, the rest out of carrier.ini.
+Answer results_page(const Request& request, const Sources& sources);
+Answer result_page(const Request& request, const Sources& sources);
+Answer charges_page(const Request& request, const Sources& sources);
+Answer member_page(const Request& request, const Sources& sources);
+Answer inbox_page(const Request& request, const Sources& sources);
+
+// What everybody may see.
+Answer service_page(const Request& request, const Sources& sources);
+Answer maker_page(const Request& request, const Sources& sources);
+Answer find_password_page(const Request& request, const Sources& sources);
+Answer sign_up_page(const Request& request, const Sources& sources);
+Answer document(const Request& request, const Sources& sources);
+
+}  // namespace carrier::site

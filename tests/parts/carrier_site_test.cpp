@@ -1,0 +1,345 @@
+// The service's web site as a browser meets it: the real program over a real socket.
+
+#include "carrier/ledger.h"
+#include "carrier/site/fields.h"
+#include "tests/parts/carrier_client.h"
+#include "tests/support/child_process.h"
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr const char* demo = "?code=07190533026&userid=demo&domain=pondira.example";
+constexpr const char* posted_demo = "code=07190533026&userid=demo&domain=pondira.example";
+
+/// The program, serving the folder's ledger and carrier.ini on a port of its own.
+class Site {
+  public:
+    Site() : program_([this] { return run(); }) {
+        close(output_.ends[1]);
+        std::string line;
+        for (char byte = 0; read(output_.ends[0], &byte, 1) == 1 && byte != '\n';) {
+            line += byte;
+        }
+        port_ = std::stoi(line.substr(line.rfind(':') + 1));
+    }
+    ~Site() { close(output_.ends[0]); }
+    Site(const Site&) = delete;
+    Site& operator=(const Site&) = delete;
+
+    int port() const { return port_; }
+    tests::ChildProcess& program() { return program_; }
+
+    /// Everything that comes back for these bytes.
+    std::string exchange(std::string_view bytes) const {
+        const int socket = connect_and_send(bytes);
+        std::string answer;
+        char piece[4096];
+        for (ssize_t count; (count = recv(socket, piece, sizeof piece, 0)) > 0;) {
+            answer.append(piece, static_cast<std::size_t>(count));
+        }
+        close(socket);
+        return answer;
+    }
+    /// The browser goes away behind these bytes.
+    void leave_after(std::string_view bytes) const { close(connect_and_send(bytes)); }
+    std::string get(const std::string& target) const {
+        return exchange("GET " + target + " HTTP/1.1\r\nHost: h\r\n\r\n");
+    }
+    std::string post(const std::string& target, const std::string& body) const {
+        return exchange("POST " + target +
+                        " HTTP/1.1\r\nHost: h\r\nContent-Type: application/x-www-form-urlencoded\r\n"
+                        "Content-Length: " +
+                        std::to_string(body.size()) + "\r\n\r\n" + body);
+    }
+
+  private:
+    int run() {
+        dup2(output_.ends[1], STDOUT_FILENO);
+        execl(CARRIER_SITE, CARRIER_SITE, "--port-file", "port", nullptr);
+        return 127;
+    }
+
+    int connect_and_send(std::string_view bytes) const {
+        const int socket = ::socket(AF_INET, SOCK_STREAM, 0);
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_port = htons(static_cast<std::uint16_t>(port_));
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        EXPECT_EQ(connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+        // What is refused early is not read to its end.
+        send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+        return socket;
+    }
+
+    struct Output {
+        Output() { EXPECT_EQ(pipe(ends), 0); }
+        int ends[2];
+    };
+
+    Output output_;
+    int port_ = 0;
+    tests::ChildProcess program_;
+};
+
+class CarrierSite : public CarrierTest {
+  protected:
+    CarrierSite() {
+        configure(
+            "[account 홍길동]\npassword=hong1234\n[inbox demo]\n2026-01-05 "
+            "11:30=팩스|02-1|3쪽|<i>견적</i>\n");
+        carrier::Ledger make("carrier-ledger.db");
+    }
+
+    struct Row {
+        std::string time;
+        std::string subject = "s";
+        int result = 1;
+        int data_type = 1;
+        int recipients = 1;
+        std::string user = "demo";
+        std::string content = "t";
+    };
+    static void enter(const std::vector<Row>& rows) {
+        carrier::Database ledger("carrier-ledger.db", carrier::Database::Access::write);
+        carrier::Statement insert = ledger.prepare(
+            "INSERT INTO registration (call, time, operation, result, user_id, data_type, submit_sequence,"
+            " subject, schedule_time, callback, dest_addr_count, recipient_count, dest_addr, sms_content,"
+            " attach_file_count, attach_file) VALUES ((SELECT count(*) FROM registration), ?, 'fn_x_submit', "
+            "?,"
+            " ?, ?, 1, ?, '20260105120000', '021', ?6, ?6, '홍길동:010;', ?, 0, '')");
+        for (const Row& row : rows) {
+            insert.bind_text(1, row.time);
+            insert.bind(2, row.result);
+            insert.bind_text(3, row.user);
+            insert.bind(4, row.data_type);
+            insert.bind_text(5, row.subject);
+            insert.bind(6, row.recipients);
+            insert.bind_text(7, row.content);
+            insert.step();
+        }
+    }
+
+    static bool holds(const std::string& page, std::string_view text) {
+        return page.find(text) != std::string::npos;
+    }
+    /// The address behind the first link with that title, as a browser reads it.
+    static std::string link_called(const std::string& page, const std::string& title) {
+        const std::size_t end = page.find("\">" + title + "</a>");
+        if (end == std::string::npos) {
+            return "";
+        }
+        const std::size_t start = page.rfind("href=\"", end) + 6;
+        std::string address = page.substr(start, end - start);
+        for (std::size_t i; (i = address.find("&amp;")) != std::string::npos;) {
+            address.erase(i + 1, 4);
+        }
+        return address;
+    }
+    /// The subjects on a page of results, each ended by a blank.
+    static std::string subjects(const std::string& page) {
+        static constexpr std::string_view before = "&amp;id=";
+        std::string all;
+        for (std::size_t at = page.find(before); at != std::string::npos; at = page.find(before, at + 1)) {
+            const std::size_t start = page.find('>', at) + 1;
+            all += page.substr(start, page.find('<', start) - start) + ' ';
+        }
+        return all;
+    }
+};
+
+TEST_F(CarrierSite, ReadsAPostOfRawBytesAndNothingElse) {
+    const std::string long_id(300, 'a');
+    const struct {
+        std::string body;
+        const char* read;
+    } posts[] = {
+        {posted_demo, "07190533026|demo|pondira.example"},
+        {"code=&userid=a+b%41&domain=", "|a+b%41|"},
+        {"code=1&userid=a&domain=b&userid=c&domain=d", "1|a&domain=b&userid=c|d"},
+        {"code=1&userid=\xC8\xAB&domain=d", "1|\xC8\xAB|d"},
+        {"code=1&userid=&domain=d", "none"},
+        {"code=1&domain=d&userid=a", "none"},
+        {"code=1&userid=a&domain", "none"},
+        {"userid=a&code=1&domain=d", "none"},
+        {"code=1&userid=&domain=", "none"},
+        {"code=\"><b>&userid=a&domain=d", "none"},
+        {"code=1&userid=a&domain=<script>", "none"},
+        {"code=1&userid=" + long_id + "&domain=d", "none"},
+        {"", "none"},
+    };
+    for (const auto& post : posts) {
+        const auto visitor = carrier::site::posted_visitor(post.body);
+        EXPECT_EQ(visitor ? visitor->code + "|" + visitor->user_id + "|" + visitor->domain : "none",
+                  post.read)
+            << post.body;
+    }
+}
+
+TEST_F(CarrierSite, KnowsASubscriberByHisPostInCp949AndByItsOwnLinks) {
+    const Site site;
+    const std::string hong = "code=1&userid=\xC8\xAB\xB1\xE6\xB5\xBF&domain=d";
+    const std::string page = site.post("/inbox", hong);
+    EXPECT_TRUE(page.starts_with("HTTP/1.1 200 "));
+    EXPECT_TRUE(holds(page, "charset=utf-8"));
+    EXPECT_TRUE(holds(page, "(홍길동)"));
+    EXPECT_TRUE(holds(site.get(link_called(page, "가입자 정보")), "<td>홍길동</td>"));
+    EXPECT_TRUE(site.post("/result", "code=1&userid=who&domain=d").starts_with("HTTP/1.1 403 "));
+    EXPECT_TRUE(site.get("/result").starts_with("HTTP/1.1 400 "));
+}
+
+TEST_F(CarrierSite, PagesThroughAllOfAUsersRegistrationsNewestFirstAndBack) {
+    std::vector<Row> rows;
+    std::string newest_first;
+    for (int i = 0; i < 45; ++i) {
+        // Several of one moment must neither be lost nor come twice at a page's edge.
+        rows.push_back({.time = "2026-01-05 10:00:0" + std::to_string(i / 10), .subject = std::to_string(i)});
+        newest_first = std::to_string(i) + ' ' + newest_first;
+    }
+    rows.push_back({.time = "2026-01-05 09:00:00", .subject = "other", .user = "홍길동"});
+    enter(rows);
+    const Site site;
+
+    std::vector<std::string> pages{subjects(site.post("/result", posted_demo))};
+    std::string page = site.post("/result", posted_demo);
+    EXPECT_EQ(link_called(page, "이전"), "");
+    EXPECT_TRUE(holds(page, "모두 45건"));
+    for (std::string next; !(next = link_called(page, "다음")).empty();) {
+        page = site.get(next);
+        pages.push_back(subjects(page));
+    }
+    ASSERT_EQ(pages.size(), 3U);
+    EXPECT_EQ(pages[0] + pages[1] + pages[2], newest_first);
+
+    page = site.get(link_called(page, "이전"));
+    EXPECT_EQ(subjects(page), pages[1]);
+    EXPECT_EQ(subjects(site.get(link_called(page, "이전"))), pages[0]);
+    EXPECT_EQ(subjects(site.get(link_called(page, "처음"))), pages[0]);
+}
+
+TEST_F(CarrierSite, FiltersByDayAndStateAndKeepsTheFilterOnTheNextPage) {
+    std::vector<Row> rows{{.time = "2026-01-04 23:59:59", .subject = "before", .result = 5},
+                          {.time = "2026-01-05 00:00:00", .subject = "good"},
+                          {.time = "2026-01-06 00:00:00", .subject = "after", .result = 8}};
+    for (int i = 0; i < 21; ++i) {
+        rows.push_back({.time = "2026-01-05 23:59:59", .subject = "x", .result = 8});
+    }
+    enter(rows);
+    const Site site;
+    const std::string list = std::string("/result") + demo;
+    std::string twenty;
+    for (int i = 0; i < 20; ++i) {
+        twenty += "x ";
+    }
+    const std::string refused = site.get(list + "&day=2026-01-05&state=refused");
+    EXPECT_EQ(subjects(refused), twenty);
+    EXPECT_TRUE(holds(refused, "수신자 초과"));
+    EXPECT_EQ(subjects(site.get(link_called(refused, "다음"))), "x ");
+    EXPECT_EQ(subjects(site.get(list + "&state=registered")), "good ");
+    EXPECT_EQ(subjects(site.get(list + "&day=2026-01-06")), "after ");
+    EXPECT_EQ(subjects(site.get(list + "&day=2026-02-01")), "");
+}
+
+TEST_F(CarrierSite, ShowsWhatAnybodyWroteAsTextAndNeverAsMarkup) {
+    enter({{.time = "2026-01-05 10:00:00",
+            .subject = "</a><script>alert(1)</script>",
+            .content = "\" onclick='x' & <b>\x01\xED\x95\x9C"}});
+    const Site site;
+    for (const char* target : {"/result", "/result/one", "/inbox"}) {
+        const std::string page = site.get(target + std::string(demo) + "&id=1&day=%22%3E%3Cb%3E%3Cb%3E");
+        EXPECT_TRUE(page.starts_with("HTTP/1.1 200 ")) << target;
+        for (const char* markup : {"<script", "<b>\x01", "<i>", "onclick='", "\"><b>"}) {
+            EXPECT_FALSE(holds(page, markup)) << markup << " on " << target;
+        }
+        EXPECT_TRUE(holds(page, "Content-Security-Policy: default-src 'none'")) << target;
+    }
+    EXPECT_TRUE(holds(site.get(std::string("/result/one") + demo + "&id=1"), "&lt;b&gt;?한"));
+    EXPECT_TRUE(holds(site.get("/%3Cb%3E/htm/register/default.jsp?code=1"), "<td>&lt;b&gt;</td>"));
+}
+
+TEST_F(CarrierSite, TellsNobodyAPasswordAndNobodyAnothersRegistrations) {
+    enter({{.time = "2026-01-05 10:00:00", .subject = "secret", .user = "홍길동"}});
+    const Site site;
+    for (const char* target : {"/result", "/result/one", "/money", "/memedit", "/inbox", "/", "/company",
+                               "/idpass", "/kelmora/htm/register/default.jsp"}) {
+        const std::string page = site.get(target + std::string(demo) + "&id=1");
+        EXPECT_FALSE(holds(page, "demo1234")) << target;
+        EXPECT_FALSE(holds(page, "secret")) << target;
+    }
+    EXPECT_TRUE(site.get(std::string("/result/one") + demo + "&id=1").starts_with("HTTP/1.1 404 "));
+}
+
+TEST_F(CarrierSite, ChargesWhatWasRegisteredInTheMonthAndTheBasicChargeFromTheSecondOn) {
+    enter({{.time = "2026-01-31 23:59:59", .recipients = 3},
+           {.time = "2026-02-01 00:00:00", .recipients = 10},
+           {.time = "2026-02-02 00:00:00", .data_type = 2, .recipients = 5},
+           {.time = "2026-02-03 00:00:00", .data_type = 3, .recipients = 5},
+           {.time = "2026-02-04 00:00:00", .result = 8, .recipients = 200},
+           {.time = "2026-03-01 00:00:00", .data_type = 5, .recipients = 60}});
+    const Site site;
+    const auto last_sum = [&](const char* month) {
+        const std::string page = site.get(std::string("/money") + demo + "&month=" + month);
+        const std::size_t end = page.rfind("</td>");
+        const std::size_t start = page.rfind('>', end) + 1;
+        return page.substr(start, end - start);
+    };
+    EXPECT_EQ(last_sum("2026-01"), "75원");
+    EXPECT_EQ(last_sum("2026-02"), "2,000원");
+    EXPECT_EQ(last_sum("2026-03"), "3,000원");
+    EXPECT_TRUE(holds(site.get(std::string("/money") + demo + "&month=2026-02"), ">600원<"))
+        << "voice is one";
+}
+
+TEST_F(CarrierSite, HandsOutTheDocuments) {
+    const Site site;
+    EXPECT_TRUE(holds(site.get("/download/Pondira.doc"), "\r\n\r\n{\\rtf1"));
+    EXPECT_TRUE(holds(site.get("/download/Pondira.hwp"), "\r\n\r\n{\\rtf1"));
+    EXPECT_TRUE(holds(site.get("/download/Pondira.pdf"), "\r\n\r\n%PDF-"));
+    EXPECT_TRUE(site.get("/download/../carrier.ini").starts_with("HTTP/1.1 404 "));
+}
+
+TEST_F(CarrierSite, AnswersHostileRequestsAndGoesOn) {
+    const Site site;
+    const std::string head = "POST /result HTTP/1.1\r\nHost: h\r\n";
+    const struct {
+        std::string bytes;
+        const char* answer;
+    } requests[] = {
+        {"GARBAGE\r\n\r\n", "HTTP/1.1 400 "},
+        {"GET /" + std::string(20000, 'a') + " HTTP/1.1\r\n\r\n", "HTTP/1.1 414 "},
+        {"GET / HTTP/1.1\r\nX: " + std::string(20000, 'a') + "\r\n\r\n", ""},
+        {"DELETE /result HTTP/1.1\r\nHost: h\r\n\r\n", "HTTP/1.1 404 "},
+        {head + "\r\n", "HTTP/1.1 411 "},
+        {head + "Content-Length: 4097\r\n\r\n" + std::string(4097, 'a'), "HTTP/1.1 413 "},
+        {head + "Content-Length: 99999999999999999999999\r\n\r\n", "HTTP/1.1 413 "},
+        {head + "Content-Length: -1\r\n\r\n", "HTTP/1.1 413 "},
+        {head + "Transfer-Encoding: chunked\r\n\r\nFFFFFF\r\n", "HTTP/1.1 411 "},
+        {head + "Content-Length: 4\r\n\r\ncode" + head, "HTTP/1.1 400 "},
+        {"GET /result?userid=%&code=%4&domain=%ZZ HTTP/1.1\r\nHost: h\r\n\r\n", "HTTP/1.1 400 "},
+        {"GET /result" + std::string(demo) +
+             "&before=99999999999999999999&day=%00 HTTP/1.1\r\nHost: h\r\n\r\n",
+         "HTTP/1.1 200 "},
+    };
+    for (const char* start : {"", "GET", "POST /result HTTP/1.1\r\nContent-Length: 50\r\n\r\ncode="}) {
+        site.leave_after(start);
+    }
+    for (const auto& request : requests) {
+        EXPECT_TRUE(site.exchange(request.bytes).starts_with(request.answer)) << request.bytes.substr(0, 80);
+        EXPECT_TRUE(site.get("/").starts_with("HTTP/1.1 200 ")) << "after " << request.bytes.substr(0, 80);
+    }
+}
+
+TEST_F(CarrierSite, TellsItsPortAndEndsWhenItIsToldTo) {
+    Site site;
+    site.get("/");
+    int port = 0;
+    std::ifstream("port") >> port;
+    EXPECT_EQ(port, site.port());
+    site.program().signal(SIGTERM);
+    EXPECT_EQ(site.program().wait(), -SIGTERM);
+}
+
+}  // namespace
