@@ -70,6 +70,7 @@ struct AppState {
 
     // Flags between forms.
     platform::BooleanWord gSendFormOpen;
+    platform::BooleanWord gWebFormOpen;
     /// The answer of the last dialog that asks yes or no.
     platform::BooleanWord gDialogConfirmed;
 };

@@ -19,6 +19,7 @@ class StatusBar;
 class TabStrip;
 class TextBox;
 class ToolBar;
+class WebBrowser;
 
 /// Every kind of control there is; a toolkit that shows forms has to say how it shows each.
 class ControlVisitor {
@@ -42,6 +43,7 @@ class ControlVisitor {
     virtual void visit(TabStrip& control) = 0;
     virtual void visit(TextBox& control) = 0;
     virtual void visit(ToolBar& control) = 0;
+    virtual void visit(WebBrowser& control) = 0;
 };
 
 }  // namespace platform

@@ -8,6 +8,7 @@
 #include "platform/controls/menu.h"
 #include "platform/controls/option_button.h"
 #include "platform/controls/progress_bar.h"
+#include "platform/controls/web_browser.h"
 #include "platform/error.h"
 
 namespace platform {
@@ -23,6 +24,7 @@ void Menu::accept(ControlVisitor& visitor) { visitor.visit(*this); }
 void OptionButton::accept(ControlVisitor& visitor) { visitor.visit(*this); }
 void PictureBox::accept(ControlVisitor& visitor) { visitor.visit(*this); }
 void ProgressBar::accept(ControlVisitor& visitor) { visitor.visit(*this); }
+void WebBrowser::accept(ControlVisitor& visitor) { visitor.visit(*this); }
 
 void ProgressBar::set_value(int value) {
     if (value < 0 || value > 100) throw RuntimeError(ErrorNumber::invalid_property_value);

@@ -11,6 +11,9 @@ class Shell {
 
     /// Opens a file with the program that the machine has for it; a failure is silent.
     virtual void open(const Text& path) = 0;
+    /// Opens a page of the web in the user's own browser, which stays open, or "about:blank" there. A failure
+    /// is silent, and so is an address of anything else; one without a scheme is of the web.
+    virtual void open_page(const Text& address) = 0;
     /// Whether another instance is running already. From the first call on, this one counts as running.
     virtual bool another_instance_runs() = 0;
 };

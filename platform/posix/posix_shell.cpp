@@ -28,6 +28,12 @@ void start(const std::string& program, const std::string& argument) {
     }
 }
 
+/// Whether it is what a browser takes, and not a file or a program that the machine has for another scheme.
+bool is_page(const std::string& address) {
+    const Text scheme = lower_case(from_utf8(address.substr(0, address.find(':'))));
+    return scheme == u"http" || scheme == u"https" || address == "about:blank";
+}
+
 /// A name for the instances of one user in one application directory, whatever way leads to the directory.
 std::string instance_name(const std::string& application_directory) {
     struct stat folder {};
@@ -43,6 +49,16 @@ PosixShell::PosixShell(Paths paths, std::string opener)
 
 void PosixShell::open(const Text& path) {
     ignore_errors([&] { start(opener_, paths_.to_posix(path)); });
+}
+
+void PosixShell::open_page(const Text& address) {
+    const std::string page = to_utf8(trim(address));
+    if (page.empty() || page.find('\0') != std::string::npos) return;
+    if (is_page(page)) {
+        start(opener_, page);
+    } else if (page.find(':') == std::string::npos) {
+        start(opener_, "http://" + page);
+    }
 }
 
 bool PosixShell::another_instance_runs() {

@@ -15,6 +15,7 @@ class PosixShell : public Shell {
     explicit PosixShell(Paths paths, std::string opener = "xdg-open");
 
     void open(const Text& path) override;
+    void open_page(const Text& address) override;
     bool another_instance_runs() override;
 
   private:

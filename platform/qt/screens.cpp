@@ -4,6 +4,7 @@
 #include "ui_frmAutoLogin.h"
 #include "ui_frmSBox.h"
 #include "ui_frmSendEndBox.h"
+#include "ui_frmWeb.h"
 #include "ui_frmZent.h"
 #include "ui_frmZentLogin.h"
 #include "ui_frmZentSend.h"
@@ -24,6 +25,7 @@ Screens program_screens() {
     screens.add<Ui::frmZentLogin, QDialog>(u"frmZentLogin");
     screens.add<Ui::frmAutoLogin, QDialog>(u"frmAutoLogin");
     screens.add<Ui::frmAbout, QDialog>(u"frmAbout");
+    screens.add<Ui::frmWeb, QDialog>(u"frmWeb");
     screens.add<Ui::frmSBox, QDialog>(u"frmSBox");
     screens.add<Ui::frmZentSend, QDialog>(u"frmZentSend");
     screens.add<Ui::frmSendEndBox, QDialog>(u"frmSendEndBox");

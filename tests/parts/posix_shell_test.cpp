@@ -38,20 +38,48 @@ TEST(PosixShell, ASecondInstanceSeesTheFirstUntilItIsKilled) {
     EXPECT_FALSE(second.another_instance_runs());
 }
 
-TEST(PosixShell, OpeningHandsThePathOverAsOneArgumentAndLeavesNoDeadProcess) {
-    const tests::TemporaryFolder folder;
-    const fs::path answer = folder.path() / "answer";
-    ::mkfifo(answer.c_str(), 0600);
-    const fs::path opener = folder.path() / "opener";
-    tests::put(opener, "#!/bin/sh\nprintf '%s' \"$#:$1\" > '" + answer.string() + "'\n");
-    fs::permissions(opener, fs::perms(0755));
+/// A program to open things with that answers with the number of its arguments and the first of them.
+struct Opener {
+    Opener() {
+        ::mkfifo(fifo.c_str(), 0600);
+        tests::put(program, "#!/bin/sh\nprintf '%s' \"$#:$1\" > '" + fifo.string() + "'\n");
+        fs::permissions(program, fs::perms(0755));
+    }
 
-    PosixShell shell(Paths(folder.path()), opener);
-    shell.open(u"c:\\temp\\$(touch 나쁜) \"파일\".wav");
-    const std::string path = folder.path() / "drive_c/temp/$(touch 나쁜) \"파일\".wav";
-    EXPECT_EQ(tests::bytes_of(answer), "1:" + path) << "reading waits for the opener to write";
+    /// Waits for the opener to write.
+    std::string answer() const { return tests::bytes_of(fifo); }
+
+    tests::TemporaryFolder folder;
+    fs::path fifo = folder.path() / "answer";
+    fs::path program = folder.path() / "opener";
+    PosixShell shell{Paths(folder.path()), program};
+};
+
+TEST(PosixShell, OpeningHandsThePathOverAsOneArgumentAndLeavesNoDeadProcess) {
+    Opener opener;
+    opener.shell.open(u"c:\\temp\\$(touch 나쁜) \"파일\".wav");
+    const std::string path = opener.folder.path() / "drive_c/temp/$(touch 나쁜) \"파일\".wav";
+    EXPECT_EQ(opener.answer(), "1:" + path);
     EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD) << "the opener is nobody's child";
+}
+
+TEST(PosixShell, OnlyPagesReachTheBrowser) {
+    Opener opener;
+    for (const TextView refused :
+         {u"", u" ", u"file:///etc/passwd", u"mailto:a@b.example", u"javascript:alert(1)", u"about:config"})
+        opener.shell.open_page(Text(refused));
+    // What had been opened for one of those would be among the answers.
+    const std::pair<TextView, const char*> pages[] = {
+        {u"https://pondira.example/a?b=$(c)&d='e f'", "1:https://pondira.example/a?b=$(c)&d='e f'"},
+        {u"HTTP://폰디라.example", "1:HTTP://폰디라.example"},
+        {u"-www.pondira.example", "1:http://-www.pondira.example"},
+        {u"about:blank", "1:about:blank"},
+    };
+    for (const auto& [address, argument] : pages) {
+        opener.shell.open_page(Text(address));
+        EXPECT_EQ(opener.answer(), argument);
+    }
 }
 
 TEST(PosixShell, WhatCannotBeOpenedIsSilent) {
@@ -59,6 +87,7 @@ TEST(PosixShell, WhatCannotBeOpenedIsSilent) {
     PosixShell shell(Paths(folder.path()), folder.path() / "no opener");
     shell.open(u"a.txt");
     shell.open(u"d:\\a.txt");
+    shell.open_page(u"http://pondira.example");
 }
 
 }  // namespace

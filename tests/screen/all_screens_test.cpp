@@ -1,6 +1,7 @@
 #include "compose/main_form.h"
 #include "gateway/frmAbout.h"
 #include "gateway/frmAutoLogin.h"
+#include "gateway/frmWeb.h"
 #include "gateway/frmZentLogin.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/screen_faults.h"
@@ -42,6 +43,7 @@ struct System {
             std::make_unique<gateway::frmZentLogin>(platform, machine.state, service_doors, main.Timer1));
         forms.push_back(std::make_unique<gateway::frmAutoLogin>(platform, machine.state, service_doors));
         forms.push_back(std::make_unique<gateway::frmAbout>(platform, service_doors));
+        forms.push_back(std::make_unique<gateway::frmWeb>(platform, machine.state));
         forms.push_back(std::make_unique<send::frmSBox>(platform, machine.state));
         forms.push_back(std::make_unique<send::frmZentSend>(platform, machine.state, main, service_doors));
         forms.push_back(std::make_unique<send::frmSendEndBox>(platform, service_doors));

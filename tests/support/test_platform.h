@@ -11,9 +11,11 @@
 class RecordingShell : public platform::Shell {
   public:
     void open(const platform::Text& path) override { opened.push_back(path); }
+    void open_page(const platform::Text& address) override { pages.push_back(address); }
     bool another_instance_runs() override { return another_instance; }
 
     std::vector<platform::Text> opened;
+    std::vector<platform::Text> pages;
     bool another_instance = false;
 };
 

@@ -1,0 +1,141 @@
+#pragma once
+
+#include "app/application.h"
+#include "app/machine.h"
+#include "platform/qt/desk_style.h"
+#include "platform/qt/korean_font.h"
+#include "platform/qt/korean_translator.h"
+#include "platform/qt/qt_clock.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QIcon>
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <spawn.h>
+#include <stdexcept>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+namespace bench {
+
+/// Ends the process as soon as a window has been painted, with the number that `result` gives then.
+class FirstPaint : public QObject {
+  public:
+    explicit FirstPaint(std::function<int()> result = [] { return 0; }) : result_(std::move(result)) {}
+
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Paint && object->isWidgetType()) painted_ = true;
+        if (event->type() == QEvent::UpdateRequest || !painted_) return false;
+        QMetaObject::invokeMethod(
+            this, [this] { _exit(result_()); }, Qt::QueuedConnection);
+        return false;
+    }
+
+  private:
+    std::function<int()> result_;
+    bool painted_ = false;
+};
+
+/// The program put together as in app/main.cpp, in the folder.
+inline void show_program(const std::string& folder) {
+    QApplication::setStyle(new platform::qt::DeskStyle);
+    platform::qt::use_font_with_hangul();
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.svg")));
+    QApplication::setQuitOnLastWindowClosed(false);
+    platform::qt::KoreanTranslator korean;
+    QApplication::installTranslator(&korean);
+
+    const platform::posix::Paths paths(folder);
+    platform::qt::QtClock clock;
+    app::Machine machine(paths, platform::posix::PosixFiles(paths, folder + "/windows"), clock);
+    app::Application application(machine.platform);
+    if (application.start()) machine.desktop.run_until_closed(application.main_form());
+}
+
+/// Starts this program anew with the two words and waits for its first painted window.
+inline double milliseconds_to_first_paint(std::string what, std::string folder) {
+    std::string program = "bench";
+    char* arguments[] = {program.data(), what.data(), folder.data(), nullptr};
+    const auto start = std::chrono::steady_clock::now();
+    pid_t process = 0;
+    int status = 0;
+    if (posix_spawn(&process, "/proc/self/exe", nullptr, nullptr, arguments, environ) != 0 ||
+        waitpid(process, &status, 0) != process || status != 0) {
+        throw std::runtime_error(what + " did not paint");
+    }
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+}
+
+/// An X server without a screen for as long as it lives, unless the user has one.
+class Display {
+  public:
+    Display() {
+        setenv("QT_QPA_PLATFORM", "xcb", 1);
+        if (std::getenv("DISPLAY") != nullptr) return;
+        int ends[2];
+        if (pipe(ends) != 0) throw std::runtime_error("no pipe");
+        server_ = fork();
+        if (server_ == 0) {
+            const std::string end = std::to_string(ends[1]);
+            execlp("Xvfb", "Xvfb", "-displayfd", end.c_str(), "-screen", "0", "1280x900x24", nullptr);
+            _exit(1);
+        }
+        close(ends[1]);
+        // The number comes with the end of its line once the server takes clients.
+        std::string number = ":";
+        for (char digit = 0; read(ends[0], &digit, 1) == 1 && digit != '\n';) number += digit;
+        close(ends[0]);
+        if (number == ":") throw std::runtime_error("no display, and Xvfb does not start");
+        setenv("DISPLAY", number.c_str(), 1);
+    }
+
+    ~Display() {
+        if (server_ <= 0) return;
+        kill(server_, SIGTERM);
+        waitpid(server_, nullptr, 0);
+    }
+
+  private:
+    pid_t server_ = 0;
+};
+
+inline double median(std::vector<double> values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+/// The median of the runs' own ratios.
+inline double median_ratio(const std::vector<double>& times, const std::vector<double>& others) {
+    std::vector<double> ratios(times.size());
+    std::transform(times.begin(), times.end(), others.begin(), ratios.begin(), std::divides<>());
+    return median(ratios);
+}
+
+/// A folder for the program's files, gone at the end.
+class ScratchFolder {
+  public:
+    ScratchFolder() {
+        if (mkdtemp(path_.data()) == nullptr) throw std::runtime_error("no folder");
+        setenv("XDG_RUNTIME_DIR", path_.c_str(), 0);
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+    ~ScratchFolder() { std::filesystem::remove_all(path_); }
+
+    const std::string& path() const { return path_; }
+
+  private:
+    std::string path_ = "/tmp/start_up_bench.XXXXXX";
+};
+
+}  // namespace bench

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/qt/engine/guarded_page.h"
+#include "platform/qt/engine/narrow_profile.h"
+#include "platform/qt/web_engine.h"
+
+#include <QObject>
+#include <QWebEngineView>
+
+namespace platform::qt {
+
+/// One page with everything it has: its view, its profile, of which nothing is kept, and its end.
+class PageView : public QObject, public WebPage {
+    Q_OBJECT
+
+  public:
+    PageView(QWidget& parent, PageEvents events);
+
+    QWidget& widget() override { return *view_; }
+    void load(const PageRequest& request) override;
+
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    std::function<void(int)> progress_;
+    NarrowProfile profile_;
+    // In this order: the page goes before its profile, and the view before its page.
+    GuardedPage page_{profile_};
+    std::unique_ptr<QWebEngineView> view_;
+};
+
+}  // namespace platform::qt

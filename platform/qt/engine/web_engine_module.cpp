@@ -1,0 +1,41 @@
+#include "platform/qt/engine/web_engine_module.h"
+
+#include "platform/qt/engine/confinement.h"
+#include "platform/qt/engine/page_view.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QQuickWindow>
+
+namespace platform::qt {
+
+namespace {
+
+/// Hands the engine its switches: it looks for them in the environment, and once only, when the first page is
+/// made.
+void set_up_engine() {
+    QByteArray switches = qgetenv("QTWEBENGINE_CHROMIUM_FLAGS") + " --lang=ko";
+    if (QApplication::palette().window().color().lightness() < 128) switches += " --force-dark-mode";
+    qputenv("QTWEBENGINE_CHROMIUM_FLAGS", switches);
+    if (confinement() == Confinement::not_for_root) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    // Pages of text and tables need no graphics card. Sharing one with the engine would have to be prepared
+    // at the program's start, which takes longer than all the rest of the start.
+    QQuickWindow::setSceneGraphBackend(QStringLiteral("software"));
+}
+
+}  // namespace
+
+WebEngineModule::WebEngineModule() { set_up_engine(); }
+
+QString WebEngineModule::obstacle() const {
+    if (confinement() != Confinement::impossible) return {};
+    return QStringLiteral(
+        "이 컴퓨터의 보안 설정에서는 페이지를 안전하게 보여 줄 수 없습니다.\n"
+        "시스템 관리자에게 문의해 주십시오.");
+}
+
+std::unique_ptr<WebPage> WebEngineModule::open(QWidget& parent, PageEvents events) {
+    return std::make_unique<PageView>(parent, std::move(events));
+}
+
+}  // namespace platform::qt

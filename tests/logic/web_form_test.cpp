@@ -1,0 +1,33 @@
+#include "gateway/frmWeb.h"
+#include "gateway/open_browser.h"
+#include "tests/support/test_platform.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(WebForm, IsKnownToBeOpenAsLongAsItIs) {
+    TestPlatform machine;
+    gateway::frmWeb form(machine.platform, machine.state);
+    EXPECT_FALSE(machine.state.gWebFormOpen);
+    form.load();
+    EXPECT_TRUE(machine.state.gWebFormOpen);
+    const platform::Placement middle{.left = 8400, .top = 3600, .width = 12000, .height = 9000};
+    EXPECT_EQ(form.placement(), middle);
+    machine.state.gWebFormOpen = false;
+    form.window_activated();
+    EXPECT_TRUE(machine.state.gWebFormOpen);
+    form.Command1.Click.raise();
+    EXPECT_FALSE(machine.state.gWebFormOpen);
+    EXPECT_FALSE(form.loaded());
+}
+
+TEST(OpenBrowser, OpensThePageOrAnEmptyBrowser) {
+    TestPlatform machine;
+    gateway::OPEN_BROWSER(machine.platform, u"http://pondira.example");
+    gateway::OPEN_BROWSER(machine.platform, u"");
+    const std::vector<platform::Text> pages{u"http://pondira.example", u"about:blank"};
+    EXPECT_EQ(machine.shell.pages, pages);
+}
+
+}  // namespace

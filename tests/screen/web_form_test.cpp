@@ -1,0 +1,61 @@
+// The browser form where the module with the pages' engine is missing, as it is in this program.
+
+#include "gateway/frmWeb.h"
+#include "tests/screen/screen_fixture.h"
+#include "tests/support/test_platform.h"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <memory>
+
+namespace {
+
+struct WebForm : tests::DeskTest {
+    void open(const platform::Text& address) {
+        form = std::make_unique<gateway::frmWeb>(platform, machine.state);
+        form->load();
+        form->WebBrowser.Navigate(address, "code=1", u"Content-Type: text/plain\r\n");
+        form->show();
+        settle();
+    }
+    const QLabel& notice() const { return *find("WebBrowser").findChild<QLabel*>(); }
+
+    TestPlatform machine;
+    platform::qt::Screens screens = platform::qt::program_screens();
+    platform::qt::QtDesktop desktop{screens, machine.files};
+    platform::Platform platform{.desktop = desktop,
+                                .clock = machine.clock,
+                                .files = machine.files,
+                                .settings = machine.settings,
+                                .shell = machine.shell,
+                                .carrier = machine.carrier};
+    std::unique_ptr<gateway::frmWeb> form;
+};
+
+TEST_F(WebForm, SaysThatTheEngineIsMissingAndCloses) {
+    for (const bool by_escape : {true, false}) {
+        open(u"http://127.0.0.1/");
+        ASSERT_TRUE(
+            QTest::qWaitFor([this] { return notice().text().contains(QStringLiteral("찾을 수 없습니다")); }));
+        EXPECT_TRUE(notice().isVisible());
+        EXPECT_FALSE(find<QWidget>("WebBrowser").findChild<QProgressBar*>()->isVisible());
+        if (by_escape) {
+            QTest::keyClick(&find("WebBrowser"), Qt::Key_Escape);
+        } else {
+            QTest::mouseClick(&find("Command1"), Qt::LeftButton);
+        }
+        EXPECT_FALSE(form->loaded());
+        settle();
+    }
+}
+
+TEST_F(WebForm, OpensBlankWithoutAnAddress) {
+    open(u"");
+    EXPECT_TRUE(form->loaded());
+    EXPECT_FALSE(notice().isVisible());
+    form->unload();
+    settle();
+}
+
+}  // namespace

@@ -1,0 +1,20 @@
+#include "platform/qt/desk_style.h"
+#include "tests/support/temporary_folder.h"
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    // Whatever a page could put anywhere, it puts here.
+    const tests::TemporaryFolder home;
+    qputenv("HOME", home.path().c_str());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // A microphone to ask for.
+    qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--use-fake-device-for-media-stream");
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle(new platform::qt::DeskStyle);
+    QCoreApplication::addLibraryPath(QStringLiteral(WEB_MODULE_FOLDER));
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "gateway/frmWeb.h"
+#include "platform/qt/qt_desktop.h"
+#include "tests/support/test_platform.h"
+#include "tests/web/loopback_server.h"
+
+#include <QTest>
+#include <QWebEngineView>
+#include <gtest/gtest.h>
+
+namespace tests {
+
+/// Waits until the engine's processes have brought it about; a failure of the test when they never do.
+template <class Condition>
+[[nodiscard]] bool comes(Condition condition) {
+    constexpr int FOREVER = 30'000;
+    return QTest::qWaitFor(condition, FOREVER);
+}
+
+/// The program's browser form with the real engine, on a machine of doubles.
+struct WebForm {
+    TestPlatform machine;
+    platform::qt::Screens screens = platform::qt::program_screens();
+    platform::qt::QtDesktop desktop{screens, machine.files};
+    platform::Platform platform{.desktop = desktop,
+                                .clock = machine.clock,
+                                .files = machine.files,
+                                .settings = machine.settings,
+                                .shell = machine.shell,
+                                .carrier = machine.carrier};
+    gateway::frmWeb form{platform, machine.state};
+
+    ~WebForm();
+
+    /// Opens the form with the page as the program does.
+    void open(const QByteArray& address, const std::string& body = {});
+
+    QWidget& window() const;
+    QWebEngineView& view() const;
+    /// Waits for the page's load to end, well or not.
+    bool loaded() const;
+    /// What there is to read.
+    QString text() const;
+
+    void click() const;
+    void press(Qt::Key key) const;
+};
+
+}  // namespace tests
