@@ -33,7 +33,7 @@ TEST(Page, GetsThePostedBytesAndNothingElseOfTheUser) {
         EXPECT_TRUE(request.head.value("accept-language").startsWith("ko-KR,ko"));
         EXPECT_FALSE(request.head.contains("cookie")) << "nothing is kept from one form to the next";
         EXPECT_FALSE(request.head.contains("referer"));
-        EXPECT_EQ(web.text(), QStringLiteral("발송"));
+        EXPECT_EQ(web.text(), "발송");
         web.form.unload();
     }
     EXPECT_EQ(server.requests().size(), 2);
@@ -48,7 +48,7 @@ TEST(Page, WithoutABodyIsOnlyAskedFor) {
     web.open("http:" + server.address("/find"));
     ASSERT_TRUE(web.loaded());
     EXPECT_EQ(server.requests().back().method, "GET");
-    EXPECT_EQ(web.text(), QStringLiteral("아이디 찾기"));
+    EXPECT_EQ(web.text(), "아이디 찾기");
 }
 
 TEST(Page, ThatCannotBeLoadedShowsTheEnginesErrorAndTheFormCloses) {
@@ -59,9 +59,8 @@ TEST(Page, ThatCannotBeLoadedShowsTheEnginesErrorAndTheFormCloses) {
         WebForm web;
         web.open("http:" + address, "code=1");
         ASSERT_TRUE(web.loaded());
-        EXPECT_TRUE(web.text().contains(QStringLiteral("ERR_CONNECTION_REFUSED")))
-            << web.text().toStdString();
-        EXPECT_TRUE(web.text().contains(QStringLiteral("사이트에 연결할 수 없음")));
+        EXPECT_NE(web.text().find("ERR_CONNECTION_REFUSED"), std::string::npos) << web.text();
+        EXPECT_NE(web.text().find("사이트에 연결할 수 없음"), std::string::npos) << web.text();
         if (by_escape) {
             web.press(Qt::Key_Escape);
         } else {

@@ -39,11 +39,11 @@ bool WebForm::loaded() const {
     });
 }
 
-QString WebForm::text() const {
-    std::optional<QString> text;
-    view().page()->toPlainText([&](const QString& shown) { text = shown; });
+std::string WebForm::text() const {
+    std::optional<std::string> text;
+    view().page()->toPlainText([&](const QString& shown) { text = shown.toStdString(); });
     EXPECT_TRUE(comes([&] { return text.has_value(); }));
-    return text.value_or(QString());
+    return text.value_or("");
 }
 
 void WebForm::click() const { QTest::mouseClick(view().focusProxy(), Qt::LeftButton); }

@@ -40,8 +40,8 @@ struct WebForm {
     QWebEngineView& view() const;
     /// Waits for the page's load to end, well or not.
     bool loaded() const;
-    /// What there is to read.
-    QString text() const;
+    /// What there is to read, in UTF-8.
+    std::string text() const;
 
     void click() const;
     void press(Qt::Key key) const;

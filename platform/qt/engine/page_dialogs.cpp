@@ -25,9 +25,9 @@ bool PageDialogs::ask(QWidget* parent, const QUrl& origin, const QString& text, 
     if (unwanted_) return false;
     QMessageBox box(parent);
     box.setObjectName(QStringLiteral("messageBox"));
-    box.setWindowTitle(QStringLiteral("%1의 메시지").arg(origin.host()));
+    box.setWindowTitle(QStringLiteral("웹 페이지"));
     box.setTextFormat(Qt::PlainText);
-    box.setText(text.left(LONGEST_TEXT));
+    box.setText(QStringLiteral("%1의 메시지:\n\n").arg(origin.host()) + text.left(LONGEST_TEXT));
     box.setIcon(is_question ? QMessageBox::Question : QMessageBox::Information);
     const QAbstractButton* yes = box.addButton(QStringLiteral("확인"), QMessageBox::AcceptRole);
     if (is_question) box.setEscapeButton(box.addButton(QStringLiteral("취소"), QMessageBox::RejectRole));

@@ -4,6 +4,7 @@
 #include "platform/qt/engine/page_view.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 #include <QPalette>
 #include <QQuickWindow>
 
@@ -21,6 +22,8 @@ void set_up_engine() {
     // Pages of text and tables need no graphics card. Sharing one with the engine would have to be prepared
     // at the program's start, which takes longer than all the rest of the start.
     QQuickWindow::setSceneGraphBackend(QStringLiteral("software"));
+    // It would tell the terminal about it at length.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext*=false"));
 }
 
 }  // namespace
