@@ -3,6 +3,7 @@
 #include "platform/qt/engine/confinement.h"
 #include "platform/qt/engine/page_view.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLoggingCategory>
 #include <QPalette>
@@ -17,12 +18,15 @@ namespace {
 void set_up_engine() {
     QByteArray switches = qgetenv("QTWEBENGINE_CHROMIUM_FLAGS") + " --lang=ko";
     if (QApplication::palette().window().color().lightness() < 128) switches += " --force-dark-mode";
+    // The engine keeps a page's contents from screen readers unless it is told of them at its start.
+    if (QAccessible::isActive()) switches += " --force-renderer-accessibility";
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", switches);
     if (confinement() == Confinement::not_for_root) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     // Pages of text and tables need no graphics card. Sharing one with the engine would have to be prepared
     // at the program's start, which takes longer than all the rest of the start.
     QQuickWindow::setSceneGraphBackend(QStringLiteral("software"));
-    // It would tell the terminal about it at length.
+    // It would tell the terminal about it at length, and on a screen with graphics of its own it ends the
+    // program over that.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext*=false"));
 }
 
