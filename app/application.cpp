@@ -6,7 +6,7 @@
 namespace app {
 
 Application::Application(platform::Platform& platform)
-    : platform_(platform), main_(platform, state_, service_doors_, doors()) {}
+    : platform_(platform), main_(platform, state_, doors()) {}
 
 bool Application::start() {
     return core::entry_routine(platform_, state_, [this] { main_.show(); });
@@ -14,7 +14,7 @@ bool Application::start() {
 
 compose::MainDoors Application::doors() {
     compose::MainDoors doors;
-    doors.send = [this] { send::Command1_Click(platform_, state_, main_, service_doors_); };
+    doors.send = [this] { send::Command1_Click(platform_, state_, main_); };
     return doors;
 }
 

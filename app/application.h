@@ -22,7 +22,6 @@ class Application {
 
     platform::Platform& platform_;
     core::AppState state_;
-    gateway::ServiceDoors service_doors_;
     compose::frmZent main_;
 };
 

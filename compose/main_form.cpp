@@ -31,14 +31,12 @@ constexpr std::array EMOTICONS = {
 
 }  // namespace
 
-frmZent::frmZent(platform::Platform& platform, core::AppState& state,
-                 const gateway::ServiceDoors& service_doors, MainDoors doors)
+frmZent::frmZent(platform::Platform& platform, core::AppState& state, MainDoors doors)
     : Form(platform.desktop, u"frmZent"),
       Timer1(platform.clock, 500),
       Timer2(platform.clock, 1),
       platform_(platform),
       state_(state),
-      service_doors_(service_doors),
       doors_(std::move(doors)) {
     for (const Emoticon& emoticon : EMOTICONS) {
         mBttn1.emplace_back(*this, u"mBttn1_" + platform::decimal(emoticon.index), Text(emoticon.caption));
@@ -89,10 +87,6 @@ void frmZent::disable_without_door() {
     mnusubpopup1.set_enabled(doors_.pick_recipients != nullptr);
     MyMsgBttn.set_enabled(doors_.message_box != nullptr);
     mnuUpDate.set_enabled(doors_.update_check != nullptr);
-    cmdRegister.set_enabled(service_doors_.sign_up != nullptr);
-    cmdGoPondira.set_enabled(service_doors_.service_guide != nullptr);
-    for (const int button : {RESULTS_BUTTON, INBOX_BUTTON, CHARGES_BUTTON})
-        Toolbar1.set_button_enabled(button, service_doors_.KTSMS_LINK != nullptr);
     TTSBttn0.set_enabled(doors_.SaveWave != nullptr);
     for (platform::Control* control : std::initializer_list<platform::Control*>{
              &TTSBttn1, &TTSBttn2, &TTSBttn3, &FAXBttn1, &FAXBttn2, &Command4, &Command6, &mnuSetup}) {
@@ -105,9 +99,5 @@ bool frmZent::SaveWave(const Text& folder, const Text& file) const {
 }
 
 Text frmZent::sender_tag() const { return u"[" + platform::trim(txtUserName.text()) + u"]"; }
-
-void frmZent::KTSMS_LINK(int index) {
-    if (service_doors_.KTSMS_LINK) service_doors_.KTSMS_LINK(index);
-}
 
 }  // namespace compose

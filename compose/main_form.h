@@ -2,7 +2,6 @@
 
 #include "compose/main_doors.h"
 #include "core/app_state.h"
-#include "gateway/service_doors.h"
 #include "platform/controls/check_box.h"
 #include "platform/controls/combo_box.h"
 #include "platform/controls/command_button.h"
@@ -54,8 +53,7 @@ inline constexpr std::size_t TTS_LIMIT = 1000;
 /// main_form_recipients, schedule and reply in main_form_schedule.
 class frmZent : public platform::Form {
   public:
-    frmZent(platform::Platform& platform, core::AppState& state, const gateway::ServiceDoors& service_doors,
-            MainDoors doors);
+    frmZent(platform::Platform& platform, core::AppState& state, MainDoors doors);
 
     // Kinds, toolbar, status bar.
     platform::ToolBar Toolbar1{*this,
@@ -213,6 +211,8 @@ class frmZent : public platform::Form {
     void cmdLogOut_Click();
     void AUTO_LOGIN_START();
     void SET_LOGIN_BUTTONS(bool logged_in);
+    /// Shows a gateway::ServicePage; who is not logged in logs in first or sees none.
+    void KTSMS_LINK(int index);
 
     // Text entry, for everyone who writes the fields.
     void mText1_Change();
@@ -263,6 +263,8 @@ class frmZent : public platform::Form {
     void go_on_after_login();
     void apply_login();
     void show_logged_out();
+    void cmdRegister_Click();
+    void open_in_browser(platform::TextView key);
 
     // Kinds.
     void TabStrip1_Click();
@@ -279,7 +281,6 @@ class frmZent : public platform::Form {
     void set_number_captions(platform::TextView caption);
     void show_sender_controls(bool visible);
     void show_reply_controls(bool visible);
-    void KTSMS_LINK(int index);
 
     // Text entry.
     /// The sender's name alone, as a new text begins.
@@ -319,7 +320,6 @@ class frmZent : public platform::Form {
 
     platform::Platform& platform_;
     core::AppState& state_;
-    const gateway::ServiceDoors& service_doors_;
     MainDoors doors_;
     platform::MouseButton status_bar_button_ = platform::MouseButton::left;
 };

@@ -4,6 +4,7 @@
 #include "compose/recipient_number.h"
 #include "core/windows.h"
 #include "gateway/frmAbout.h"
+#include "gateway/service_pages.h"
 
 namespace compose {
 
@@ -144,7 +145,7 @@ void frmZent::STBar1_PanelClick(int panel) {
 }
 
 void frmZent::mnuAbout_Click() {
-    gateway::frmAbout about(platform_, service_doors_);
+    gateway::frmAbout about(platform_);
     about.show_modal();
 }
 

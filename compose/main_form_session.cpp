@@ -1,4 +1,4 @@
-// Log-in and log-out as the main window shows them.
+// Log-in and log-out as the main window shows them, and the ways to the service's pages.
 
 #include "compose/main_form.h"
 #include "core/common.h"
@@ -6,7 +6,10 @@
 #include "core/ini_file.h"
 #include "core/windows.h"
 #include "gateway/frmAutoLogin.h"
+#include "gateway/frmPondiraReg.h"
 #include "gateway/frmZentLogin.h"
+#include "gateway/open_browser.h"
+#include "gateway/service_pages.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
 
@@ -27,13 +30,13 @@ void frmZent::connect_session() {
     cmdLogOut.Click.connect([this] { cmdLogOut_Click(); });
     mnuAutoLogin.Click.connect([this] { mnuAutoLogin.set_checked(!mnuAutoLogin.checked()); });
     mnuStartUpdate.Click.connect([this] { mnuStartUpdate.set_checked(!mnuStartUpdate.checked()); });
-    if (service_doors_.sign_up) cmdRegister.Click.connect(service_doors_.sign_up);
-    if (service_doors_.service_guide) cmdGoPondira.Click.connect(service_doors_.service_guide);
-    if (service_doors_.home_page) TOPLogo.Click.connect(service_doors_.home_page);
+    cmdRegister.Click.connect([this] { cmdRegister_Click(); });
+    cmdGoPondira.Click.connect([this] { open_in_browser(u"KTPONDIRA"); });
+    TOPLogo.Click.connect([this] { open_in_browser(u"HOME"); });
 }
 
 void frmZent::cmdLogin_Click() {
-    gateway::frmZentLogin login(platform_, state_, service_doors_, Timer1);
+    gateway::frmZentLogin login(platform_, state_, Timer1);
     login.show_modal();
     read_auto_login_mark();
     if (!state_.gLoginResult) {
@@ -45,7 +48,7 @@ void frmZent::cmdLogin_Click() {
 }
 
 void frmZent::AUTO_LOGIN_START() {
-    gateway::frmAutoLogin login(platform_, state_, service_doors_);
+    gateway::frmAutoLogin login(platform_, state_);
     login.show_modal();
     if (state_.gLoginResult) {
         go_on_after_login();
@@ -122,6 +125,20 @@ void frmZent::show_logged_out() {
     STBar1.set_panel_tool_tip(1, u"로그인하기");
     STBar1.set_panel_text(2, u"가입자");
     STBar1.set_panel_text(3, u"폰디라번호");
+}
+
+void frmZent::KTSMS_LINK(int index) {
+    if (!state_.gLoggedIn) cmdLogin_Click();
+    if (state_.gLoggedIn) gateway::show_service_page(platform_, state_, index);
+}
+
+void frmZent::cmdRegister_Click() {
+    gateway::frmPondiraReg guidance(platform_);
+    guidance.show_modal();
+}
+
+void frmZent::open_in_browser(platform::TextView key) {
+    gateway::OPEN_BROWSER(platform_, gateway::page_address(platform_, key));
 }
 
 void frmZent::cmdLogOut_Click() {

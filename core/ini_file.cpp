@@ -34,6 +34,8 @@ Text application_ini(const Platform& platform) {
 
 Text login_ini(const Platform& platform) { return WINDOWS_DIR(platform) + u"\\zent.ini"; }
 
+Text links_ini(const Platform& platform) { return platform.files.application_directory() + u"\\urllink.ini"; }
+
 bool INI_IS_ON(const Platform& platform, const Text& path, TextView section, TextView key) {
     return platform::is_on(INI_READ(platform, path, section, key));
 }

@@ -25,6 +25,9 @@ platform::Text application_ini(const platform::Platform& platform);
 /// "zent.ini" of the Windows directory: the login's id and password, away from the program's folder.
 platform::Text login_ini(const platform::Platform& platform);
 
+/// "urllink.ini" of the application directory: where the service's pages are.
+platform::Text links_ini(const platform::Platform& platform);
+
 /// Whether the key's number is 1, as in "1", "1.0" and "1abc".
 bool INI_IS_ON(const platform::Platform& platform, const platform::Text& path, platform::TextView section,
                platform::TextView key);

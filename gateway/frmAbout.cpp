@@ -3,15 +3,15 @@
 #include "core/app_state.h"
 #include "core/deployment.h"
 #include "core/windows.h"
+#include "gateway/service_pages.h"
 
 namespace gateway {
 
 using platform::Text;
 
-frmAbout::frmAbout(platform::Platform& platform, const ServiceDoors& doors)
-    : Form(platform.desktop, u"frmAbout"), platform_(platform) {
+frmAbout::frmAbout(platform::Platform& platform) : Form(platform.desktop, u"frmAbout"), platform_(platform) {
     Command1.Click.connect([this] { unload(); });
-    if (doors.home_page) Label1_3.Click.connect(doors.home_page);
+    Label1_3.Click.connect([this] { platform_.shell.open_page(page_address(platform_, u"HOME")); });
 }
 
 void frmAbout::Form_Load() {

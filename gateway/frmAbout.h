@@ -1,6 +1,5 @@
 #pragma once
 
-#include "gateway/service_doors.h"
 #include "platform/controls/command_button.h"
 #include "platform/controls/containers.h"
 #include "platform/controls/form.h"
@@ -12,7 +11,7 @@ namespace gateway {
 /// The program's name and version.
 class frmAbout : public platform::Form {
   public:
-    frmAbout(platform::Platform& platform, const ServiceDoors& doors);
+    explicit frmAbout(platform::Platform& platform);
 
     platform::Image Image1{*this, u"Image1"};
     platform::Label Label1_0{*this, u"Label1_0"};

@@ -2,7 +2,6 @@
 
 #include "core/app_state.h"
 #include "gateway/login.h"
-#include "gateway/service_doors.h"
 #include "platform/controls/animation.h"
 #include "platform/controls/form.h"
 #include "platform/controls/label.h"
@@ -16,7 +15,7 @@ namespace gateway {
 /// whatever its kind of service: the manual login looks at the kind alone, and both stay so.
 class frmAutoLogin : public platform::Form {
   public:
-    frmAutoLogin(platform::Platform& platform, core::AppState& state, const ServiceDoors& doors);
+    frmAutoLogin(platform::Platform& platform, core::AppState& state);
 
     platform::Animation Animation1{*this, u"Animation1"};
     platform::Label Label1{*this, u"Label1", u"잠시만 기다려 주십시오..."};
@@ -36,7 +35,6 @@ class frmAutoLogin : public platform::Form {
 
     platform::Platform& platform_;
     core::AppState& state_;
-    const ServiceDoors& doors_;
     Login login_;
 };
 

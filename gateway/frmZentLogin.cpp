@@ -3,6 +3,8 @@
 #include "core/files.h"
 #include "core/ini_file.h"
 #include "core/windows.h"
+#include "gateway/frmPondiraReg.h"
+#include "gateway/service_pages.h"
 
 namespace gateway {
 
@@ -10,21 +12,16 @@ using platform::BoxIcon;
 using platform::KeyPressed;
 using platform::Text;
 
-frmZentLogin::frmZentLogin(platform::Platform& platform, core::AppState& state, const ServiceDoors& doors,
-                           platform::Timer& polling)
+frmZentLogin::frmZentLogin(platform::Platform& platform, core::AppState& state, platform::Timer& polling)
     : Form(platform.desktop, u"frmZentLogin"),
       Timer1(platform.clock, 10),
       platform_(platform),
       state_(state),
-      doors_(doors),
       polling_(polling),
       login_(platform, state) {
     Picture1.hide();
     Animation1.hide();
     Animation1.set_container(Picture1);
-    Command3.set_enabled(doors.sign_up != nullptr);
-    Command4.set_enabled(doors.find_id_or_password != nullptr);
-    Command5.set_enabled(doors.service_guide != nullptr);
 
     Text1.GotFocus.connect([this] { Text1.select_all(); });
     Text2.GotFocus.connect([this] { Text2.select_all(); });
@@ -33,8 +30,8 @@ frmZentLogin::frmZentLogin(platform::Platform& platform, core::AppState& state, 
     Command1.Click.connect([this] { Command1_Click(); });
     Command2.Click.connect([this] { unload(); });
     Command3.Click.connect([this] { Command3_Click(); });
-    Command4.Click.connect([this] { doors_.find_id_or_password(); });
-    Command5.Click.connect([this] { doors_.service_guide(); });
+    Command4.Click.connect([this] { show_find_page(platform_, state_); });
+    Command5.Click.connect([this] { platform_.shell.open_page(page_address(platform_, u"KTPONDIRA")); });
     Timer1.Tick.connect([this] { Timer1_Timer(); });
 }
 
@@ -115,7 +112,8 @@ void frmZentLogin::Command1_Click() {
 }
 
 void frmZentLogin::Command3_Click() {
-    if (doors_.sign_up) doors_.sign_up();
+    frmPondiraReg guidance(platform_);
+    guidance.show_modal();
 }
 
 void frmZentLogin::Timer1_Timer() {

@@ -2,7 +2,6 @@
 
 #include "core/app_state.h"
 #include "gateway/login.h"
-#include "gateway/service_doors.h"
 #include "platform/controls/animation.h"
 #include "platform/controls/check_box.h"
 #include "platform/controls/command_button.h"
@@ -20,8 +19,7 @@ namespace gateway {
 class frmZentLogin : public platform::Form {
   public:
     /// `polling` is the main window's timer, off while this form is open.
-    frmZentLogin(platform::Platform& platform, core::AppState& state, const ServiceDoors& doors,
-                 platform::Timer& polling);
+    frmZentLogin(platform::Platform& platform, core::AppState& state, platform::Timer& polling);
 
     platform::Image Image1{*this, u"Image1"};
     platform::Label Label1_0{*this, u"Label1_0", u"사용자 아이디"};
@@ -60,7 +58,6 @@ class frmZentLogin : public platform::Form {
 
     platform::Platform& platform_;
     core::AppState& state_;
-    const ServiceDoors& doors_;
     platform::Timer& polling_;
     Login login_;
 };

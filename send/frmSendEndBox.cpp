@@ -1,14 +1,15 @@
 #include "send/frmSendEndBox.h"
 
 #include "core/windows.h"
+#include "gateway/service_pages.h"
 
 namespace send {
 
-frmSendEndBox::frmSendEndBox(platform::Platform& platform, const gateway::ServiceDoors& doors)
-    : Form(platform.desktop, u"frmSendEndBox"), doors_(doors) {
+frmSendEndBox::frmSendEndBox(platform::Platform& platform, compose::frmZent& main_form)
+    : Form(platform.desktop, u"frmSendEndBox"), main_form_(main_form) {
     set_caption(u"KT 폰디라 서버에 메시지 등록완료...");
     Command1.set_enabled(false);
-    Command1.Click.connect([this] { doors_.KTSMS_LINK(gateway::PAGE_RESULTS); });
+    Command1.Click.connect([this] { main_form_.KTSMS_LINK(gateway::PAGE_RESULTS); });
     Command2.Click.connect([this] { unload(); });
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gateway/service_doors.h"
+#include "compose/main_form.h"
 #include "platform/controls/command_button.h"
 #include "platform/controls/form.h"
 #include "platform/controls/text_box.h"
@@ -11,21 +11,21 @@ namespace send {
 /// The report of a send job.
 class frmSendEndBox : public platform::Form {
   public:
-    frmSendEndBox(platform::Platform& platform, const gateway::ServiceDoors& doors);
+    frmSendEndBox(platform::Platform& platform, compose::frmZent& main_form);
 
     platform::TextBox Text1{*this, u"Text1"};
     platform::CommandButton Command1{*this, u"Command1", u"발송결과"};
     platform::CommandButton Command2{*this, u"Command2", u"확인(&O)"};
 
-    /// There is a result page to look at. Without a way to it the button stays grey.
-    void offer_results() { Command1.set_enabled(doors_.KTSMS_LINK != nullptr); }
+    /// There are results to look at; without any the button stays grey.
+    void offer_results() { Command1.set_enabled(true); }
 
   protected:
     void Form_Load() override;
     void Form_Escape() override { unload(); }
 
   private:
-    const gateway::ServiceDoors& doors_;
+    compose::frmZent& main_form_;
 };
 
 }  // namespace send

@@ -3,7 +3,6 @@
 #include "compose/main_form.h"
 #include "core/app_state.h"
 #include "gateway/gateway.h"
-#include "gateway/service_doors.h"
 #include "platform/boolean_word.h"
 #include "platform/controls/animation.h"
 #include "platform/controls/combo_box.h"
@@ -36,8 +35,7 @@ namespace send {
 /// What they share stands in job_steps.cpp; each has a file of its own.
 class frmZentSend : public platform::Form {
   public:
-    frmZentSend(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form,
-                const gateway::ServiceDoors& doors);
+    frmZentSend(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form);
 
     platform::Animation Animation1{*this, u"Animation1"};
     platform::Label Label1_0{*this, u"Label1_0", u"KT 폰디라 서버와 통신중입니다."};
@@ -126,7 +124,6 @@ class frmZentSend : public platform::Form {
     platform::Platform& platform_;
     core::AppState& state_;
     compose::frmZent& main_form_;
-    const gateway::ServiceDoors& doors_;
     gateway::Gateway gateway_;
     bool job_started_ = false;
 };

@@ -113,7 +113,7 @@ void frmZentSend::report(const SendJob& job) {
     normal_cursor();
     const Text text = report_text(job, MSGSendCount, platform_.clock.now());
     SEND_FINISHED();
-    frmSendEndBox box(platform_, doors_);
+    frmSendEndBox box(platform_, main_form_);
     box.load();
     box.Text1.set_text(Text(platform::CRLF) + text);
     if (job.success > 0) box.offer_results();

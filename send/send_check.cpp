@@ -158,7 +158,7 @@ bool confirmed(Platform& platform, AppState& state, const Kind& kind, const Text
 
 }  // namespace
 
-void Command1_Click(Platform& platform, AppState& state, frmZent& form, const gateway::ServiceDoors& doors) {
+void Command1_Click(Platform& platform, AppState& state, frmZent& form) {
     if (!state.gLoggedIn) {
         core::warn(platform.desktop, u"KT 폰디라 Login과정을 거쳐야 합니다.");
         form.cmdLogin_Click();
@@ -176,7 +176,7 @@ void Command1_Click(Platform& platform, AppState& state, frmZent& form, const ga
     // No hand-over of the card manager may change the list while the user reads the box.
     form.Timer1.set_enabled(false);
     if (confirmed(platform, state, kind, confirmation_text(form, kind, *recipients))) {
-        frmZentSend job(platform, state, form, doors);
+        frmZentSend job(platform, state, form);
         job.load();
         job.set_caption(Text(kind.text));
         job.MSGSendCount = recipients->count;

@@ -45,6 +45,8 @@ class Desktop {
     virtual void close(Form& form) = 0;
     /// Lets the user pick from the menu at the mouse pointer.
     virtual void popup_menu(Form& form, Menu& menu) = 0;
+    /// The same right below a control of the form, at its left edge.
+    virtual void popup_menu_below(Form& form, Menu& menu, const Control& control) = 0;
 
     /// Returns the button that the user pressed; closing a box without one gives its cautious answer (no,
     /// cancel, ok).

@@ -87,6 +87,14 @@ void QtDesktop::popup_menu(Form& form, Menu& menu) {
     if (popup != nullptr) popup->exec(window->popup_point().value_or(QCursor::pos()));
 }
 
+void QtDesktop::popup_menu_below(Form& form, Menu& menu, const Control& control) {
+    FormWindow* window = window_of(form);
+    if (window == nullptr) return;
+    auto* popup = window->window().findChild<QMenu*>(to_qstring(menu.name()));
+    const auto* widget = window->window().findChild<QWidget*>(to_qstring(control.name()));
+    if (popup != nullptr && widget != nullptr) popup->exec(widget->mapToGlobal(QPoint(0, widget->height())));
+}
+
 BoxAnswer QtDesktop::message_box(const MessageBox& box) {
     commit_composition();
     const QPointer<QWidget> front = front_window();

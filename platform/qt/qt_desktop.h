@@ -27,6 +27,7 @@ class QtDesktop : public Desktop {
     void show_modal(Form& form) override;
     void close(Form& form) override;
     void popup_menu(Form& form, Menu& menu) override;
+    void popup_menu_below(Form& form, Menu& menu, const Control& control) override;
     BoxAnswer message_box(const MessageBox& box) override;
     void set_pointer(Pointer pointer) override;
     void set_clipboard(const Text& text) override;

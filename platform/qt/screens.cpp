@@ -2,6 +2,7 @@
 
 #include "ui_frmAbout.h"
 #include "ui_frmAutoLogin.h"
+#include "ui_frmPondiraReg.h"
 #include "ui_frmSBox.h"
 #include "ui_frmSendEndBox.h"
 #include "ui_frmWeb.h"
@@ -26,6 +27,7 @@ Screens program_screens() {
     screens.add<Ui::frmAutoLogin, QDialog>(u"frmAutoLogin");
     screens.add<Ui::frmAbout, QDialog>(u"frmAbout");
     screens.add<Ui::frmWeb, QDialog>(u"frmWeb");
+    screens.add<Ui::frmPondiraReg, QDialog>(u"frmPondiraReg");
     screens.add<Ui::frmSBox, QDialog>(u"frmSBox");
     screens.add<Ui::frmZentSend, QDialog>(u"frmZentSend");
     screens.add<Ui::frmSendEndBox, QDialog>(u"frmSendEndBox");

@@ -1,5 +1,7 @@
+#include "core/deployment.h"
 #include "gateway/frmAutoLogin.h"
 #include "tests/support/main_window.h"
+#include "tests/support/page_reader.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -32,8 +34,16 @@ constexpr platform::TextView REGISTER =
     u"KT 폰디라 통합 메시징 서비스(UMS) 연동 기능을 이용하기 위해서는 KT 폰디라 회원등록 및 결제방법을 "
     u"'전화요금합산청구'로 신청을 하셔야 합니다.\r\n\r\n지금 KT 폰디라에 등록하시겠습니까?";
 
+const std::string SIGN_UP_PAGE = "KT 폰디라 신규 가입|" + utf8(core::deployment::service_site()) +
+                                 "/kelmora/htm/register/default.jsp?code=07190533026|";
+
 struct Session : testing::Test, tests::MainWindow {
-    void SetUp() override { form.load(); }
+    void SetUp() override {
+        state.gPartnerPath = u"kelmora";
+        state.gPartnerCode = u"07190533";
+        state.gPartnerSubCode = u"026";
+        form.load();
+    }
 
     void expect_told(platform::TextView text, BoxIcon icon, const char* title) const {
         ASSERT_EQ(desktop.boxes.size(), 1u);
@@ -57,6 +67,9 @@ struct Session : testing::Test, tests::MainWindow {
     void save_account(platform::TextView user_id, platform::TextView password) {
         save_login(u"LOGINID", user_id);
         save_login(u"LOGINPW", password);
+    }
+    void close_guidance() {
+        desktop.in_form(u"frmPondiraReg", [](platform::Form& guidance) { guidance.escape_pressed(); });
     }
     void cancel_login() {
         in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });
@@ -151,14 +164,10 @@ TEST_F(ManualLogin, TakesTheProfilesNamesWhereNothingIsSavedAndLeavesTypedTexts)
     EXPECT_EQ(utf8(form.mText2.text()), "[Hong Office]\r\n\r\n\r\n\r\n☎통화를눌러확인하세요");
 }
 
-TEST_F(ManualLogin, LeadsToTheServicesPagesAndAsksForWhatIsMissing) {
+TEST_F(ManualLogin, AsksForWhatIsMissing) {
     desktop.expect_box(u"KT 폰디라 아이디를 입력하여 주십시오.");
     desktop.expect_box(u"비밀번호를 입력하여 주십시오.");
     in_login([&](gateway::frmZentLogin& login) {
-        login.Command3.Click.raise();
-        login.Command4.Click.raise();
-        login.Command5.Click.raise();
-        EXPECT_EQ(opened, (Calls{"sign_up", "find_id_or_password", "service_guide"}));
         enter(login, u"   ", u"secret");
         EXPECT_TRUE(login.Text1.has_focus());
         enter(login, u"hong", u"  ");
@@ -225,11 +234,13 @@ TEST_F(ManualLogin, JudgesByTheKindOfServiceWhateverTheContractsState) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.type);
         const bool accepted = row.box.empty();
-        desktop.boxes.clear(), opened.clear(), carrier.calls.clear();
+        desktop.boxes.clear(), carrier.calls.clear();
         save_account(u"", u"");
         carrier.service_type = row.type;
         carrier.service_state = row.state;
         if (!accepted) desktop.expect_box(Text(row.box), row.answer);
+        if (row.answer == BoxAnswer::yes) close_guidance();
+        desktop.forms.clear();
         in_login([&](gateway::frmZentLogin& login) {
             enter(login, u"hong", u"secret");
             clock.run_for(10);
@@ -239,7 +250,7 @@ TEST_F(ManualLogin, JudgesByTheKindOfServiceWhateverTheContractsState) {
         });
         form.cmdLogin.Click.raise();
         EXPECT_EQ(saved_login(u"LOGINPW"), accepted ? "secret" : "");
-        EXPECT_EQ(opened, row.answer == BoxAnswer::yes ? Calls{"sign_up"} : Calls{});
+        EXPECT_EQ(desktop.forms.back(), row.answer == BoxAnswer::yes ? u"frmPondiraReg" : u"frmZentLogin");
         EXPECT_EQ(carrier.count("unbind"), 1);
         if (accepted) {
             EXPECT_TRUE(state.gLoggedIn && state.gLoginResult && form.cmdLogOut.enabled());
@@ -284,15 +295,17 @@ TEST_F(AutomaticLogin, JudgesByTheContractsStateWhateverTheKindOfService) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.state);
         const bool accepted = row.state < 2, usable = row.type != 22;
-        desktop.boxes.clear(), opened.clear(), carrier.calls.clear();
+        desktop.boxes.clear(), carrier.calls.clear();
         carrier.service_type = row.type;
         carrier.service_state = row.state;
+        Calls pages;
         if (!accepted) {
             desktop.expect_box(Text(REGISTER), row.answer);
             cancel_login();
         }
+        if (row.answer == BoxAnswer::yes) tests::read_next_page(desktop, pages);
         form.AUTO_LOGIN_START();
-        EXPECT_EQ(opened, row.answer == BoxAnswer::yes ? Calls{"new_member"} : Calls{});
+        EXPECT_EQ(pages, row.answer == BoxAnswer::yes ? Calls{SIGN_UP_PAGE} : Calls{});
         EXPECT_EQ(carrier.calls, (Calls{"bind", "money_status", "user_info", "unbind"}));
         if (accepted) {
             EXPECT_TRUE(state.gLoggedIn);

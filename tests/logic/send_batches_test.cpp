@@ -189,7 +189,7 @@ TEST(SendKinds, ATextThatIsNoKindIsNotSubmittedAndItsRowsFail) {
     Sending s;
     s.add_many(2);
     s.expect_report();
-    send::frmZentSend job(s.platform, s.state, s.form, s.service_doors);
+    send::frmZentSend job(s.platform, s.state, s.form);
     job.load();
     job.MSGSendCount = 2;
     job.SEND_BATCHES(u"편지");

@@ -1,4 +1,5 @@
 #include "send/report.h"
+#include "tests/support/page_reader.h"
 #include "tests/support/sending.h"
 
 #include <gtest/gtest.h>
@@ -18,6 +19,7 @@ constexpr const char* FAILURE =
 
 TEST(SendWindow, StartsOneJobHalfASecondAfterItsActivation) {
     Sending s;
+    Lines pages;
     s.files.files[u"z:\\app\\resource\\send.avi"] = "";
     s.add_many(1);
     s.form.Timer1.set_enabled(true);
@@ -33,6 +35,7 @@ TEST(SendWindow, StartsOneJobHalfASecondAfterItsActivation) {
             EXPECT_FALSE(job.Animation1.playing());
             EXPECT_EQ(utf8(job.Command1.caption()), "닫기");
             EXPECT_TRUE(job.Command1.enabled());
+            tests::read_next_page(s.desktop, pages);
             box.Command1.Click.raise();
             EXPECT_TRUE(box.loaded());
             box.escape_pressed();
@@ -41,17 +44,9 @@ TEST(SendWindow, StartsOneJobHalfASecondAfterItsActivation) {
     s.confirm();
     s.click();
     EXPECT_EQ(s.carrier.registrations.size(), 1u);
-    EXPECT_EQ(s.pages, std::vector<int>{0});
+    EXPECT_EQ(pages, Lines{"발송결과||code=&userid=&domain="});
     EXPECT_FALSE(s.state.gSendFormOpen);
     EXPECT_TRUE(s.form.Timer1.enabled());
-}
-
-TEST(SendWindow, TheResultPageIsOfferedOnlyWhereThereIsAWayToIt) {
-    Sending s;
-    s.service_doors.KTSMS_LINK = {};
-    s.add_many(1);
-    s.send();
-    EXPECT_FALSE(s.results_offered);
 }
 
 TEST(SendWindow, AnythingThatWouldCloseItStopsTheJobAndGreysTheButton) {

@@ -1,6 +1,7 @@
 #include "compose/main_form.h"
 #include "gateway/frmAbout.h"
 #include "gateway/frmAutoLogin.h"
+#include "gateway/frmPondiraReg.h"
 #include "gateway/frmWeb.h"
 #include "gateway/frmZentLogin.h"
 #include "platform/qt/qt_desktop.h"
@@ -34,19 +35,18 @@ struct System {
                                 .settings = machine.settings,
                                 .shell = machine.shell,
                                 .carrier = machine.carrier};
-    gateway::ServiceDoors service_doors;
-    compose::frmZent main{platform, machine.state, service_doors, compose::MainDoors{}};
+    compose::frmZent main{platform, machine.state, compose::MainDoors{}};
 
     std::vector<std::unique_ptr<Form>> dialogs() {
         std::vector<std::unique_ptr<Form>> forms;
-        forms.push_back(
-            std::make_unique<gateway::frmZentLogin>(platform, machine.state, service_doors, main.Timer1));
-        forms.push_back(std::make_unique<gateway::frmAutoLogin>(platform, machine.state, service_doors));
-        forms.push_back(std::make_unique<gateway::frmAbout>(platform, service_doors));
+        forms.push_back(std::make_unique<gateway::frmZentLogin>(platform, machine.state, main.Timer1));
+        forms.push_back(std::make_unique<gateway::frmAutoLogin>(platform, machine.state));
+        forms.push_back(std::make_unique<gateway::frmAbout>(platform));
+        forms.push_back(std::make_unique<gateway::frmPondiraReg>(platform));
         forms.push_back(std::make_unique<gateway::frmWeb>(platform, machine.state));
         forms.push_back(std::make_unique<send::frmSBox>(platform, machine.state));
-        forms.push_back(std::make_unique<send::frmZentSend>(platform, machine.state, main, service_doors));
-        forms.push_back(std::make_unique<send::frmSendEndBox>(platform, service_doors));
+        forms.push_back(std::make_unique<send::frmZentSend>(platform, machine.state, main));
+        forms.push_back(std::make_unique<send::frmSendEndBox>(platform, main));
         return forms;
     }
 };

@@ -147,8 +147,7 @@ struct Draft {
     int kind;
     compose::frmZent form{platform,
                           state,
-                          {},
-                          {.send = [this] { send::Command1_Click(platform, state, form, {}); },
+                          {.send = [this] { send::Command1_Click(platform, state, form); },
                            .pick_recipients = {},
                            .NEW_SENDMAN_LOAD = {},
                            .message_box = {},

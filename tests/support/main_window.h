@@ -19,8 +19,7 @@ struct MainWindow : TestPlatform {
     std::function<void()> pick_recipients = [] {};
     std::function<void()> hand_over = [] {};
 
-    gateway::ServiceDoors pages{service_doors()};
-    compose::frmZent form{platform, state, pages, main_doors()};
+    compose::frmZent form{platform, state, main_doors()};
 
     /// The window as it stands before the first tick, with a kind chosen and a sender's name.
     void compose_as(platform::TextView sender, int kind = compose::TEXT_MESSAGE) {
@@ -55,14 +54,6 @@ struct MainWindow : TestPlatform {
     }
 
   private:
-    gateway::ServiceDoors service_doors() {
-        return {.sign_up = write("sign_up"),
-                .new_member = write("new_member"),
-                .find_id_or_password = write("find_id_or_password"),
-                .service_guide = write("service_guide"),
-                .home_page = write("home_page"),
-                .KTSMS_LINK = [this](int index) { opened.push_back("KTSMS_LINK " + std::to_string(index)); }};
-    }
     compose::MainDoors main_doors() {
         return {.send = write("send"),
                 .pick_recipients = [this] { pick_recipients(); },

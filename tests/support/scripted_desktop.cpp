@@ -44,6 +44,12 @@ void ScriptedDesktop::show_modal(platform::Form& form) {
 
 void ScriptedDesktop::popup_menu(platform::Form&, platform::Menu& menu) { popups.push_back(&menu); }
 
+void ScriptedDesktop::popup_menu_below(platform::Form& form, platform::Menu& menu,
+                                       const platform::Control& control) {
+    popup_menu(form, menu);
+    popup_owner = &control;
+}
+
 BoxAnswer ScriptedDesktop::message_box(const platform::MessageBox& box) {
     boxes.push_back(box);
     const bool expected =

@@ -33,12 +33,16 @@ class ScriptedDesktop : public platform::Desktop {
     platform::Text title;
     platform::Pointer pointer = platform::Pointer::normal;
     std::vector<const platform::Menu*> popups;
+    /// The control that the last menu was opened below.
+    const platform::Control* popup_owner = nullptr;
 
     void prepare(platform::Form& form) override;
     void show(platform::Form& form) override;
     void show_modal(platform::Form& form) override;
     void close(platform::Form&) override {}
     void popup_menu(platform::Form& form, platform::Menu& menu) override;
+    void popup_menu_below(platform::Form& form, platform::Menu& menu,
+                          const platform::Control& control) override;
     platform::BoxAnswer message_box(const platform::MessageBox& box) override;
     void set_pointer(platform::Pointer shape) override { pointer = shape; }
     void set_clipboard(const platform::Text& text) override { clipboard = text; }

@@ -18,17 +18,10 @@ namespace tests {
 
 /// The main window of a user who is logged in, with a send button that works and a draft without recipients.
 struct Sending : TestPlatform {
-    std::vector<int> pages;
-    gateway::ServiceDoors service_doors{.sign_up = {},
-                                        .new_member = {},
-                                        .find_id_or_password = {},
-                                        .service_guide = {},
-                                        .home_page = {},
-                                        .KTSMS_LINK = [this](int page) { pages.push_back(page); }};
     bool nothing_recorded = false;
     std::vector<platform::Text> saved_waves;
 
-    compose::frmZent form{platform, state, service_doors, main_doors()};
+    compose::frmZent form{platform, state, main_doors()};
 
     /// What the last report said, and whether it offered the results.
     std::string report;
@@ -121,7 +114,7 @@ struct Sending : TestPlatform {
 
   private:
     compose::MainDoors main_doors() {
-        return {.send = [this] { send::Command1_Click(platform, state, form, service_doors); },
+        return {.send = [this] { send::Command1_Click(platform, state, form); },
                 .pick_recipients = {},
                 .NEW_SENDMAN_LOAD = {},
                 .message_box = {},

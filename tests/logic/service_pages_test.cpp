@@ -1,0 +1,171 @@
+#include "gateway/service_pages.h"
+
+#include "core/deployment.h"
+#include "core/entry_routine.h"
+#include "gateway/frmAbout.h"
+#include "gateway/frmPondiraReg.h"
+#include "tests/support/main_window.h"
+#include "tests/support/page_reader.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using platform::Text;
+using tests::utf8;
+using Lines = std::vector<std::string>;
+
+struct ServicePages : testing::Test, tests::MainWindow {
+    Lines seen;
+
+    void SetUp() override {
+        core::entry_routine(platform, state, [] {});
+        form.load();
+    }
+    void write_links() {
+        files.files[u"z:\\app\\urllink.ini"] =
+            "[URL]\r\nIDPASSFIND=http://s/find\r\nKTPONDIRA=http://s/\r\nHOME=http://m/\r\n"
+            "RESULT=http://s/result\r\nMEMEDIT=http://s/member\r\nINBOX=http://s/inbox\r\nMONEY=http://s/"
+            "money\r\n";
+    }
+    void log_in_as(platform::TextView user_id) {
+        state.gLoggedIn = true;
+        state.gLoginUserId = user_id;
+        state.gLoginPassword = u"geheim";
+        state.gServiceDomain = u"pondira.example";
+    }
+    std::string open(int page) {
+        seen.clear();
+        tests::read_next_page(desktop, seen);
+        form.KTSMS_LINK(page);
+        return seen.empty() ? "" : seen.front();
+    }
+};
+
+TEST_F(ServicePages, HaveTwoNumbersEachAndAnyOtherNumberIsAnEmptyPage) {
+    write_links();
+    log_in_as(u"demo");
+    const std::string body = "|code=07190533026&userid=demo&domain=pondira.example";
+    const struct {
+        int page;
+        const char* caption_and_address;
+    } rows[] = {
+        {0, "발송결과|http://s/result"},
+        {50, "발송결과|http://s/result"},
+        {1, "요금조회|http://s/money"},
+        {51, "요금조회|http://s/money"},
+        {2, "가입자 정보 변경|http://s/member"},
+        {53, "가입자 정보 변경|http://s/member"},
+        {3, "팩스수신|http://s/inbox"},
+        {52, "팩스수신|http://s/inbox"},
+        {4, "|"},
+        {-1, "|"},
+        {49, "|"},
+        {54, "|"},
+    };
+    for (const auto& row : rows) EXPECT_EQ(open(row.page), row.caption_and_address + body) << row.page;
+}
+
+TEST_F(ServicePages, ArePostedTheUserInRawBytesOfCp949AndNeverAPassword) {
+    const struct {
+        const char16_t* user_id;
+        std::string bytes;
+    } rows[] = {
+        {u"demo", "demo"},
+        {u"홍길동", "\xC8\xAB\xB1\xE6\xB5\xBF"},
+        {u"a b&c=d+%41", "a b&c=d+%41"},
+        {u"", ""},
+    };
+    for (const auto& row : rows) {
+        log_in_as(row.user_id);
+        const std::string body = gateway::post_body(state);
+        EXPECT_EQ(body, "code=07190533026&userid=" + row.bytes + "&domain=pondira.example");
+        EXPECT_EQ(body.find("geheim"), std::string::npos);
+    }
+}
+
+TEST_F(ServicePages, AreToldHowTheBodyIsWrittenAndHoldHandOversOffWhileTheyAreOpen) {
+    log_in_as(u"demo");
+    desktop.in_form<gateway::frmWeb>(u"frmWeb", [&](gateway::frmWeb& web) {
+        EXPECT_EQ(utf8(web.WebBrowser.navigation().header),
+                  "Content-Type: application/x-www-form-urlencoded\r\n");
+        EXPECT_EQ(utf8(web.WebBrowser.navigation().address), "") << "there is no urllink.ini";
+        EXPECT_TRUE(state.gWebFormOpen);
+        web.Command1.Click.raise();
+    });
+    form.KTSMS_LINK(0);
+    EXPECT_FALSE(state.gWebFormOpen);
+}
+
+TEST_F(ServicePages, AskTheUserToLogInFirstAndStayAwayWhenHeGivesUp) {
+    write_links();
+    in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });
+    form.Toolbar1.ButtonClick.raise(compose::RESULTS_BUTTON);
+    EXPECT_EQ(desktop.forms, std::vector<Text>{u"frmZentLogin"});
+
+    log_in(u"hong", u"geheim");
+    EXPECT_EQ(open(0), "발송결과|http://s/result|code=07190533026&userid=hong&domain=pondira.example");
+}
+
+TEST_F(ServicePages, EachLinkReadsItsAddressAtTheClickAndGoesItsWay) {
+    desktop.in_form<gateway::frmAbout>(u"frmAbout", [](gateway::frmAbout& about) {
+        about.Label1_3.Click.raise();
+        EXPECT_TRUE(about.loaded());
+        about.Command1.Click.raise();
+    });
+    in_login([&](gateway::frmZentLogin& login) {
+        tests::read_next_page(desktop, seen);
+        login.Command4.Click.raise();
+        login.Command5.Click.raise();
+        login.escape_pressed();
+    });
+    form.cmdGoPondira.Click.raise();
+    form.TOPLogo.Click.raise();
+    // Without addresses the user's browser opens empty, and the shell gets nothing that it could open.
+    EXPECT_EQ(shell.pages, (std::vector<Text>{u"about:blank", u"about:blank"}));
+
+    write_links();
+    shell.pages.clear();
+    form.cmdGoPondira.Click.raise();
+    form.TOPLogo.Click.raise();
+    form.mnuAbout.Click.raise();
+    form.cmdLogin.Click.raise();
+    EXPECT_EQ(shell.pages, (std::vector<Text>{u"http://s/", u"http://m/", u"http://m/", u"http://s/"}));
+    EXPECT_EQ(seen, Lines{"KT 폰디라 아이디/비밀번호 찾기|http://s/find|"});
+    EXPECT_TRUE(shell.opened.empty());
+}
+
+TEST_F(ServicePages, TheGuidanceHandsOutTheApplicationAndOpensNoPageBehindIt) {
+    const auto guide = [&](gateway::frmPondiraReg& guidance) {
+        EXPECT_EQ(utf8(guidance.caption()), "폰디라-프로(인사이드) 신규회원 가입");
+        EXPECT_EQ(utf8(guidance.Label3.caption()), utf8(core::deployment::contact_phone()));
+        desktop.popups.clear(), shell.pages.clear();
+        guidance.Command1.Click.raise();
+        guidance.Command1.Click.raise();
+        EXPECT_EQ(desktop.popups,
+                  (std::vector{&std::as_const(guidance.mnuDownLoad), &std::as_const(guidance.mnuDownLoad)}));
+        EXPECT_EQ(desktop.popup_owner, &guidance.Command1);
+        EXPECT_TRUE(shell.pages.empty()) << "the button itself fetches nothing";
+
+        guidance.mnuDoc_0.Click.raise();
+        guidance.mnuDoc_1.Click.raise();
+        guidance.mnuDoc_2.Click.raise();
+        guidance.download_doc(3);
+        const Text folder = core::deployment::documents_site();
+        EXPECT_EQ(shell.pages, (std::vector<Text>{folder + u"/Pondira.doc", folder + u"/Pondira.hwp",
+                                                  folder + u"/Pondira.pdf"}));
+        EXPECT_TRUE(guidance.loaded());
+        guidance.Command2.Click.raise();
+    };
+    desktop.in_form<gateway::frmPondiraReg>(u"frmPondiraReg", guide);
+    form.cmdRegister.Click.raise();
+    desktop.in_form<gateway::frmPondiraReg>(u"frmPondiraReg", guide);
+    in_login([](gateway::frmZentLogin& login) {
+        login.Command3.Click.raise();
+        login.escape_pressed();
+    });
+    form.cmdLogin.Click.raise();
+    EXPECT_EQ(desktop.forms, (std::vector<Text>{u"frmPondiraReg", u"frmZentLogin", u"frmPondiraReg"}));
+}
+
+}  // namespace

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "gateway/frmWeb.h"
+#include "tests/support/scripted_desktop.h"
+#include "tests/support/utf8.h"
+
+#include <string>
+#include <vector>
+
+namespace tests {
+
+/// The user looks at the next page of the service that opens and closes it: "caption|address|body" goes into
+/// `seen`, the body as its bytes.
+inline void read_next_page(ScriptedDesktop& desktop, std::vector<std::string>& seen) {
+    desktop.in_form<gateway::frmWeb>(u"frmWeb", [&seen](gateway::frmWeb& web) {
+        const platform::Navigation& navigation = web.WebBrowser.navigation();
+        seen.push_back(utf8(web.caption()) + "|" + utf8(navigation.address) + "|" + navigation.body);
+        web.escape_pressed();
+    });
+}
+
+}  // namespace tests
