@@ -156,6 +156,21 @@ TEST_F(WindowTest, boxes_show_plain_text_korean_buttons_and_give_the_cautious_an
     }
 }
 
+TEST_F(WindowTest, a_menu_opens_right_below_its_control_and_tells_what_was_picked) {
+    bool deleted = false;
+    form.mnuDelete.Click.connect([&] { deleted = true; });
+    const QWidget& control = find("TabStrip1");
+    QTimer::singleShot(0, [&] {
+        QWidget* popup = QApplication::activePopupWidget();
+        ASSERT_NE(popup, nullptr);
+        EXPECT_EQ(popup->geometry().topLeft(), control.mapToGlobal(QPoint(0, control.height())));
+        QTest::keyClick(popup, Qt::Key_Down);
+        QTest::keyClick(popup, Qt::Key_Return);
+    });
+    desktop.popup_menu_below(form, form.mnuSubPopup, form.TabStrip1);
+    EXPECT_TRUE(deleted);
+}
+
 TEST_F(WindowTest, the_hourglass_is_a_state) {
     desktop.set_pointer(platform::Pointer::hourglass);
     desktop.set_pointer(platform::Pointer::hourglass);
