@@ -71,14 +71,10 @@ Answer sign_up_page(const Request& request, const Sources&) {
             << "</td></tr><tr><th>대리점 코드</th><td>" << code
             << "</td></tr></tbody></table></div>\n"
                "<h2>가입 절차</h2><div class=\"card text\"><ol>"
-               "<li>아래에서 가입신청서를 받아 작성합니다.</li>"
+               "<li>프로그램의 [신규회원 가입] 창에서 가입신청서를 받아 작성합니다.</li>"
                "<li>결제방법에 '전화요금합산청구'를 선택합니다.</li>"
                "<li>작성하신 신청서를 팩스 02-000-0001로 보내 주십시오.</li>"
-               "<li>확인 전화를 받으신 후 바로 이용하실 수 있습니다.</li></ol></div>\n"
-               "<h2>가입신청서</h2><div class=\"card text\"><p>"
-               "<a class=\"button\" href=\"/download/Pondira.doc\">워드문서(DOC)</a> "
-               "<a class=\"button\" href=\"/download/Pondira.hwp\">한글문서(HWP)</a> "
-               "<a class=\"button\" href=\"/download/Pondira.pdf\">PDF문서(PDF)</a></p></div>\n";
+               "<li>확인 전화를 받으신 후 바로 이용하실 수 있습니다.</li></ol></div>\n";
     return page("신규회원 가입", content);
 }
 
