@@ -3,9 +3,10 @@
 
 def play(desk):
     main = desk.window("[문자메시지]")
+    subject = desk.find("발송제목", "text", main).queryText().getText(0, -1)
     desk.click(desk.find("발송결과", "push button", main))
     page = desk.window_called("발송결과")
-    desk.find("[길동상사] 안녕하세요. 오", "link", page)
+    desk.find(subject, "link", page)
     desk.find("등록성공", "label", page)
     desk.picture("results")
     desk.keys("Escape")
