@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ini/ini_settings.h"
+#include "platform/jet/jet_card_source.h"
 #include "platform/ports/platform.h"
 #include "platform/posix/posix_carrier_library.h"
 #include "platform/posix/posix_files.h"
@@ -17,17 +18,20 @@ struct Machine {
             platform::Clock& clock)
         : files(std::move(machine_files)),
           shell(paths),
+          cards(paths),
           platform{.desktop = desktop,
                    .clock = clock,
                    .files = files,
                    .settings = settings,
                    .shell = shell,
-                   .carrier = carrier} {}
+                   .carrier = carrier,
+                   .cards = cards} {}
 
     platform::posix::PosixFiles files;
     platform::IniSettings settings{files};
     platform::posix::PosixShell shell;
     platform::posix::PosixCarrierLibrary carrier;
+    platform::jet::JetCardSource cards;
     platform::qt::Screens screens = platform::qt::program_screens();
     platform::qt::QtDesktop desktop{screens, files};
     platform::Platform platform;

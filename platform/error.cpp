@@ -37,6 +37,18 @@ Text description_of(ErrorNumber number) {
             return u"지정한 DLL 함수를 찾을 수 없습니다.";
         case ErrorNumber::dialog_cancelled:
             return u"취소를 선택했습니다.";
+        case ErrorNumber::no_current_record:
+            return u"현재 레코드가 없습니다.";
+        case ErrorNumber::no_such_field:
+            return u"요청한 이름의 항목을 찾을 수 없습니다.";
+        case ErrorNumber::connection_closed:
+            return u"연결이 닫혀 있어 이 작업을 할 수 없습니다.";
+        case ErrorNumber::database_unusable:
+            return u"데이터베이스를 열 수 없습니다.";
+        case ErrorNumber::wrong_database_password:
+            return u"데이터베이스 암호가 올바르지 않습니다.";
+        case ErrorNumber::broken_statement:
+            return u"SQL 문에 구문 오류가 있습니다.";
     }
     return u"응용 프로그램 정의 오류 또는 개체 정의 오류입니다.";
 }

@@ -23,6 +23,13 @@ enum class ErrorNumber {
     no_such_export = 453,
     library_not_loaded = 48,
     dialog_cancelled = 32755,
+    // Of the card database, as its provider numbers them.
+    no_current_record = 3021,
+    no_such_field = 3265,
+    connection_closed = 3709,
+    database_unusable = -2147467259,
+    wrong_database_password = -2147217843,
+    broken_statement = -2147217900,
 };
 
 /// A failure inside the system: a classic number and a Korean description, as an error box shows them.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ports/card_source.h"
 #include "platform/ports/carrier_library.h"
 #include "platform/ports/clock.h"
 #include "platform/ports/desktop.h"
@@ -17,6 +18,7 @@ struct Platform {
     Settings& settings;
     Shell& shell;
     CarrierLibrary& carrier;
+    CardSource& cards;
 };
 
 }  // namespace platform

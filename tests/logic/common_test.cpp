@@ -123,7 +123,7 @@ TEST_F(Paths, AnErrorOfTheDiskMeansThatTheFileIsNotThere) {
             throw platform::RuntimeError(platform::ErrorNumber::bad_file_name);
         }
     } broken;
-    const platform::Platform machine{desktop, clock, broken, settings, shell, carrier};
+    const platform::Platform machine{desktop, clock, broken, settings, shell, carrier, cards};
     EXPECT_FALSE(FILE_EXISTS(machine, u"a<b"));
 }
 

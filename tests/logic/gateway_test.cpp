@@ -80,7 +80,8 @@ struct Wrappers : testing::Test, TestPlatform {
                                .files = files,
                                .settings = settings,
                                .shell = shell,
-                               .carrier = library};
+                               .carrier = library,
+                               .cards = cards};
     Gateway carrier_gateway{machine, state};
 
     struct Wrapper {

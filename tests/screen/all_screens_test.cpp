@@ -34,7 +34,8 @@ struct System {
                                 .files = machine.files,
                                 .settings = machine.settings,
                                 .shell = machine.shell,
-                                .carrier = machine.carrier};
+                                .carrier = machine.carrier,
+                                .cards = machine.cards};
     compose::frmZent main{platform, machine.state, compose::MainDoors{}};
 
     std::vector<std::unique_ptr<Form>> dialogs() {

@@ -135,13 +135,15 @@ struct Draft {
     platform::IniSettings settings{files};
     RecordingShell shell;
     RecordingCarrier carrier;
+    ScriptedCards cards;
     platform::qt::QtDesktop desktop{screens, files};
     platform::Platform platform{.desktop = desktop,
                                 .clock = clock,
                                 .files = files,
                                 .settings = settings,
                                 .shell = shell,
-                                .carrier = carrier};
+                                .carrier = carrier,
+                                .cards = cards};
     core::AppState state;
     InputMethod method;
     int kind;

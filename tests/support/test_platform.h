@@ -5,6 +5,7 @@
 #include "platform/ports/platform.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/recording_carrier.h"
+#include "tests/support/scripted_cards.h"
 #include "tests/support/scripted_desktop.h"
 #include "tests/support/virtual_clock.h"
 
@@ -27,12 +28,14 @@ struct TestPlatform {
     platform::IniSettings settings{files};
     RecordingShell shell;
     RecordingCarrier carrier;
+    ScriptedCards cards;
     platform::Platform platform{.desktop = desktop,
                                 .clock = clock,
                                 .files = files,
                                 .settings = settings,
                                 .shell = shell,
-                                .carrier = carrier};
+                                .carrier = carrier,
+                                .cards = cards};
     core::AppState state;
 
     platform::Text app_ini = u"z:\\app\\zent.ini";

@@ -1,0 +1,195 @@
+#include "platform/jet/card_database.h"
+
+#include "platform/error.h"
+#include "platform/jet/like_pattern.h"
+#include "platform/jet/statement.h"
+
+#include <cstring>
+#include <limits>
+#include <sqlite3.h>
+#include <string>
+
+namespace platform::jet {
+
+namespace {
+
+/// Between two looks at the clock.
+constexpr int OPCODES_A_BEAT = 1000;
+
+int beat(void* heartbeat) {
+    static_cast<Heartbeat*>(heartbeat)->beat();
+    return 0;
+}
+
+TextView text_of(sqlite3_value* value) {
+    const auto* units = static_cast<const char16_t*>(sqlite3_value_text16(value));
+    return units == nullptr ? TextView()
+                            : TextView(units, static_cast<std::size_t>(sqlite3_value_bytes16(value)) / 2);
+}
+
+/// `x LIKE y` by the rules of the card manager's database; SQLite calls like(y, x).
+void like(sqlite3_context* context, int, sqlite3_value** arguments) {
+    if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL)
+        return sqlite3_result_null(context);
+    auto* pattern = static_cast<LikePattern*>(sqlite3_get_auxdata(context, 0));
+    if (pattern == nullptr) {
+        auto parsed = LikePattern::parse(text_of(arguments[0]));
+        if (!parsed) return sqlite3_result_error(context, "broken pattern", -1);
+        pattern = new LikePattern(std::move(*parsed));
+        sqlite3_result_int(context, pattern->matches(text_of(arguments[1])));
+        // SQLite keeps it from row to row, or may delete it at once.
+        return sqlite3_set_auxdata(context, 0, pattern,
+                                   [](void* kept) { delete static_cast<LikePattern*>(kept); });
+    }
+    sqlite3_result_int(context, pattern->matches(text_of(arguments[1])));
+}
+
+/// What the user types becomes part of a statement: statements read the two tables and do nothing else.
+int only_reading(void*, int action, const char*, const char* function, const char*, const char*) {
+    if (action == SQLITE_SELECT || action == SQLITE_READ) return SQLITE_OK;
+    const bool known = action == SQLITE_FUNCTION &&
+                       (sqlite3_stricmp(function, "count") == 0 || sqlite3_stricmp(function, "like") == 0);
+    return known ? SQLITE_OK : SQLITE_DENY;
+}
+
+std::string creation_of(Table table) {
+    constexpr const char* TYPES[] = {" INTEGER", " TEXT", " MEMO"};
+    std::string columns;
+    for (const Column& column : columns_of(table)) {
+        columns +=
+            (columns.empty() ? "" : ",") + std::string(column.name) + TYPES[static_cast<int>(column.kind)];
+    }
+    return "CREATE TABLE " + std::string(name_of(table)) + "(" + columns + ")";
+}
+
+Text insertion_of(Table table) {
+    std::string values = "?";
+    for (std::size_t i = 1; i < columns_of(table).size(); ++i) values += ",?";
+    return from_ascii("INSERT INTO " + std::string(name_of(table)) + " VALUES(" + values + ")");
+}
+
+/// The type of a column by the declaration of what it was fetched from; a result of counting is a number.
+int type_of(sqlite3_stmt* statement, int column) {
+    const char* declared = sqlite3_column_decltype(statement, column);
+    if (declared == nullptr || std::strcmp(declared, "INTEGER") == 0) return FIELD_LONG;
+    return std::strcmp(declared, "MEMO") == 0 ? FIELD_MEMO : FIELD_TEXT;
+}
+
+void add_value(CardRows& rows, sqlite3_stmt* statement, int column) {
+    switch (sqlite3_column_type(statement, column)) {
+        case SQLITE_NULL:
+            return rows.add_null();
+        case SQLITE_INTEGER:
+            return rows.add_number(sqlite3_column_int(statement, column));
+        default:
+            const auto* units = static_cast<const char16_t*>(sqlite3_column_text16(statement, column));
+            if (units == nullptr) throw RuntimeError(ErrorNumber::out_of_memory);
+            const int bytes = sqlite3_column_bytes16(statement, column);
+            return rows.add_text(TextView(units, static_cast<std::size_t>(bytes) / 2));
+    }
+}
+
+}  // namespace
+
+void CardDatabase::Close::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
+void CardDatabase::Finish::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+
+CardDatabase::CardDatabase(std::shared_ptr<Heartbeat> heartbeat) : heartbeat_(std::move(heartbeat)) {
+    sqlite3* opened = nullptr;
+    const int result = sqlite3_open(":memory:", &opened);
+    database_.reset(opened);
+    if (result != SQLITE_OK) throw RuntimeError(ErrorNumber::out_of_memory);
+
+    // Otherwise a name in quotes that nothing has would count as a text.
+    sqlite3_db_config(opened, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_progress_handler(opened, OPCODES_A_BEAT, beat, heartbeat_.get());
+    sqlite3_create_function(opened, "like", 2, SQLITE_UTF16 | SQLITE_DETERMINISTIC, nullptr, like, nullptr,
+                            nullptr);
+
+    execute("PRAGMA encoding='UTF-16'");
+    execute("PRAGMA journal_mode=OFF");
+    for (const Table table : TABLES) execute(creation_of(table).c_str());
+    execute("BEGIN");
+    for (const Table table : TABLES)
+        insertions_[static_cast<std::size_t>(table)] = prepare(insertion_of(table));
+}
+
+CardDatabase::~CardDatabase() = default;
+
+void CardDatabase::add(Table table, const Row& row) {
+    sqlite3_stmt* insertion = insertions_[static_cast<std::size_t>(table)].get();
+    for (int i = 0; i < static_cast<int>(columns_of(table).size()); ++i) {
+        const Cell& cell = row[static_cast<std::size_t>(i)];
+        if (const auto* number = std::get_if<std::int32_t>(&cell)) {
+            sqlite3_bind_int(insertion, i + 1, *number);
+        } else if (const auto* text = std::get_if<TextView>(&cell)) {
+            // Without an address it would be NULL.
+            sqlite3_bind_text16(insertion, i + 1, text->empty() ? u"" : text->data(),
+                                static_cast<int>(text->size() * sizeof(char16_t)), SQLITE_STATIC);
+        } else {
+            sqlite3_bind_null(insertion, i + 1);
+        }
+    }
+    step(insertion);
+    sqlite3_reset(insertion);
+}
+
+void CardDatabase::all_added() {
+    insertions_ = {};
+    execute("COMMIT");
+    // One folder's cards and their number, and all cards in their order, are found without looking at or
+    // sorting everything.
+    execute("CREATE INDEX folder_by_number ON tbl_folder(f_idx)");
+    execute("CREATE INDEX card_by_folder ON tbl_namecard(f_idx,i_idx)");
+    execute("CREATE INDEX card_by_order ON tbl_namecard(i_idx)");
+    sqlite3_set_authorizer(database_.get(), only_reading, nullptr);
+}
+
+std::shared_ptr<const CardRows> CardDatabase::run(const Text& statement) {
+    const Statement prepared = prepare(sqlite_statement(statement));
+    if (!prepared || sqlite3_bind_parameter_count(prepared.get()) > 0)
+        throw RuntimeError(ErrorNumber::broken_statement);
+
+    const int count = sqlite3_column_count(prepared.get());
+    std::vector<CardRows::Column> columns;
+    for (int i = 0; i < count; ++i) {
+        columns.push_back({from_utf8(sqlite3_column_name(prepared.get(), i)), type_of(prepared.get(), i)});
+    }
+    auto rows = std::make_shared<CardRows>(std::move(columns));
+    while (step(prepared.get())) {
+        for (int i = 0; i < count; ++i) add_value(*rows, prepared.get(), i);
+        heartbeat_->beat();
+    }
+    return rows;
+}
+
+void CardDatabase::execute(const char* sql) {
+    if (sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw RuntimeError(ErrorNumber::out_of_memory);
+}
+
+/// A statement with something behind it counts as broken.
+CardDatabase::Statement CardDatabase::prepare(const Text& sql) {
+    if (sql.size() > std::numeric_limits<int>::max() / sizeof(char16_t))
+        throw RuntimeError(ErrorNumber::broken_statement);
+    sqlite3_stmt* prepared = nullptr;
+    const void* rest = nullptr;
+    const int result = sqlite3_prepare16_v2(
+        database_.get(), sql.data(), static_cast<int>(sql.size() * sizeof(char16_t)), &prepared, &rest);
+    Statement statement(prepared);
+    if (result == SQLITE_NOMEM) throw RuntimeError(ErrorNumber::out_of_memory);
+    if (result != SQLITE_OK || rest != sql.data() + sql.size())
+        throw RuntimeError(ErrorNumber::broken_statement);
+    return statement;
+}
+
+/// Returns whether there is a row.
+bool CardDatabase::step(sqlite3_stmt* statement) {
+    const int result = sqlite3_step(statement);
+    if (result == SQLITE_ROW) return true;
+    if (result == SQLITE_NOMEM) throw RuntimeError(ErrorNumber::out_of_memory);
+    if (result != SQLITE_DONE) throw RuntimeError(ErrorNumber::broken_statement);
+    return false;
+}
+
+}  // namespace platform::jet

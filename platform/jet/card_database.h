@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/jet/card_rows.h"
+#include "platform/jet/card_stream.h"
+#include "platform/jet/heartbeat.h"
+
+#include <array>
+#include <memory>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace platform::jet {
+
+/// The card manager's two tables in memory, on which its statements run.
+class CardDatabase {
+  public:
+    explicit CardDatabase(std::shared_ptr<Heartbeat> heartbeat);
+    ~CardDatabase();
+    CardDatabase(const CardDatabase&) = delete;
+    CardDatabase& operator=(const CardDatabase&) = delete;
+
+    /// Rows are added in the file's order, all of them before the first statement.
+    void add(Table table, const Row& row);
+    void all_added();
+
+    /// Raises RuntimeError for a statement that is broken, names what is not there or would do more than
+    /// read.
+    std::shared_ptr<const CardRows> run(const Text& statement);
+
+  private:
+    struct Close {
+        void operator()(sqlite3* database) const;
+    };
+    struct Finish {
+        void operator()(sqlite3_stmt* statement) const;
+    };
+    using Statement = std::unique_ptr<sqlite3_stmt, Finish>;
+
+    void execute(const char* sql);
+    Statement prepare(const Text& sql);
+    bool step(sqlite3_stmt* statement);
+
+    std::shared_ptr<Heartbeat> heartbeat_;
+    std::unique_ptr<sqlite3, Close> database_;
+    std::array<Statement, std::size(TABLES)> insertions_;
+};
+
+}  // namespace platform::jet

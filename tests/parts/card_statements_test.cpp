@@ -1,0 +1,281 @@
+#include "platform/error.h"
+#include "tests/parts/card_fixtures.h"
+#include "tests/support/utf8.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace platform;
+using tests::CardsOnDisk;
+using tests::CardTable;
+using tests::utf8;
+
+const Text FOLDERS = u"SELECT folder_name,f_idx,p_idx FROM [tbl_folder] order by f_idx asc";
+const Text USUAL_FOLDERS =
+    u"SELECT f_idx FROM tbl_folder where f_idx <> 1000 and p_idx <> 1000 order by f_idx";
+const Text CARD_COLUMNS_1 =
+    u"SELECT a.f_idx,a.p_idx,i_idx,FullName,CompanyName,Department,JobTitle,Company_addr,Company_zipcode,"
+    u"Cellphone,Beeper,Email,Email2,";
+const Text CARD_COLUMNS_2 = u"Company_phone1,Company_phone2,Company_fax1,Webpage,Memo_,b.folder_name FROM ";
+const Text CARD_COLUMNS_3 =
+    u"Company_phone1,Company_phone2,Company_fax1,Webpage,Memo_,Fname,Fname_photo,b.folder_name FROM ";
+const Text JOINED = u" a left outer JOIN [tbl_folder] b on a.f_idx=b.f_idx Where ";
+const Text IN_ORDER = u" ORDER BY [a.i_idx] asc";
+
+Text cards_of_folder(int folder) {
+    return CARD_COLUMNS_1 + CARD_COLUMNS_3 + u"[tbl_namecard]" + JOINED + u"[a.f_idx]=" + decimal(folder) +
+           u" AND [a.p_idx]=0" + IN_ORDER;
+}
+/// All cards, or those of a filter, for which the condition holds.
+Text cards_where(const Text& condition, const Text& filter = u"") {
+    const Text from =
+        filter.empty() ? u"[tbl_namecard]" : u"(select * from [tbl_namecard] where " + filter + u")";
+    return CARD_COLUMNS_1 + CARD_COLUMNS_2 + from + JOINED + condition + IN_ORDER;
+}
+Text matching(const Text& pattern) {
+    return u"([a.CompanyName] LIKE '" + pattern + u"' OR [a.FullName] LIKE '" + pattern +
+           u"') AND [a.p_idx]=0";
+}
+Text count_of(int folder) {
+    return u"SELECT COUNT(*) as RNO FROM [tbl_namecard] WHERE [f_idx]=" + decimal(folder);
+}
+Text filter_of(const std::vector<int>& folders) {
+    Text filter;
+    for (const int folder : folders) filter += (filter.empty() ? u"f_idx=" : u" or f_idx=") + decimal(folder);
+    return filter;
+}
+
+/// A value as the fixtures write it.
+std::optional<Text> value_of(const CardField& field) {
+    if (const auto* number = std::get_if<std::int32_t>(&field.value)) return decimal(*number);
+    if (const auto* text = std::get_if<Text>(&field.value)) return *text;
+    return std::nullopt;
+}
+std::string shown(const std::optional<Text>& value) { return value ? "'" + utf8(*value) + "'" : "NULL"; }
+
+/// The values of the columns, row by row.
+std::vector<std::string> rows_of(CardConnection& connection, const Text& statement,
+                                 const std::vector<Text>& columns) {
+    const auto recordset = connection.open_recordset(statement);
+    std::vector<std::string> rows;
+    for (; !recordset->end_of_file(); recordset->move_next()) {
+        std::string row;
+        for (const Text& column : columns) row += shown(value_of(recordset->field(column))) + " ";
+        rows.push_back(row);
+    }
+    EXPECT_EQ(static_cast<int>(rows.size()), recordset->record_count());
+    return rows;
+}
+
+const std::vector<Text> CARD_FIELDS = {
+    u"f_idx",    u"p_idx",          u"i_idx",           u"FullName",     u"CompanyName", u"Department",
+    u"JobTitle", u"Company_addr",   u"Company_zipcode", u"Cellphone",    u"Beeper",      u"Email",
+    u"Email2",   u"Company_phone1", u"Company_phone2",  u"Company_fax1", u"Webpage"};
+
+using Keep = std::function<bool(const CardTable::Row& row)>;
+
+/// What the table's rows that are kept show in the columns, in the order of `order`.
+std::vector<std::string> expected(const CardTable& table, const std::vector<Text>& columns, TextView order,
+                                  const Keep& keep) {
+    std::vector<CardTable::Row> kept;
+    std::ranges::copy_if(table.rows, std::back_inserter(kept), keep);
+    if (!order.empty()) {
+        std::ranges::stable_sort(kept, {}, [&](const auto& row) { return table.number(row, order); });
+    }
+    std::vector<std::string> rows;
+    for (const auto& row : kept) {
+        std::string shown_row;
+        for (const Text& column : columns) shown_row += shown(table.at(row, column)) + " ";
+        rows.push_back(shown_row);
+    }
+    return rows;
+}
+
+bool always(const CardTable::Row&) { return true; }
+
+TEST(CardStatements, EveryFieldComesAsTheFileHasIt) {
+    CardsOnDisk disk;
+    std::vector<Text> columns = CARD_FIELDS;
+    columns.insert(columns.end(), {u"Fname", u"Fname_photo"});
+    for (const std::string name : {"demo", "edge", "empty", "nofolders", "orphan"}) {
+        disk.put(name);
+        const auto connection = disk.connect();
+        EXPECT_EQ(
+            rows_of(*connection, u"select * from tbl_folder", {u"f_idx", u"p_idx", u"folder_name"}),
+            expected(CardTable(name + ".tbl_folder"), {u"f_idx", u"p_idx", u"folder_name"}, u"", always))
+            << name;
+        EXPECT_EQ(rows_of(*connection, u"select * from tbl_namecard", columns),
+                  expected(CardTable(name + ".tbl_namecard"), columns, u"", always))
+            << name;
+    }
+}
+
+TEST(CardStatements, ListFoldersAndCountAndListCards) {
+    CardsOnDisk disk;
+    for (const std::string name : {"demo", "edge", "empty", "nofolders", "orphan"}) {
+        disk.put(name);
+        const auto connection = disk.connect();
+        const CardTable folders(name + ".tbl_folder"), cards(name + ".tbl_namecard");
+
+        EXPECT_EQ(rows_of(*connection, FOLDERS, {u"folder_name", u"f_idx", u"p_idx"}),
+                  expected(folders, {u"folder_name", u"f_idx", u"p_idx"}, u"f_idx", always));
+        EXPECT_EQ(rows_of(*connection, USUAL_FOLDERS, {u"f_idx"}),
+                  expected(folders, {u"f_idx"}, u"f_idx", [&](const auto& row) {
+                      return folders.number(row, u"f_idx") != 1000 && folders.number(row, u"p_idx") != 1000;
+                  }));
+
+        std::vector<int> all_folders = {-1, 4242};
+        for (const auto& row : folders.rows) all_folders.push_back(folders.number(row, u"f_idx"));
+        for (const int folder : all_folders) {
+            const Keep in_folder = [&](const auto& row) { return cards.number(row, u"f_idx") == folder; };
+            EXPECT_EQ(rows_of(*connection, count_of(folder), {u"RNo"}),
+                      std::vector{shown(decimal(std::ranges::count_if(cards.rows, in_folder))) + " "});
+            EXPECT_EQ(rows_of(*connection, cards_of_folder(folder), CARD_FIELDS),
+                      expected(cards, CARD_FIELDS, u"i_idx", [&](const auto& row) {
+                          return in_folder(row) && cards.number(row, u"p_idx") == 0;
+                      }));
+        }
+
+        const std::vector<int> some = {all_folders.begin() + 1, all_folders.end()};
+        const Keep listed = [&](const auto& row) { return cards.number(row, u"p_idx") == 0; };
+        EXPECT_EQ(rows_of(*connection, cards_where(u"[a.p_idx]=0"), CARD_FIELDS),
+                  expected(cards, CARD_FIELDS, u"i_idx", listed));
+        EXPECT_EQ(rows_of(*connection, cards_where(u"[a.p_idx]=0", filter_of(some)), CARD_FIELDS),
+                  expected(cards, CARD_FIELDS, u"i_idx", [&](const auto& row) {
+                      return listed(row) && std::ranges::count(some, cards.number(row, u"f_idx")) > 0;
+                  }));
+    }
+}
+
+TEST(CardStatements, SearchesMatchNamesAndCompaniesInEveryMode) {
+    CardsOnDisk disk;
+    disk.put("edge");
+    const auto connection = disk.connect();
+    const CardTable cards("edge.tbl_namecard");
+
+    // Without a wild card in it, a text is looked for in the plain way.
+    const std::vector<int> folders = {10, 20, 40, 60, 61, 62, 63};
+    int hits = 0;
+    for (const Text typed :
+         {u"한", u"김", u"jo", u"It", u"회사", u"이름회사", u"없는이름", u"이름 또는 회사"}) {
+        const auto column_matches = [&](const auto& row, TextView column, int mode) {
+            const auto& value = cards.at(row, column);
+            if (!value) return false;
+            const Text lower = lower_case(*value), wanted = lower_case(typed);
+            if (mode == 0) return lower.starts_with(wanted);
+            return mode == 1 ? contains(lower, wanted) : lower == wanted;
+        };
+        const Text patterns[] = {typed + u"%", u"%" + typed + u"%", typed};
+        for (int mode = 0; mode < 3; ++mode) {
+            const Keep found = [&](const auto& row) {
+                return cards.number(row, u"p_idx") == 0 &&
+                       (column_matches(row, u"CompanyName", mode) || column_matches(row, u"FullName", mode));
+            };
+            const auto everywhere = rows_of(*connection, cards_where(matching(patterns[mode])), CARD_FIELDS);
+            EXPECT_EQ(everywhere, expected(cards, CARD_FIELDS, u"i_idx", found)) << utf8(patterns[mode]);
+            hits += static_cast<int>(everywhere.size());
+            EXPECT_EQ(
+                rows_of(*connection, cards_where(matching(patterns[mode]), filter_of(folders)), CARD_FIELDS),
+                expected(cards, CARD_FIELDS, u"i_idx", [&](const auto& row) {
+                    return found(row) && std::ranges::count(folders, cards.number(row, u"f_idx")) > 0;
+                }));
+        }
+    }
+    EXPECT_GT(hits, 100);
+
+    const auto companies = [&](const Text& pattern) {
+        std::string joined;
+        for (const auto& row : rows_of(*connection, cards_where(matching(pattern)), {u"CompanyName"}))
+            joined += row;
+        return joined;
+    };
+    const std::string every_listed_one = companies(u"%");
+    EXPECT_EQ(companies(u"_%"), companies(u"%_%"));
+    EXPECT_NE(companies(u"_%"), every_listed_one) << "an empty text is no NULL";
+    EXPECT_EQ(companies(u"%%"), every_listed_one) << "typing a wild card finds everything";
+    EXPECT_EQ(companies(u"100[%] 한우"), "'100% 한우' ");
+    EXPECT_EQ(companies(u"it''s 100[%][_]o%"), "'It's 100%_ok' ");
+}
+
+TEST(CardStatements, OnlyReadAndAreRefusedWhenBroken) {
+    CardsOnDisk disk;
+    disk.put("edge");
+    const auto connection = disk.connect();
+    for (const Text& broken :
+         {cards_where(matching(u"O'Brien%")), cards_where(matching(u"[%")), cards_where(u""),
+          cards_where(u"[a.p_idx]=0", u"f_idx= or f_idx=2"), Text(u""),
+          Text(u"select nothing from tbl_folder"), Text(u"select * from tbl_cards"),
+          Text(u"select 1; select 2"), Text(u"select ?"), Text(u"delete from tbl_folder"),
+          Text(u"drop table tbl_folder"), Text(u"pragma encoding"), Text(u"attach ':memory:' as x"),
+          Text(u"select randomblob(9)"),
+          Text(u"select * from sqlite_master a, pragma_table_info('tbl_folder')"),
+          Text(u"with recursive x(n) as (select 1 union all select n+1 from x) select n from x")}) {
+        EXPECT_EQ(tests::error_number([&] { connection->open_recordset(broken); }), -2147217900)
+            << utf8(broken);
+    }
+    EXPECT_EQ(connection->open_recordset(FOLDERS)->record_count(), 23);
+
+    connection->close();
+    EXPECT_EQ(connection->state(), CONNECTION_CLOSED);
+    EXPECT_EQ(tests::error_number([&] { connection->open_recordset(FOLDERS); }), 3709);
+}
+
+TEST(CardStatements, GiveFieldsByNameInAnyCaseWithTheProvidersTypes) {
+    CardsOnDisk disk;
+    disk.put("edge");
+    const auto connection = disk.connect();
+    const auto count = connection->open_recordset(count_of(10));
+    EXPECT_EQ(count->field(u"rno").type, FIELD_LONG);
+    const auto cards = connection->open_recordset(cards_where(u"[a.p_idx]=0", u"f_idx=10"));
+    EXPECT_EQ(cards->field(u"F_IDX").type, FIELD_LONG);
+    EXPECT_EQ(cards->field(u"fullname").type, FIELD_TEXT);
+    EXPECT_EQ(cards->field(u"Memo_").type, FIELD_MEMO);
+    EXPECT_EQ(tests::error_number([&] { cards->field(u"Company_fax2"); }), 3265);
+    while (!cards->end_of_file()) cards->move_next();
+    EXPECT_EQ(tests::error_number([&] { cards->field(u"FullName"); }), 3021);
+    EXPECT_EQ(tests::error_number([&] { cards->move_next(); }), 3021);
+}
+
+TEST(CardStatements, TakeAFilterOfTenThousandFolders) {
+    CardsOnDisk disk;
+    disk.put("edge");
+    const auto connection = disk.connect();
+    std::vector<int> folders(10'000);
+    for (std::size_t i = 0; i < folders.size(); ++i) folders[i] = static_cast<int>(i);
+    const CardTable cards("edge.tbl_namecard");
+    EXPECT_EQ(rows_of(*connection, cards_where(u"[a.p_idx]=0", filter_of(folders)), CARD_FIELDS),
+              expected(cards, CARD_FIELDS, u"i_idx", [&](const auto& row) {
+                  const int folder = cards.number(row, u"f_idx");
+                  return cards.number(row, u"p_idx") == 0 && folder >= 0 && folder < 10'000;
+              }));
+}
+
+TEST(CardStatements, KeepTheFilesOrderAmongCardsOfOnePlace) {
+    jet::CardDatabase cards(std::make_shared<jet::Heartbeat>(nullptr));
+    cards.add(jet::Table::folder, {1, 0, TextView(u"전체")});
+    Text every_second, all;
+    for (int i = 0; i < 1000; ++i) {
+        const Text name = decimal(i);
+        cards.add(jet::Table::card, {i % 2 == 0 ? 9 : 8 - i % 5, 0, 7, TextView(name)});
+        all += name + u" ";
+        if (i % 2 == 0) every_second += name + u" ";
+    }
+    cards.all_added();
+    const auto names = [&](const Text& statement) {
+        const auto rows = cards.run(statement);
+        Text joined;
+        for (std::size_t i = 0; i < rows->size(); ++i)
+            joined += std::get<Text>(rows->field(i, rows->column(u"FullName").value()).value) + u" ";
+        return utf8(joined);
+    };
+    EXPECT_EQ(names(cards_of_folder(9)), utf8(every_second));
+    EXPECT_EQ(names(cards_where(u"[a.p_idx]=0")), utf8(all));
+    EXPECT_EQ(
+        names(cards_where(u"[a.p_idx]=0", u"f_idx=9 or f_idx=8 or f_idx=7 or f_idx=6 or f_idx=5 or f_idx=4")),
+        utf8(all));
+    EXPECT_EQ(names(cards_where(matching(u"%"), u"f_idx=9")), utf8(every_second));
+}
+
+}  // namespace
