@@ -29,13 +29,7 @@ struct System {
     TestPlatform machine;
     platform::qt::Screens screens = platform::qt::program_screens();
     platform::qt::QtDesktop desktop{screens, machine.files};
-    platform::Platform platform{.desktop = desktop,
-                                .clock = machine.clock,
-                                .files = machine.files,
-                                .settings = machine.settings,
-                                .shell = machine.shell,
-                                .carrier = machine.carrier,
-                                .cards = machine.cards};
+    platform::Platform platform = machine.on(desktop);
     compose::frmZent main{platform, machine.state, compose::MainDoors{}};
 
     std::vector<std::unique_ptr<Form>> dialogs() {

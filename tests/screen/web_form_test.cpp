@@ -24,12 +24,7 @@ struct WebForm : tests::DeskTest {
     TestPlatform machine;
     platform::qt::Screens screens = platform::qt::program_screens();
     platform::qt::QtDesktop desktop{screens, machine.files};
-    platform::Platform platform{.desktop = desktop,
-                                .clock = machine.clock,
-                                .files = machine.files,
-                                .settings = machine.settings,
-                                .shell = machine.shell,
-                                .carrier = machine.carrier};
+    platform::Platform platform = machine.on(desktop);
     std::unique_ptr<gateway::frmWeb> form;
 };
 

@@ -29,15 +29,20 @@ struct TestPlatform {
     RecordingShell shell;
     RecordingCarrier carrier;
     ScriptedCards cards;
-    platform::Platform platform{.desktop = desktop,
-                                .clock = clock,
-                                .files = files,
-                                .settings = settings,
-                                .shell = shell,
-                                .carrier = carrier,
-                                .cards = cards};
+    platform::Platform platform = on(desktop);
     core::AppState state;
 
     platform::Text app_ini = u"z:\\app\\zent.ini";
     platform::Text login_ini = u"z:\\windows\\zent.ini";
+
+    /// The same machine with another desktop.
+    platform::Platform on(platform::Desktop& other) {
+        return {.desktop = other,
+                .clock = clock,
+                .files = files,
+                .settings = settings,
+                .shell = shell,
+                .carrier = carrier,
+                .cards = cards};
+    }
 };

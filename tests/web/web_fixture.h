@@ -23,12 +23,7 @@ struct WebForm {
     TestPlatform machine;
     platform::qt::Screens screens = platform::qt::program_screens();
     platform::qt::QtDesktop desktop{screens, machine.files};
-    platform::Platform platform{.desktop = desktop,
-                                .clock = machine.clock,
-                                .files = machine.files,
-                                .settings = machine.settings,
-                                .shell = machine.shell,
-                                .carrier = machine.carrier};
+    platform::Platform platform = machine.on(desktop);
     gateway::frmWeb form{platform, machine.state};
 
     ~WebForm();
