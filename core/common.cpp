@@ -30,6 +30,10 @@ Text usable_digits(TextView number) {
     return digits;
 }
 
+/// The types whose texts are padded with blanks. Deliberately not those that the card database has: a name
+/// with blanks at its end keeps them in every list.
+constexpr int PADDED_TYPES[] = {10, 12};
+
 }  // namespace
 
 std::size_t BYTE_LEN(TextView text) { return platform::cp949_length(text); }
@@ -58,6 +62,13 @@ bool FAX_NUMBER_OK(TextView number) {
     if (digits.empty() || begins_with_one_of(digits, MOBILE_CODES)) return false;
     if (digits.size() < 6) return true;
     return !digits.starts_with(u"03030") && !digits.starts_with(u"0502") && !digits.starts_with(u"0505");
+}
+
+Text FIELD_VALUE(const platform::CardField& field) {
+    if (const auto* number = std::get_if<std::int32_t>(&field.value)) return platform::decimal(*number);
+    const auto* text = std::get_if<Text>(&field.value);
+    if (text == nullptr) return Text();
+    return std::ranges::count(PADDED_TYPES, field.type) > 0 ? platform::right_trim(*text) : *text;
 }
 
 }  // namespace core

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ports/card_source.h"
 #include "platform/text/text.h"
 
 namespace core {
@@ -18,5 +19,8 @@ bool TEXT_NUMBER_OK(platform::TextView number);
 
 /// Whether the number may receive fax messages: neither a mobile one nor one of the unified numbers.
 bool FAX_NUMBER_OK(platform::TextView number);
+
+/// A database field's value as a text: NULL is empty, a number its decimal digits.
+platform::Text FIELD_VALUE(const platform::CardField& field);
 
 }  // namespace core

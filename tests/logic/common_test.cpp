@@ -81,6 +81,21 @@ TEST(Texts, ATextOutOfAPaddedBufferLosesItsPaddingAndKeepsWhatStandsInside) {
     for (const auto& row : rows) EXPECT_EQ(utf8(CLEAN_FIXED_TEXT(row.buffer)), row.clean);
 }
 
+TEST(FieldValue, IsTheTextOfAFieldTrimmedOnTheRightForTypes10And12Alone) {
+    const struct {
+        platform::CardField field;
+        const char16_t* value;
+    } rows[] = {{{platform::FIELD_TEXT, {}}, u""},
+                {{10, {}}, u""},
+                {{platform::FIELD_LONG, -7}, u"-7"},
+                {{platform::FIELD_TEXT, u" 끝공백  "}, u" 끝공백  "},
+                {{platform::FIELD_MEMO, u"a "}, u"a "},
+                {{10, u" a  "}, u" a"},
+                {{12, u" a  "}, u" a"},
+                {{11, u"a "}, u"a "}};
+    for (const auto& row : rows) EXPECT_EQ(utf8(FIELD_VALUE(row.field)), utf8(row.value));
+}
+
 struct Paths : testing::Test, TestPlatform {};
 
 TEST_F(Paths, TheParentIsWhatStandsBeforeTheLastNameWithItsBackslash) {
