@@ -6,6 +6,7 @@
 #include "platform/posix/posix_carrier_library.h"
 #include "platform/posix/posix_files.h"
 #include "platform/posix/posix_shell.h"
+#include "platform/qt/keep_painted.h"
 #include "platform/qt/qt_desktop.h"
 
 #include <utility>
@@ -18,7 +19,7 @@ struct Machine {
             platform::Clock& clock)
         : files(std::move(machine_files)),
           shell(paths),
-          cards(paths),
+          cards(paths, platform::qt::keep_painted),
           platform{.desktop = desktop,
                    .clock = clock,
                    .files = files,

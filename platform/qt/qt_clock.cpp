@@ -1,5 +1,7 @@
 #include "platform/qt/qt_clock.h"
 
+#include "platform/qt/keep_painted.h"
+
 #include <QDateTime>
 #include <QEventLoop>
 #include <QScopedValueRollback>
@@ -26,7 +28,7 @@ class QtTicker : public Ticker {
 
     /// The tick may open a box under which the timer goes on.
     static void run(Tick& tick) {
-        if (tick.running) return;
+        if (tick.running || is_keeping_painted()) return;
         const QScopedValueRollback<bool> running(tick.running, true);
         tick.action();
     }
