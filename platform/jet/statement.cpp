@@ -32,20 +32,18 @@ bool is_word_unit(char16_t unit) {
            unit == u'_' || unit >= 0x80;
 }
 
-/// The piece at the front from its first character to `end`, which stands for itself when doubled.
-TextView quoted_piece(TextView text, char16_t end) {
-    for (std::size_t at = 1; at < text.size(); ++at) {
-        if (text[at] != end) continue;
-        if (at + 1 == text.size() || text[at + 1] != end) return text.substr(0, at + 1);
-        ++at;
-    }
-    throw RuntimeError(ErrorNumber::broken_statement);
+/// The piece at the front from its first character to `end`.
+TextView closed_piece(TextView text, char16_t end) {
+    const auto at = text.find(end, 1);
+    if (at == TextView::npos) throw RuntimeError(ErrorNumber::broken_statement);
+    return text.substr(0, at + 1);
 }
 
 Token token_at(TextView rest) {
     const char16_t first = rest.front();
-    if (first == u'\'' || first == u'"') return {Token::Kind::quoted, Text(quoted_piece(rest, first))};
-    if (first == u'[') return {Token::Kind::quoted, Text(quoted_piece(rest, u']'))};
+    // A quote that stands doubled in a text makes two pieces side by side, which stay so.
+    if (first == u'\'' || first == u'"') return {Token::Kind::quoted, Text(closed_piece(rest, first))};
+    if (first == u'[') return {Token::Kind::quoted, Text(closed_piece(rest, u']'))};
     if (!is_word_unit(first)) return {Token::Kind::symbol, Text(1, first)};
     return {Token::Kind::word, Text(rest.begin(), std::ranges::find_if_not(rest, is_word_unit))};
 }
