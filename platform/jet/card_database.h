@@ -5,7 +5,9 @@
 #include "platform/jet/heartbeat.h"
 
 #include <array>
+#include <cstddef>
 #include <memory>
+#include <unordered_map>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -24,8 +26,8 @@ class CardDatabase {
     void add(Table table, const Row& row);
     void all_added();
 
-    /// Raises RuntimeError for a statement that is broken, names what is not there or would do more than
-    /// read.
+    /// What the statement gives; that of a statement run before is still known. Raises RuntimeError for a
+    /// statement that is broken, names what is not there or would do more than read.
     std::shared_ptr<const CardRows> run(const Text& statement);
 
   private:
@@ -37,6 +39,7 @@ class CardDatabase {
     };
     using Statement = std::unique_ptr<sqlite3_stmt, Finish>;
 
+    std::shared_ptr<const CardRows> fetch(const Text& statement);
     void execute(const char* sql);
     Statement prepare(const Text& sql);
     bool step(sqlite3_stmt* statement);
@@ -44,6 +47,8 @@ class CardDatabase {
     std::shared_ptr<Heartbeat> heartbeat_;
     std::unique_ptr<sqlite3, Close> database_;
     std::array<Statement, std::size(TABLES)> insertions_;
+    std::unordered_map<Text, std::shared_ptr<const CardRows>> results_;
+    std::size_t result_fields_ = 0;
 };
 
 }  // namespace platform::jet

@@ -13,8 +13,9 @@ void CardRows::add_text(TextView text) {
 }
 
 std::optional<std::size_t> CardRows::column(TextView name) const {
-    const auto found = std::ranges::find_if(
-        columns_, [&](const Column& column) { return equal_without_case(column.name, name); });
+    const auto found = std::ranges::find_if(columns_, [&](const Column& column) {
+        return column.name.size() == name.size() && equal_without_case(column.name, name);
+    });
     if (found == columns_.end()) return std::nullopt;
     return static_cast<std::size_t>(found - columns_.begin());
 }

@@ -27,6 +27,7 @@ class CardRows {
     void add_text(TextView text);
 
     std::size_t size() const { return columns_.empty() ? 0 : cells_.size() / columns_.size(); }
+    std::size_t fields() const { return cells_.size(); }
     /// The position of the column of that name, in any case.
     std::optional<std::size_t> column(TextView name) const;
     CardField field(std::size_t row, std::size_t column) const;

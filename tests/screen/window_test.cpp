@@ -1,3 +1,5 @@
+#include "platform/qt/keep_painted.h"
+#include "platform/qt/qt_clock.h"
 #include "platform/qt/screen_faults.h"
 #include "tests/screen/screen_fixture.h"
 
@@ -182,6 +184,28 @@ TEST_F(WindowTest, the_hourglass_is_a_state) {
 std::vector<QString> faults_of(platform::Form& form, QWidget& window) {
     MemoryFiles files;
     return platform::qt::screen_faults(form, window, files);
+}
+
+TEST_F(WindowTest, long_work_leaves_it_painted_and_nothing_else_happens) {
+    struct : QObject {
+        bool eventFilter(QObject*, QEvent* event) override {
+            paintings += event->type() == QEvent::Paint;
+            return false;
+        }
+        int paintings = 0;
+    } painted;
+    QWidget& widget = find("_centre");
+    widget.installEventFilter(&painted);
+    int ticks = 0;
+    platform::qt::QtClock clock;
+    const auto ticker = clock.every(0, [&] { ++ticks; });
+
+    widget.update();
+    platform::qt::keep_painted();
+    EXPECT_EQ(painted.paintings, 1);
+    EXPECT_EQ(ticks, 0);
+    QCoreApplication::processEvents();
+    EXPECT_GE(ticks, 1) << "the timer runs on afterwards";
 }
 
 TEST_F(WindowTest, a_test_finds_what_is_wrong_between_a_form_and_its_screen) {
