@@ -3,6 +3,8 @@
 #include "platform/controls/form.h"
 #include "platform/text/text.h"
 
+#include <optional>
+
 namespace platform {
 
 class Menu;
@@ -19,6 +21,18 @@ struct MessageBox {
     BoxButtons buttons = BoxButtons::ok;
     /// The button that Enter presses.
     BoxAnswer default_answer = BoxAnswer::ok;
+};
+
+/// Asks for a file: one that is there to open, or a name to save under, which may be taken already.
+struct FileQuestion {
+    enum class Purpose { open, save };
+
+    Purpose purpose = Purpose::open;
+    Text title{};
+    /// Names and patterns in turn, as "Wav files|*.wav|All files|*.*"; several patterns are joined by ";".
+    Text filter{};
+    /// What stands in the dialog's field at first.
+    Text file_name{};
 };
 
 enum class Pointer { normal, hourglass };
@@ -51,6 +65,9 @@ class Desktop {
     /// Returns the button that the user pressed; closing a box without one gives its cautious answer (no,
     /// cancel, ok).
     virtual BoxAnswer message_box(const MessageBox& box) = 0;
+
+    /// The full path of the user's choice; nothing when he cancels.
+    virtual std::optional<Text> ask_for_file(const FileQuestion& question) = 0;
 
     virtual void set_pointer(Pointer pointer) = 0;
     virtual void set_clipboard(const Text& text) = 0;

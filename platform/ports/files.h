@@ -2,6 +2,7 @@
 
 #include "platform/text/text.h"
 
+#include <cstdint>
 #include <string>
 
 namespace platform {
@@ -23,6 +24,9 @@ class Files {
     virtual bool file_exists(const Text& path) const = 0;
     virtual bool folder_exists(const Text& path) const = 0;
 
+    /// How many bytes the file has. It is not opened for that.
+    virtual std::uint64_t length(const Text& path) const = 0;
+
     virtual std::string read(const Text& path) const = 0;
     /// Writes the whole file or leaves the old one as it was, also when the program is killed meanwhile; the
     /// file is its user's alone.
@@ -31,6 +35,12 @@ class Files {
     virtual void make_folder(const Text& path) = 0;
     /// Removes the folder with all that is in it.
     virtual void remove_folder(const Text& path) = 0;
+
+    /// The machine's own path, in UTF-8, for what is handed to the machine or comes from it, as its dialogs
+    /// and its players do. Raises RuntimeErrors for a path that cannot be.
+    virtual std::string machine_path(const Text& path) const = 0;
+    /// The program's path of the machine's.
+    virtual Text path_of(const std::string& machine_path) const = 0;
 };
 
 }  // namespace platform

@@ -87,4 +87,10 @@ Text Paths::from_posix(const std::string& path) {
     return text;
 }
 
+Text Paths::on_drives(const std::string& path) const {
+    const std::string drive = drive_c();
+    if (!path.starts_with(drive + "/")) return from_posix(path);
+    return u"c:" + from_posix(path.substr(drive.size())).substr(2);
+}
+
 }  // namespace platform::posix

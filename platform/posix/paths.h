@@ -25,6 +25,8 @@ class Paths {
 
     /// The program's path of an absolute path, below `z:`, without a backslash at its end.
     static Text from_posix(const std::string& path);
+    /// The same, but below `c:` for what lies on that drive.
+    Text on_drives(const std::string& path) const;
 
     const std::string& application_directory() const { return application_directory_; }
     /// The folder that is drive `c:`. It need not be there yet.

@@ -117,6 +117,13 @@ bool PosixFiles::folder_exists(const Text& path) const {
     return exists;
 }
 
+std::uint64_t PosixFiles::length(const Text& path) const {
+    const std::string file = paths_.to_posix(path);
+    struct stat found {};
+    if (::stat(file.c_str(), &found) != 0) throw file_error(errno, file);
+    return static_cast<std::uint64_t>(found.st_size);
+}
+
 std::string PosixFiles::read(const Text& path) const { return read_whole_file(paths_.to_posix(path)); }
 
 void PosixFiles::write(const Text& path, const std::string& bytes) {

@@ -20,11 +20,15 @@ class PosixFiles : public Files {
     bool file_exists(const Text& path) const override;
     bool folder_exists(const Text& path) const override;
 
+    std::uint64_t length(const Text& path) const override;
     std::string read(const Text& path) const override;
     void write(const Text& path, const std::string& bytes) override;
     void remove(const Text& path) override;
     void make_folder(const Text& path) override;
     void remove_folder(const Text& path) override;
+
+    std::string machine_path(const Text& path) const override { return paths_.to_posix(path); }
+    Text path_of(const std::string& machine_path) const override { return paths_.on_drives(machine_path); }
 
   private:
     void make_standing_folder_of(const std::string& path);

@@ -4,8 +4,8 @@
 
 namespace platform::qt {
 
-/// The toolkit's own words where users meet them: the menus of text fields. To be installed in the
-/// application.
+/// The toolkit's own words where users meet them: the menus of text fields and the file dialog. To be
+/// installed in the application.
 class KoreanTranslator : public QTranslator {
     Q_OBJECT
 

@@ -37,7 +37,8 @@ void give_back_focus(QWidget* window) {
 
 }  // namespace
 
-QtDesktop::QtDesktop(const Screens& screens, Files& files) : screens_(screens), files_(files) {
+QtDesktop::QtDesktop(const Screens& screens, Files& files)
+    : screens_(screens), files_(files), file_dialog_(files) {
     load_pictures();
 }
 
@@ -101,6 +102,14 @@ BoxAnswer QtDesktop::message_box(const MessageBox& box) {
     const BoxAnswer answer = ask(box, title_, front);
     give_back_focus(front);
     return answer;
+}
+
+std::optional<Text> QtDesktop::ask_for_file(const FileQuestion& question) {
+    commit_composition();
+    const QPointer<QWidget> front = front_window();
+    const std::optional<Text> chosen = file_dialog_.ask(question, front);
+    give_back_focus(front);
+    return chosen;
 }
 
 /// The hourglass is a state, not a count: nobody has to give back each one that was set.

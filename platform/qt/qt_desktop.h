@@ -2,6 +2,7 @@
 
 #include "platform/ports/desktop.h"
 #include "platform/ports/files.h"
+#include "platform/qt/file_dialog.h"
 #include "platform/qt/screens.h"
 
 #include <QPointer>
@@ -29,6 +30,7 @@ class QtDesktop : public Desktop {
     void popup_menu(Form& form, Menu& menu) override;
     void popup_menu_below(Form& form, Menu& menu, const Control& control) override;
     BoxAnswer message_box(const MessageBox& box) override;
+    std::optional<Text> ask_for_file(const FileQuestion& question) override;
     void set_pointer(Pointer pointer) override;
     void set_clipboard(const Text& text) override;
     Screen screen() const override;
@@ -42,6 +44,7 @@ class QtDesktop : public Desktop {
 
     const Screens& screens_;
     Files& files_;
+    FileDialog file_dialog_;
     std::map<const Form*, QPointer<FormWindow>> windows_;
     QString title_;
     bool hourglass_ = false;

@@ -25,6 +25,8 @@ bool MemoryFiles::file_exists(const Text& path) const {
 
 bool MemoryFiles::folder_exists(const Text& path) const { return folders.contains(key(path)); }
 
+std::uint64_t MemoryFiles::length(const Text& path) const { return read(path).size(); }
+
 std::string MemoryFiles::read(const Text& path) const {
     const auto file = files.find(key(path));
     if (file == files.end()) throw RuntimeError(ErrorNumber::file_not_found);

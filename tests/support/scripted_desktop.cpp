@@ -9,6 +9,9 @@ ScriptedDesktop::~ScriptedDesktop() {
     for (const Expected& box : expected_boxes_) {
         ADD_FAILURE() << "a box never came: " << platform::to_utf8(box.part);
     }
+    for (const ExpectedDialog& dialog : expected_dialogs_) {
+        ADD_FAILURE() << "a file dialog never came: " << platform::to_utf8(dialog.title);
+    }
     for (const auto& [name, acts] : acts_) {
         if (!acts.empty()) ADD_FAILURE() << "a form never opened: " << platform::to_utf8(name);
     }
@@ -16,6 +19,10 @@ ScriptedDesktop::~ScriptedDesktop() {
 
 void ScriptedDesktop::expect_box(Text part, BoxAnswer answer) {
     expected_boxes_.push_back({std::move(part), answer});
+}
+
+void ScriptedDesktop::expect_file_dialog(Text title, std::optional<Text> chosen) {
+    expected_dialogs_.push_back({std::move(title), std::move(chosen)});
 }
 
 void ScriptedDesktop::in_form(Text name, std::function<void(platform::Form&)> act) {
@@ -64,4 +71,15 @@ BoxAnswer ScriptedDesktop::message_box(const platform::MessageBox& box) {
     const BoxAnswer answer = expected_boxes_.front().answer;
     expected_boxes_.pop_front();
     return answer;
+}
+
+std::optional<Text> ScriptedDesktop::ask_for_file(const platform::FileQuestion& question) {
+    file_questions.push_back(question);
+    if (expected_dialogs_.empty() || expected_dialogs_.front().title != question.title) {
+        ADD_FAILURE() << "unexpected file dialog: " << platform::to_utf8(question.title);
+        return std::nullopt;
+    }
+    const std::optional<Text> chosen = std::move(expected_dialogs_.front().chosen);
+    expected_dialogs_.pop_front();
+    return chosen;
 }

@@ -6,6 +6,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,8 @@ class ScriptedDesktop : public platform::Desktop {
 
     /// The next box must contain the text; the user gives this answer.
     void expect_box(platform::Text part, platform::BoxAnswer answer = platform::BoxAnswer::ok);
+    /// The next file dialog must have this title; the user picks the path, or cancels without one.
+    void expect_file_dialog(platform::Text title, std::optional<platform::Text> chosen);
     /// What the user does the next time that a form of this name opens.
     void in_form(platform::Text name, std::function<void(platform::Form&)> act);
 
@@ -28,6 +31,7 @@ class ScriptedDesktop : public platform::Desktop {
 
     // What was asked of the desktop.
     std::vector<platform::MessageBox> boxes;
+    std::vector<platform::FileQuestion> file_questions;
     std::vector<platform::Text> forms;
     platform::Text clipboard;
     platform::Text title;
@@ -44,6 +48,7 @@ class ScriptedDesktop : public platform::Desktop {
     void popup_menu_below(platform::Form& form, platform::Menu& menu,
                           const platform::Control& control) override;
     platform::BoxAnswer message_box(const platform::MessageBox& box) override;
+    std::optional<platform::Text> ask_for_file(const platform::FileQuestion& question) override;
     void set_pointer(platform::Pointer shape) override { pointer = shape; }
     void set_clipboard(const platform::Text& text) override { clipboard = text; }
     platform::Screen screen() const override { return screen_size; }
@@ -59,7 +64,13 @@ class ScriptedDesktop : public platform::Desktop {
         platform::BoxAnswer answer;
     };
 
+    struct ExpectedDialog {
+        platform::Text title;
+        std::optional<platform::Text> chosen;
+    };
+
     VirtualClock& clock_;
     std::deque<Expected> expected_boxes_;
+    std::deque<ExpectedDialog> expected_dialogs_;
     std::map<platform::Text, std::deque<std::function<void(platform::Form&)>>> acts_;
 };

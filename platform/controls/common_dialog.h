@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/ports/desktop.h"
+#include "platform/text/text.h"
+
+namespace platform {
+
+/// The file dialog of a form, which several handlers share. It keeps what was chosen last, so that a handler
+/// that asks again shows it.
+class CommonDialog {
+  public:
+    explicit CommonDialog(Desktop& desktop) : desktop_(desktop) {}
+
+    /// Title and filter ("name|pattern|…") for a new use; no file is chosen.
+    void set_up(Text title, Text filter);
+
+    /// Each raises RuntimeError 32755 when the user cancels, and keeps the file name then.
+    void show_open() { show(FileQuestion::Purpose::open); }
+    void show_save() { show(FileQuestion::Purpose::save); }
+
+    /// The full path.
+    const Text& file_name() const { return question_.file_name; }
+
+  private:
+    void show(FileQuestion::Purpose purpose);
+
+    Desktop& desktop_;
+    FileQuestion question_;
+};
+
+}  // namespace platform
