@@ -6,6 +6,10 @@ namespace platform {
 
 Control::Control(Form& form, TextView name) : form_(&form), name_(name) { form.add(*this); }
 
+void Control::set_visible(bool on) {
+    if (assign(visible_, on, Aspect::visible) && !on && form_ != nullptr) form_->leave_hidden();
+}
+
 bool Control::on_screen() const { return visible_ && (container_ == nullptr || container_->on_screen()); }
 
 void Control::set_focus() {

@@ -56,7 +56,7 @@ class Control {
 
     /// The control's own setting; it is on the screen when its containers are visible too.
     bool visible() const { return visible_; }
-    void set_visible(bool on) { assign(visible_, on, Aspect::visible); }
+    void set_visible(bool on);
     void show() { set_visible(true); }
     void hide() { set_visible(false); }
     bool on_screen() const;

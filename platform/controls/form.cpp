@@ -61,6 +61,10 @@ void Form::window_placed(const Placement& placement, WindowState state) {
     window_state_ = state;
 }
 
+void Form::leave_hidden() {
+    if (focused_ != nullptr && !focused_->on_screen()) move_focus(nullptr);
+}
+
 void Form::move_focus(Control* control) {
     if (control == focused_) return;
     Control* left = std::exchange(entered_, nullptr);

@@ -96,6 +96,8 @@ class Form {
   private:
     friend class Control;
     void add(Control& control) { controls_.push_back(&control); }
+    /// What is no longer on the screen has lost the focus, whenever the window tells where it went.
+    void leave_hidden();
 
     Desktop& desktop_;
     Text name_;

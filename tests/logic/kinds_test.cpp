@@ -68,6 +68,17 @@ TEST_F(Kinds, EachShowsItsOwnPanelCaptionsAndControls) {
     }
 }
 
+TEST_F(Kinds, ATextThatGoesWithItsPanelFreezesNoSubjectAfterwards) {
+    form.mText1.set_focus();
+    form.mText1.user_edit(u"회의", 2);
+    form.TabStrip1.select(FAX_MESSAGE);
+    EXPECT_FALSE(form.mText1.has_focus());
+    // Where the focus has gone the window tells later, after boxes and other windows even.
+    form.HText1[0].set_focus();
+    EXPECT_EQ(utf8(form.subjectText.text()), "회의");
+    EXPECT_EQ(utf8(form.subjectText.tag()), "") << "the next text leads the subject again";
+}
+
 TEST_F(Kinds, EnteringAKindThrowsItsOwnTextAwayAndNothingElse) {
     form.ListView1.add_row(u"", {u"이름", u"0212345678"}, true);
     const struct {
