@@ -59,6 +59,11 @@ void ListView::clear() {
     if (rows_view_ != nullptr) rows_view_->rows_rearranged();
 }
 
+void ListView::set_small_icon(std::size_t row, int number) {
+    item(row).small_icon_ = number;
+    if (rows_view_ != nullptr) rows_view_->row_changed(row);
+}
+
 void ListView::set_sub_item(std::size_t row, int sub_item, Text text) {
     ListItem& changed = item(row);
     if (changed.sub_item(sub_item) == text) return;

@@ -22,6 +22,8 @@ class ListItem {
     /// The item text for 0; empty behind the last sub-item.
     const Text& sub_item(int index) const;
     int sub_item_count() const { return static_cast<int>(sub_items_.size()); }
+    /// The number of the row's picture in the list of pictures that the screen has for it; 0 for none.
+    int small_icon() const { return small_icon_; }
     bool checked() const { return checked_; }
     bool selected() const { return selected_; }
     /// Place in the list, counted from 0.
@@ -33,6 +35,7 @@ class ListItem {
     Text text_;
     std::vector<Text> sub_items_;
     std::size_t position_ = 0;
+    int small_icon_ = 0;
     bool checked_ = false;
     bool selected_ = false;
 };
@@ -89,6 +92,7 @@ class ListView : public Control {
     void clear();
 
     void set_sub_item(std::size_t row, int sub_item, Text text);
+    void set_small_icon(std::size_t row, int number);
     /// By code: raises nothing.
     void set_checked(std::size_t row, bool checked);
     std::size_t checked_count() const { return checked_count_; }

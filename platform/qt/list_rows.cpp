@@ -6,7 +6,7 @@
 
 namespace platform::qt {
 
-ListRows::ListRows(ListView& list, QTreeView& view) : list_(list), view_(view), model_(list, this) {
+ListRows::ListRows(ListView& list, QTreeView& view) : list_(list), view_(view), model_(list, view, this) {
     view.setModel(&model_);
     const QItemSelectionModel* selection = view.selectionModel();
     connect(selection, &QItemSelectionModel::selectionChanged, this, &ListRows::take_selection);

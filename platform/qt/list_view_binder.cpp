@@ -5,8 +5,10 @@
 #include <QContextMenuEvent>
 #include <QFontInfo>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScopeGuard>
+#include <QToolTip>
 #include <QTreeView>
 
 namespace platform::qt {
@@ -33,6 +35,14 @@ void set_up(QTreeView& view) {
                                          widths[column].toInt() * QFontInfo(view.font()).pixelSize() / 12);
         }
     }
+}
+
+/// Tells the whole text of a cell that is too narrow for it.
+void show_cut_text(QTreeView& view, const QHelpEvent& event) {
+    const QModelIndex index = view.indexAt(event.pos());
+    const QRect cell = view.visualRect(index);
+    if (!index.isValid() || view.sizeHintForIndex(index).width() <= cell.width()) return QToolTip::hideText();
+    QToolTip::showText(event.globalPos(), index.data().toString(), view.viewport(), cell);
 }
 
 bool moves_through_rows(const QKeyEvent& event) {
@@ -87,6 +97,10 @@ bool ListViewBinder::filter(QObject& object, QEvent& event) {
                 act([&] { control_.MouseUp.raise(right ? MouseButton::right : MouseButton::left); });
             }
             return !is_bound_live();
+        case QEvent::ToolTip:
+            if (&object != view_.viewport()) return false;
+            show_cut_text(view_, static_cast<QHelpEvent&>(event));
+            return true;
         case QEvent::ContextMenu:
             open_menu(static_cast<QContextMenuEvent&>(event));
             event.accept();

@@ -1,5 +1,6 @@
 #include "platform/qt/list_view_model.h"
 
+#include "platform/qt/icon_list.h"
 #include "platform/qt/text_conversion.h"
 
 #include <QIcon>
@@ -21,6 +22,8 @@ QVariant ListViewModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::CheckStateRole && index.column() == 0 && list_->check_boxes()) {
         return row.checked() ? Qt::Checked : Qt::Unchecked;
     }
+    if (role == Qt::DecorationRole && index.column() == 0 && row.small_icon() > 0)
+        return icon_of_list(view_, "smallIcons", row.small_icon());
     return QVariant();
 }
 

@@ -11,7 +11,9 @@ class ListViewModel : public QAbstractTableModel {
     Q_OBJECT
 
   public:
-    explicit ListViewModel(ListView& list, QObject* parent) : QAbstractTableModel(parent), list_(&list) {}
+    /// The rows' pictures are those that the view's list `smallIcons` names.
+    ListViewModel(ListView& list, const QObject& view, QObject* parent)
+        : QAbstractTableModel(parent), list_(&list), view_(view) {}
 
     /// The list goes. Nobody is told, since it may go in the midst of the view's own work; the view is closed
     /// anyway.
@@ -37,6 +39,7 @@ class ListViewModel : public QAbstractTableModel {
 
   private:
     ListView* list_;
+    const QObject& view_;
 };
 
 }  // namespace platform::qt
