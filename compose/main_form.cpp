@@ -33,6 +33,7 @@ constexpr std::array EMOTICONS = {
 
 frmZent::frmZent(platform::Platform& platform, core::AppState& state, MainDoors doors)
     : Form(platform.desktop, u"frmZent"),
+      Cmd1(platform.desktop),
       Timer1(platform.clock, 500),
       Timer2(platform.clock, 1),
       platform_(platform),
@@ -76,6 +77,8 @@ frmZent::frmZent(platform::Platform& platform, core::AppState& state, MainDoors 
     connect_session();
     connect_kinds();
     connect_text();
+    connect_voice();
+    connect_fax();
     connect_recipients();
     connect_schedule();
     disable_without_door();
@@ -88,10 +91,6 @@ void frmZent::disable_without_door() {
     MyMsgBttn.set_enabled(doors_.message_box != nullptr);
     mnuUpDate.set_enabled(doors_.update_check != nullptr);
     TTSBttn0.set_enabled(doors_.SaveWave != nullptr);
-    for (platform::Control* control : std::initializer_list<platform::Control*>{
-             &TTSBttn1, &TTSBttn2, &TTSBttn3, &FAXBttn1, &FAXBttn2, &Command4, &Command6, &mnuSetup}) {
-        control->set_enabled(false);
-    }
 }
 
 bool frmZent::SaveWave(const Text& folder, const Text& file) const {

@@ -5,6 +5,7 @@
 #include "platform/controls/check_box.h"
 #include "platform/controls/combo_box.h"
 #include "platform/controls/command_button.h"
+#include "platform/controls/common_dialog.h"
 #include "platform/controls/containers.h"
 #include "platform/controls/date_picker.h"
 #include "platform/controls/form.h"
@@ -49,8 +50,9 @@ inline constexpr std::size_t TTS_LIMIT = 1000;
 /// runs.
 ///
 /// Its handlers stand by subject: start and stop in main_form_start, session in main_form_session, kinds in
-/// main_form_kinds, text entry in main_form_text, saving a text in main_form_my_save, recipients in
-/// main_form_recipients, schedule and reply in main_form_schedule.
+/// main_form_kinds, text entry in main_form_text, saving a text in main_form_my_save, the voice's sources in
+/// main_form_voice, fax documents in main_form_fax, recipients in main_form_recipients, schedule and reply in
+/// main_form_schedule.
 class frmZent : public platform::Form {
   public:
     frmZent(platform::Platform& platform, core::AppState& state, MainDoors doors);
@@ -163,6 +165,8 @@ class frmZent : public platform::Form {
     platform::Label Label2_3{*this, u"Label2_3", u"시           분"};
     platform::ComboBox Combo6{*this, u"Combo6"};
     platform::CommandButton Command6{*this, u"Command6", u"설정"};
+    /// Asks for sound files and documents.
+    platform::CommonDialog Cmd1;
     /// Scratch values of the schedule check.
     std::array<platform::DatePicker, 2> DT1;
 
@@ -221,6 +225,9 @@ class frmZent : public platform::Form {
     /// Fills an empty subject from the text, or with "제목없음".
     void subjectText_CHECK();
 
+    /// Writes how large the documents of a fax are together.
+    void FAX_SIZE_CAPTION();
+
     /// Writes how many rows there are and how many are checked.
     void RECIPIENT_COUNT_CAPTION();
 
@@ -246,6 +253,8 @@ class frmZent : public platform::Form {
     void connect_session();
     void connect_kinds();
     void connect_text();
+    void connect_voice();
+    void connect_fax();
     void connect_recipients();
     void connect_schedule();
     void disable_without_door();
@@ -267,6 +276,7 @@ class frmZent : public platform::Form {
     void open_in_browser(platform::TextView key);
 
     // Kinds.
+    void fill_panels();
     void TabStrip1_Click();
     void show_text_kind();
     void show_voice_kind(bool with_text);
@@ -301,6 +311,15 @@ class frmZent : public platform::Form {
     void txtUserName_LostFocus();
     void MySave_Click();
 
+    // The voice's sources.
+    void TTSBttn0_Click();
+    void TTSBttn1_Click();
+    bool choose_free_name();
+
+    // Fax documents.
+    void FAXBttn1_Click();
+    void FAXBttn2_Click();
+
     // Recipients.
     void HText1_KeyPress(std::size_t index, platform::KeyPressed& key);
     void HBttn1_Click();
@@ -316,6 +335,7 @@ class frmZent : public platform::Form {
     // Schedule.
     void Option1_Click();
     void Option2_Click();
+    void Command6_Click();
     void show_present_time();
 
     platform::Platform& platform_;

@@ -19,17 +19,7 @@ constexpr int LAST_KIND_BUTTON = FAX_MESSAGE + 1;
 }  // namespace
 
 void frmZent::connect_kinds() {
-    Picture2[0].set_container(Frame1[0]);
-    mText1.set_container(Picture2[0]);
-    Picture2[1].set_container(Frame1[1]);
-    mText2.set_container(Picture2[1]);
-    for (platform::Frame& panel : TPIC) panel.set_container(Frame1[1]);
-    ttsText.set_container(TPIC[0]);
-    TTSFileTxt.set_container(TPIC[2]);
-    FAXBttn1.set_container(Frame1[2]);
-    Check1.set_container(Frame1[0]);
-    Check2.set_container(Frame1[1]);
-
+    fill_panels();
     for (platform::CommandButton& button : mBttn1) {
         button.Click.connect([this, &button] { insert_text(button.caption()); });
     }
@@ -48,6 +38,22 @@ void frmZent::connect_kinds() {
     // The window is painted before its first tick chooses a kind: it shows the panel of that kind alone.
     show_panel(0);
     TabStrip2_Click();
+}
+
+/// Which panel holds what: a control is on the screen, and can have the focus, only with its panel.
+void frmZent::fill_panels() {
+    const auto fill = [](platform::Control& panel, std::initializer_list<platform::Control*> controls) {
+        for (platform::Control* control : controls) control->set_container(panel);
+    };
+    fill(Frame1[0], {&Picture2[0], &MyMsgBttn, &MySave, &Check1, &Combo3});
+    fill(Picture2[0], {&mText1});
+    for (platform::CommandButton& button : mBttn1) button.set_container(Frame1[0]);
+    fill(Frame1[1], {&Picture2[1], &TabStrip2, &TPIC[0], &TPIC[1], &TPIC[2], &Check2, &Combo4, &Command4});
+    fill(Picture2[1], {&mText2});
+    fill(TPIC[0], {&ttsText});
+    fill(TPIC[1], {&TTSBttn0});
+    fill(TPIC[2], {&TTSFileTxt, &TTSBttn1, &TTSBttn2, &TTSBttn3, &TTSBttn4});
+    fill(Frame1[2], {&FAX1, &FAXBttn1, &FAXBttn2});
 }
 
 void frmZent::TabStrip1_Click() {

@@ -1,0 +1,97 @@
+#include "tests/support/sending.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace platform;
+using tests::Sending;
+using tests::utf8;
+
+const Text SAVE_TITLE = u"다름 이름으로 저장";
+const Text OPEN_TITLE = u"음성파일 선택";
+const Text TRIAL = u"c:\\temp\\tmpbk.wav";
+const Text NAME = u"z:\\home\\인사.wav";
+const Text OVERWRITE = NAME + u"\r\n\r\n이미 동일한 파일이 존재합니다. 덮어쓰시겠습니까?";
+
+/// The main window's sound tabs, with a user who presses their buttons.
+struct VoiceSource : testing::Test, Sending {
+    VoiceSource() { files.files[NAME] = "old"; }
+
+    void save() { form.TTSBttn0.Click.raise(); }
+};
+
+TEST_F(VoiceSource, ARecordingIsTriedBeforeTheUserIsAskedForAName) {
+    nothing_recorded = true;
+    save();
+    EXPECT_EQ(saved_waves, std::vector{TRIAL});
+    EXPECT_TRUE(desktop.file_questions.empty());
+}
+
+TEST_F(VoiceSource, ARecordingGoesWhereTheUserWantsItAndTheTrialGoes) {
+    files.files[TRIAL] = "trial";
+    desktop.expect_file_dialog(SAVE_TITLE, u"z:\\home\\새 녹음.wav");
+    save();
+    EXPECT_EQ(saved_waves, (std::vector<Text>{TRIAL, u"z:\\home\\새 녹음.wav"}));
+    EXPECT_FALSE(files.files.contains(TRIAL));
+    EXPECT_EQ(desktop.file_questions[0].purpose, FileQuestion::Purpose::save);
+    EXPECT_EQ(utf8(desktop.file_questions[0].filter), "Wav 파일|*.wav");
+}
+
+TEST_F(VoiceSource, ATakenNameIsAskedForAgainUntilTheUserDecides) {
+    desktop.expect_file_dialog(SAVE_TITLE, NAME);
+    desktop.expect_box(OVERWRITE, BoxAnswer::no);
+    desktop.expect_file_dialog(SAVE_TITLE, NAME);
+    desktop.expect_box(OVERWRITE, BoxAnswer::yes);
+    save();
+    EXPECT_EQ(saved_waves, (std::vector<Text>{TRIAL, NAME}));
+    EXPECT_EQ(desktop.file_questions[0].file_name, u"");
+    EXPECT_EQ(desktop.file_questions[1].file_name, NAME) << "the second dialog is not set up anew";
+}
+
+TEST_F(VoiceSource, WhoeverGivesUpSavesNothing) {
+    desktop.expect_file_dialog(SAVE_TITLE, std::nullopt);
+    save();
+    desktop.expect_file_dialog(SAVE_TITLE, NAME);
+    desktop.expect_box(OVERWRITE, BoxAnswer::cancel);
+    save();
+    desktop.expect_file_dialog(SAVE_TITLE, NAME);
+    desktop.expect_box(OVERWRITE, BoxAnswer::no);
+    desktop.expect_file_dialog(SAVE_TITLE, std::nullopt);
+    save();
+    EXPECT_EQ(saved_waves, std::vector(3, TRIAL));
+
+    files.files[TRIAL] = "trial";
+    files.failure = ErrorNumber::permission_denied;
+    save();
+    EXPECT_EQ(desktop.file_questions.size(), 4u) << "the trial cannot be removed: no dialog and no box";
+}
+
+TEST_F(VoiceSource, ASoundFileIsTakenAsItIsAndTheDialogBeginsEmpty) {
+    desktop.pointer = Pointer::hourglass;
+    desktop.expect_file_dialog(OPEN_TITLE, u"z:\\글.txt");
+    form.TTSBttn1.Click.raise();
+    EXPECT_EQ(form.TTSFileTxt.text(), u"z:\\글.txt");
+    EXPECT_EQ(desktop.pointer, Pointer::normal);
+    desktop.expect_file_dialog(OPEN_TITLE, std::nullopt);
+    form.TTSBttn1.Click.raise();
+    EXPECT_EQ(form.TTSFileTxt.text(), u"z:\\글.txt");
+    EXPECT_EQ(desktop.file_questions[1].file_name, u"");
+    EXPECT_EQ(desktop.file_questions[1].purpose, FileQuestion::Purpose::open);
+    form.TTSBttn2.Click.raise();
+    EXPECT_EQ(form.TTSFileTxt.text(), u"");
+}
+
+TEST_F(VoiceSource, ASoundFileIsPlayedByTheMachineAndAMissingOneIsNamed) {
+    form.TTSBttn3.Click.raise();
+    form.TTSFileTxt.set_text(NAME);
+    form.TTSBttn3.Click.raise();
+    EXPECT_EQ(shell.opened, std::vector{NAME});
+    files.files.clear();
+    desktop.expect_box(NAME + u"\r\n\r\n파일을 찾을 수 없습니다!");
+    form.TTSBttn3.Click.raise();
+    EXPECT_EQ(shell.opened.size(), 1u);
+    EXPECT_EQ(form.TTSFileTxt.text(), NAME);
+}
+
+}  // namespace
