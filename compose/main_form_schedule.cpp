@@ -1,5 +1,7 @@
 // When a message goes, and whether its recipient may answer.
 
+#include "compose/frmSet1.h"
+#include "compose/frmXTip.h"
 #include "compose/main_form.h"
 #include "compose/schedule_time.h"
 #include "platform/text/number.h"
@@ -27,6 +29,9 @@ void frmZent::connect_schedule() {
     Combo6.Click.connect([this] {
         if (Combo6.visible()) RESERVE_TIME_ADD(Combo6.item_data(Combo6.list_index()));
     });
+    Command6.Click.connect([this] { Command6_Click(); });
+    mnuSetup.Click.connect([this] { Command6_Click(); });
+    Command4.Click.connect([this] { frmXTip(platform_).show_modal(); });
     Check2.Click.connect([this] { Combo4.set_enabled(Check2.checked()); });
 }
 
@@ -56,6 +61,8 @@ void frmZent::Option2_Click() {
     if (lead > 0) lead += 2;
     RESERVE_TIME_ADD(static_cast<int>(platform::round_half_even(std::max(lead, -60.0))));
 }
+
+void frmZent::Command6_Click() { frmSet1(platform_).show_modal(); }
 
 void frmZent::RESERVE_TIME_ADD(int minutes) { add_schedule_minutes({DTP1, Combo1, Combo2}, minutes); }
 

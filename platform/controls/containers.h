@@ -30,13 +30,21 @@ class PictureBox : public Control {
     bool border_ = true;
 };
 
-/// A picture on the form. The picture is the screen's; only clicks and visibility are the system's.
+/// A picture on the form: the screen's own, or that of a file.
 class Image : public Control {
   public:
     using Control::Control;
     void accept(ControlVisitor& visitor) override;
 
+    /// Shows the picture of a file. A file that is no picture, or is not there, shows nothing.
+    void set_picture(Text path) { assign(picture_, std::move(path), Aspect::picture); }
+    /// Empty while the screen's own picture shows.
+    const Text& picture() const { return picture_; }
+
     Event<> Click;
+
+  private:
+    Text picture_;
 };
 
 }  // namespace platform

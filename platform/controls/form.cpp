@@ -50,6 +50,10 @@ void Form::move(const Placement& placement) {
     if (view_ != nullptr) view_->placement_changed();
 }
 
+void Form::fit_contents() {
+    if (view_ != nullptr) view_->fit_contents();
+}
+
 void Form::set_minimum_size(int width, int height) {
     minimum_width_ = width;
     minimum_height_ = height;

@@ -27,6 +27,8 @@ class FormView {
     virtual void caption_changed() = 0;
     virtual void placement_changed() = 0;
     virtual void minimum_size_changed() = 0;
+    /// Gives the window the size that its contents take and tells the form.
+    virtual void fit_contents() = 0;
 };
 
 /// A window of the system as a model: its controls, and the handlers of its life.
@@ -64,6 +66,8 @@ class Form {
     void set_window_state(WindowState state);
     const Placement& placement() const { return placement_; }
     void move(const Placement& placement);
+    /// Makes the window as large as what it holds, once its texts and pictures are there.
+    void fit_contents();
     /// Smallest size that the user can drag the window to, in pixels.
     void set_minimum_size(int width, int height);
     int minimum_width() const { return minimum_width_; }

@@ -94,6 +94,12 @@ void FormWindow::minimum_size_changed() {
     if (!size.isEmpty()) window_.setMinimumSize(size);
 }
 
+void FormWindow::fit_contents() {
+    window_.adjustSize();
+    placed_ = place();
+    form_.window_placed(placed_, form_.window_state());
+}
+
 bool FormWindow::eventFilter(QObject*, QEvent* event) {
     if (!bound_.live) return false;
     switch (event->type()) {

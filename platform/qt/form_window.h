@@ -33,6 +33,7 @@ class FormWindow : public QObject, public FormView {
     void caption_changed() override;
     void placement_changed() override;
     void minimum_size_changed() override;
+    void fit_contents() override;
 
   signals:
     void closed();

@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPixmap>
 #include <QProgressBar>
 
 namespace platform::qt {
@@ -41,7 +42,21 @@ bool LabelBinder::filter(QObject&, QEvent& event) {
 }
 
 ImageBinder::ImageBinder(BoundForm& bound, Image& control, QLabel& label)
-    : WidgetBinder(bound, control, label), control_(control) {}
+    : WidgetBinder(bound, control, label), control_(control), label_(label) {
+    if (!control.picture().empty()) show_picture();
+}
+
+void ImageBinder::refresh(Aspect aspect) {
+    if (aspect == Aspect::picture) return show_picture();
+    WidgetBinder::refresh(aspect);
+}
+
+void ImageBinder::show_picture() {
+    QPixmap picture;
+    ignore_errors(
+        [&] { picture.loadFromData(QByteArray::fromStdString(bound().files.read(control_.picture()))); });
+    label_.setPixmap(picture);
+}
 
 bool ImageBinder::filter(QObject& object, QEvent& event) {
     if (is_click(static_cast<QWidget&>(object), event)) act([this] { control_.Click.raise(); });

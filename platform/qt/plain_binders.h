@@ -28,15 +28,17 @@ class LabelBinder : public WidgetBinder {
     QLabel& label_;
 };
 
-/// The picture is the screen's.
 class ImageBinder : public WidgetBinder {
   public:
     ImageBinder(BoundForm& bound, Image& control, QLabel& label);
+    void refresh(Aspect aspect) override;
 
   private:
     bool filter(QObject& object, QEvent& event) override;
+    void show_picture();
 
     Image& control_;
+    QLabel& label_;
 };
 
 class FrameBinder : public WidgetBinder {

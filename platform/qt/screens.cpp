@@ -5,7 +5,9 @@
 #include "ui_frmPondiraReg.h"
 #include "ui_frmSBox.h"
 #include "ui_frmSendEndBox.h"
+#include "ui_frmSet1.h"
 #include "ui_frmWeb.h"
+#include "ui_frmXTip.h"
 #include "ui_frmZent.h"
 #include "ui_frmZentLogin.h"
 #include "ui_frmZentSend.h"
@@ -28,6 +30,8 @@ Screens program_screens() {
     screens.add<Ui::frmAbout, QDialog>(u"frmAbout");
     screens.add<Ui::frmWeb, QDialog>(u"frmWeb");
     screens.add<Ui::frmPondiraReg, QDialog>(u"frmPondiraReg");
+    screens.add<Ui::frmSet1, QDialog>(u"frmSet1");
+    screens.add<Ui::frmXTip, QDialog>(u"frmXTip");
     screens.add<Ui::frmSBox, QDialog>(u"frmSBox");
     screens.add<Ui::frmZentSend, QDialog>(u"frmZentSend");
     screens.add<Ui::frmSendEndBox, QDialog>(u"frmSendEndBox");

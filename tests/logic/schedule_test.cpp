@@ -1,3 +1,4 @@
+#include "compose/frmSet1.h"
 #include "tests/support/main_window.h"
 
 #include <gtest/gtest.h>
@@ -108,6 +109,42 @@ TEST_F(Schedule, TheNumberOfAnswersCanBeChosenWhileAnswersAreTaken) {
         form.Check2.set_checked(on);
         EXPECT_EQ(form.Combo4.enabled(), on);
     }
+}
+
+TEST_F(Schedule, TheLeadIsChosenByRowAndKeptWithItsMinutes) {
+    const struct {
+        const char16_t* saved;
+        int row;
+    } rows[] = {{u"", 2}, {u"0", 0}, {u"6", 6}, {u"7", 2}, {u"-1", 2}, {u"99999999999", 2}, {u"abc", 0}};
+    for (const auto& row : rows) {
+        save_setting(u"SET", u"P_TIME_SET", row.saved);
+        desktop.in_form<compose::frmSet1>(u"frmSet1", [&](compose::frmSet1& settings) {
+            EXPECT_EQ(settings.Combo1.list_index(), row.row) << utf8(row.saved);
+            settings.escape_pressed();
+        });
+        form.mnuSetup.Click.raise();
+        EXPECT_EQ(setting(u"SET", u"P_TIME_SET"), utf8(row.saved));
+    }
+
+    const int minutes[] = {0, 20, 30, 40, 50, 60, 90};
+    form.Option2.set_chosen(true);
+    const std::string before = shown();
+    for (int row = 0; row < 7; ++row) {
+        desktop.in_form<compose::frmSet1>(u"frmSet1", [&](compose::frmSet1& settings) {
+            settings.Combo1.set_list_index(row);
+            settings.Command1.Click.raise();
+        });
+        form.Command6.Click.raise();
+        EXPECT_EQ(setting(u"SET", u"P_TIME_SET"), std::to_string(row));
+        EXPECT_EQ(setting(u"SET", u"P_TIME"), std::to_string(minutes[row]));
+    }
+    desktop.in_form<compose::frmSet1>(u"frmSet1", [&](compose::frmSet1& settings) {
+        settings.Combo1.set_list_index(1);
+        settings.Command2.Click.raise();
+    });
+    form.Command6.Click.raise();
+    EXPECT_EQ(setting(u"SET", u"P_TIME"), "90");
+    EXPECT_EQ(shown(), before) << "the lead counts from the next schedule";
 }
 
 }  // namespace

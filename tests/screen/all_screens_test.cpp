@@ -1,3 +1,5 @@
+#include "compose/frmSet1.h"
+#include "compose/frmXTip.h"
 #include "compose/main_form.h"
 #include "gateway/frmAbout.h"
 #include "gateway/frmAutoLogin.h"
@@ -39,6 +41,8 @@ struct System {
         forms.push_back(std::make_unique<gateway::frmAbout>(platform));
         forms.push_back(std::make_unique<gateway::frmPondiraReg>(platform));
         forms.push_back(std::make_unique<gateway::frmWeb>(platform, machine.state));
+        forms.push_back(std::make_unique<compose::frmSet1>(platform));
+        forms.push_back(std::make_unique<compose::frmXTip>(platform));
         forms.push_back(std::make_unique<send::frmSBox>(platform, machine.state));
         forms.push_back(std::make_unique<send::frmZentSend>(platform, machine.state, main));
         forms.push_back(std::make_unique<send::frmSendEndBox>(platform, main));
