@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QInputMethodEvent>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
 #include <filesystem>
@@ -28,7 +29,8 @@ QWidget& find(QWidget& window, const char* name) {
 
 }  // namespace
 
-void HastyClock::pause(int) {
+void HastyClock::pause(int milliseconds) {
+    pauses.push_back(milliseconds);
     for (int turn = 0; turn < 3; ++turn) QCoreApplication::processEvents();
 }
 
@@ -48,6 +50,8 @@ void WindowPlayer::look() {
     QTimer::singleShot(0, this, &WindowPlayer::look);
     QWidget* window = front_window();
     if (steps_.empty() || window == nullptr || window->objectName() != steps_.front().window) return;
+    // Nobody types into a window before it has the focus.
+    if (!window->isActiveWindow()) return window->activateWindow();
     if (!steps_.front().condition()) return;
     const Step step = std::move(steps_.front());
     steps_.pop_front();
@@ -87,6 +91,30 @@ void ProgramTest::log_in() {
         type_into(window, "Text2", QStringLiteral("demo1234"));
         press(window, "Command1");
     });
+}
+
+void ProgramTest::send() {
+    user.in_window("frmZent", [](QWidget& window) { press(window, "Command1"); });
+    user.in_window("frmSBox", [](QWidget& window) { press(window, "Command1"); });
+}
+
+void ProgramTest::read_report() {
+    user.in_window("frmSendEndBox", [this](QWidget& window) {
+        report = text_of(window, "Text1");
+        press(window, "Command2");
+    });
+}
+
+void ProgramTest::choose_file(const std::filesystem::path& file) {
+    user.in_window("fileDialog", [file](QWidget& window) {
+        auto& name = *window.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        name.setText(QString::fromStdString(file.string()));
+        QTest::keyClick(&name, Qt::Key_Return);
+    });
+}
+
+void ProgramTest::close_program() {
+    user.in_window("frmZent", [](QWidget& window) { window.close(); });
 }
 
 void ProgramTest::type_into(QWidget& window, const char* field, const QString& text) {

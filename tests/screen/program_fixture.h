@@ -8,15 +8,20 @@
 
 #include <QTimer>
 #include <deque>
+#include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
 
 namespace tests {
 
-/// The machine's clock on which nobody waits: what a pause is for still happens in it.
+/// The machine's clock on which nobody waits and which stands: what a pause is for still happens in it.
 class HastyClock : public platform::qt::QtClock {
   public:
+    platform::LocalTime now() override { return platform::make_time(2026, 11, 23, 10, 5); }
     void pause(int milliseconds) override;
+
+    /// Every pause in milliseconds, in order.
+    std::vector<int> pauses;
 };
 
 /// The user in front of the real program: what he does in each window, in the order in which he expects them.
@@ -57,7 +62,16 @@ class ProgramTest : public testing::Test {
     void order(const std::string& lines);
     /// The field of every registration, in their order.
     std::vector<std::string> ledger(const std::string& field) const;
+
+    // What the user does next.
     void log_in();
+    /// Presses send in the main window and confirms.
+    void send();
+    /// Reads the report into `report` and closes it.
+    void read_report();
+    /// Picks the file in the file dialog.
+    void choose_file(const std::filesystem::path& file);
+    void close_program();
 
     /// Types in place of what the field holds.
     static void type_into(QWidget& window, const char* field, const QString& text);
@@ -67,6 +81,7 @@ class ProgramTest : public testing::Test {
 
     TemporaryFolder folder;
     WindowPlayer user;
+    QString report;
     platform::posix::Paths paths{folder.path().string()};
     HastyClock clock;
     app::Machine machine{paths, platform::posix::PosixFiles(paths, (folder.path() / "windows").string()),

@@ -24,23 +24,6 @@ class WholeJob : public ProgramTest {
         }
     }
 
-    /// Presses send in the main window and confirms.
-    void send() {
-        user.in_window("frmZent", [](QWidget& window) { press(window, "Command1"); });
-        user.in_window("frmSBox", [](QWidget& window) { press(window, "Command1"); });
-    }
-
-    void read_report() {
-        user.in_window("frmSendEndBox", [this](QWidget& window) {
-            report = text_of(window, "Text1");
-            press(window, "Command2");
-        });
-    }
-
-    void close_program() {
-        user.in_window("frmZent", [](QWidget& window) { window.close(); });
-    }
-
     /// How many rows are checked and have the status.
     int checked_with(platform::TextView status) {
         int count = 0;
@@ -50,8 +33,6 @@ class WholeJob : public ProgramTest {
         }
         return count;
     }
-
-    QString report;
 };
 
 TEST_F(WholeJob, RegistersTwoHundredFiftyInThreeBatchesWithNumberedSubjects) {
