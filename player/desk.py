@@ -1,4 +1,5 @@
 """The desk of a user: finds what is on the screen by the names that a screen reader says, and acts with real keys and clicks."""
+import os
 import re
 import subprocess
 import time
@@ -7,19 +8,22 @@ import pyatspi
 
 # Milliseconds between characters: Hangul is typed by changing the keyboard's map, which programs learn with a delay.
 TYPING_DELAY = "100"
-PATIENCE = 20  # seconds until something that ought to appear is missed
+PATIENCE = 30  # seconds until something that ought to appear is missed
 
 
 class Desk:
     def __init__(self, results):
         self.results = results
+        # The user's own folder, where the scenes lay the files that he picks.
+        self.home = results / "home"
+        self.home.mkdir(exist_ok=True)
         self.pictures = []
         self.program = None
 
     # The program.
 
     def start(self):
-        self.program = subprocess.Popen(["./zent"], cwd=self.results / "app")
+        self.program = subprocess.Popen(["./zent"], cwd=self.results / "app", env={**os.environ, "HOME": str(self.home), "LC_TIME": "ko_KR.UTF-8", "LC_NUMERIC": "ko_KR.UTF-8"})
 
     def close_program(self):
         active = lambda window: window.getState().contains(pyatspi.STATE_ACTIVE)
@@ -101,6 +105,36 @@ class Desk:
         self._wait("the focus", lambda: field.getState().contains(pyatspi.STATE_FOCUSED))
         self.keys("ctrl+a")
         self.write(text)
+
+    def choose_file(self, title, name, picture=None):
+        """Picks a file of the user's own folder in the file dialog of that title."""
+        dialog = self.window(title)
+        self.click(self.find(name, "table cell", dialog))
+        if picture:
+            self.picture(picture)
+        self.keys("Return")
+        self.gone(title)
+
+    # What most scenes do.
+
+    def choose_kind(self, kind):
+        """Clicks the kind's tab and returns the main window, which shows it."""
+        self.click(self.find(kind, "page tab", self.window("[")))
+        return self.window(f"[{kind}]")
+
+    def add_recipient(self, main, name, number):
+        self.fill(self.find("이름", "text", main), f"{name}\n{number}\n")
+
+    def send(self, main, confirmation=None):
+        """Sends the draft and closes the report; returns when the main window is the user's again."""
+        self.click(self.find("보내기", "push button", main))
+        self.window("메시지 발송확인")
+        if confirmation:
+            self.picture(confirmation)
+        self.keys("Return")
+        self.window("등록완료")
+        self.keys("Return")
+        self.gone("등록완료")
 
     def click(self, thing):
         box = thing.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)

@@ -12,7 +12,7 @@ def play(desk):
     main = desk.window("[문자메시지]")
     desk.fill(desk.find("문자 내용", "text", main), "[길동상사] 안녕하세요. 오늘 오후 3시 회의실에서 뵙겠습니다.")
     for name, number in RECIPIENTS:
-        desk.fill(desk.find("이름", "text", main), f"{name}\n{number}\n")
+        desk.add_recipient(main, name, number)
     desk.picture("draft")
 
     desk.click(desk.find("보내기", "push button", main))
