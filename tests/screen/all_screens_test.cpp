@@ -20,6 +20,8 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QTabBar>
+#include <QTreeView>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -183,6 +185,26 @@ TEST(AllScreens, show_the_main_window_whole_at_its_smallest) {
             EXPECT_EQ(place, panel_place.value_or(place)) << "a change of kind moves the panel";
             panel_place = place;
         }
+    }
+    form.unload();
+    settle();
+}
+
+TEST(AllScreens, have_a_picture_of_its_own_for_every_kind_of_document) {
+    System system;
+    compose::frmZent& form = system.main;
+    form.show();
+    settle();
+    const auto& documents = *window_of(form).findChild<QTreeView*>(QStringLiteral("FAX1"))->model();
+    std::vector<QImage> pictures;
+    for (int number = 1; number <= 10; ++number) {
+        const int row = static_cast<int>(form.FAX1.add_row(u"a", {}));
+        form.FAX1.set_small_icon(static_cast<std::size_t>(row), number);
+        const auto icon = documents.index(row, 0).data(Qt::DecorationRole).value<QIcon>();
+        const QImage picture = icon.pixmap(32).toImage();
+        EXPECT_FALSE(picture.isNull()) << number;
+        EXPECT_EQ(std::ranges::count(pictures, picture), 0) << number << " looks like another one";
+        pictures.push_back(picture);
     }
     form.unload();
     settle();
