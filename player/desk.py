@@ -23,7 +23,8 @@ class Desk:
     # The program.
 
     def start(self):
-        self.program = subprocess.Popen(["./zent"], cwd=self.results / "app", env={**os.environ, "HOME": str(self.home), "LC_TIME": "ko_KR.UTF-8", "LC_NUMERIC": "ko_KR.UTF-8"})
+        korean = {"HOME": str(self.home), "LC_TIME": "ko_KR.UTF-8", "LC_NUMERIC": "ko_KR.UTF-8"}
+        self.program = subprocess.Popen(["./zent"], cwd=self.results / "app", env={**os.environ, **korean})
 
     def close_program(self):
         active = lambda window: window.getState().contains(pyatspi.STATE_ACTIVE)

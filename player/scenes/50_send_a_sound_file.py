@@ -15,6 +15,7 @@ def play(desk):
     desk.window_called("설정")
     desk.picture("schedule-lead")
     desk.keys("Escape")
+    desk.gone("설정")
     desk.add_recipient(main, "정수진", "02-567-8901")
     desk.picture("sound-file")
     desk.send(main, "scheduled-confirmation")
