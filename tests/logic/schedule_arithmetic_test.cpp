@@ -82,7 +82,7 @@ TEST_F(ScheduleArithmetic, AScheduleMayBeSentOnceItLiesTheLeadAhead) {
             form.Option2.set_chosen(true);
             for (const int seconds : {0, 1}) {
                 clock.set(at(now, seconds));
-                for (int scheduled = now - 3; scheduled <= now + 2 * 60; ++scheduled) {
+                for (int scheduled = now - 100; scheduled <= now + 2 * 60; ++scheduled) {
                     if (scheduled < 0) continue;
                     const int ahead = scheduled - now - (seconds > 0 ? 1 : 0);
                     // The oddities: any later day will do; 60 minutes count as 100, so that a lead of 90 is
