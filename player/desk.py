@@ -118,10 +118,12 @@ class Desk:
 
     # What most scenes do.
 
-    def choose_kind(self, kind):
-        """Clicks the kind's tab and returns the main window, which shows it."""
+    def choose_kind(self, kind, subject):
+        """Clicks the kind's tab, writes the subject and returns the main window, which shows the kind."""
         self.click(self.find(kind, "page tab", self.window("[")))
-        return self.window(f"[{kind}]")
+        main = self.window(f"[{kind}]")
+        self.fill(self.find("발송제목", "text", main), subject)
+        return main
 
     def add_recipient(self, main, name, number):
         self.fill(self.find("이름", "text", main), f"{name}\n{number}\n")

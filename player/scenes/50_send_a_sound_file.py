@@ -6,12 +6,12 @@ import wave
 
 def play(desk):
     lay_sound(desk.home / "정기 모임 안내.wav")
-    main = desk.choose_kind("음성메시지")
+    main = desk.choose_kind("음성메시지", "정기 모임 안내")
     desk.click(desk.find("파일첨부", "page tab", main))
-    desk.click(desk.find("찾아보기", "push button", main))
+    desk.click(desk.find("음성파일 찾아보기", "push button", main))
     desk.choose_file("음성파일 선택", "정기 모임 안내.wav")
     desk.click(desk.find("예약전송", "radio button", main))
-    desk.click(desk.find("설정", "push button", main))
+    desk.click(desk.find("최소 예약전송 시간 설정", "push button", main))
     desk.window_called("설정")
     desk.picture("schedule-lead")
     desk.keys("Escape")

@@ -4,10 +4,10 @@
 def play(desk):
     for name in ("견적서.hwp", "사무실 약도.jpg"):
         (desk.home / name).write_bytes(b"." * 150_000)
-    main = desk.choose_kind("팩스메시지")
-    desk.click(desk.find("찾아보기", "push button", main))
+    main = desk.choose_kind("팩스메시지", "견적서와 약도")
+    desk.click(desk.find("보낼문서 찾아보기", "push button", main))
     desk.choose_file("팩스문서 열기", "사무실 약도.jpg", "file-dialog")
-    desk.click(desk.find("찾아보기", "push button", main))
+    desk.click(desk.find("보낼문서 찾아보기", "push button", main))
     desk.choose_file("팩스문서 열기", "견적서.hwp")
     desk.add_recipient(main, "최영호", "02-678-9012")
     desk.picture("fax")
