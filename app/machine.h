@@ -7,6 +7,7 @@
 #include "platform/posix/posix_files.h"
 #include "platform/posix/posix_shell.h"
 #include "platform/qt/keep_painted.h"
+#include "platform/qt/late_recorder.h"
 #include "platform/qt/qt_desktop.h"
 
 #include <utility>
@@ -26,13 +27,15 @@ struct Machine {
                    .settings = settings,
                    .shell = shell,
                    .carrier = carrier,
-                   .cards = cards} {}
+                   .cards = cards,
+                   .recorder = recorder} {}
 
     platform::posix::PosixFiles files;
     platform::IniSettings settings{files};
     platform::posix::PosixShell shell;
     platform::posix::PosixCarrierLibrary carrier;
     platform::jet::JetCardSource cards;
+    platform::qt::LateRecorder recorder;
     platform::qt::Screens screens = platform::qt::program_screens();
     platform::qt::QtDesktop desktop{screens, files};
     platform::Platform platform;

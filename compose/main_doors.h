@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/text/text.h"
-
 #include <functional>
 
 namespace compose {
@@ -18,8 +16,6 @@ struct MainDoors {
     /// Opens the box of saved texts.
     std::function<void()> message_box;
     std::function<void()> update_check;
-    /// Saves the recording as a file in the folder; true when there is none to save.
-    std::function<bool(const platform::Text& folder, const platform::Text& file)> SaveWave;
 };
 
 }  // namespace compose

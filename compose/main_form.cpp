@@ -33,6 +33,7 @@ constexpr std::array EMOTICONS = {
 
 frmZent::frmZent(platform::Platform& platform, core::AppState& state, MainDoors doors)
     : Form(platform.desktop, u"frmZent"),
+      RFK1(*this, u"RFK1", platform.recorder, platform.files),
       Cmd1(platform.desktop),
       Timer1(platform.clock, 500),
       Timer2(platform.clock, 1),
@@ -90,11 +91,6 @@ void frmZent::disable_without_door() {
     mnusubpopup1.set_enabled(doors_.pick_recipients != nullptr);
     MyMsgBttn.set_enabled(doors_.message_box != nullptr);
     mnuUpDate.set_enabled(doors_.update_check != nullptr);
-    TTSBttn0.set_enabled(doors_.SaveWave != nullptr);
-}
-
-bool frmZent::SaveWave(const Text& folder, const Text& file) const {
-    return !doors_.SaveWave || doors_.SaveWave(folder, file);
 }
 
 Text frmZent::sender_tag() const { return u"[" + platform::trim(txtUserName.text()) + u"]"; }

@@ -14,6 +14,7 @@
 #include "platform/controls/menu.h"
 #include "platform/controls/option_button.h"
 #include "platform/controls/progress_bar.h"
+#include "platform/controls/sound_recorder.h"
 #include "platform/controls/status_bar.h"
 #include "platform/controls/tab_strip.h"
 #include "platform/controls/text_box.h"
@@ -114,6 +115,8 @@ class frmZent : public platform::Form {
     platform::TextBox ttsText{*this, u"ttsText"};
     platform::Label TTSHLen{*this, u"TTSHLen", u"0/1000Byte"};
     platform::Label Label1_0{*this, u"Label1_0"};
+    platform::SoundRecorder RFK1;
+    platform::Image TTSPic{*this, u"TTSPic"};
     platform::CommandButton TTSBttn0{*this, u"TTSBttn0", u"파일로 저장..."};
     platform::Label Label1_1{*this, u"Label1_1"};
     platform::Label Label3_3{*this, u"Label3_3", u"음성파일:"};
@@ -236,9 +239,6 @@ class frmZent : public platform::Form {
 
     /// Removes the folder of fetched update files.
     void TEMP_ALL_DEL();
-
-    /// Saves the recording; true when there is none.
-    bool SaveWave(const platform::Text& folder, const platform::Text& file) const;
 
     /// "[" and the sender's name and "]", as it stands in front of a text.
     platform::Text sender_tag() const;

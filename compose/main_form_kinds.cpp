@@ -30,6 +30,8 @@ void frmZent::connect_kinds() {
     STBar1.PanelClick.connect([this](int panel) { STBar1_PanelClick(panel); });
     Command3.Click.connect([this] { Command3_Click(); });
     Command5.Click.connect([this] { Command5_Click(); });
+    // What is said from now on is not meant for the message.
+    Command1.Click.connect([this] { RFK1.stop(); });
     if (doors_.send) Command1.Click.connect(doors_.send);
     if (doors_.message_box) MyMsgBttn.Click.connect(doors_.message_box);
     if (doors_.update_check) mnuUpDate.Click.connect(doors_.update_check);
@@ -51,7 +53,7 @@ void frmZent::fill_panels() {
     fill(Frame1[1], {&Picture2[1], &TabStrip2, &TPIC[0], &TPIC[1], &TPIC[2], &Check2, &Combo4, &Command4});
     fill(Picture2[1], {&mText2});
     fill(TPIC[0], {&ttsText});
-    fill(TPIC[1], {&TTSBttn0});
+    fill(TPIC[1], {&RFK1, &TTSBttn0});
     fill(TPIC[2], {&TTSFileTxt, &TTSBttn1, &TTSBttn2, &TTSBttn3, &TTSBttn4});
     fill(Frame1[2], {&FAX1, &FAXBttn1, &FAXBttn2});
 }

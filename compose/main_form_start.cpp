@@ -132,6 +132,7 @@ void frmZent::first_tick() {
 }
 
 void frmZent::Form_Unload() {
+    RFK1.stop();
     const Text ini = core::application_ini(platform_);
     save_sender_name();
     save_callback(u"ZentUserPhoneID");

@@ -26,11 +26,11 @@ void frmZent::connect_voice() {
 void frmZent::TTSBttn0_Click() {
     // A trial, so that nobody is asked for a name when there is nothing to save.
     const Text trial = u"tmpbk.wav";
-    if (SaveWave(Text(core::SOUND_FOLDER), trial)) return;
+    if (RFK1.SaveWave(Text(core::SOUND_FOLDER), trial)) return;
     core::DELETE_FILE(platform_, Text(core::SOUND_FOLDER) + trial);
     Cmd1.set_up(u"다름 이름으로 저장", Text(WAV_FILTER));
     if (choose_free_name()) {
-        SaveWave(core::PARENT_DIR(platform_, Cmd1.file_name()), core::FILE_NAME_OF(Cmd1.file_name()));
+        RFK1.SaveWave(core::PARENT_DIR(platform_, Cmd1.file_name()), core::FILE_NAME_OF(Cmd1.file_name()));
     }
 }
 

@@ -144,6 +144,11 @@ class Desk:
         x, y = box.x + box.width // 2, box.y + box.height // 2
         subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
 
+    def say(self, text):
+        """Speaks into the microphone, until all is said."""
+        voice = subprocess.run(["espeak-ng", "-v", "ko", "--stdout", text], check=True, stdout=subprocess.PIPE)
+        subprocess.run(["paplay", "--device=wire"], input=voice.stdout, check=True)
+
     def picture(self, name):
         time.sleep(0.3)
         path = self.results / f"{len(self.pictures) + 1:02}-{name}.png"

@@ -75,7 +75,7 @@ bool check_content(const Platform& platform, frmZent& form, Content content) {
         case Content::speech:
             return check_speech(platform, form);
         case Content::recording:
-            return !form.SaveWave(Text(core::SOUND_FOLDER), u"tmp.wav");
+            return !form.RFK1.SaveWave(Text(core::SOUND_FOLDER), u"tmp.wav");
         case Content::sound_file:
             return check_sound_file(platform, form);
         case Content::documents:

@@ -15,6 +15,7 @@ class Menu;
 class OptionButton;
 class PictureBox;
 class ProgressBar;
+class SoundRecorder;
 class StatusBar;
 class TabStrip;
 class TextBox;
@@ -39,6 +40,7 @@ class ControlVisitor {
     virtual void visit(OptionButton& control) = 0;
     virtual void visit(PictureBox& control) = 0;
     virtual void visit(ProgressBar& control) = 0;
+    virtual void visit(SoundRecorder& control) = 0;
     virtual void visit(StatusBar& control) = 0;
     virtual void visit(TabStrip& control) = 0;
     virtual void visit(TextBox& control) = 0;

@@ -5,6 +5,7 @@
 #include "platform/ports/clock.h"
 #include "platform/ports/desktop.h"
 #include "platform/ports/files.h"
+#include "platform/ports/recorder.h"
 #include "platform/ports/settings.h"
 #include "platform/ports/shell.h"
 
@@ -19,6 +20,7 @@ struct Platform {
     Shell& shell;
     CarrierLibrary& carrier;
     CardSource& cards;
+    Recorder& recorder;
 };
 
 }  // namespace platform

@@ -7,6 +7,8 @@
 #include "platform/qt/menu_binder.h"
 #include "platform/qt/message_edit.h"
 #include "platform/qt/plain_binders.h"
+#include "platform/qt/recorder_panel.h"
+#include "platform/qt/sound_recorder_binder.h"
 #include "platform/qt/status_bar_binder.h"
 #include "platform/qt/tab_strip_binder.h"
 #include "platform/qt/text_box_binder.h"
@@ -53,6 +55,7 @@ void FormBinder::visit(ListView& control) { bind<ListViewBinder, QTreeView>(cont
 void FormBinder::visit(OptionButton& control) { bind<OptionButtonBinder, QRadioButton>(control); }
 void FormBinder::visit(PictureBox& control) { bind<PictureBoxBinder, QFrame>(control); }
 void FormBinder::visit(ProgressBar& control) { bind<ProgressBarBinder, QProgressBar>(control); }
+void FormBinder::visit(SoundRecorder& control) { bind<SoundRecorderBinder, RecorderPanel>(control); }
 void FormBinder::visit(StatusBar& control) { bind<StatusBarBinder, QStatusBar>(control); }
 void FormBinder::visit(TabStrip& control) { bind<TabStripBinder, QTabBar>(control); }
 void FormBinder::visit(ToolBar& control) { bind<ToolBarBinder, QToolBar>(control); }

@@ -34,6 +34,7 @@ class FormBinder : private ControlVisitor {
     void visit(OptionButton& control) override;
     void visit(PictureBox& control) override;
     void visit(ProgressBar& control) override;
+    void visit(SoundRecorder& control) override;
     void visit(StatusBar& control) override;
     void visit(TabStrip& control) override;
     void visit(TextBox& control) override;

@@ -138,7 +138,8 @@ TEST_F(Paths, AnErrorOfTheDiskMeansThatTheFileIsNotThere) {
             throw platform::RuntimeError(platform::ErrorNumber::bad_file_name);
         }
     } broken;
-    const platform::Platform machine{desktop, clock, broken, settings, shell, carrier, cards};
+    const platform::Platform machine{desktop, clock,   broken, settings,
+                                     shell,   carrier, cards,  recorder};
     EXPECT_FALSE(FILE_EXISTS(machine, u"a<b"));
 }
 

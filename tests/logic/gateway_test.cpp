@@ -81,7 +81,8 @@ struct Wrappers : testing::Test, TestPlatform {
                                .settings = settings,
                                .shell = shell,
                                .carrier = library,
-                               .cards = cards};
+                               .cards = cards,
+                               .recorder = recorder};
     Gateway carrier_gateway{machine, state};
 
     struct Wrapper {

@@ -172,6 +172,7 @@ TEST(SendKinds, GiveTheCarrierTheirCodesAndTheirFieldsAlone) {
         s.form.Combo4.set_list_index(2);
         s.form.TabStrip1.select(kind.tab);
         s.form.TabStrip2.select(kind.source);
+        s.record({1});
         s.form.mText1.set_text(u"안녕");
         s.form.mText2.set_text(u"플러스");
         s.form.ttsText.set_text(u"음성");

@@ -1,3 +1,4 @@
+#include "platform/sound/wav_file.h"
 #include "tests/support/sending.h"
 
 #include <gtest/gtest.h>
@@ -119,12 +120,14 @@ TEST(SendCheck, ARecordingIsSavedForTheCarrierAndWithoutOneTheClickEndsSilently)
         s.form.TabStrip1.select(kind);
         s.form.TabStrip2.select(2);
         s.add(u"a", u"01011112222");
-        s.nothing_recorded = true;
+        s.form.RFK1.open();
         s.click();
         EXPECT_TRUE(s.desktop.boxes.empty());
-        s.nothing_recorded = false;
+        EXPECT_TRUE(s.files.files.empty());
+        s.record(platform::Samples(10, 1));
         s.send();
-        EXPECT_EQ(s.saved_waves, (std::vector<Text>{u"c:\\temp\\tmp.wav", u"c:\\temp\\tmp.wav"}));
+        EXPECT_FALSE(s.recorder.recording) << "nothing is recorded beside the job";
+        EXPECT_EQ(s.files.files.at(u"c:\\temp\\tmp.wav"), platform::wav_file(platform::Samples(10, 1)));
         EXPECT_EQ(utf8(s.carrier.registrations.at(0).s_attach_file), "c:\\temp\\tmp.wav;");
     }
 }

@@ -136,6 +136,7 @@ struct Draft {
     RecordingShell shell;
     RecordingCarrier carrier;
     ScriptedCards cards;
+    ScriptedRecorder recorder;
     platform::qt::QtDesktop desktop{screens, files};
     platform::Platform platform{.desktop = desktop,
                                 .clock = clock,
@@ -143,7 +144,8 @@ struct Draft {
                                 .settings = settings,
                                 .shell = shell,
                                 .carrier = carrier,
-                                .cards = cards};
+                                .cards = cards,
+                                .recorder = recorder};
     core::AppState state;
     InputMethod method;
     int kind;
@@ -153,8 +155,7 @@ struct Draft {
                            .pick_recipients = {},
                            .NEW_SENDMAN_LOAD = {},
                            .message_box = {},
-                           .update_check = {},
-                           .SaveWave = {}}};
+                           .update_check = {}}};
 };
 
 /// A line end counts two bytes, and there are none in the subject.

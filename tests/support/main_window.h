@@ -59,8 +59,7 @@ struct MainWindow : TestPlatform {
                 .pick_recipients = [this] { pick_recipients(); },
                 .NEW_SENDMAN_LOAD = [this] { hand_over(); },
                 .message_box = write("message_box"),
-                .update_check = write("update_check"),
-                .SaveWave = {}};
+                .update_check = write("update_check")};
     }
     std::function<void()> write(const char* door) {
         return [this, door] { opened.emplace_back(door); };

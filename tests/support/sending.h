@@ -18,9 +18,6 @@ namespace tests {
 
 /// The main window of a user who is logged in, with a send button that works and a draft without recipients.
 struct Sending : TestPlatform {
-    bool nothing_recorded = false;
-    std::vector<platform::Text> saved_waves;
-
     compose::frmZent form{platform, state, main_doors()};
 
     /// What the last report said, and whether it offered the results.
@@ -43,6 +40,12 @@ struct Sending : TestPlatform {
             desktop.expect_box(u"80Byte이상 입력하시겠습니까?", platform::BoxAnswer::yes);
         }
         form.mText1.set_text(text);
+    }
+
+    void record(const platform::Samples& samples) {
+        form.RFK1.open();
+        form.RFK1.record();
+        recorder.speak(samples);
     }
 
     void add(const platform::Text& name, const platform::Text& number, bool checked = true,
@@ -118,12 +121,7 @@ struct Sending : TestPlatform {
                 .pick_recipients = {},
                 .NEW_SENDMAN_LOAD = {},
                 .message_box = {},
-                .update_check = {},
-                .SaveWave =
-                    [this](const platform::Text& folder, const platform::Text& file) {
-                        saved_waves.push_back(folder + file);
-                        return nothing_recorded;
-                    }};
+                .update_check = {}};
     }
 };
 

@@ -7,6 +7,7 @@
 #include "tests/support/recording_carrier.h"
 #include "tests/support/scripted_cards.h"
 #include "tests/support/scripted_desktop.h"
+#include "tests/support/scripted_recorder.h"
 #include "tests/support/virtual_clock.h"
 
 class RecordingShell : public platform::Shell {
@@ -29,6 +30,7 @@ struct TestPlatform {
     RecordingShell shell;
     RecordingCarrier carrier;
     ScriptedCards cards;
+    ScriptedRecorder recorder;
     platform::Platform platform = on(desktop);
     core::AppState state;
 
@@ -43,6 +45,7 @@ struct TestPlatform {
                 .settings = settings,
                 .shell = shell,
                 .carrier = carrier,
-                .cards = cards};
+                .cards = cards,
+                .recorder = recorder};
     }
 };

@@ -1,0 +1,54 @@
+#include "platform/qt/sound_recorder_binder.h"
+
+#include "platform/qt/recorder_panel.h"
+
+#include <QAbstractButton>
+#include <QEvent>
+#include <utility>
+
+namespace platform::qt {
+
+SoundRecorderBinder::SoundRecorderBinder(BoundForm& bound, SoundRecorder& control, RecorderPanel& panel)
+    : WidgetBinder(bound, control, panel), control_(control), panel_(panel) {
+    connect_button(panel.record_button(), &SoundRecorder::record);
+    connect_button(panel.stop_button(), &SoundRecorder::stop);
+    connect_button(panel.play_button(), &SoundRecorder::play);
+    panel.show_recorder(control);
+}
+
+void SoundRecorderBinder::refresh(Aspect aspect) {
+    if (aspect == Aspect::value || aspect == Aspect::text) return panel_.show_recorder(control_);
+    WidgetBinder::refresh(aspect);
+}
+
+bool SoundRecorderBinder::filter(QObject& object, QEvent& event) {
+    switch (event.type()) {
+        case QEvent::Show:
+            seen_ = seen_ && &object != &panel_;
+            return false;
+        case QEvent::Paint:
+            // What sound needs takes a moment to load: once the user sees the panel, and after that.
+            if (&object == &panel_ && !std::exchange(seen_, true))
+                QMetaObject::invokeMethod(this, &SoundRecorderBinder::open, Qt::QueuedConnection);
+            return false;
+        case QEvent::FocusIn:
+            bound().form.move_focus(&control_);
+            return false;
+        case QEvent::Shortcut:
+            static_cast<QWidget&>(object).setFocus(Qt::ShortcutFocusReason);
+            return !is_bound_live();
+        default:
+            return false;
+    }
+}
+
+void SoundRecorderBinder::open() {
+    if (is_bound_live()) control_.open();
+}
+
+void SoundRecorderBinder::connect_button(QAbstractButton& button, void (SoundRecorder::*press)()) {
+    button.installEventFilter(this);
+    connect(&button, &QAbstractButton::clicked, this, [this, press] { act([&] { (control_.*press)(); }); });
+}
+
+}  // namespace platform::qt

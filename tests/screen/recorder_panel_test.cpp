@@ -1,0 +1,138 @@
+// The recorder on its panel of the main window, by keys and for a screen reader.
+
+#include "compose/main_form.h"
+#include "tests/screen/screen_fixture.h"
+#include "tests/support/test_platform.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+
+namespace {
+
+using platform::Samples;
+using platform::SAMPLES_A_SECOND;
+
+struct RecorderPanel : tests::DeskTest {
+    RecorderPanel() {
+        form.show();
+        settle();
+        form.TabStrip1.select(compose::VOICE_MESSAGE);
+    }
+    ~RecorderPanel() override {
+        form.unload();
+        settle();
+    }
+
+    /// Until the panel has been painted, and what follows that has happened.
+    static void paint() {
+        ASSERT_TRUE(QTest::qWaitFor([] { return message() != ""; }));
+    }
+    static QPushButton& button(const char* name) { return find<QPushButton>(name); }
+    static std::string message() { return find<QLabel>("_recordMessage").text().toStdString(); }
+    void press_key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+
+    TestPlatform machine;
+    platform::qt::Screens screens = platform::qt::program_screens();
+    platform::qt::QtDesktop desktop{screens, machine.files};
+    platform::Platform platform{.desktop = desktop,
+                                .clock = machine.clock,
+                                .files = machine.files,
+                                .settings = machine.settings,
+                                .shell = machine.shell,
+                                .carrier = machine.carrier,
+                                .recorder = machine.recorder};
+    gateway::ServiceDoors service_doors;
+    compose::frmZent form{platform, machine.state, service_doors, compose::MainDoors{}};
+};
+
+TEST_F(RecorderPanel, LooksForTheMicrophoneOnceTheUserSeesIt) {
+    settle();
+    EXPECT_EQ(message(), "");
+    form.TabStrip2.select(2);
+    paint();
+    EXPECT_TRUE(button("_record").isEnabled());
+    EXPECT_FALSE(find("_recordWarning").isVisible());
+    machine.recorder.plug_in(false);
+    EXPECT_FALSE(button("_record").isEnabled());
+    EXPECT_NE(message().find("마이크를 찾을 수 없습니다"), std::string::npos);
+    EXPECT_TRUE(find("_recordWarning").isVisible());
+}
+
+TEST_F(RecorderPanel, RecordsStopsAndPlaysByOneKey) {
+    form.TabStrip2.select(2);
+    paint();
+    form.RFK1.set_focus();
+    ASSERT_EQ(QApplication::focusWidget(), &button("_record"));
+    press_key(Qt::Key_Space);
+    machine.recorder.speak(Samples(3 * SAMPLES_A_SECOND, 20000));
+    EXPECT_EQ(find<QLabel>("_recordTime").text(), QStringLiteral("00:03 / 06:00"));
+    EXPECT_GT(find<QProgressBar>("_recordLevel").value(), 90);
+    press_key(Qt::Key_Space);
+    EXPECT_FALSE(machine.recorder.recording);
+    press_key(Qt::Key_Space);
+    EXPECT_TRUE(machine.recorder.playing);
+    EXPECT_EQ(QApplication::focusWidget(), &button("_stop"));
+    EXPECT_TRUE(form.RFK1.has_focus());
+
+    form.subjectText.set_focus();
+    machine.recorder.end_playing();
+    EXPECT_TRUE(form.subjectText.has_focus()) << "only the panel's own focus goes on";
+    press_key(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return machine.recorder.recording; }));
+    EXPECT_TRUE(form.RFK1.has_focus()) << "the field has seen its loss";
+}
+
+TEST_F(RecorderPanel, ShowsEveryMessageWholeInTheSmallestWindow) {
+    machine.recorder.installed = false;
+    form.TabStrip1.select(compose::TEXT_PLUS);
+    form.TabStrip2.select(2);
+    QWidget& window = *find("RFK1").window();
+    window.resize(window.minimumSize());
+    paint();
+    const QLabel& label = find<QLabel>("_recordMessage");
+    const auto expect_whole = [&](const char* words) {
+        settle();
+        EXPECT_NE(message().find(words), std::string::npos) << message();
+        EXPECT_GE(label.height(), label.heightForWidth(label.width())) << message();
+        EXPECT_TRUE(label.parentWidget()->rect().contains(label.geometry())) << message();
+    };
+    expect_whole("설치");
+    machine.recorder.installed = true;
+    form.RFK1.open();
+    machine.recorder.busy = true;
+    form.RFK1.record();
+    expect_whole("다른 프로그램");
+    machine.recorder.busy = false;
+    form.RFK1.record();
+    machine.recorder.speak(Samples(6 * 60 * SAMPLES_A_SECOND));
+    expect_whole("6분");
+    machine.recorder.busy = true;
+    form.RFK1.play();
+    expect_whole("스피커");
+    machine.files.failure = platform::ErrorNumber::path_not_found;
+    form.RFK1.SaveWave(u"c:\\temp\\", u"tmp.wav");
+    expect_whole("경로를 찾을 수 없습니다");
+    machine.recorder.plug_in(false);
+    expect_whole("마이크를 찾을 수 없습니다");
+    machine.recorder.plug_in(true);
+    machine.recorder.busy = false;
+    form.RFK1.record();
+    machine.recorder.speak(Samples(1));
+    machine.recorder.break_recording();
+    expect_whole("끊어졌습니다");
+}
+
+TEST_F(RecorderPanel, HasANameForEverythingThatAScreenReaderMeets) {
+    form.TabStrip2.select(2);
+    paint();
+    for (const char* name : {"_record", "_stop", "_play", "_recordTime", "_recordLevel", "_recordMessage"}) {
+        const auto* accessible = QAccessible::queryAccessibleInterface(&find(name));
+        EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << name;
+    }
+}
+
+}  // namespace
