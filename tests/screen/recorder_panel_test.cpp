@@ -45,8 +45,7 @@ struct RecorderPanel : tests::DeskTest {
                                 .shell = machine.shell,
                                 .carrier = machine.carrier,
                                 .recorder = machine.recorder};
-    gateway::ServiceDoors service_doors;
-    compose::frmZent form{platform, machine.state, service_doors, compose::MainDoors{}};
+    compose::frmZent form{platform, machine.state, compose::MainDoors{}};
 };
 
 TEST_F(RecorderPanel, LooksForTheMicrophoneOnceTheUserSeesIt) {
