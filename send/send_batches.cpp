@@ -3,7 +3,7 @@
 #include "core/common.h"
 #include "platform/text/format.h"
 #include "send/frmZentSend.h"
-#include "send/percent.h"
+#include "core/percent.h"
 #include "send/recipient_text.h"
 
 namespace send {
@@ -44,7 +44,7 @@ void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options
         ++current;
         if (options.leaves_trace) RecipientRows.make_visible(current - 1);
         if (gather(batch, current)) submit_batch(job, batch, current, options.leaves_trace);
-        if (options.shows_progress) PBar1.set_value(percent(current, rows));
+        if (options.shows_progress) PBar1.set_value(core::percent(current, rows));
         if (current == rows) {
             // The last rows were left out after others had been gathered.
             if (!batch.s_dest_addr.empty()) submit_batch(job, batch, current, options.leaves_trace);

@@ -8,7 +8,7 @@
 #include "send/draft.h"
 #include "send/frmSBox.h"
 #include "send/frmZentSend.h"
-#include "send/percent.h"
+#include "core/percent.h"
 #include "send/schedule_check.h"
 
 #include <optional>
@@ -136,7 +136,7 @@ std::optional<Recipients> check_recipients(const Platform& platform, frmZent& fo
                 recipients.first_number = number;
             }
         }
-        form.PBar1.set_value(percent(row + 1, rows));
+        form.PBar1.set_value(core::percent(row + 1, rows));
     }
     form.PBar1.hide();
     form.RECIPIENT_COUNT_CAPTION();

@@ -3,7 +3,7 @@
 #include "core/common.h"
 #include "platform/text/number.h"
 #include "send/frmZentSend.h"
-#include "send/percent.h"
+#include "core/percent.h"
 
 namespace send {
 
@@ -41,7 +41,7 @@ void frmZentSend::SEND_LONG_BATCHES() {
             const bool last = mText1.text().empty();
             pass_over_rows(job, batch, {.leaves_trace = last, .shows_progress = false});
             // Deliberately unchecked: above 100 it is the error that ends such a job.
-            if (!last) PBar1.set_value(percent(static_cast<std::size_t>(job.pieces), expected));
+            if (!last) PBar1.set_value(core::percent(static_cast<std::size_t>(job.pieces), expected));
         }
     });
 }

@@ -3,7 +3,7 @@
 
 #include "core/list_columns.h"
 #include "send/frmZentSend.h"
-#include "send/percent.h"
+#include "core/percent.h"
 #include "send/recipient_text.h"
 
 namespace send {
@@ -54,7 +54,7 @@ void frmZentSend::send_personal_row(SendJob& job, std::size_t row) {
     while (!mText1.text().empty()) {
         next_piece(job);
         open_session(job);
-        PBar1.set_value(percent(row + 1, RecipientRows.row_count()));
+        PBar1.set_value(core::percent(row + 1, RecipientRows.row_count()));
         result = submit(job);
         // Deliberately the last piece alone decides: a recipient who got the end of a text is not sent all of
         // it again.

@@ -3,7 +3,7 @@
 
 #include "core/common.h"
 #include "send/frmZentSend.h"
-#include "send/percent.h"
+#include "core/percent.h"
 #include "send/recipient_text.h"
 
 namespace send {
@@ -43,7 +43,7 @@ void frmZentSend::send_single_row(SendJob& job, std::size_t row) {
     job.message.s_dest_addr = *address;
 
     open_session(job);
-    PBar1.set_value(percent(row + 1, RecipientRows.row_count()));
+    PBar1.set_value(core::percent(row + 1, RecipientRows.row_count()));
     const Text result = submit(job, FAILED);
     count(job, result, 1);
     close_session(job);
