@@ -21,6 +21,7 @@ class TabStrip;
 class TextBox;
 class ToolBar;
 class WebBrowser;
+class TreeView;
 
 /// Every kind of control there is; a toolkit that shows forms has to say how it shows each.
 class ControlVisitor {
@@ -46,6 +47,7 @@ class ControlVisitor {
     virtual void visit(TextBox& control) = 0;
     virtual void visit(ToolBar& control) = 0;
     virtual void visit(WebBrowser& control) = 0;
+    virtual void visit(TreeView& control) = 0;
 };
 
 }  // namespace platform

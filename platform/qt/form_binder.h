@@ -40,6 +40,7 @@ class FormBinder : private ControlVisitor {
     void visit(TextBox& control) override;
     void visit(ToolBar& control) override;
     void visit(WebBrowser& control) override;
+    void visit(TreeView& control) override;
 
     template <class BinderType, class Widget, class ControlType>
     bool try_bind(ControlType& control);

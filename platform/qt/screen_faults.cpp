@@ -29,7 +29,7 @@ bool has_control(const Form& form, const QString& name) {
 bool holds_controls(const QWidget& widget) {
     const QString kind = QString::fromLatin1(widget.metaObject()->className());
     static const QStringList CONTAINERS{"QWidget", "QFrame",   "QGroupBox",  "QMainWindow",
-                                        "QDialog", "QMenuBar", "QScrollArea"};
+                                        "QDialog", "QMenuBar", "QScrollArea", "QSplitter"};
     return CONTAINERS.contains(kind);
 }
 
