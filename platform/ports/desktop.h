@@ -3,6 +3,7 @@
 #include "platform/controls/form.h"
 #include "platform/text/text.h"
 
+#include <memory>
 #include <optional>
 
 namespace platform {
@@ -45,6 +46,16 @@ struct Screen {
     int twips_per_pixel_y = 15;
 };
 
+/// The user, watched while a handler runs: what he does meanwhile is heard when the handler is through.
+class InputWatch {
+  public:
+    virtual ~InputWatch() = default;
+
+    /// Whether the user has pressed a key or a button or moved the mouse since the watch began. Never, on
+    /// desktops that do not tell.
+    virtual bool input_waits() = 0;
+};
+
 /// The user's desktop: windows, boxes, the pointer, the clipboard and the event loop. A port, so that a whole
 /// session runs in a test where a script plays the user.
 class Desktop {
@@ -76,6 +87,10 @@ class Desktop {
 
     /// Handles the events that wait, once.
     virtual void yield() = 0;
+    /// Lets the windows paint themselves in the midst of a long loop, but hears no user. To be called in
+    /// every round: it works only as often as an eye can tell.
+    virtual void paint() = 0;
+    virtual std::unique_ptr<InputWatch> watch_input() = 0;
 };
 
 }  // namespace platform

@@ -3,6 +3,7 @@
 #include "platform/controls/menu.h"
 #include "platform/qt/composition.h"
 #include "platform/qt/form_window.h"
+#include "platform/qt/input_watch.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/text_conversion.h"
 #include "platform/qt/twips.h"
@@ -134,6 +135,15 @@ Screen QtDesktop::screen() const {
 void QtDesktop::set_application_title(const Text& title) { title_ = to_qstring(title); }
 
 void QtDesktop::yield() { QCoreApplication::processEvents(); }
+
+void QtDesktop::paint() {
+    constexpr int MILLISECONDS_BETWEEN = 40;
+    if (painted_.isValid() && !painted_.hasExpired(MILLISECONDS_BETWEEN)) return;
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    painted_.start();
+}
+
+std::unique_ptr<InputWatch> QtDesktop::watch_input() { return std::make_unique<QtInputWatch>(); }
 
 FormWindow* QtDesktop::window_of(const Form& form) const {
     const auto found = windows_.find(&form);

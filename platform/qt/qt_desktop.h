@@ -5,6 +5,7 @@
 #include "platform/qt/file_dialog.h"
 #include "platform/qt/screens.h"
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QString>
 #include <map>
@@ -36,6 +37,8 @@ class QtDesktop : public Desktop {
     Screen screen() const override;
     void set_application_title(const Text& title) override;
     void yield() override;
+    void paint() override;
+    std::unique_ptr<InputWatch> watch_input() override;
 
   private:
     FormWindow* window_of(const Form& form) const;
@@ -48,6 +51,7 @@ class QtDesktop : public Desktop {
     std::map<const Form*, QPointer<FormWindow>> windows_;
     QString title_;
     bool hourglass_ = false;
+    QElapsedTimer painted_;
 };
 
 }  // namespace platform::qt

@@ -49,6 +49,15 @@ void ScriptedDesktop::show_modal(platform::Form& form) {
     form.unload();
 }
 
+std::unique_ptr<platform::InputWatch> ScriptedDesktop::watch_input() {
+    struct Watch : platform::InputWatch {
+        explicit Watch(ScriptedDesktop& desktop) : desktop(desktop) {}
+        bool input_waits() override { return desktop.input_waits(); }
+        ScriptedDesktop& desktop;
+    };
+    return std::make_unique<Watch>(*this);
+}
+
 void ScriptedDesktop::popup_menu(platform::Form&, platform::Menu& menu) { popups.push_back(&menu); }
 
 void ScriptedDesktop::popup_menu_below(platform::Form& form, platform::Menu& menu,

@@ -40,6 +40,11 @@ class ScriptedDesktop : public platform::Desktop {
     /// The control that the last menu was opened below.
     const platform::Control* popup_owner = nullptr;
 
+    /// Happens whenever a long loop lets the windows paint.
+    std::function<void()> during_paint = [] {};
+    /// Whether the user is found to have pressed a key while a handler runs.
+    std::function<bool()> input_waits = [] { return false; };
+
     void prepare(platform::Form& form) override;
     void show(platform::Form& form) override;
     void show_modal(platform::Form& form) override;
@@ -54,6 +59,8 @@ class ScriptedDesktop : public platform::Desktop {
     platform::Screen screen() const override { return screen_size; }
     void set_application_title(const platform::Text& text) override { title = text; }
     void yield() override {}
+    void paint() override { during_paint(); }
+    std::unique_ptr<platform::InputWatch> watch_input() override;
 
     platform::Screen screen_size{
         .width = 28800, .height = 16200, .twips_per_pixel_x = 15, .twips_per_pixel_y = 15};
