@@ -14,6 +14,16 @@ const Text& ListItem::sub_item(int index) const {
 
 void ListView::accept(ControlVisitor& visitor) { visitor.visit(*this); }
 
+void ListView::set_columns(std::vector<Column> columns) {
+    if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
+    columns_ = std::move(columns);
+    sorted_ = false;
+    if (rows_view_ != nullptr) {
+        rows_view_->rows_rearranged();
+        rows_view_->columns_changed();
+    }
+}
+
 void ListView::set_column_caption(int number, Text caption) {
     columns_[static_cast<std::size_t>(number - 1)].caption = std::move(caption);
     if (rows_view_ != nullptr) rows_view_->columns_changed();
@@ -24,15 +34,19 @@ void ListView::set_column_picture(int number, std::optional<int> picture) {
     if (rows_view_ != nullptr) rows_view_->columns_changed();
 }
 
+void ListView::set_column_width(int number, int twips) {
+    columns_[static_cast<std::size_t>(number - 1)].width = twips;
+    if (rows_view_ != nullptr) rows_view_->columns_changed();
+}
+
 std::size_t ListView::add_row(Text text, std::vector<Text> sub_items, bool checked) {
     const std::size_t row = rows_.size();
-    if (rows_view_ != nullptr) rows_view_->rows_about_to_be_added(row, 1);
     rows_.push_back(std::make_unique<ListItem>(std::move(text), std::move(sub_items)));
     ListItem& added = item(row);
     added.position_ = row;
     added.checked_ = checked;
     if (checked) ++checked_count_;
-    for (int column = 1; column <= added.sub_item_count(); ++column) index_.add(added, column);
+    if (index_) index_->add(added);
     if (rows_view_ != nullptr) rows_view_->rows_added();
     return row;
 }
@@ -43,7 +57,7 @@ void ListView::remove_selected_rows() {
     std::erase_if(rows_, [this](const std::unique_ptr<ListItem>& row) {
         if (!row->selected()) return false;
         if (row->checked()) --checked_count_;
-        for (int column = 1; column <= row->sub_item_count(); ++column) index_.remove(*row, column);
+        if (index_) index_->remove(*row);
         return true;
     });
     number_rows();
@@ -52,7 +66,7 @@ void ListView::remove_selected_rows() {
 
 void ListView::clear() {
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
-    index_.clear();
+    index_.reset();
     rows_.clear();
     selected_item_ = nullptr;
     checked_count_ = 0;
@@ -68,9 +82,9 @@ void ListView::set_sub_item(std::size_t row, int sub_item, Text text) {
     ListItem& changed = item(row);
     if (changed.sub_item(sub_item) == text) return;
     if (changed.sub_item_count() < sub_item) changed.sub_items_.resize(static_cast<std::size_t>(sub_item));
-    index_.remove(changed, sub_item);
+    if (index_) index_->remove(changed, sub_item);
     changed.sub_items_[static_cast<std::size_t>(sub_item - 1)] = std::move(text);
-    index_.add(changed, sub_item);
+    if (index_) index_->add(changed, sub_item);
     if (rows_view_ != nullptr) rows_view_->row_changed(row);
 }
 
@@ -115,7 +129,11 @@ void ListView::make_visible(std::size_t row) const {
 }
 
 std::optional<std::size_t> ListView::find_in_sub_items(TextView beginning) const {
-    const ListItem* found = index_.first_row(beginning);
+    if (!index_) {
+        index_.emplace();
+        for (const auto& row : rows_) index_->add(*row);
+    }
+    const ListItem* found = index_->first_row(beginning);
     if (found == nullptr) return std::nullopt;
     return found->position();
 }
@@ -123,6 +141,7 @@ std::optional<std::size_t> ListView::find_in_sub_items(TextView beginning) const
 void ListView::sort(int sort_key, SortOrder order) {
     sort_key_ = sort_key;
     sort_order_ = order;
+    sorted_ = true;
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     std::vector<std::pair<Text, std::unique_ptr<ListItem>>> keyed;
     keyed.reserve(rows_.size());
@@ -147,6 +166,12 @@ void ListView::user_select(std::size_t row, bool selected) { item(row).selected_
 
 void ListView::user_selected_item(std::optional<std::size_t> row) {
     selected_item_ = row ? &item(*row) : nullptr;
+}
+
+void ListView::user_resized(int width) {
+    if (width == width_) return;
+    width_ = width;
+    Resize.raise();
 }
 
 void ListView::number_rows() {

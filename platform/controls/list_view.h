@@ -45,7 +45,7 @@ class RowsView {
   public:
     virtual ~RowsView() = default;
 
-    virtual void rows_about_to_be_added(std::size_t first, std::size_t count) = 0;
+    /// Rows have come behind those that were there.
     virtual void rows_added() = 0;
     /// Many rows go or change places: everything is to be read anew afterwards.
     virtual void rows_about_to_be_rearranged() = 0;
@@ -68,6 +68,8 @@ class ListView : public Control {
         Text caption;
         /// Picture beside the caption: 0 ascending, 1 descending.
         std::optional<int> picture;
+        /// In twips; 0 leaves it to the screen.
+        int width = 0;
     };
 
     ListView(Form& form, TextView name, std::vector<Column> columns, bool check_boxes = false)
@@ -79,8 +81,12 @@ class ListView : public Control {
     /// Counted from 1, as the handlers count them.
     int column_count() const { return static_cast<int>(columns_.size()); }
     const Column& column(int number) const { return columns_[static_cast<std::size_t>(number - 1)]; }
+    void set_columns(std::vector<Column> columns);
     void set_column_caption(int number, Text caption);
     void set_column_picture(int number, std::optional<int> picture);
+    void set_column_width(int number, int twips);
+    /// The room for all columns in twips; 0 while nothing shows the list.
+    int width() const { return width_; }
 
     std::size_t row_count() const { return rows_.size(); }
     const ListItem& row(std::size_t index) const { return *rows_[index]; }
@@ -112,6 +118,8 @@ class ListView : public Control {
     /// 0 is the item text.
     int sort_key() const { return sort_key_; }
     SortOrder sort_order() const { return sort_order_; }
+    /// Whether the rows have been sorted since the columns were set; rows added later stand behind them.
+    bool sorted() const { return sorted_; }
     /// Sorts the rows that are there; rows with equal texts keep their order. Cases of letters are the same.
     void sort(int sort_key, SortOrder order);
 
@@ -122,13 +130,17 @@ class ListView : public Control {
     void user_check(std::size_t row, bool checked);
     void user_select(std::size_t row, bool selected);
     void user_selected_item(std::optional<std::size_t> row);
+    void user_resized(int width);
 
     Event<std::size_t> ItemCheck;
     Event<int> ColumnClick;
     Event<KeyPressed&> KeyDown;
     Event<KeyPressed&> KeyPress;
+    Event<KeyPressed&> KeyUp;
     Event<MouseButton> MouseUp;
     Event<> DblClick;
+    /// The room for the columns has changed.
+    Event<> Resize;
 
   private:
     ListItem& item(std::size_t row) { return *rows_[row]; }
@@ -139,11 +151,14 @@ class ListView : public Control {
     std::vector<Column> columns_;
     bool check_boxes_;
     std::vector<std::unique_ptr<ListItem>> rows_;
-    PrefixIndex index_;
+    /// Kept from the first search on: most lists are never searched.
+    mutable std::optional<PrefixIndex> index_;
     const ListItem* selected_item_ = nullptr;
     std::size_t checked_count_ = 0;
     int sort_key_ = 0;
     SortOrder sort_order_ = SortOrder::ascending;
+    bool sorted_ = false;
+    int width_ = 0;
 };
 
 }  // namespace platform

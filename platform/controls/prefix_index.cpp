@@ -36,6 +36,14 @@ int PrefixIndex::Entry::compare_beginning(TextView prefix) const {
                : TextView(text()).substr(0, prefix.size()).compare(prefix);
 }
 
+void PrefixIndex::add(const ListItem& row) {
+    for (int column = 1; column <= row.sub_item_count(); ++column) add(row, column);
+}
+
+void PrefixIndex::remove(const ListItem& row) {
+    for (int column = 1; column <= row.sub_item_count(); ++column) remove(row, column);
+}
+
 void PrefixIndex::add(const ListItem& row, int column) {
     if (row.sub_item(column).empty()) return;
     const Entry entry(row, column);

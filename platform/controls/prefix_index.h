@@ -18,12 +18,15 @@ class ListItem;
 /// memory, not every row.
 class PrefixIndex {
   public:
+    /// Enters all sub-items of a row.
+    void add(const ListItem& row);
     /// Enters the row's sub-item under its present text; an empty one is left out, since nothing searches for
     /// it.
     void add(const ListItem& row, int column);
     /// Takes the sub-item out; to be called while it still has the text that it was entered under.
     void remove(const ListItem& row, int column);
-    void clear() { chunks_.clear(); }
+    /// Takes all sub-items of a row out.
+    void remove(const ListItem& row);
 
     /// The row that stands first in the list among those with a sub-item that begins with `prefix`, or none.
     const ListItem* first_row(TextView prefix) const;

@@ -1,5 +1,8 @@
 #include "platform/qt/list_rows.h"
 
+#include "platform/qt/twips.h"
+
+#include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QTreeView>
 #include <algorithm>
@@ -17,6 +20,7 @@ ListRows::ListRows(ListView& list, QTreeView& view) : list_(list), view_(view), 
 void ListRows::bring_up_to_date() {
     gathering_ = false;
     if (!live_) return;
+    model_.tell_added_rows();
     if (first_changed_) model_.rows_changed(*first_changed_, last_changed_);
     first_changed_.reset();
     if (selection_changed_) show_selection();
@@ -34,13 +38,10 @@ void ListRows::selection_changed() {
     gather();
 }
 
-void ListRows::rows_about_to_be_added(std::size_t first, std::size_t count) {
-    model_.begin_adding(first, count);
-}
-
 void ListRows::rows_added() {
-    model_.end_adding();
-    if (!view_.currentIndex().isValid()) keep_current(0);
+    if (model_.rowCount() > 0) return gather();
+    model_.tell_added_rows();
+    keep_current(0);
 }
 
 void ListRows::rows_about_to_be_rearranged() {
@@ -67,7 +68,13 @@ void ListRows::row_selection_changed(std::size_t) {
     gather();
 }
 
-void ListRows::columns_changed() { model_.columns_changed(); }
+void ListRows::columns_changed() {
+    model_.columns_changed();
+    for (int column = 0; column < list_.column_count(); ++column) {
+        if (const int width = list_.column(column + 1).width; width > 0)
+            view_.header()->resizeSection(column, to_pixels(width));
+    }
+}
 
 void ListRows::make_visible(std::size_t row) {
     to_show_ = static_cast<int>(row);

@@ -13,8 +13,8 @@ namespace platform::qt {
 /// Keeps the rows, the selection and the current row of a list and of its view the same.
 ///
 /// Handlers add, select and mark rows one by one, up to 100,000 of them. What the view does not need at once
-/// (which rows look different, which are selected, where to scroll) is gathered and told once a turn of the
-/// event loop.
+/// (which rows are new or look different, which are selected, where to scroll) is gathered and told once a
+/// turn of the event loop.
 class ListRows : public QObject, public RowsView {
     Q_OBJECT
 
@@ -27,7 +27,6 @@ class ListRows : public QObject, public RowsView {
     void bring_up_to_date();
     void let_go();
 
-    void rows_about_to_be_added(std::size_t first, std::size_t count) override;
     void rows_added() override;
     void rows_about_to_be_rearranged() override;
     void rows_rearranged() override;

@@ -1,6 +1,7 @@
 #include "platform/qt/list_view_binder.h"
 
 #include "platform/qt/key_code.h"
+#include "platform/qt/twips.h"
 
 #include <QContextMenuEvent>
 #include <QFontInfo>
@@ -63,6 +64,26 @@ bool moves_through_rows(const QKeyEvent& event) {
     }
 }
 
+/// The code of a key that moves up or down through the rows; 0 for any other.
+int code_of_move(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Up:
+            return KEY_UP;
+        case Qt::Key_Down:
+            return KEY_DOWN;
+        case Qt::Key_PageUp:
+            return KEY_PAGE_UP;
+        case Qt::Key_PageDown:
+            return KEY_PAGE_DOWN;
+        case Qt::Key_Home:
+            return KEY_HOME;
+        case Qt::Key_End:
+            return KEY_END;
+        default:
+            return 0;
+    }
+}
+
 }  // namespace
 
 ListViewBinder::ListViewBinder(BoundForm& bound, ListView& control, QTreeView& view)
@@ -88,6 +109,12 @@ bool ListViewBinder::filter(QObject& object, QEvent& event) {
         case QEvent::KeyPress:
             rows_.bring_up_to_date();
             return press_key(static_cast<QKeyEvent&>(event));
+        case QEvent::KeyRelease:
+            release_key(static_cast<QKeyEvent&>(event));
+            return !is_bound_live();
+        case QEvent::Resize:
+            if (&object == view_.viewport()) control_.user_resized(to_twips(view_.viewport()->width()));
+            return false;
         case QEvent::MouseButtonPress:
             rows_.bring_up_to_date();
             return false;
@@ -128,6 +155,11 @@ bool ListViewBinder::press_key(QKeyEvent& event) {
         event.ignore();
     }
     return true;
+}
+
+void ListViewBinder::release_key(const QKeyEvent& event) {
+    if (event.isAutoRepeat()) return;
+    if (KeyPressed key{code_of_move(event)}; !key.swallowed()) control_.KeyUp.raise(key);
 }
 
 /// A menu that the mouse asks for comes with the release of its button.

@@ -20,6 +20,7 @@ class ListViewBinder : public WidgetBinder {
   private:
     bool filter(QObject& object, QEvent& event) override;
     bool press_key(QKeyEvent& event);
+    void release_key(const QKeyEvent& event);
     void open_menu(const QContextMenuEvent& event);
     void toggle_check();
 

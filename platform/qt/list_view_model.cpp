@@ -8,7 +8,7 @@
 namespace platform::qt {
 
 int ListViewModel::rowCount(const QModelIndex& parent) const {
-    return list_ == nullptr || parent.isValid() ? 0 : static_cast<int>(list_->row_count());
+    return list_ == nullptr || parent.isValid() ? 0 : told_rows_;
 }
 
 int ListViewModel::columnCount(const QModelIndex& parent) const {
@@ -54,8 +54,16 @@ Qt::ItemFlags ListViewModel::flags(const QModelIndex& index) const {
     return flags;
 }
 
-void ListViewModel::begin_adding(std::size_t first, std::size_t count) {
-    beginInsertRows(QModelIndex(), static_cast<int>(first), static_cast<int>(first + count) - 1);
+void ListViewModel::tell_added_rows() {
+    if (rows_of_list() == told_rows_) return;
+    beginInsertRows(QModelIndex(), told_rows_, rows_of_list() - 1);
+    told_rows_ = rows_of_list();
+    endInsertRows();
+}
+
+void ListViewModel::end_rearranging() {
+    told_rows_ = rows_of_list();
+    endResetModel();
 }
 
 void ListViewModel::rows_changed(int first, int last) {

@@ -13,7 +13,10 @@ class ListViewModel : public QAbstractTableModel {
   public:
     /// The rows' pictures are those that the view's list `smallIcons` names.
     ListViewModel(ListView& list, const QObject& view, QObject* parent)
-        : QAbstractTableModel(parent), list_(&list), view_(view) {}
+        : QAbstractTableModel(parent),
+          list_(&list),
+          view_(view),
+          told_rows_(static_cast<int>(list.row_count())) {}
 
     /// The list goes. Nobody is told, since it may go in the midst of the view's own work; the view is closed
     /// anyway.
@@ -26,10 +29,10 @@ class ListViewModel : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    void begin_adding(std::size_t first, std::size_t count);
-    void end_adding() { endInsertRows(); }
+    /// Tells the views all rows that have come since they were last told.
+    void tell_added_rows();
     void begin_rearranging() { beginResetModel(); }
-    void end_rearranging() { endResetModel(); }
+    void end_rearranging();
     void rows_changed(int first, int last);
     void columns_changed();
 
@@ -38,8 +41,11 @@ class ListViewModel : public QAbstractTableModel {
     void checked_by_user(std::size_t row, bool checked);
 
   private:
+    int rows_of_list() const { return static_cast<int>(list_->row_count()); }
+
     ListView* list_;
     const QObject& view_;
+    int told_rows_;
 };
 
 }  // namespace platform::qt
