@@ -19,6 +19,7 @@ enum class Aspect {
     tool_tip,
     picture,
     border,
+    colour,
     value,
     rows,
     selection,

@@ -3,6 +3,8 @@
 #include "platform/controls/control.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 
 namespace platform {
 
@@ -10,7 +12,13 @@ namespace platform {
 inline constexpr int KEY_CTRL_A = 1;
 inline constexpr int KEY_BACKSPACE = 8;
 inline constexpr int KEY_ENTER = 13;
-/// Not a character: the code of the Delete key in key-down events.
+/// Not characters: the codes of keys in key-down and key-up events.
+inline constexpr int KEY_PAGE_UP = 33;
+inline constexpr int KEY_PAGE_DOWN = 34;
+inline constexpr int KEY_END = 35;
+inline constexpr int KEY_HOME = 36;
+inline constexpr int KEY_UP = 38;
+inline constexpr int KEY_DOWN = 40;
 inline constexpr int KEY_DELETE = 46;
 
 /// A key on its way to a control. A handler that sets the code to 0 swallows it.
@@ -30,6 +38,12 @@ class TextBox : public Control {
     const Text& text() const { return text_; }
     /// Raises Change when the text is a different one; the caret goes to the start.
     void set_text(Text text);
+
+    /// Red, green and blue in one number; none is the desktop's own colour of text.
+    std::optional<std::uint32_t> text_colour() const { return text_colour_; }
+    void set_text_colour(std::optional<std::uint32_t> colour) {
+        assign(text_colour_, colour, Aspect::colour);
+    }
 
     std::size_t selection_start() const { return selection_start_; }
     std::size_t selection_length() const { return selection_length_; }
@@ -52,6 +66,7 @@ class TextBox : public Control {
 
   private:
     Text text_;
+    std::optional<std::uint32_t> text_colour_;
     std::size_t selection_start_ = 0;
     std::size_t selection_length_ = 0;
 };

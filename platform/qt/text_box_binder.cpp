@@ -11,16 +11,27 @@
 namespace platform::qt {
 
 TextBoxBinder::TextBoxBinder(BoundForm& bound, TextBox& control, QWidget& widget)
-    : WidgetBinder(bound, control, widget), control_(control), widget_(widget) {}
+    : WidgetBinder(bound, control, widget), control_(control), widget_(widget) {
+    if (control.text_colour()) show_colour();
+}
 
 void TextBoxBinder::refresh(Aspect aspect) {
     if (aspect == Aspect::text) {
         write_back();
     } else if (aspect == Aspect::selection) {
         select_as_model();
+    } else if (aspect == Aspect::colour) {
+        show_colour();
     } else {
         WidgetBinder::refresh(aspect);
     }
+}
+
+void TextBoxBinder::show_colour() {
+    QPalette palette;
+    if (const auto colour = control_.text_colour())
+        palette.setColor(QPalette::Text, QColor::fromRgb(QRgb(*colour)));
+    widget_.setPalette(palette);
 }
 
 void TextBoxBinder::press_key(KeyPressed& key) {

@@ -40,6 +40,7 @@ class TextBoxBinder : public WidgetBinder, protected EditedField {
 
   private:
     void select_as_model();
+    void show_colour();
 
     TextBox& control_;
     QWidget& widget_;
