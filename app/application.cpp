@@ -1,5 +1,7 @@
 #include "app/application.h"
 
+#include "addressbook/frmSendMan.h"
+#include "addressbook/handover.h"
 #include "core/entry_routine.h"
 #include "send/send_check.h"
 
@@ -15,6 +17,13 @@ bool Application::start() {
 compose::MainDoors Application::doors() {
     compose::MainDoors doors;
     doors.send = [this] { send::Command1_Click(platform_, state_, main_); };
+    doors.pick_recipients = [this] {
+        addressbook::frmSendMan picker(platform_, state_, main_);
+        picker.ShowEnter(main_.TabStrip1.selected_caption());
+    };
+    doors.NEW_SENDMAN_LOAD = [this] {
+        addressbook::NEW_SENDMAN_LOAD(platform_, state_, main_);
+    };
     return doors;
 }
 

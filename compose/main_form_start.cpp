@@ -1,5 +1,6 @@
 // Start and stop of the main window: placement, first tick, what is kept at the end.
 
+#include "compose/handover_files.h"
 #include "compose/main_form.h"
 #include "core/deployment.h"
 #include "core/files.h"
@@ -141,10 +142,8 @@ void frmZent::Form_Unload() {
     if (!mnuAutoLogin.checked())
         core::INI_WRITE(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINPW", u"");
     save_placement();
-    const Text temp = platform_.files.application_directory() + u"\\temp\\";
-    for (const auto* name : {u"isend.text", u"tmpman.txt"}) {
-        platform::ignore_errors([&] { core::DELETE_FILE(platform_, temp + name); });
-    }
+    for (const Text& file : {isend_text(platform_), tmpman_txt(platform_)})
+        platform::ignore_errors([&] { core::DELETE_FILE(platform_, file); });
     TEMP_ALL_DEL();
 }
 

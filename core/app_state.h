@@ -1,9 +1,11 @@
 #pragma once
 
 #include "platform/boolean_word.h"
+#include "platform/ports/card_source.h"
 #include "platform/text/text.h"
 
 #include <cstdint>
+#include <memory>
 
 namespace core {
 
@@ -67,6 +69,9 @@ struct AppState {
     /// Smallest size of the main window in pixels.
     std::int32_t gMinTrackX = 0;
     std::int32_t gMinTrackY = 0;
+
+    /// The open connection to the card manager's database, or none.
+    std::unique_ptr<platform::CardConnection> gCardDb;
 
     // Flags between forms.
     platform::BooleanWord gSendFormOpen;

@@ -20,8 +20,8 @@ class StatusBar;
 class TabStrip;
 class TextBox;
 class ToolBar;
-class WebBrowser;
 class TreeView;
+class WebBrowser;
 
 /// Every kind of control there is; a toolkit that shows forms has to say how it shows each.
 class ControlVisitor {
@@ -46,8 +46,8 @@ class ControlVisitor {
     virtual void visit(TabStrip& control) = 0;
     virtual void visit(TextBox& control) = 0;
     virtual void visit(ToolBar& control) = 0;
-    virtual void visit(WebBrowser& control) = 0;
     virtual void visit(TreeView& control) = 0;
+    virtual void visit(WebBrowser& control) = 0;
 };
 
 }  // namespace platform

@@ -14,9 +14,9 @@
 #include "platform/qt/text_box_binder.h"
 #include "platform/qt/text_conversion.h"
 #include "platform/qt/tool_bar_binder.h"
+#include "platform/qt/tree_view_binder.h"
 #include "platform/qt/web_area.h"
 #include "platform/qt/web_browser_binder.h"
-#include "platform/qt/tree_view_binder.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -60,8 +60,8 @@ void FormBinder::visit(SoundRecorder& control) { bind<SoundRecorderBinder, Recor
 void FormBinder::visit(StatusBar& control) { bind<StatusBarBinder, QStatusBar>(control); }
 void FormBinder::visit(TabStrip& control) { bind<TabStripBinder, QTabBar>(control); }
 void FormBinder::visit(ToolBar& control) { bind<ToolBarBinder, QToolBar>(control); }
-void FormBinder::visit(WebBrowser& control) { bind<WebBrowserBinder, WebArea>(control); }
 void FormBinder::visit(TreeView& control) { bind<TreeViewBinder, QTreeView>(control); }
+void FormBinder::visit(WebBrowser& control) { bind<WebBrowserBinder, WebArea>(control); }
 
 void FormBinder::visit(TextBox& control) {
     if (!try_bind<MessageBinder, MessageEdit>(control)) bind<LineBinder, QLineEdit>(control);

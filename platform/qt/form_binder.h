@@ -39,8 +39,8 @@ class FormBinder : private ControlVisitor {
     void visit(TabStrip& control) override;
     void visit(TextBox& control) override;
     void visit(ToolBar& control) override;
-    void visit(WebBrowser& control) override;
     void visit(TreeView& control) override;
+    void visit(WebBrowser& control) override;
 
     template <class BinderType, class Widget, class ControlType>
     bool try_bind(ControlType& control);

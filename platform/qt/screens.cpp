@@ -5,6 +5,7 @@
 #include "ui_frmPondiraReg.h"
 #include "ui_frmSBox.h"
 #include "ui_frmSendEndBox.h"
+#include "ui_frmSendMan.h"
 #include "ui_frmSet1.h"
 #include "ui_frmWeb.h"
 #include "ui_frmXTip.h"
@@ -35,6 +36,7 @@ Screens program_screens() {
     screens.add<Ui::frmSBox, QDialog>(u"frmSBox");
     screens.add<Ui::frmZentSend, QDialog>(u"frmZentSend");
     screens.add<Ui::frmSendEndBox, QDialog>(u"frmSendEndBox");
+    screens.add<Ui::frmSendMan, QDialog>(u"frmSendMan");
     return screens;
 }
 

@@ -1,3 +1,4 @@
+#include "addressbook/frmSendMan.h"
 #include "compose/frmSet1.h"
 #include "compose/frmXTip.h"
 #include "compose/main_form.h"
@@ -48,6 +49,7 @@ struct System {
         forms.push_back(std::make_unique<send::frmSBox>(platform, machine.state));
         forms.push_back(std::make_unique<send::frmZentSend>(platform, machine.state, main));
         forms.push_back(std::make_unique<send::frmSendEndBox>(platform, main));
+        forms.push_back(std::make_unique<addressbook::frmSendMan>(platform, machine.state, main));
         return forms;
     }
 };

@@ -1,0 +1,47 @@
+#include "addressbook/card_db.h"
+
+#include "platform/error.h"
+
+namespace addressbook {
+
+using platform::Text;
+
+namespace {
+
+constexpr platform::TextView PROVIDER = u"provider=Microsoft.Jet.OLEDB.4.0;Data Source=";
+/// The password is the card manager's own and the same in every installation.
+constexpr platform::TextView ACCESS =
+    u";Jet OLEDB:Database Password=cardvale070915;Persist Security Info=True;User ID=admin";
+
+constexpr platform::TextView OPENED = u"OK";
+
+}  // namespace
+
+Text CONNECT_CARD_DB(platform::Platform& platform, core::AppState& state) {
+    const Text path = platform.files.application_directory() + u"\\CardvaleDB.vdb";
+    state.gCardDb.reset();
+    try {
+        state.gCardDb = platform.cards.connect(Text(PROVIDER) + path + Text(ACCESS));
+    } catch (const platform::RuntimeError& error) {
+        return u"오류번호:" + platform::decimal(error.number()) + u"(" + path + u")\r\n\r\n" +
+               error.description();
+    }
+    if (state.gCardDb->state() == platform::CONNECTION_OPEN) return Text(OPENED);
+    state.gCardDb.reset();
+    return u"데이터베이스 오픈오류!";
+}
+
+bool OPEN_CARD_DB(platform::Platform& platform, core::AppState& state, bool showError) {
+    const Text result = CONNECT_CARD_DB(platform, state);
+    platform.desktop.set_pointer(platform::Pointer::normal);
+    if (result == OPENED) return true;
+    if (showError) platform.desktop.message_box({.text = result, .icon = platform::BoxIcon::critical});
+    return false;
+}
+
+std::unique_ptr<platform::CardRecordset> open_recordset(core::AppState& state, const Text& statement) {
+    if (state.gCardDb == nullptr) throw platform::RuntimeError(platform::ErrorNumber::connection_closed);
+    return state.gCardDb->open_recordset(statement);
+}
+
+}  // namespace addressbook

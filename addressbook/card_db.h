@@ -1,0 +1,20 @@
+#pragma once
+
+#include "core/app_state.h"
+#include "platform/ports/platform.h"
+
+namespace addressbook {
+
+/// Opens the card manager's database anew in `gCardDb`. Returns "OK", or what a box is to say; nothing is
+/// open then.
+platform::Text CONNECT_CARD_DB(platform::Platform& platform, core::AppState& state);
+
+/// The same, with a box about a failure when `showError`. Returns whether the database is open.
+bool OPEN_CARD_DB(platform::Platform& platform, core::AppState& state, bool showError);
+
+/// Runs a statement on the open connection. Raises RuntimeError for a broken statement and when nothing is
+/// open.
+std::unique_ptr<platform::CardRecordset> open_recordset(core::AppState& state,
+                                                        const platform::Text& statement);
+
+}  // namespace addressbook

@@ -1,0 +1,45 @@
+#include "addressbook/frmSendMan.h"
+
+#include "addressbook/card_db.h"
+#include "core/windows.h"
+#include "platform/error.h"
+
+namespace addressbook {
+
+frmSendMan::frmSendMan(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form)
+    : Form(platform.desktop, u"frmSendMan"), platform_(platform), state_(state), main_form_(main_form) {
+    set_caption(u"발송대상자 선택");
+    PBar1.hide();
+    Command1.set_tool_tip(u"찾기");
+    connect_folders();
+    connect_search();
+    connect_list();
+    connect_picking();
+    Command3.Click.connect([this] { unload(); });
+}
+
+void frmSendMan::Form_Load() {
+    core::CENTER_FORM(platform_.desktop, *this);
+    state_.gDialogConfirmed = false;
+    activated_ = false;
+    // Nothing is taken in from the card manager while the user picks.
+    main_form_.Timer1.set_enabled(false);
+    Combo4.set_list_index(0);
+    OPEN_CARD_DB(platform_, state_, true);
+    FOLDER_TREE_LOAD();
+    Group_Recount();
+    PICK_STATUS_SHOW();
+}
+
+void frmSendMan::Form_Activate() {
+    if (activated_) return;
+    activated_ = true;
+    Command5_Click();
+}
+
+void frmSendMan::Form_Unload() {
+    state_.gCardDb.reset();
+    main_form_.Timer1.set_enabled(true);
+}
+
+}  // namespace addressbook

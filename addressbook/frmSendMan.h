@@ -1,0 +1,132 @@
+#pragma once
+
+#include "compose/main_form.h"
+#include "core/app_state.h"
+#include "platform/controls/combo_box.h"
+#include "platform/controls/command_button.h"
+#include "platform/controls/form.h"
+#include "platform/controls/label.h"
+#include "platform/controls/list_view.h"
+#include "platform/controls/menu.h"
+#include "platform/controls/progress_bar.h"
+#include "platform/controls/text_box.h"
+#include "platform/controls/tree_view.h"
+#include "platform/ports/platform.h"
+
+#include <array>
+#include <unordered_map>
+
+namespace addressbook {
+
+/// Picks recipients out of the card manager's database: its folders as a tree, the cards of one of them, of
+/// all or of a search as a list, and the list's selected rows into the main window's recipients.
+///
+/// Its handlers stand by subject: its life in frmSendMan, folders in folder_tree, searching in search, the
+/// list in card_list, picking in pick.
+class frmSendMan : public platform::Form {
+  public:
+    frmSendMan(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form);
+
+    platform::TreeView TreeView1{*this, u"TreeView1"};
+    platform::Label Label1{*this, u"Label1", u"찾기:"};
+    platform::TextBox Text1{*this, u"Text1"};
+    platform::ComboBox Combo4{*this, u"Combo4"};
+    platform::CommandButton Command1{*this, u"Command1", u""};
+    platform::CommandButton Command5{*this, u"Command5", u"전체자료"};
+    platform::ListView ListView2{*this, u"ListView2", {}};
+    platform::ProgressBar PBar1{*this, u"PBar1"};
+    platform::Label Label2{*this, u"Label2", u"선택번호:"};
+    platform::ComboBox Combo2{*this, u"Combo2"};
+    std::array<platform::CommandButton, 2> Command2{
+        platform::CommandButton{*this, u"Command2_0", u"확인(&O)"},
+        platform::CommandButton{*this, u"Command2_1", u"계속추가(&A)"}};
+    platform::CommandButton Command3{*this, u"Command3", u"닫기(&C)"};
+    platform::Menu mnuFiles{*this, u"mnuFiles", u"폴더"};
+    platform::Menu mnuReplace{*this, u"mnuReplace", u"새로고침(&R)"};
+
+    /// Shows the window with the columns of a kind of message, that is the caption of its tab, and returns
+    /// when it is closed.
+    void ShowEnter(const platform::Text& kind);
+
+    // Folders.
+    /// Reads the tree anew. A folder whose parent exists in no row keeps it running for ever.
+    void FOLDER_TREE_LOAD();
+    /// Writes how many cards there are behind the name of each folder.
+    void Group_Recount();
+    /// The position of the first node with this number as its tag, or -1.
+    int T_INDEX(double f_idx) const;
+    /// 32 hexadecimal digits, other ones at each call.
+    platform::Text CreateGUID();
+    /// The condition that lets the cards of the tree's folders through; empty without a folder below the top.
+    platform::Text ALLDB_SQL() const;
+    /// The same, from the database; empty also when it cannot be opened.
+    platform::Text ALLDB_SQL2();
+
+    // The list.
+    /// Replaces the list's rows by those of the recordset, or by as many of them as the user waits for.
+    void CARD_LIST_FILL(platform::CardRecordset& recordset);
+    /// Adds the current record.
+    void LISTVIEW2_ADD(const platform::CardRecordset& TemTable);
+    /// Evens the columns out.
+    void LISTVIEW2HDR_RESET();
+    /// Writes the caption: cards in all folders, rows of the list, number of the selected row.
+    void PICK_STATUS_SHOW();
+
+    /// Copies the selected rows that have a number, and are not there yet, into the main window's recipients.
+    void SENDLIST_ADD();
+
+  protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_Unload() override;
+    void Form_Escape() override { unload(); }
+
+  private:
+    void connect_folders();
+    void connect_search();
+    void connect_list();
+    void connect_picking();
+
+    // Folders.
+    platform::TreeNode& add_folder(platform::TreeNode* parent, const platform::Text& name,
+                                   platform::Text f_idx);
+    void number_folders();
+    void build_tree(platform::CardRecordset& folders);
+    std::int32_t card_count(const platform::TreeNode& folder);
+    void TreeView1_NodeClick(const platform::TreeNode& node);
+    void TreeView1_Expand(platform::TreeNode& node);
+    void FOLDER_CARDS_LOAD(const platform::TreeNode& node);
+
+    // Searching.
+    void Text1_GotFocus();
+    void Text1_LostFocus();
+    void show_hint();
+    void Command1_Click();
+    void Command5_Click();
+    void list_anew(const platform::Text& statement);
+
+    // The list.
+    void show_progress();
+    void hide_progress();
+
+    // Picking.
+    void build_columns(const platform::Text& kind);
+    void Command2_Click(std::size_t index);
+    /// The sub-items that picking reads.
+    struct PickedCells {
+        int number, company, title;
+    };
+    void pick_row(const platform::ListItem& row, const PickedCells& cells);
+
+    platform::Platform& platform_;
+    core::AppState& state_;
+    compose::frmZent& main_form_;
+    /// The first activation has run.
+    bool activated_ = false;
+    /// The cards that the last Group_Recount found.
+    std::int32_t total_ = 0;
+    /// The first node of each number, as T_INDEX finds it.
+    std::unordered_map<double, const platform::TreeNode*> first_folder_;
+};
+
+}  // namespace addressbook

@@ -1,0 +1,84 @@
+// Searching cards by name or company, and all cards again.
+
+#include "addressbook/card_db.h"
+#include "addressbook/frmSendMan.h"
+#include "addressbook/statements.h"
+#include "core/windows.h"
+#include "platform/error.h"
+
+namespace addressbook {
+
+using platform::Text;
+
+namespace {
+
+constexpr platform::TextView HINT = u"이름 또는 회사";
+/// Grey stands out little from either ground, light or dark, and can be read on both.
+constexpr std::uint32_t HINT_COLOUR = 0x808080;
+
+constexpr std::size_t FEWEST_CHARACTERS = 2;
+
+}  // namespace
+
+void frmSendMan::connect_search() {
+    for (const platform::TextView mode : {statements::BEGINS_WITH, statements::CONTAINS, statements::EQUALS})
+        Combo4.add_row(Text(mode));
+    show_hint();
+    Text1.GotFocus.connect([this] { Text1_GotFocus(); });
+    Text1.LostFocus.connect([this] { Text1_LostFocus(); });
+    Text1.KeyPress.connect([this](platform::KeyPressed& key) {
+        if (key.code != platform::KEY_ENTER) return;
+        key.swallow();
+        Command1_Click();
+    });
+    Command1.Click.connect([this] { Command1_Click(); });
+    Command5.Click.connect([this] { Command5_Click(); });
+}
+
+void frmSendMan::show_hint() {
+    Text1.set_text(Text(HINT));
+    Text1.set_text_colour(HINT_COLOUR);
+}
+
+void frmSendMan::Text1_GotFocus() {
+    if (platform::trim(Text1.text()) != HINT) return;
+    Text1.set_text(u"");
+    Text1.set_text_colour(std::nullopt);
+}
+
+void frmSendMan::Text1_LostFocus() {
+    if (platform::trim(Text1.text()).empty()) show_hint();
+}
+
+/// The hint is text like any other: a click on the button while it shows searches for it.
+void frmSendMan::Command1_Click() {
+    if (Text1.text().empty()) {
+        if (activated_) Text1.set_focus();
+        return;
+    }
+    if (Text1.text().size() < FEWEST_CHARACTERS) {
+        if (!activated_) return;
+        core::warn(platform_.desktop, u"두 글자 이상을 입력하셔야 합니다!");
+        Text1.set_focus();
+        return;
+    }
+    if (!OPEN_CARD_DB(platform_, state_, true)) return;
+    list_anew(statements::matching_cards(ALLDB_SQL(), statements::match_clause(Combo4.text(), Text1.text())));
+}
+
+void frmSendMan::Command5_Click() { list_anew(statements::all_cards(ALLDB_SQL())); }
+
+/// A statement that the database refuses, as one with an apostrophe in it, leaves the list as it is without a
+/// word.
+void frmSendMan::list_anew(const Text& statement) {
+    platform::ignore_errors([&] {
+        const auto recordset = open_recordset(state_, statement);
+        platform_.desktop.set_pointer(platform::Pointer::hourglass);
+        ListView2.clear();
+        PICK_STATUS_SHOW();
+        if (recordset->record_count() != 0) CARD_LIST_FILL(*recordset);
+    });
+    hide_progress();
+}
+
+}  // namespace addressbook

@@ -1,0 +1,209 @@
+#include "addressbook/handover.h"
+
+#include "platform/text/cp949.h"
+#include "tests/support/main_window.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using platform::Text;
+using tests::utf8;
+using Rows = std::vector<std::string>;
+
+const Text SIGNAL = u"z:\\app\\temp\\isend.text";
+const Text RECIPIENTS = u"z:\\app\\temp\\tmpman.txt";
+
+struct HandOver : testing::Test, tests::MainWindow {
+    HandOver() {
+        form.load();
+        form.Timer1.set_enabled(true);
+    }
+
+    void hand(const std::string& signal, const Text& recipients) {
+        files.files[SIGNAL] = signal;
+        files.files[RECIPIENTS] = platform::encode_cp949(recipients);
+    }
+    void take_in() { addressbook::NEW_SENDMAN_LOAD(platform, state, form, pages); }
+
+    Rows rows() const {
+        Rows all;
+        for (std::size_t row = 0; row < form.ListView1.row_count(); ++row) {
+            const platform::ListItem& item = form.ListView1.row(row);
+            all.push_back(utf8(item.sub_item(1) + u"|" + item.sub_item(2) + u"|" + item.sub_item(4)));
+        }
+        return all;
+    }
+};
+
+TEST_F(HandOver, RecipientsComeInAndTheirTabIsChosen) {
+    hand("4", u"x\t홍길동\t010-1111-2222\t부장\r\nx\t김:영희\t02)333-4444\t3급\r\n");
+    take_in();
+    EXPECT_EQ(rows(), (Rows{"홍길동|01011112222|부장", "김영희|023334444|3"}));
+    EXPECT_EQ(form.TabStrip1.selected(), compose::FAX_MESSAGE);
+    EXPECT_EQ(utf8(form.Label4.caption()), "전체>2>대상>2");
+    EXPECT_EQ(form.ListView1.selected_item(), 1u);
+    EXPECT_FALSE(form.ListView1.row(0).selected());
+    EXPECT_FALSE(form.PBar1.visible());
+    EXPECT_TRUE(files.files.empty());
+    EXPECT_TRUE(form.Timer1.enabled());
+}
+
+TEST_F(HandOver, LinesAreTakenAsFarAsTheyMakeSense) {
+    const struct {
+        const char* what;
+        Text file;
+        Rows rows;
+    } files[] = {
+        {"short lines hold nobody", u"1234\t678\r\n\r\nx\tA\t0101\r\nx\tA\t01012\r\n", {"A|01012|"}},
+        {"a missing title is the one before",
+         u"x\tA\t0101111\tT1\r\nx\tB\t0102222\r\n",
+         {"A|0101111|1", "B|0102222|1"}},
+        {"a missing number is the one before, which is listed",
+         u"x\tA\t0101111\r\nx\tBBBBBBB\r\n",
+         {"A|0101111|"}},
+        {"a missing number on the first line is none", u"x\tAAAAAAAA\r\n", {}},
+        {"a missing name is the one before", u"123456789\r\nx\tA\t0101111\r\n", {"A|0101111|"}},
+        {"an empty name has a stand-in", u"x\t : \t0101111\r\n", {"이름없음|0101111|"}},
+        {"an empty number is skipped, its title stays",
+         u"x\tA\t \tT7890\r\nx\tB\t0101111\r\n",
+         {"B|0101111|7890"}},
+        {"a text is a number here", u"x\tA\t회사번호\tT\r\n", {"A|회사번호|T"}},
+        {"what begins a listed number, name or title is listed",
+         u"x\t0205\t0101234567\t77\r\nx\tB\t010123\r\nx\tC\t77\t12\r\nx\tD\t02-05\r\nx\tE\t01012345678\r\n",
+         {"0205|0101234567|77", "E|01012345678|12"}},
+        {"no line end at the end", u"x\tA\t0101111\r\nx\tB\t0102222", {"A|0101111|", "B|0102222|"}},
+        {"other systems' line ends",
+         u"x\tA\t0101111\nx\tB\t0102222\rx\tC\t0103333\r\n",
+         {"A|0101111|", "B|0102222|", "C|0103333|"}},
+        {"fields too many", u"x\tA\t0101111\tT\tU\tV\r\n", {"A|0101111|T"}},
+        {"NUL bytes", u"x\t" + Text(1, u'\0') + u"A\t010" + Text(1, u'\0') + u"1111\r\n", {"A|0101111|"}},
+        {"nothing but line ends", u"\r\n\r\n\n", {}},
+    };
+    for (const auto& file : files) {
+        tests::MainWindow window;
+        window.form.load();
+        window.files.files[SIGNAL] = "1";
+        window.files.files[RECIPIENTS] = platform::encode_cp949(file.file);
+        addressbook::NEW_SENDMAN_LOAD(window.platform, window.state, window.form, window.pages);
+        Rows rows;
+        for (std::size_t row = 0; row < window.form.ListView1.row_count(); ++row) {
+            const platform::ListItem& item = window.form.ListView1.row(row);
+            rows.push_back(utf8(item.sub_item(1) + u"|" + item.sub_item(2) + u"|" + item.sub_item(4)));
+        }
+        EXPECT_EQ(rows, file.rows) << file.what;
+        EXPECT_FALSE(window.form.PBar1.visible()) << file.what;
+    }
+}
+
+TEST_F(HandOver, BytesThatAreNoTextHarmNothing) {
+    hand("1", u"");
+    files.files[RECIPIENTS] = "\xFF\xFE\t\x81\xFF\xC8\t0101111\xC8\t\x80\r\nx\tA\t0102222\r\n\xB1";
+    take_in();
+    EXPECT_EQ(rows(), Rows{"A|0102222|"});
+}
+
+TEST_F(HandOver, TheSignalIsANumberOfSixteenBits) {
+    const struct {
+        const char* signal;
+        int tab;
+    } rows[] = {
+        {"2", 2},     {" 3abc", 3}, {"2.5", 2}, {"3.5", 4}, {"", 1},   {"x", 1},  {"0", 1},
+        {"32768", 1}, {"1e99", 1},  {"x2", 1},  {"9", 3},   {"-1", 3}, {"49", 3}, {"54", 3},
+    };
+    for (const auto& row : rows) {
+        form.TabStrip1.select(compose::VOICE_MESSAGE);
+        hand(row.signal, u"x\tA\t0101111\r\n");
+        take_in();
+        EXPECT_EQ(form.TabStrip1.selected(), row.tab) << row.signal;
+        EXPECT_TRUE(files.files.empty());
+    }
+    EXPECT_EQ(form.ListView1.row_count(), 1u) << "the same recipient again and again";
+}
+
+TEST_F(HandOver, NothingHappensWithoutTheSignalAndItWaitsForAJob) {
+    form.TabStrip1.select(compose::VOICE_MESSAGE);
+    files.files[RECIPIENTS] = "x\tA\t0101111\r\n";
+    take_in();
+    state.gSendFormOpen = true;
+    files.files[SIGNAL] = "1";
+    take_in();
+    EXPECT_EQ(files.files.size(), 2u);
+    EXPECT_EQ(form.ListView1.row_count(), 0u);
+    state.gSendFormOpen = false;
+    take_in();
+    EXPECT_EQ(form.ListView1.row_count(), 1u);
+}
+
+TEST_F(HandOver, ThatArrivesWhileAPageIsOpenOrBringsNobodyIsThrownAway) {
+    form.TabStrip1.select(compose::VOICE_MESSAGE);
+    state.gWebFormOpen = true;
+    hand("1", u"x\tA\t0101111\r\n");
+    take_in();
+    EXPECT_TRUE(files.files.empty());
+    state.gWebFormOpen = false;
+    files.files[SIGNAL] = "1";
+    take_in();
+    hand("1", u"");
+    take_in();
+    EXPECT_TRUE(files.files.empty());
+    EXPECT_EQ(form.ListView1.row_count(), 0u);
+    EXPECT_EQ(form.TabStrip1.selected(), compose::VOICE_MESSAGE);
+    EXPECT_TRUE(form.Timer1.enabled());
+}
+
+TEST_F(HandOver, FilesThatCannotBeDeletedBringNobodyTwiceAndPollingGoesOnWithoutABox) {
+    hand("2", u"x\tA\t0101111\r\n");
+    files.failure = platform::ErrorNumber::permission_denied;
+    form.Timer1.Tick.connect([this] { take_in(); });
+    clock.run_for(1600);
+    EXPECT_EQ(rows(), Rows{"A|0101111|"});
+    EXPECT_TRUE(form.Timer1.enabled());
+    EXPECT_TRUE(desktop.boxes.empty());
+}
+
+TEST_F(HandOver, WhileItIsTakenInNoOtherOneStartsAndTheWindowIsPainted) {
+    hand("1", u"x\tA\t0101111\r\nx\tB\t0102222\r\n");
+    std::vector<int> progress;
+    desktop.during_paint = [&] {
+        EXPECT_FALSE(form.Timer1.enabled());
+        EXPECT_FALSE(files.files.contains(SIGNAL)) << "taken from the manager before its list is read";
+        progress.push_back(form.PBar1.visible() ? form.PBar1.value() : -1);
+    };
+    take_in();
+    EXPECT_EQ(progress, (std::vector<int>{0, 50, 100}));
+}
+
+TEST_F(HandOver, APageIsOpenedForWhoIsLoggedIn) {
+    state.gLoggedIn = true;
+    state.gLoginResult = true;
+    for (const char* value : {"50", "51", "52", "53"}) {
+        hand(value, u"x\tA\t0101111\r\n");
+        take_in();
+        EXPECT_TRUE(files.files.empty());
+    }
+    EXPECT_EQ(opened, (Rows{"KTSMS_LINK 0", "KTSMS_LINK 1", "KTSMS_LINK 3", "KTSMS_LINK 2"}));
+    EXPECT_EQ(form.Timer2.tag(), u"OK") << "the start does not log in a second time";
+    EXPECT_EQ(form.ListView1.row_count(), 0u);
+}
+
+TEST_F(HandOver, APageLogsInFirstAndIsLeftWhenThatFails) {
+    hand("51", u"");
+    in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });
+    take_in();
+    EXPECT_TRUE(opened.empty());
+    EXPECT_TRUE(form.cmdLogin.enabled());
+    EXPECT_FALSE(files.files.contains(SIGNAL));
+
+    hand("51", u"");
+    log_in(u"hong", u"secret");
+    pages.KTSMS_LINK = [&](int page) {
+        opened.push_back(std::to_string(page));
+        EXPECT_FALSE(form.Timer1.enabled()) << "the signal would be found again under the page";
+    };
+    take_in();
+    EXPECT_EQ(opened, Rows{"1"});
+    EXPECT_TRUE(form.Timer1.enabled());
+}
+
+}  // namespace
