@@ -1,0 +1,85 @@
+// A hand-over of 100,000 recipients with the duplicate search that each of them asks for; the alternative
+// reads the same lines and adds the same rows, but searches for nobody. Both lists are ones that are
+// searched, so both keep their index.
+
+#include "addressbook/handover.h"
+#include "bench/ratio.h"
+#include "core/common.h"
+#include "platform/text/cp949.h"
+#include "tests/support/main_window.h"
+
+#include <optional>
+
+namespace {
+
+using platform::Text;
+
+constexpr int LINES = 100'000;
+
+/// Numbers in no order, as they come out of a card database.
+std::string lines() {
+    std::string all;
+    for (int line = 0; line < LINES; ++line) {
+        all += "0\tname" + std::to_string(line % 3'000) + "\t010-" +
+               std::to_string(10'000'000LL + line * 7'919LL % 89'999'999LL) + "\ttitle\r\n";
+    }
+    return all;
+}
+
+/// The main window, its list searched once.
+std::unique_ptr<tests::MainWindow> window() {
+    auto window = std::make_unique<tests::MainWindow>();
+    window->form.load();
+    window->form.ListView1.find_in_sub_items(u"0");
+    return window;
+}
+
+void hand_over(benchmark::State& state, const std::string& file) {
+    std::unique_ptr<tests::MainWindow> main;
+    for (auto _ : state) {
+        state.PauseTiming();
+        main = window();
+        main->files.files[u"z:\\app\\temp\\isend.text"] = "1";
+        main->files.files[u"z:\\app\\temp\\tmpman.txt"] = file;
+        state.ResumeTiming();
+        addressbook::NEW_SENDMAN_LOAD(main->platform, main->state, main->form);
+        if (main->form.ListView1.row_count() != LINES) state.SkipWithError("not everybody came in");
+    }
+}
+
+void without_search(benchmark::State& state, const std::string& file) {
+    std::unique_ptr<tests::MainWindow> main;
+    for (auto _ : state) {
+        state.PauseTiming();
+        main = window();
+        state.ResumeTiming();
+        const Text text = platform::decode_cp949(file);
+        for (std::size_t begin = 0, end = 0; (end = text.find(u"\r\n", begin)) != Text::npos;
+             begin = end + 2) {
+            Text fields[4];
+            std::size_t field = begin;
+            for (Text& value : fields) {
+                const std::size_t tab = std::min(text.find(u'\t', field), end);
+                value = text.substr(field, tab - field);
+                field = tab + 1;
+            }
+            main->form.ListView1.add_row(
+                u"", {platform::remove_all(fields[1], u":"), core::DIGITS_ONLY(fields[2]), u"", fields[3]},
+                true);
+        }
+        if (main->form.ListView1.row_count() != LINES) state.SkipWithError("not everybody came in");
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::string file = lines();
+    benchmark::RegisterBenchmark("hand_over", hand_over, file)->Iterations(2)->Repetitions(5);
+    benchmark::RegisterBenchmark("without_search", without_search, file)->Iterations(2)->Repetitions(5);
+    benchmark::Initialize(&argc, argv);
+    bench::TimeKeeper times;
+    benchmark::RunSpecifiedBenchmarks(&times);
+    const double ratio = times.time("hand_over") / times.time("without_search");
+    return bench::print_ratio_at_most("hand_over", ratio, "with search / without", 2) ? 0 : 1;
+}
