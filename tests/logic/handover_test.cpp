@@ -24,7 +24,7 @@ struct HandOver : testing::Test, tests::MainWindow {
         files.files[SIGNAL] = signal;
         files.files[RECIPIENTS] = platform::encode_cp949(recipients);
     }
-    void take_in() { addressbook::NEW_SENDMAN_LOAD(platform, state, form, pages); }
+    void take_in() { addressbook::NEW_SENDMAN_LOAD(platform, state, form); }
 
     Rows rows() const {
         Rows all;
@@ -85,7 +85,7 @@ TEST_F(HandOver, LinesAreTakenAsFarAsTheyMakeSense) {
         window.form.load();
         window.files.files[SIGNAL] = "1";
         window.files.files[RECIPIENTS] = platform::encode_cp949(file.file);
-        addressbook::NEW_SENDMAN_LOAD(window.platform, window.state, window.form, window.pages);
+        addressbook::NEW_SENDMAN_LOAD(window.platform, window.state, window.form);
         Rows rows;
         for (std::size_t row = 0; row < window.form.ListView1.row_count(); ++row) {
             const platform::ListItem& item = window.form.ListView1.row(row);
@@ -177,12 +177,17 @@ TEST_F(HandOver, WhileItIsTakenInNoOtherOneStartsAndTheWindowIsPainted) {
 TEST_F(HandOver, APageIsOpenedForWhoIsLoggedIn) {
     state.gLoggedIn = true;
     state.gLoginResult = true;
+    Rows captions;
     for (const char* value : {"50", "51", "52", "53"}) {
         hand(value, u"x\tA\t0101111\r\n");
+        desktop.in_form(u"frmWeb", [&](platform::Form& page) {
+            captions.push_back(utf8(page.caption()));
+            page.unload();
+        });
         take_in();
         EXPECT_TRUE(files.files.empty());
     }
-    EXPECT_EQ(opened, (Rows{"KTSMS_LINK 0", "KTSMS_LINK 1", "KTSMS_LINK 3", "KTSMS_LINK 2"}));
+    EXPECT_EQ(captions, (Rows{"발송결과", "요금조회", "팩스수신", "가입자 정보 변경"}));
     EXPECT_EQ(form.Timer2.tag(), u"OK") << "the start does not log in a second time";
     EXPECT_EQ(form.ListView1.row_count(), 0u);
 }
@@ -191,18 +196,16 @@ TEST_F(HandOver, APageLogsInFirstAndIsLeftWhenThatFails) {
     hand("51", u"");
     in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });
     take_in();
-    EXPECT_TRUE(opened.empty());
     EXPECT_TRUE(form.cmdLogin.enabled());
     EXPECT_FALSE(files.files.contains(SIGNAL));
 
     hand("51", u"");
     log_in(u"hong", u"secret");
-    pages.KTSMS_LINK = [&](int page) {
-        opened.push_back(std::to_string(page));
+    desktop.in_form(u"frmWeb", [&](platform::Form& page) {
         EXPECT_FALSE(form.Timer1.enabled()) << "the signal would be found again under the page";
-    };
+        page.unload();
+    });
     take_in();
-    EXPECT_EQ(opened, Rows{"1"});
     EXPECT_TRUE(form.Timer1.enabled());
 }
 

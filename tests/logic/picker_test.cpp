@@ -98,7 +98,10 @@ TEST_F(Picker, AManagerWithoutFoldersHasTheTopAloneAndListsAllCards) {
         EXPECT_NE(statement().find("FROM [tbl_namecard] a left"), std::string::npos);
     });
     folders.clear();
-    pick(TEXT, [&](frmSendMan& picker) { EXPECT_EQ(tree(picker), (Rows{"전체(1)", "휴지통(1)"})); });
+    pick(TEXT, [&](frmSendMan& picker) {
+        EXPECT_EQ(tree(picker), (Rows{"전체(1)", "휴지통(1)"}));
+        EXPECT_NE(statement().find("FROM [tbl_namecard] a left"), std::string::npos);
+    });
 }
 
 TEST_F(Picker, AWideAndDeepTreeOfFoldersIsBuiltAtOnce) {
