@@ -191,8 +191,11 @@ void frmSendMan::FOLDER_CARDS_LOAD(const TreeNode& node) {
 
 Text frmSendMan::ALLDB_SQL() const {
     std::vector<Text> folders;
-    for (std::size_t position = 2; position <= TreeView1.node_count(); ++position)
-        folders.push_back(TreeView1.node(position).tag());
+    for (std::size_t position = 2; position <= TreeView1.node_count(); ++position) {
+        // The trash stands beside the top in a tree that could not be built.
+        const TreeNode& node = TreeView1.node(position);
+        if (node.parent() != nullptr) folders.push_back(node.tag());
+    }
     return statements::folder_filter(folders);
 }
 

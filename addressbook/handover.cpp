@@ -4,6 +4,7 @@
 #include "core/common.h"
 #include "core/files.h"
 #include "core/percent.h"
+#include "gateway/service_pages.h"
 #include "platform/error.h"
 #include "platform/text/cp949.h"
 #include "platform/text/number.h"
@@ -20,12 +21,6 @@ using platform::Text;
 using platform::TextView;
 
 namespace {
-
-constexpr int FIRST_PAGE = 50;
-constexpr int LAST_PAGE = 53;
-/// In the order of the values from FIRST_PAGE on.
-constexpr int PAGES[] = {gateway::PAGE_RESULTS, gateway::PAGE_CHARGES, gateway::PAGE_INBOX,
-                         gateway::PAGE_MEMBER_DATA};
 
 /// A line of up to this many characters holds no recipient.
 constexpr std::size_t SHORT_LINE = 8;
@@ -55,8 +50,8 @@ std::vector<TextView> split(TextView text, char16_t separator) {
     return pieces;
 }
 
-/// What the signal asks for: 50 to 53 for a page, anything else for a tab. What is no number of 16 bits asks
-/// for the first tab, as 0 does.
+/// What the signal asks for: a page by the card manager's number of it, or a tab. What is no number of 16
+/// bits asks for the first tab, as 0 does.
 int value_of(TextView signal) {
     const double value = std::nearbyint(platform::leading_number(signal));
     using Limits = std::numeric_limits<std::int16_t>;
@@ -64,7 +59,11 @@ int value_of(TextView signal) {
     return fits && value != 0 ? static_cast<int>(value) : 1;
 }
 
-void open_page(AppState& state, frmZent& form, const gateway::ServiceDoors& doors, int value) {
+bool is_page(int value) {
+    return value >= gateway::CARD_MANAGER_RESULTS && value <= gateway::CARD_MANAGER_MEMBER_DATA;
+}
+
+void open_page(Platform& platform, AppState& state, frmZent& form, int page) {
     form.Timer2.set_tag(u"OK");
     if (!state.gLoggedIn) {
         platform::ignore_errors(
@@ -73,7 +72,7 @@ void open_page(AppState& state, frmZent& form, const gateway::ServiceDoors& door
         form.Timer1.set_enabled(false);
     }
     if (!state.gLoginResult || !state.gLoggedIn) return form.SET_LOGIN_BUTTONS(false);
-    if (doors.KTSMS_LINK) platform::ignore_errors([&] { doors.KTSMS_LINK(PAGES[value - FIRST_PAGE]); });
+    gateway::show_service_page(platform, state, page);
 }
 
 /// A recipient as the line says. A field that a line lacks keeps its value of the line before.
@@ -124,15 +123,14 @@ void delete_quietly(Platform& platform, const Text& path) {
 
 }  // namespace
 
-void NEW_SENDMAN_LOAD(Platform& platform, AppState& state, frmZent& form,
-                      const gateway::ServiceDoors& doors) {
+void NEW_SENDMAN_LOAD(Platform& platform, AppState& state, frmZent& form) {
     const Text signal = compose::isend_text(platform);
     const Text recipients = compose::tmpman_txt(platform);
     if (state.gSendFormOpen || !core::FILE_EXISTS(platform, signal)) return;
     form.Timer1.set_enabled(false);
     const int value = value_of(read_text(platform, signal));
-    if (value >= FIRST_PAGE && value <= LAST_PAGE) {
-        open_page(state, form, doors, value);
+    if (is_page(value)) {
+        open_page(platform, state, form, value);
     } else {
         delete_quietly(platform, signal);
         // Deliberately thrown away while a page is open: the user has turned to something else.

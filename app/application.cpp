@@ -21,9 +21,7 @@ compose::MainDoors Application::doors() {
         addressbook::frmSendMan picker(platform_, state_, main_);
         picker.ShowEnter(main_.TabStrip1.selected_caption());
     };
-    doors.NEW_SENDMAN_LOAD = [this] {
-        addressbook::NEW_SENDMAN_LOAD(platform_, state_, main_);
-    };
+    doors.NEW_SENDMAN_LOAD = [this] { addressbook::NEW_SENDMAN_LOAD(platform_, state_, main_); };
     return doors;
 }
 

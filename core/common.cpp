@@ -52,14 +52,6 @@ Text CLEAN_FIXED_TEXT(TextView text) {
     return platform::right_trim(cleaned);
 }
 
-Text FIELD_VALUE(const platform::CardField& field) {
-    if (const auto* number = std::get_if<std::int32_t>(&field.value)) return platform::decimal(*number);
-    const auto* text = std::get_if<Text>(&field.value);
-    if (text == nullptr) return {};
-    const bool padded = field.type == 10 || field.type == 12;
-    return padded ? platform::right_trim(*text) : *text;
-}
-
 bool TEXT_NUMBER_OK(TextView number) {
     const Text digits = usable_digits(number);
     return !digits.empty() && !digits.starts_with(u"02") && !begins_with_one_of(digits, AREA_CODES);

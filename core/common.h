@@ -14,10 +14,6 @@ platform::Text DIGITS_ONLY(platform::TextView value);
 /// A text out of a padded buffer: NULs become blanks, blanks at the end go.
 platform::Text CLEAN_FIXED_TEXT(platform::TextView text);
 
-/// A field of the card database as text: empty for NULL, and without the blanks that fill up the provider's
-/// padded types.
-platform::Text FIELD_VALUE(const platform::CardField& field);
-
 /// Whether the number may receive text messages: every number but those with a Korean area code.
 bool TEXT_NUMBER_OK(platform::TextView number);
 

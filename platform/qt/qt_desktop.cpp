@@ -4,6 +4,7 @@
 #include "platform/qt/composition.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/input_watch.h"
+#include "platform/qt/keep_painted.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/text_conversion.h"
 #include "platform/qt/twips.h"
@@ -139,7 +140,7 @@ void QtDesktop::yield() { QCoreApplication::processEvents(); }
 void QtDesktop::paint() {
     constexpr int MILLISECONDS_BETWEEN = 40;
     if (painted_.isValid() && !painted_.hasExpired(MILLISECONDS_BETWEEN)) return;
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    keep_painted();
     painted_.start();
 }
 
