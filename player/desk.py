@@ -107,6 +107,10 @@ class Desk:
         self.keys("ctrl+a")
         self.write(text)
 
+    def tick(self, box):
+        self.click(box)
+        self._wait("the tick", lambda: box.getState().contains(pyatspi.STATE_CHECKED))
+
     def choose_file(self, title, name, picture=None):
         """Picks a file of the user's own folder in the file dialog of that title."""
         dialog = self.window(title)
@@ -142,7 +146,7 @@ class Desk:
     def click(self, thing):
         box = thing.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
         x, y = box.x + box.width // 2, box.y + box.height // 2
-        subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
+        subprocess.run(["xdotool", "mousemove", str(x), str(y), "sleep", "0.1", "click", "1"], check=True)
 
     def say(self, text):
         """Speaks into the microphone, until all is said."""

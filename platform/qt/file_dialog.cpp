@@ -47,6 +47,7 @@ QString first_folder() {
 
 /// Room for the places and for long names; the kind of a file is told by its name.
 void arrange(QFileDialog& dialog) {
+    constexpr int SIZE_COLUMN = 1;
     constexpr int KIND_COLUMN = 2;
     constexpr int DATE_COLUMN = 3;
     dialog.resize(760, 480);
@@ -57,7 +58,8 @@ void arrange(QFileDialog& dialog) {
         header.setSectionHidden(KIND_COLUMN, true);
         header.setStretchLastSection(false);
         header.setSectionResizeMode(0, QHeaderView::Stretch);
-        header.setSectionResizeMode(DATE_COLUMN, QHeaderView::ResizeToContents);
+        for (const int column : {SIZE_COLUMN, DATE_COLUMN})
+            header.setSectionResizeMode(column, QHeaderView::ResizeToContents);
     }
 }
 

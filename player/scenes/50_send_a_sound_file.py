@@ -10,7 +10,7 @@ def play(desk):
     desk.click(desk.find("파일첨부", "page tab", main))
     desk.click(desk.find("음성파일 찾아보기", "push button", main))
     desk.choose_file("음성파일 선택", "정기 모임 안내.wav")
-    desk.click(desk.find("예약전송", "radio button", main))
+    desk.click(desk.find("예약전송", "check box", main))
     desk.click(desk.find("최소 예약전송 시간 설정", "push button", main))
     desk.window_called("설정")
     desk.picture("schedule-lead")
@@ -19,7 +19,7 @@ def play(desk):
     desk.add_recipient(main, "정수진", "02-567-8901")
     desk.picture("sound-file")
     desk.send(main, "scheduled-confirmation")
-    desk.click(desk.find("즉시전송", "radio button", main))
+    desk.click(desk.find("즉시전송", "check box", main))
 
 
 def lay_sound(path):

@@ -50,12 +50,7 @@ struct ScheduleArithmetic : testing::Test, tests::MainWindow {
                 return platform::BoxAnswer::ok;
             }
         } quiet(clock);
-        platform::Platform machine{.desktop = quiet,
-                                   .clock = clock,
-                                   .files = files,
-                                   .settings = settings,
-                                   .shell = shell,
-                                   .carrier = carrier};
+        const platform::Platform machine = on(quiet);
         return send::schedule_is_possible(machine, form);
     }
 };
