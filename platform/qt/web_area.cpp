@@ -46,9 +46,13 @@ void WebArea::show_page(PageRequest request) {
         progress_.hide();
         return;
     }
-    waiting_ = std::move(request);
-    if (page_ == nullptr) show_notice(QStringLiteral("페이지를 여는 중입니다..."));
     show_progress(FIRST_PERCENT);
+    if (page_ != nullptr) {
+        show_view();
+        return page_->load(request);
+    }
+    show_notice(QStringLiteral("페이지를 여는 중입니다..."));
+    waiting_ = std::move(request);
     update();
 }
 
@@ -62,7 +66,8 @@ void WebArea::resizeEvent(QResizeEvent*) { lay_out(); }
 void WebArea::open_waiting_page() {
     const auto request = std::exchange(waiting_, std::nullopt);
     if (!request) return;
-    if (page_ == nullptr && !make_page()) return progress_.hide();
+    if (!make_page()) return progress_.hide();
+    show_view();
     page_->load(*request);
 }
 
@@ -82,11 +87,14 @@ bool WebArea::make_page() {
                                  .died = [this] { show_death(); }});
     setFocusProxy(&page_->widget());
     if (focus) setFocus();
-    notice_.hide();
     lay_out();
+    return true;
+}
+
+void WebArea::show_view() {
+    notice_.hide();
     page_->widget().show();
     progress_.raise();
-    return true;
 }
 
 void WebArea::show_progress(int percent) {

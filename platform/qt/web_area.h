@@ -30,6 +30,7 @@ class WebArea : public QWidget {
   private:
     void open_waiting_page();
     bool make_page();
+    void show_view();
     void show_progress(int percent);
     void show_death();
     void show_notice(const QString& text);

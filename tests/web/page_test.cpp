@@ -4,6 +4,7 @@
 #include "tests/web/web_fixture.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <csignal>
 
 namespace {
@@ -49,6 +50,11 @@ TEST(Page, WithoutABodyIsOnlyAskedFor) {
     ASSERT_TRUE(web.loaded());
     EXPECT_EQ(server.requests().back().method, "GET");
     EXPECT_EQ(web.text(), "아이디 찾기");
+
+    server.serve("/next", "<p>x", HTML);
+    web.form.WebBrowser.Navigate(platform::from_utf8(("http:" + server.address("/next")).toStdString()), {},
+                                 {});
+    EXPECT_TRUE(tests::comes([&] { return server.request("/next") != nullptr; }));
 }
 
 TEST(Page, ThatCannotBeLoadedShowsTheEnginesErrorAndTheFormCloses) {
@@ -90,6 +96,8 @@ TEST(Page, WhoseProcessDiesSaysSo) {
     ASSERT_TRUE(web.loaded());
     ::kill(static_cast<pid_t>(web.view().page()->renderProcessPid()), SIGKILL);
     ASSERT_TRUE(tests::comes([&] { return web.view().isHidden(); }));
+    const auto* notice = web.window().findChild<QWidget*>(QStringLiteral("WebBrowser"))->findChild<QLabel*>();
+    EXPECT_TRUE(notice->isVisible() && !notice->text().isEmpty());
     QTest::keyClick(&web.window(), Qt::Key_Escape);
     EXPECT_FALSE(web.form.loaded());
 }
