@@ -1,13 +1,13 @@
 #include "platform/jet/card_database.h"
 
 #include "platform/error.h"
+#include "platform/jet/card_module.h"
 #include "platform/jet/like_pattern.h"
 #include "platform/jet/statement.h"
 
 #include <cstring>
 #include <limits>
 #include <sqlite3.h>
-#include <string>
 
 namespace platform::jet {
 
@@ -26,10 +26,10 @@ int beat(void* heartbeat) {
     return 0;
 }
 
+/// The value's text where it lies. Asked for as text, SQLite would copy it, to put a NUL behind it.
 TextView text_of(sqlite3_value* value) {
-    const auto* units = static_cast<const char16_t*>(sqlite3_value_text16(value));
-    return units == nullptr ? TextView()
-                            : TextView(units, static_cast<std::size_t>(sqlite3_value_bytes16(value)) / 2);
+    const auto bytes = static_cast<std::size_t>(sqlite3_value_bytes16(value));
+    return {static_cast<const char16_t*>(sqlite3_value_blob(value)), bytes / sizeof(char16_t)};
 }
 
 /// `x LIKE y` by the rules of the card manager's database; SQLite calls like(y, x).
@@ -57,22 +57,6 @@ int only_reading(void*, int action, const char*, const char* function, const cha
     return known ? SQLITE_OK : SQLITE_DENY;
 }
 
-std::string creation_of(Table table) {
-    constexpr const char* TYPES[] = {" INTEGER", " TEXT", " MEMO"};
-    std::string columns;
-    for (const Column& column : columns_of(table)) {
-        columns +=
-            (columns.empty() ? "" : ",") + std::string(column.name) + TYPES[static_cast<int>(column.kind)];
-    }
-    return "CREATE TABLE " + std::string(name_of(table)) + "(" + columns + ")";
-}
-
-Text insertion_of(Table table) {
-    std::string values = "?";
-    for (std::size_t i = 1; i < columns_of(table).size(); ++i) values += ",?";
-    return from_ascii("INSERT INTO " + std::string(name_of(table)) + " VALUES(" + values + ")");
-}
-
 /// The type of a column by the declaration of what it was fetched from; a result of counting is a number.
 int type_of(sqlite3_stmt* statement, int column) {
     const char* declared = sqlite3_column_decltype(statement, column);
@@ -80,17 +64,14 @@ int type_of(sqlite3_stmt* statement, int column) {
     return std::strcmp(declared, "MEMO") == 0 ? FIELD_MEMO : FIELD_TEXT;
 }
 
-void add_value(CardRows& rows, sqlite3_stmt* statement, int column) {
-    switch (sqlite3_column_type(statement, column)) {
+Cell cell_of(sqlite3_value* value) {
+    switch (sqlite3_value_type(value)) {
         case SQLITE_NULL:
-            return rows.add_null();
+            return {};
         case SQLITE_INTEGER:
-            return rows.add_number(sqlite3_column_int(statement, column));
+            return sqlite3_value_int(value);
         default:
-            const auto* units = static_cast<const char16_t*>(sqlite3_column_text16(statement, column));
-            if (units == nullptr) throw RuntimeError(ErrorNumber::out_of_memory);
-            const int bytes = sqlite3_column_bytes16(statement, column);
-            return rows.add_text(TextView(units, static_cast<std::size_t>(bytes) / 2));
+            return text_of(value);
     }
 }
 
@@ -99,57 +80,29 @@ void add_value(CardRows& rows, sqlite3_stmt* statement, int column) {
 void CardDatabase::Close::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
 void CardDatabase::Finish::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 
-CardDatabase::CardDatabase(std::shared_ptr<Heartbeat> heartbeat) : heartbeat_(std::move(heartbeat)) {
+CardDatabase::CardDatabase(std::shared_ptr<Heartbeat> heartbeat) : heartbeat_(std::move(heartbeat)) {}
+
+CardDatabase::~CardDatabase() = default;
+
+void CardDatabase::all_added() {
+    for (CardTable& table : tables_) table.all_added();
+
     sqlite3* opened = nullptr;
     // One thread has it: locks would cost a quarter of the time.
     const int result = sqlite3_open_v2(
         ":memory:", &opened, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
     database_.reset(opened);
-    if (result != SQLITE_OK) throw RuntimeError(ErrorNumber::out_of_memory);
+    bool good = result == SQLITE_OK &&
+                sqlite3_exec(opened, "PRAGMA encoding='UTF-16'", nullptr, nullptr, nullptr) == SQLITE_OK;
+    for (const CardTable& table : tables_) good = good && attach(opened, table);
+    if (!good) throw RuntimeError(ErrorNumber::out_of_memory);
 
     // Otherwise a name in quotes that nothing has would count as a text.
     sqlite3_db_config(opened, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_progress_handler(opened, OPCODES_A_BEAT, beat, heartbeat_.get());
     sqlite3_create_function(opened, "like", 2, SQLITE_UTF16 | SQLITE_DETERMINISTIC, nullptr, like, nullptr,
                             nullptr);
-
-    execute("PRAGMA encoding='UTF-16'");
-    execute("PRAGMA journal_mode=OFF");
-    for (const Table table : TABLES) execute(creation_of(table).c_str());
-    execute("BEGIN");
-    for (const Table table : TABLES)
-        insertions_[static_cast<std::size_t>(table)] = prepare(insertion_of(table));
-}
-
-CardDatabase::~CardDatabase() = default;
-
-void CardDatabase::add(Table table, const Row& row) {
-    sqlite3_stmt* insertion = insertions_[static_cast<std::size_t>(table)].get();
-    for (int i = 0; i < static_cast<int>(columns_of(table).size()); ++i) {
-        const Cell& cell = row[static_cast<std::size_t>(i)];
-        if (const auto* number = std::get_if<std::int32_t>(&cell)) {
-            sqlite3_bind_int(insertion, i + 1, *number);
-        } else if (const auto* text = std::get_if<TextView>(&cell)) {
-            // Without an address it would be NULL.
-            sqlite3_bind_text16(insertion, i + 1, text->empty() ? u"" : text->data(),
-                                static_cast<int>(text->size() * sizeof(char16_t)), SQLITE_STATIC);
-        } else {
-            sqlite3_bind_null(insertion, i + 1);
-        }
-    }
-    step(insertion);
-    sqlite3_reset(insertion);
-}
-
-void CardDatabase::all_added() {
-    insertions_ = {};
-    execute("COMMIT");
-    // One folder's cards and their number, and all cards in their order, are found without looking at or
-    // sorting everything.
-    execute("CREATE INDEX folder_by_number ON tbl_folder(f_idx)");
-    execute("CREATE INDEX card_by_folder ON tbl_namecard(f_idx,i_idx)");
-    execute("CREATE INDEX card_by_order ON tbl_namecard(i_idx)");
-    sqlite3_set_authorizer(database_.get(), only_reading, nullptr);
+    sqlite3_set_authorizer(opened, only_reading, nullptr);
 }
 
 std::shared_ptr<const CardRows> CardDatabase::run(const Text& statement) {
@@ -176,17 +129,13 @@ std::shared_ptr<const CardRows> CardDatabase::fetch(const Text& statement) {
     for (int i = 0; i < count; ++i) {
         columns.push_back({from_utf8(sqlite3_column_name(prepared.get(), i)), type_of(prepared.get(), i)});
     }
-    auto rows = std::make_shared<CardRows>(std::move(columns));
+    const auto& cards = tables_[static_cast<std::size_t>(Table::card)];
+    auto rows = std::make_shared<CardRows>(std::move(columns), cards.rows());
     while (step(prepared.get())) {
-        for (int i = 0; i < count; ++i) add_value(*rows, prepared.get(), i);
+        for (int i = 0; i < count; ++i) rows->add(cell_of(sqlite3_column_value(prepared.get(), i)));
         heartbeat_->beat();
     }
     return rows;
-}
-
-void CardDatabase::execute(const char* sql) {
-    if (sqlite3_exec(database_.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw RuntimeError(ErrorNumber::out_of_memory);
 }
 
 /// A statement with something behind it counts as broken.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/jet/card_rows.h"
-#include "platform/jet/card_stream.h"
+#include "platform/jet/card_table.h"
 #include "platform/jet/heartbeat.h"
 
 #include <array>
@@ -23,7 +23,7 @@ class CardDatabase {
     CardDatabase& operator=(const CardDatabase&) = delete;
 
     /// Rows are added in the file's order, all of them before the first statement.
-    void add(Table table, const Row& row);
+    void add(Table table, const Row& row) { tables_[static_cast<std::size_t>(table)].add(row); }
     void all_added();
 
     /// What the statement gives; that of a statement run before is still known. Raises RuntimeError for a
@@ -40,13 +40,12 @@ class CardDatabase {
     using Statement = std::unique_ptr<sqlite3_stmt, Finish>;
 
     std::shared_ptr<const CardRows> fetch(const Text& statement);
-    void execute(const char* sql);
     Statement prepare(const Text& sql);
     bool step(sqlite3_stmt* statement);
 
     std::shared_ptr<Heartbeat> heartbeat_;
+    std::array<CardTable, 2> tables_{CardTable(Table::folder), CardTable(Table::card)};
     std::unique_ptr<sqlite3, Close> database_;
-    std::array<Statement, std::size(TABLES)> insertions_;
     std::unordered_map<Text, std::shared_ptr<const CardRows>> results_;
     std::size_t result_fields_ = 0;
 };

@@ -1,15 +1,18 @@
 #pragma once
 
+#include "platform/jet/card_stream.h"
 #include "platform/ports/card_source.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace platform::jet {
 
-/// All rows that a statement gave, packed: hundreds of thousands of fields are kept, and few are looked at.
+/// Rows of fields, packed: of hundreds of thousands few are looked at.
 class CardRows {
   public:
     struct Column {
@@ -17,32 +20,33 @@ class CardRows {
         int type = FIELD_TEXT;
     };
 
-    explicit CardRows(std::vector<Column> columns) : columns_(std::move(columns)) {}
+    /// Texts that are `source`'s are kept there alone.
+    explicit CardRows(std::vector<Column> columns, std::shared_ptr<const CardRows> source = {})
+        : columns_(std::move(columns)), source_(std::move(source)) {}
 
     /// Fields are added row by row, one for each column.
-    void add_null() { cells_.push_back({0, IS_NULL}); }
-    void add_number(std::int32_t number) {
-        cells_.push_back({static_cast<std::uint32_t>(number), IS_NUMBER});
-    }
-    void add_text(TextView text);
+    void add(const Cell& cell);
 
     std::size_t size() const { return columns_.empty() ? 0 : cells_.size() / columns_.size(); }
     std::size_t fields() const { return cells_.size(); }
     /// The position of the column of that name, in any case.
     std::optional<std::size_t> column(TextView name) const;
+    Cell at(std::size_t row, std::size_t column) const;
     CardField field(std::size_t row, std::size_t column) const;
 
   private:
-    static constexpr std::uint32_t IS_NULL = 0xFFFFFFFF;
-    static constexpr std::uint32_t IS_NUMBER = 0xFFFFFFFE;
+    /// A number, or where a text begins and how long it is.
+    struct Packed {
+        enum class Kind : std::uint32_t { null, number, text, text_of_source };
 
-    /// A number, or where a text begins; and the text's length.
-    struct Cell {
-        std::uint32_t value, length;
+        std::uint32_t value;
+        Kind kind : 2;
+        std::uint32_t length : 30;
     };
 
     std::vector<Column> columns_;
-    std::vector<Cell> cells_;
+    std::shared_ptr<const CardRows> source_;
+    std::vector<Packed> cells_;
     Text texts_;
 };
 

@@ -10,7 +10,7 @@ namespace platform::jet {
 class Heartbeat {
   public:
     /// The longest that work may wait for something without a beat.
-    static constexpr std::chrono::milliseconds INTERVAL{15};
+    static constexpr std::chrono::milliseconds INTERVAL{10};
 
     explicit Heartbeat(std::function<void()> keep_alive) : keep_alive_(std::move(keep_alive)) {}
 

@@ -100,8 +100,8 @@ bool take_tests(const Tokens& tokens, std::size_t& at, Text& out) {
         end += 1 + next->tokens;
     }
     if (end != tokens.size() && !tokens[end].is(u")")) return false;
-    // The sign keeps SQLite from going through an index on the column, folder by folder: cards with the same
-    // place in the order come as the file has them.
+    // The sign keeps SQLite from going through the table folder by folder: cards with the same place in the
+    // order come as the file has them.
     out += u" +" + first->column + u" IN (" + numbers + u")";
     at = end;
     return true;

@@ -176,7 +176,7 @@ TEST(JetCardSource, WaitsForAReaderThatHangsNoLongerThanAllowedAndKeepsTheWindow
     std::filesystem::permissions(reader, std::filesystem::perms::owner_all);
     tests::put(folder.path() / "CardvaleDB.vdb", tests::bytes_of(CardsOnDisk::fixture("nopass")));
     EXPECT_EQ(tests::error_number([&] { source.connect(u"Data Source=CardvaleDB.vdb"); }), UNUSABLE);
-    EXPECT_GE(beats, 3);
+    EXPECT_GE(beats, 1);
 }
 
 }  // namespace
