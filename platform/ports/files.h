@@ -1,11 +1,20 @@
 #pragma once
 
+#include "platform/text/calendar.h"
 #include "platform/text/text.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace platform {
+
+/// A file as a folder's list shows it.
+struct FileEntry {
+    Text name;
+    /// When it was written last.
+    LocalTime modified;
+};
 
 /// The file system, by paths with backslashes: below the application directory, on drive `c:` or, for what
 /// the user picks, elsewhere. Contents are bytes. Failures are RuntimeErrors with the classic file numbers.
@@ -27,12 +36,27 @@ class Files {
     /// How many bytes the file has. It is not opened for that.
     virtual std::uint64_t length(const Text& path) const = 0;
 
+    /// Whether the path's last component is a link that leads elsewhere.
+    virtual bool is_link(const Text& path) const = 0;
+
+    /// The normal files of the folder whose names match the pattern, in the order of their names without
+    /// regard to case; neither hidden ones nor links. Hangul in the names is in whole syllables.
+    virtual std::vector<FileEntry> list_files(const Text& folder, TextView pattern) const = 0;
+    /// The folders in the folder likewise.
+    virtual std::vector<Text> list_folders(const Text& folder) const = 0;
+
     virtual std::string read(const Text& path) const = 0;
     /// Writes the whole file or leaves the old one as it was, also when the program is killed meanwhile; the
-    /// file is its user's alone.
+    /// file is its user's alone. Here and for folders, a new name must pass `check_file_name`.
     virtual void write(const Text& path, const std::string& bytes) = 0;
     virtual void remove(const Text& path) = 0;
+    /// Removes the files of the folder that match the pattern, hidden ones too. Links go as links, folders
+    /// stay.
+    virtual void remove_files(const Text& folder, TextView pattern) = 0;
     virtual void make_folder(const Text& path) = 0;
+    virtual void rename_folder(const Text& from, const Text& to) = 0;
+    /// RuntimeError 75 for a folder that anything is left in.
+    virtual void remove_empty_folder(const Text& path) = 0;
     /// Removes the folder with all that is in it.
     virtual void remove_folder(const Text& path) = 0;
 

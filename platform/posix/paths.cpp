@@ -1,10 +1,12 @@
 #include "platform/posix/paths.h"
 
 #include "platform/error.h"
+#include "platform/text/hangul.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <optional>
+#include <sys/stat.h>
 #include <utility>
 #include <vector>
 
@@ -15,8 +17,9 @@ namespace {
 namespace fs = std::filesystem;
 
 /// The components between the backslashes, without the empty ones, `.` and `..`.
-std::vector<Text> components_of(TextView path) {
-    std::vector<Text> components;
+std::vector<TextView> components_of(TextView path) {
+    std::vector<TextView> components;
+    components.reserve(16);
     while (!path.empty()) {
         const std::size_t end = std::min(path.find(u'\\'), path.size());
         const TextView component = path.substr(0, end);
@@ -24,24 +27,33 @@ std::vector<Text> components_of(TextView path) {
         if (component == u"..") {
             if (!components.empty()) components.pop_back();
         } else if (!component.empty() && component != u".") {
-            components.emplace_back(component);
+            components.push_back(component);
         }
     }
     return components;
 }
 
+bool is_there(const std::string& path) {
+    struct stat status {};
+    return ::lstat(path.c_str(), &status) == 0;
+}
+
 /// The folder's entry that the component means; nothing when the folder has none of the kind.
-std::optional<std::string> entry_of(const std::string& folder, const Text& component) {
+std::optional<std::string> entry_of(const std::string& folder, TextView component) {
+    // Files that come from some systems spell the syllables of their names out, and nobody can type that.
+    const Text composed = compose_hangul(component);
+    for (const Text& spelling : {Text(component), composed, decompose_hangul(component)}) {
+        if (std::string name = to_utf8(spelling); is_there(folder + "/" + name)) return name;
+    }
     std::error_code error;
-    const std::string exact = to_utf8(component);
-    if (fs::exists(fs::symlink_status(folder + "/" + exact, error))) return exact;
     std::optional<std::string> found;
     for (fs::directory_iterator entry(folder.empty() ? "/" : folder, error), end; !error && entry != end;
          entry.increment(error)) {
         const std::string name = entry->path().filename();
         // The order of a folder's entries is the file system's whim: the least name makes the choice a fixed
         // one.
-        if (equal_without_case(from_utf8(name), component) && (!found || name < *found)) found = name;
+        if (equal_without_case(compose_hangul(from_utf8(name)), composed) && (!found || name < *found))
+            found = name;
     }
     return found;
 }
@@ -54,29 +66,42 @@ Paths::Paths(std::string application_directory) : application_directory_(std::mo
     while (application_directory_.ends_with('/')) application_directory_.pop_back();
 }
 
-std::string Paths::to_posix(TextView path) const {
+Paths::Parts Paths::parts_of(TextView path) const {
     if (path.find_first_of(TextView(u"/\0", 2)) != TextView::npos)
         throw RuntimeError(ErrorNumber::bad_file_name);
 
-    std::string posix = application_directory_;
+    Parts parts{application_directory_, {}};
     if (path.size() >= 2 && path[1] == u':') {
         const Text drive = lower_case(path.substr(0, 1));
         if (drive == u"z") {
-            posix.clear();
+            parts.drive.clear();
         } else if (drive == u"c") {
-            posix = drive_c();
+            parts.drive = drive_c();
         } else {
             throw RuntimeError(ErrorNumber::path_not_found);
         }
         path.remove_prefix(2);
     }
+    parts.components = components_of(path);
+    return parts;
+}
 
+std::string Paths::to_posix(TextView path) const {
+    const Parts parts = parts_of(path);
+    std::string posix = parts.drive;
     bool there = true;
-    for (const Text& component : components_of(path)) {
+    for (const TextView component : parts.components) {
         const auto entry = there ? entry_of(posix, component) : std::nullopt;
         there = entry.has_value();
-        posix += "/" + entry.value_or(to_utf8(component));
+        posix += "/" + entry.value_or(to_utf8(compose_hangul(component)));
     }
+    return posix.empty() ? "/" : posix;
+}
+
+std::string Paths::as_it_stands(TextView path) const {
+    const Parts parts = parts_of(path);
+    std::string posix = parts.drive;
+    for (const TextView component : parts.components) posix.append("/").append(to_utf8(component));
     return posix.empty() ? "/" : posix;
 }
 

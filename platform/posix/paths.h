@@ -3,6 +3,7 @@
 #include "platform/text/text.h"
 
 #include <string>
+#include <vector>
 
 namespace platform::posix {
 
@@ -17,11 +18,16 @@ class Paths {
     /// Paths around another folder, an absolute path.
     explicit Paths(std::string application_directory);
 
-    /// The machine's absolute path, in UTF-8. Each component is the entry of exactly that name, else the
-    /// first one that differs in the case of ASCII letters, else a name that nothing has yet; `.` and `..`
+    /// The machine's absolute path, in UTF-8. Each component is the entry of exactly that name, else the one
+    /// that spells its Hangul otherwise, else the first one that differs in the case of ASCII letters, else a
+    /// name that nothing has yet; `.` and `..`
     /// are resolved by the text and never leave the drive. Raises RuntimeError 52 for a slash or a NUL in the
     /// path and 76 for a drive that is not there.
     std::string to_posix(TextView path) const;
+
+    /// The same by the text alone: the path of an entry whose name it has exactly, without a look at the
+    /// disk.
+    std::string as_it_stands(TextView path) const;
 
     /// The program's path of an absolute path, below `z:`, without a backslash at its end.
     static Text from_posix(const std::string& path);
@@ -33,6 +39,13 @@ class Paths {
     std::string drive_c() const { return application_directory_ + "/drive_c"; }
 
   private:
+    /// The folder where a path begins, and its components, which look into the path.
+    struct Parts {
+        std::string drive;
+        std::vector<TextView> components;
+    };
+    Parts parts_of(TextView path) const;
+
     std::string application_directory_;
 };
 

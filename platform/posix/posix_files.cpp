@@ -1,11 +1,13 @@
 #include "platform/posix/posix_files.h"
 
+#include "platform/file_name.h"
 #include "platform/posix/file_error.h"
+#include "platform/posix/folder_list.h"
 #include "platform/posix/whole_file.h"
+#include "platform/text/hangul.h"
 
 #include <cerrno>
 #include <filesystem>
-#include <optional>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -44,28 +46,10 @@ void make_folders(const fs::path& folder) {
     ::mkdir(folder.c_str(), USER_ALONE);
 }
 
-/// Whether the name is one of the pattern's: `*` is any run of characters and `?` any one, letters in either
-/// case. `*.*` means every name, as it always did, also those without a dot.
-bool matches(TextView name, TextView pattern) {
-    if (pattern == u"*.*") return true;
-    std::size_t at = 0;
-    std::size_t in_pattern = 0;
-    std::optional<std::pair<std::size_t, std::size_t>> after_star;
-    while (at < name.size()) {
-        if (in_pattern < pattern.size() && pattern[in_pattern] == u'*') {
-            after_star = {at, ++in_pattern};
-        } else if (in_pattern < pattern.size() &&
-                   (pattern[in_pattern] == u'?' || pattern[in_pattern] == name[at])) {
-            ++at;
-            ++in_pattern;
-        } else if (after_star) {
-            at = ++after_star->first;
-            in_pattern = after_star->second;
-        } else {
-            return false;
-        }
-    }
-    return pattern.find_first_not_of(u'*', in_pattern) == TextView::npos;
+/// What the path names last; a backslash behind it does not count.
+TextView name_in(TextView path) {
+    while (path.ends_with(u'\\')) path.remove_suffix(1);
+    return path.substr(path.find_last_of(u"\\:") + 1);
 }
 
 bool is_normal_file(const fs::path& path) {
@@ -88,7 +72,7 @@ Text PosixFiles::system_directory() const { return windows_directory(); }
 
 bool PosixFiles::file_exists(const Text& path) const {
     const std::size_t name_at = path.rfind(u'\\') + 1;
-    const Text pattern = lower_case(TextView(path).substr(name_at));
+    const Text pattern = path.substr(name_at);
     if (pattern.empty()) return false;
     bool exists = false;
     // A path that cannot be names nothing.
@@ -101,8 +85,8 @@ bool PosixFiles::file_exists(const Text& path) const {
         const std::string folder = paths_.to_posix(path.substr(0, name_at));
         for (fs::directory_iterator entry(folder, error), end; !error && !exists && entry != end;
              entry.increment(error)) {
-            const Text name = lower_case(from_utf8(entry->path().filename().string()));
-            exists = matches(name, pattern) && is_normal_file(entry->path());
+            const Text name = compose_hangul(from_utf8(entry->path().filename().string()));
+            exists = matches_pattern(name, pattern) && is_normal_file(entry->path());
         }
     });
     return exists;
@@ -124,9 +108,32 @@ std::uint64_t PosixFiles::length(const Text& path) const {
     return static_cast<std::uint64_t>(found.st_size);
 }
 
-std::string PosixFiles::read(const Text& path) const { return read_whole_file(paths_.to_posix(path)); }
+bool PosixFiles::is_link(const Text& path) const {
+    bool link = false;
+    ignore_errors([&] {
+        std::error_code ignored;
+        link = fs::is_symlink(paths_.to_posix(path), ignored);
+    });
+    return link;
+}
+
+std::vector<FileEntry> PosixFiles::list_files(const Text& folder, TextView pattern) const {
+    return files_of(paths_.to_posix(folder), pattern);
+}
+
+std::vector<Text> PosixFiles::list_folders(const Text& folder) const {
+    return folders_of(paths_.to_posix(folder));
+}
+
+std::string PosixFiles::read(const Text& path) const {
+    // Lists of thousands of files are read one by one: what is there under exactly its name is not searched
+    // for.
+    if (auto bytes = read_if_there(paths_.as_it_stands(path))) return std::move(*bytes);
+    return read_whole_file(paths_.to_posix(path));
+}
 
 void PosixFiles::write(const Text& path, const std::string& bytes) {
+    check_file_name(name_in(path));
     const std::string file = paths_.to_posix(path);
     make_standing_folder_of(file);
     replace_file(file, bytes);
@@ -137,7 +144,12 @@ void PosixFiles::remove(const Text& path) {
     if (::unlink(file.c_str()) != 0) throw file_error(errno, file);
 }
 
+void PosixFiles::remove_files(const Text& folder, TextView pattern) {
+    remove_files_of(paths_.to_posix(folder), pattern);
+}
+
 void PosixFiles::make_folder(const Text& path) {
+    check_file_name(name_in(path));
     const std::string folder = paths_.to_posix(path);
     make_standing_folder_of(folder);
     if (::mkdir(folder.c_str(), USER_ALONE) == 0) return;
@@ -145,6 +157,20 @@ void PosixFiles::make_folder(const Text& path) {
     std::error_code ignored;
     if (fs::is_directory(folder, ignored)) return;
     throw failure == EEXIST ? RuntimeError(ErrorNumber::path_access) : folder_error(failure);
+}
+
+void PosixFiles::rename_folder(const Text& from, const Text& to) {
+    check_file_name(name_in(to));
+    const std::string folder = paths_.to_posix(from);
+    std::error_code error;
+    if (!fs::is_directory(folder, error)) throw RuntimeError(ErrorNumber::path_not_found);
+    if (::rename(folder.c_str(), paths_.to_posix(to).c_str()) != 0) throw folder_error(errno);
+}
+
+void PosixFiles::remove_empty_folder(const Text& path) {
+    const std::string folder = paths_.to_posix(path);
+    remove_remains(folder);
+    if (::rmdir(folder.c_str()) != 0) throw folder_error(errno);
 }
 
 void PosixFiles::remove_folder(const Text& path) {

@@ -19,12 +19,19 @@ class PosixFiles : public Files {
 
     bool file_exists(const Text& path) const override;
     bool folder_exists(const Text& path) const override;
+    bool is_link(const Text& path) const override;
+
+    std::vector<FileEntry> list_files(const Text& folder, TextView pattern) const override;
+    std::vector<Text> list_folders(const Text& folder) const override;
 
     std::uint64_t length(const Text& path) const override;
     std::string read(const Text& path) const override;
     void write(const Text& path, const std::string& bytes) override;
     void remove(const Text& path) override;
+    void remove_files(const Text& folder, TextView pattern) override;
     void make_folder(const Text& path) override;
+    void rename_folder(const Text& from, const Text& to) override;
+    void remove_empty_folder(const Text& path) override;
     void remove_folder(const Text& path) override;
 
     std::string machine_path(const Text& path) const override { return paths_.to_posix(path); }

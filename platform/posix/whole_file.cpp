@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <optional>
 #include <string_view>
 #include <sys/stat.h>
 
@@ -42,20 +43,20 @@ void sync_folder(const std::string& folder) {
     if (opened.is_open()) ::fsync(opened.number());
 }
 
-/// What a killed program left of its new files. One may hold a password that has been blanked since.
-void remove_remains(const std::string& folder) {
-    std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-        if (entry->path().filename().string().starts_with(NEW_FILE)) ::unlink(entry->path().c_str());
-    }
-}
-
 }  // namespace
 
 std::string read_whole_file(const std::string& path) {
+    if (auto bytes = read_if_there(path)) return std::move(*bytes);
+    throw file_error(ENOENT, path);
+}
+
+std::optional<std::string> read_if_there(const std::string& path) {
     // Looked at before it is opened, since opening alone makes some devices act.
     struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) throw file_error(errno, path);
+    if (::stat(path.c_str(), &status) != 0) {
+        if (errno == ENOENT) return std::nullopt;
+        throw file_error(errno, path);
+    }
     if (!S_ISREG(status.st_mode)) throw RuntimeError(ErrorNumber::path_access);
 
     const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
@@ -65,9 +66,10 @@ std::string read_whole_file(const std::string& path) {
     std::array<char, 65536> chunk;
     for (;;) {
         const ssize_t got = ::read(file.number(), chunk.data(), chunk.size());
-        if (got == 0) return bytes;
-        if (got > 0) bytes.append(chunk.data(), static_cast<std::size_t>(got));
         if (got < 0 && errno != EINTR) throw file_error(errno, path);
+        if (got > 0) bytes.append(chunk.data(), static_cast<std::size_t>(got));
+        // A normal file gives less than was asked for at its end alone.
+        if (got >= 0 && static_cast<std::size_t>(got) < chunk.size()) return bytes;
     }
 }
 
@@ -85,6 +87,14 @@ void replace_file(const std::string& path, const std::string& bytes) {
     }
     sync_folder(folder);
     remove_remains(folder);
+}
+
+void remove_remains(const std::string& folder) {
+    // One may hold a password that has been blanked since.
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+        if (entry->path().filename().string().starts_with(NEW_FILE)) ::unlink(entry->path().c_str());
+    }
 }
 
 }  // namespace platform::posix

@@ -1,15 +1,21 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace platform::posix {
 
 /// The bytes of a normal file. Never waits: anything else, a folder, a device or a pipe, is RuntimeError 75.
 std::string read_whole_file(const std::string& path);
+/// The same; nothing where no file of this name is.
+std::optional<std::string> read_if_there(const std::string& path);
 
 /// Puts a file of these bytes, its user's alone, in the place of the old one in a single step: whenever the
 /// program or the machine stops, the old file is there or the new one. Raises a RuntimeError and leaves the
 /// old file when that fails.
 void replace_file(const std::string& path, const std::string& bytes);
+
+/// Removes what a killed program left of new files in the folder.
+void remove_remains(const std::string& folder);
 
 }  // namespace platform::posix

@@ -1,8 +1,11 @@
 #include "platform/posix/posix_files.h"
 
+#include "platform/text/hangul.h"
 #include "tests/support/child_process.h"
 #include "tests/support/files_on_disk.h"
 
+#include <ctime>
+#include <fcntl.h>
 #include <functional>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -152,6 +155,68 @@ TEST_F(PosixFilesTest, RemovingAFolderStaysInsideIt) {
     EXPECT_EQ(names_in(folder.path() / "outside"), std::set<std::string>{"kept"});
 }
 
+TEST_F(PosixFilesTest, AFolderIsListedInOrderWithoutWhatIsHiddenOrLeadsElsewhere) {
+    const std::string apart = to_utf8(decompose_hangul(u"하.txt"));
+    fs::create_directories(application / "box/나");
+    fs::create_directories(application / "box/B.txt");
+    fs::create_directories(application / "box/.a");
+    for (const char* name : {"b.TXT", "A.txt", "가.txt", ".c.txt", "d.txtx", "e\\f.txt"})
+        put(application / "box" / name, name);
+    put(application / "box" / apart, "apart");
+    fs::create_symlink(application / "box/A.txt", application / "box/z.txt");
+    fs::create_directory_symlink(application / "box/B.txt", application / "box/다");
+    const timespec times[2] = {{0, 0}, {1'700'000'000, 0}};
+    ::utimensat(AT_FDCWD, (application / "box/A.txt").c_str(), times, 0);
+
+    const auto names = [&](TextView pattern) {
+        std::vector<std::string> listed;
+        for (const FileEntry& file : files.list_files(u"box", pattern)) listed.push_back(to_utf8(file.name));
+        return listed;
+    };
+    EXPECT_EQ(names(u"*.txt"), (std::vector<std::string>{"A.txt", "b.TXT", "가.txt", "하.txt"}));
+    EXPECT_EQ(files.read(u"box\\하.txt"), "apart");
+    EXPECT_EQ(files.list_folders(u"box"), (std::vector<Text>{u"B.txt", u"나"}));
+    EXPECT_TRUE(files.is_link(u"box\\다\\"));
+    EXPECT_FALSE(files.is_link(u"box\\나"));
+    const std::time_t written = 1'700'000'000;
+    EXPECT_EQ(break_up(files.list_files(u"box", u"a.txt")[0].modified).minute,
+              std::localtime(&written)->tm_min);
+
+    put(application / "box/하.txt", "whole");
+    EXPECT_EQ(names(u"*.txt").size(), 5U);
+    EXPECT_EQ(files.read(u"box\\" + files.list_files(u"box", u"*.txt")[2].name), "apart")
+        << "two spellings of one name stay two files";
+}
+
+TEST_F(PosixFilesTest, FoldersAreRenamedWholeAndRemovedWhenEmpty) {
+    fs::create_directories(application / "box/sub");
+    put(application / "box/a.txt", "a");
+    put(application / "box/.b", "b");
+    fs::create_symlink(application / "elsewhere", application / "box/link.txt");
+    put(application / "box/.zent-new-abc", "remains of a killed write");
+    files.rename_folder(u"box", u"상자");
+    EXPECT_EQ(files.read(u"상자\\a.txt"), "a");
+    EXPECT_EQ(error_number([&] { files.remove_empty_folder(u"상자"); }), 75);
+    EXPECT_EQ(names_in(application / "상자"), (std::set<std::string>{"sub", "a.txt", ".b", "link.txt"}));
+    files.remove_files(u"상자", u"*.txt");
+    EXPECT_EQ(names_in(application / "상자"), (std::set<std::string>{"sub", ".b"}));
+    files.remove_files(u"상자", u"*.*");
+    fs::remove(application / "상자/sub");
+    files.remove_empty_folder(u"상자");
+    EXPECT_EQ(names_in(application), NOTHING);
+}
+
+TEST_F(PosixFilesTest, OddNamesThatAreThereOpenButNoneIsMade) {
+    put(application / "a:b?.txt", "old");
+    EXPECT_EQ(files.read(u".\\a:b?.txt"), "old");
+    EXPECT_EQ(error_number([&] { files.write(u"c:\\a*b", "x"); }), 52);
+    EXPECT_EQ(error_number([&] { files.make_folder(u"aux\\"); }), 52);
+    fs::create_directory(application / "box");
+    EXPECT_EQ(error_number([&] { files.rename_folder(u"box", u"box."); }), 52);
+    files.remove(u".\\a:b?.txt");
+    EXPECT_EQ(names_in(application), std::set<std::string>{"box"});
+}
+
 TEST_F(PosixFilesTest, FailuresHaveTheirClassicNumbers) {
     fs::create_directory(application / "box");
     put(application / "file", "");
@@ -175,6 +240,11 @@ TEST_F(PosixFilesTest, FailuresHaveTheirClassicNumbers) {
         {"make a folder over a file", 75, [&] { files.make_folder(u"file"); }},
         {"make a folder below none", 76, [&] { files.make_folder(u"none\\none"); }},
         {"remove a missing folder", 76, [&] { files.remove_folder(u"none"); }},
+        {"list a missing folder", 76, [&] { files.list_files(u"none", u"*.*"); }},
+        {"list the folders of a file", 75, [&] { files.list_folders(u"file"); }},
+        {"rename a missing folder", 76, [&] { files.rename_folder(u"none", u"some"); }},
+        {"rename a folder over a file", 75, [&] { files.rename_folder(u"box", u"file"); }},
+        {"remove a missing folder that is to be empty", 76, [&] { files.remove_empty_folder(u"none"); }},
         {"remove a file as a folder", 75, [&] { files.remove_folder(u"file"); }},
     };
     for (const auto& [what, number, step] : cases) EXPECT_EQ(error_number(step), number) << what;

@@ -6,6 +6,7 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <utility>
 
 /// A file system in memory. Paths match without regard to ASCII case.
 class MemoryFiles : public platform::Files {
@@ -17,10 +18,17 @@ class MemoryFiles : public platform::Files {
     bool file_exists(const platform::Text& path) const override;
     bool folder_exists(const platform::Text& path) const override;
     std::uint64_t length(const platform::Text& path) const override;
+    bool is_link(const platform::Text& path) const override;
+    std::vector<platform::FileEntry> list_files(const platform::Text& folder,
+                                                platform::TextView pattern) const override;
+    std::vector<platform::Text> list_folders(const platform::Text& folder) const override;
     std::string read(const platform::Text& path) const override;
     void write(const platform::Text& path, const std::string& bytes) override;
     void remove(const platform::Text& path) override;
+    void remove_files(const platform::Text& folder, platform::TextView pattern) override;
     void make_folder(const platform::Text& path) override;
+    void rename_folder(const platform::Text& from, const platform::Text& to) override;
+    void remove_empty_folder(const platform::Text& path) override;
     void remove_folder(const platform::Text& path) override;
     std::string machine_path(const platform::Text& path) const override { return platform::to_utf8(path); }
     platform::Text path_of(const std::string& path) const override { return platform::from_utf8(path); }
@@ -30,7 +38,18 @@ class MemoryFiles : public platform::Files {
 
     std::map<platform::Text, std::string> files;
     std::set<platform::Text> folders;
+    std::set<platform::Text> links;
+    /// When files were written last; the others at `now`.
+    std::map<platform::Text, platform::LocalTime> dates;
+    platform::LocalTime now = platform::make_time(2026, 11, 23, 10, 0, 0);
+
+    /// The program is killed at the change after so many.
+    struct Killed {};
+    std::optional<int> changes_until_kill;
+    /// The change after so many fails so, and none after it.
+    std::optional<std::pair<int, platform::ErrorNumber>> changes_until_failure;
 
   private:
-    void fail_when_told() const;
+    void fail_when_missing(const platform::Text& folder) const;
+    void before_change();
 };

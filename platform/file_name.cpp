@@ -1,0 +1,81 @@
+#include "platform/file_name.h"
+
+#include "platform/error.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+/// In UTF-8, by which Linux file systems count.
+constexpr std::size_t MOST_BYTES = 255;
+
+char16_t upper_case_unit(char16_t unit) {
+    return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - u'a' + u'A') : unit;
+}
+
+/// Names that mean a device elsewhere, with any extension.
+bool is_device(TextView name) {
+    Text stem = lower_case(right_trim(name.substr(0, name.find(u'.'))));
+    for (const TextView device : {u"con", u"prn", u"aux", u"nul"}) {
+        if (stem == device) return true;
+    }
+    if (stem.size() != 4 || stem[3] < u'1' || stem[3] > u'9') return false;
+    stem.pop_back();
+    return stem == u"com" || stem == u"lpt";
+}
+
+bool is_forbidden(char16_t unit) {
+    return unit < u' ' || TextView(u"\\/:*?\"<>|").find(unit) != TextView::npos;
+}
+
+[[noreturn]] void refuse(Text why) { throw RuntimeError(ErrorNumber::bad_file_name, std::move(why)); }
+
+}  // namespace
+
+void check_file_name(TextView name) {
+    if (name.empty()) throw RuntimeError(ErrorNumber::bad_file_name);
+    if (std::any_of(name.begin(), name.end(), is_forbidden))
+        refuse(u"이름에 다음 문자는 사용할 수 없습니다.\r\n\\ / : * ? \" < > |");
+    if (name.front() == u'.') refuse(u"이름은 마침표로 시작할 수 없습니다.");
+    if (name.back() == u'.' || name.back() == u' ') refuse(u"이름은 마침표나 빈칸으로 끝날 수 없습니다.");
+    if (is_device(name)) refuse(u"시스템에서 사용하는 이름이므로 사용할 수 없습니다.");
+    if (to_utf8(name).size() > MOST_BYTES) refuse(u"이름이 너무 깁니다. 더 짧은 이름을 입력하세요.");
+}
+
+bool matches_pattern(TextView name, TextView pattern) {
+    if (pattern == u"*.*") return true;
+    std::size_t at = 0;
+    std::size_t in_pattern = 0;
+    std::optional<std::pair<std::size_t, std::size_t>> after_star;
+    while (at < name.size()) {
+        if (in_pattern < pattern.size() && pattern[in_pattern] == u'*') {
+            after_star = {at, ++in_pattern};
+        } else if (in_pattern < pattern.size() &&
+                   (pattern[in_pattern] == u'?' ||
+                    upper_case_unit(pattern[in_pattern]) == upper_case_unit(name[at]))) {
+            ++at;
+            ++in_pattern;
+        } else if (after_star) {
+            at = ++after_star->first;
+            in_pattern = after_star->second;
+        } else {
+            return false;
+        }
+    }
+    return pattern.find_first_not_of(u'*', in_pattern) == TextView::npos;
+}
+
+bool name_precedes(TextView a, TextView b) {
+    const auto [in_a, in_b] =
+        std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char16_t x, char16_t y) { return upper_case_unit(x) == upper_case_unit(y); });
+    if (in_a == a.end() && in_b == b.end()) return a < b;
+    if (in_a == a.end() || in_b == b.end()) return in_a == a.end();
+    return upper_case_unit(*in_a) < upper_case_unit(*in_b);
+}
+
+}  // namespace platform
