@@ -26,6 +26,8 @@ class PictureBox : public Control {
     bool border() const { return border_; }
     void set_border(bool border) { assign(border_, border, Aspect::border); }
 
+    Event<> Click;
+
   private:
     bool border_ = true;
 };

@@ -73,6 +73,11 @@ void ListView::clear() {
     if (rows_view_ != nullptr) rows_view_->rows_rearranged();
 }
 
+void ListView::set_item_text(std::size_t row, Text text) {
+    item(row).text_ = std::move(text);
+    if (rows_view_ != nullptr) rows_view_->row_changed(row);
+}
+
 void ListView::set_small_icon(std::size_t row, int number) {
     item(row).small_icon_ = number;
     if (rows_view_ != nullptr) rows_view_->row_changed(row);

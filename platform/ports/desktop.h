@@ -36,6 +36,14 @@ struct FileQuestion {
     Text file_name{};
 };
 
+/// A modal question for a line of text.
+struct InputBox {
+    Text prompt{};
+    Text title{};
+    /// Stands in the field, selected.
+    Text default_text{};
+};
+
 enum class Pointer { normal, hourglass };
 
 /// The screen in twips, and how many of them a pixel has.
@@ -79,6 +87,9 @@ class Desktop {
 
     /// The full path of the user's choice; nothing when he cancels.
     virtual std::optional<Text> ask_for_file(const FileQuestion& question) = 0;
+
+    /// Returns what the user entered; nothing when he cancelled.
+    virtual Text input_box(const InputBox& box) = 0;
 
     virtual void set_pointer(Pointer pointer) = 0;
     virtual void set_clipboard(const Text& text) = 0;

@@ -28,4 +28,23 @@ int key_code(const QKeyEvent& event) {
     return event.text().isEmpty() ? 0 : event.text().front().unicode();
 }
 
+int moving_key_code(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Up:
+            return KEY_UP;
+        case Qt::Key_Down:
+            return KEY_DOWN;
+        case Qt::Key_PageUp:
+            return KEY_PAGE_UP;
+        case Qt::Key_PageDown:
+            return KEY_PAGE_DOWN;
+        case Qt::Key_Home:
+            return KEY_HOME;
+        case Qt::Key_End:
+            return KEY_END;
+        default:
+            return 0;
+    }
+}
+
 }  // namespace platform::qt

@@ -8,4 +8,7 @@ namespace platform::qt {
 /// that makes no character and for Escape, which is the form's.
 int key_code(const QKeyEvent& event);
 
+/// The code of a key that moves through rows or pages, 0 for any other.
+int moving_key_code(const QKeyEvent& event);
+
 }  // namespace platform::qt

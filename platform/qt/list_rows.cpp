@@ -1,5 +1,6 @@
 #include "platform/qt/list_rows.h"
 
+#include "platform/qt/icon_list.h"
 #include "platform/qt/twips.h"
 
 #include <QHeaderView>
@@ -9,7 +10,19 @@
 
 namespace platform::qt {
 
-ListRows::ListRows(ListView& list, QTreeView& view) : list_(list), view_(view), model_(list, view, this) {
+namespace {
+
+std::vector<QIcon> small_icons(const QTreeView& view) {
+    std::vector<QIcon> icons;
+    const auto count = view.property("smallIcons").toStringList().size();
+    for (int number = 1; number <= count; ++number) icons.push_back(icon_of_list(view, "smallIcons", number));
+    return icons;
+}
+
+}  // namespace
+
+ListRows::ListRows(ListView& list, QTreeView& view)
+    : list_(list), view_(view), model_(list, small_icons(view), this) {
     view.setModel(&model_);
     const QItemSelectionModel* selection = view.selectionModel();
     connect(selection, &QItemSelectionModel::selectionChanged, this, &ListRows::take_selection);

@@ -22,15 +22,19 @@ void set_up(QTreeView& view) {
     view.setItemsExpandable(false);
     view.setAllColumnsShowFocus(true);
     view.setSelectionBehavior(QAbstractItemView::SelectRows);
-    view.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    view.setSelectionMode(view.property("singleSelection").toBool() ? QAbstractItemView::SingleSelection
+                                                                    : QAbstractItemView::ExtendedSelection);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.header()->setSectionsClickable(true);
     view.header()->setSectionsMovable(false);
-    // The screen's widths, drawn for text of 12 pixels; columns with "*" share what the others leave.
+    // The screen's widths, drawn for text of 12 pixels; columns with "*" share what the others leave, and
+    // those without a width are for the handlers alone.
     const QStringList widths = view.property("columnWidths").toStringList();
     for (int column = 0; column < widths.size(); ++column) {
         if (widths[column] == u'*') {
             view.header()->setSectionResizeMode(column, QHeaderView::Stretch);
+        } else if (widths[column] == u'0') {
+            view.setColumnHidden(column, true);
         } else {
             view.header()->resizeSection(column,
                                          widths[column].toInt() * QFontInfo(view.font()).pixelSize() / 12);
@@ -61,26 +65,6 @@ bool moves_through_rows(const QKeyEvent& event) {
             return event.modifiers() != Qt::NoModifier;
         default:
             return false;
-    }
-}
-
-/// The code of a key that moves up or down through the rows; 0 for any other.
-int code_of_move(const QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Up:
-            return KEY_UP;
-        case Qt::Key_Down:
-            return KEY_DOWN;
-        case Qt::Key_PageUp:
-            return KEY_PAGE_UP;
-        case Qt::Key_PageDown:
-            return KEY_PAGE_DOWN;
-        case Qt::Key_Home:
-            return KEY_HOME;
-        case Qt::Key_End:
-            return KEY_END;
-        default:
-            return 0;
     }
 }
 
@@ -157,9 +141,10 @@ bool ListViewBinder::press_key(QKeyEvent& event) {
     return true;
 }
 
+/// The view has moved by then. A key that is held down is released once.
 void ListViewBinder::release_key(const QKeyEvent& event) {
     if (event.isAutoRepeat()) return;
-    if (KeyPressed key{code_of_move(event)}; !key.swallowed()) control_.KeyUp.raise(key);
+    if (KeyPressed key{moving_key_code(event)}; !key.swallowed()) control_.KeyUp.raise(key);
 }
 
 /// A menu that the mouse asks for comes with the release of its button.

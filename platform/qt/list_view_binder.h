@@ -10,7 +10,9 @@ class QTreeView;
 
 namespace platform::qt {
 
-/// Joins a list with its view; the screen's list `columnWidths` has the widths of the columns in pixels.
+/// Joins a list with its view. The screen's list `columnWidths` has the widths of the columns in pixels, its
+/// list `smallIcons` the pictures of the rows by their numbers; where it says `singleSelection`, one row at
+/// most is selected.
 class ListViewBinder : public WidgetBinder {
   public:
     ListViewBinder(BoundForm& bound, ListView& control, QTreeView& view);

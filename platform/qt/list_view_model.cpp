@@ -1,9 +1,6 @@
 #include "platform/qt/list_view_model.h"
 
-#include "platform/qt/icon_list.h"
 #include "platform/qt/text_conversion.h"
-
-#include <QIcon>
 
 namespace platform::qt {
 
@@ -19,12 +16,16 @@ QVariant ListViewModel::data(const QModelIndex& index, int role) const {
     if (list_ == nullptr || !index.isValid()) return QVariant();
     const ListItem& row = list_->row(static_cast<std::size_t>(index.row()));
     if (role == Qt::DisplayRole) return to_qstring(row.sub_item(index.column()));
+    if (role == Qt::DecorationRole && index.column() == 0) return small_icon(row);
     if (role == Qt::CheckStateRole && index.column() == 0 && list_->check_boxes()) {
         return row.checked() ? Qt::Checked : Qt::Unchecked;
     }
-    if (role == Qt::DecorationRole && index.column() == 0 && row.small_icon() > 0)
-        return icon_of_list(view_, "smallIcons", row.small_icon());
     return QVariant();
+}
+
+QVariant ListViewModel::small_icon(const ListItem& row) const {
+    const auto number = static_cast<std::size_t>(row.small_icon());
+    return number == 0 || number > icons_.size() ? QVariant() : QVariant(icons_[number - 1]);
 }
 
 bool ListViewModel::setData(const QModelIndex& index, const QVariant& value, int role) {

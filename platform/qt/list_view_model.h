@@ -3,6 +3,8 @@
 #include "platform/controls/list_view.h"
 
 #include <QAbstractTableModel>
+#include <QIcon>
+#include <vector>
 
 namespace platform::qt {
 
@@ -11,11 +13,11 @@ class ListViewModel : public QAbstractTableModel {
     Q_OBJECT
 
   public:
-    /// The rows' pictures are those that the view's list `smallIcons` names.
-    ListViewModel(ListView& list, const QObject& view, QObject* parent)
+    /// Rows show the icons by their numbers, counted from 1.
+    ListViewModel(ListView& list, std::vector<QIcon> icons, QObject* parent)
         : QAbstractTableModel(parent),
           list_(&list),
-          view_(view),
+          icons_(std::move(icons)),
           told_rows_(static_cast<int>(list.row_count())) {}
 
     /// The list goes. Nobody is told, since it may go in the midst of the view's own work; the view is closed
@@ -42,9 +44,10 @@ class ListViewModel : public QAbstractTableModel {
 
   private:
     int rows_of_list() const { return static_cast<int>(list_->row_count()); }
+    QVariant small_icon(const ListItem& row) const;
 
     ListView* list_;
-    const QObject& view_;
+    std::vector<QIcon> icons_;
     int told_rows_;
 };
 

@@ -78,6 +78,11 @@ void PictureBoxBinder::refresh(Aspect aspect) {
     frame_.setFrameShape(control_.border() ? QFrame::StyledPanel : QFrame::NoFrame);
 }
 
+bool PictureBoxBinder::filter(QObject&, QEvent& event) {
+    if (is_click(frame_, event)) act([this] { control_.Click.raise(); });
+    return false;
+}
+
 ProgressBarBinder::ProgressBarBinder(BoundForm& bound, ProgressBar& control, QProgressBar& bar)
     : WidgetBinder(bound, control, bar), control_(control), bar_(bar) {
     bar.setRange(0, 100);

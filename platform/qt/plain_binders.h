@@ -52,6 +52,8 @@ class PictureBoxBinder : public WidgetBinder {
     void refresh(Aspect aspect) override;
 
   private:
+    bool filter(QObject& object, QEvent& event) override;
+
     PictureBox& control_;
     QFrame& frame_;
 };

@@ -3,8 +3,8 @@
 #include "platform/controls/menu.h"
 #include "platform/qt/composition.h"
 #include "platform/qt/form_window.h"
+#include "platform/qt/input_box.h"
 #include "platform/qt/input_watch.h"
-#include "platform/qt/keep_painted.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/text_conversion.h"
 #include "platform/qt/twips.h"
@@ -112,6 +112,14 @@ std::optional<Text> QtDesktop::ask_for_file(const FileQuestion& question) {
     const std::optional<Text> chosen = file_dialog_.ask(question, front);
     give_back_focus(front);
     return chosen;
+}
+
+Text QtDesktop::input_box(const InputBox& box) {
+    commit_composition();
+    const QPointer<QWidget> front = front_window();
+    const Text answer = ask_for_text(box, front);
+    give_back_focus(front);
+    return answer;
 }
 
 /// The hourglass is a state, not a count: nobody has to give back each one that was set.

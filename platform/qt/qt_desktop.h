@@ -32,6 +32,7 @@ class QtDesktop : public Desktop {
     void popup_menu_below(Form& form, Menu& menu, const Control& control) override;
     BoxAnswer message_box(const MessageBox& box) override;
     std::optional<Text> ask_for_file(const FileQuestion& question) override;
+    Text input_box(const InputBox& box) override;
     void set_pointer(Pointer pointer) override;
     void set_clipboard(const Text& text) override;
     Screen screen() const override;

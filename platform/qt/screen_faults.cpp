@@ -28,7 +28,7 @@ bool has_control(const Form& form, const QString& name) {
 /// Whether its children are the screen's; what is in other widgets is made by the toolkit and the binders.
 bool holds_controls(const QWidget& widget) {
     const QString kind = QString::fromLatin1(widget.metaObject()->className());
-    static const QStringList CONTAINERS{"QWidget", "QFrame",   "QGroupBox",  "QMainWindow",
+    static const QStringList CONTAINERS{"QWidget", "QFrame",   "QGroupBox",   "QMainWindow",
                                         "QDialog", "QMenuBar", "QScrollArea", "QSplitter"};
     return CONTAINERS.contains(kind);
 }

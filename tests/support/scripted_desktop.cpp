@@ -12,6 +12,9 @@ ScriptedDesktop::~ScriptedDesktop() {
     for (const ExpectedDialog& dialog : expected_dialogs_) {
         ADD_FAILURE() << "a file dialog never came: " << platform::to_utf8(dialog.title);
     }
+    for (const ExpectedInput& input : expected_inputs_) {
+        ADD_FAILURE() << "an input box never came: " << platform::to_utf8(input.part);
+    }
     for (const auto& [name, acts] : acts_) {
         if (!acts.empty()) ADD_FAILURE() << "a form never opened: " << platform::to_utf8(name);
     }
@@ -23,6 +26,10 @@ void ScriptedDesktop::expect_box(Text part, BoxAnswer answer) {
 
 void ScriptedDesktop::expect_file_dialog(Text title, std::optional<Text> chosen) {
     expected_dialogs_.push_back({std::move(title), std::move(chosen)});
+}
+
+void ScriptedDesktop::expect_input(Text part, Text answer) {
+    expected_inputs_.push_back({std::move(part), std::move(answer)});
 }
 
 void ScriptedDesktop::in_form(Text name, std::function<void(platform::Form&)> act) {
@@ -68,6 +75,7 @@ void ScriptedDesktop::popup_menu_below(platform::Form& form, platform::Menu& men
 
 BoxAnswer ScriptedDesktop::message_box(const platform::MessageBox& box) {
     boxes.push_back(box);
+    if (expected_boxes_.empty() && any_box) return *any_box;
     const bool expected =
         !expected_boxes_.empty() && platform::contains(box.text, expected_boxes_.front().part);
     if (!expected) {
@@ -91,4 +99,16 @@ std::optional<Text> ScriptedDesktop::ask_for_file(const platform::FileQuestion& 
     const std::optional<Text> chosen = std::move(expected_dialogs_.front().chosen);
     expected_dialogs_.pop_front();
     return chosen;
+}
+
+Text ScriptedDesktop::input_box(const platform::InputBox& box) {
+    input_boxes.push_back(box);
+    if (expected_inputs_.empty() && any_input) return *any_input;
+    if (expected_inputs_.empty() || !platform::contains(box.prompt, expected_inputs_.front().part)) {
+        ADD_FAILURE() << "unexpected input box: " << platform::to_utf8(box.prompt);
+        return {};
+    }
+    const Text answer = expected_inputs_.front().answer;
+    expected_inputs_.pop_front();
+    return answer;
 }

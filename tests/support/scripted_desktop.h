@@ -21,6 +21,9 @@ class ScriptedDesktop : public platform::Desktop {
     void expect_box(platform::Text part, platform::BoxAnswer answer = platform::BoxAnswer::ok);
     /// The next file dialog must have this title; the user picks the path, or cancels without one.
     void expect_file_dialog(platform::Text title, std::optional<platform::Text> chosen);
+    /// The next input box must have the text in its prompt; the user enters this, or cancels when it is
+    /// empty.
+    void expect_input(platform::Text part, platform::Text answer);
     /// What the user does the next time that a form of this name opens.
     void in_form(platform::Text name, std::function<void(platform::Form&)> act);
 
@@ -29,9 +32,14 @@ class ScriptedDesktop : public platform::Desktop {
         in_form(std::move(name), [act](platform::Form& form) { act(dynamic_cast<FormType&>(form)); });
     }
 
+    /// The answer to every box and every input box that the script leaves out, for tests of something else.
+    std::optional<platform::BoxAnswer> any_box;
+    std::optional<platform::Text> any_input;
+
     // What was asked of the desktop.
     std::vector<platform::MessageBox> boxes;
     std::vector<platform::FileQuestion> file_questions;
+    std::vector<platform::InputBox> input_boxes;
     std::vector<platform::Text> forms;
     platform::Text clipboard;
     platform::Text title;
@@ -54,6 +62,7 @@ class ScriptedDesktop : public platform::Desktop {
                           const platform::Control& control) override;
     platform::BoxAnswer message_box(const platform::MessageBox& box) override;
     std::optional<platform::Text> ask_for_file(const platform::FileQuestion& question) override;
+    platform::Text input_box(const platform::InputBox& box) override;
     void set_pointer(platform::Pointer shape) override { pointer = shape; }
     void set_clipboard(const platform::Text& text) override { clipboard = text; }
     platform::Screen screen() const override { return screen_size; }
@@ -70,6 +79,10 @@ class ScriptedDesktop : public platform::Desktop {
         platform::Text part;
         platform::BoxAnswer answer;
     };
+    struct ExpectedInput {
+        platform::Text part;
+        platform::Text answer;
+    };
 
     struct ExpectedDialog {
         platform::Text title;
@@ -79,5 +92,6 @@ class ScriptedDesktop : public platform::Desktop {
     VirtualClock& clock_;
     std::deque<Expected> expected_boxes_;
     std::deque<ExpectedDialog> expected_dialogs_;
+    std::deque<ExpectedInput> expected_inputs_;
     std::map<platform::Text, std::deque<std::function<void(platform::Form&)>>> acts_;
 };
