@@ -2,9 +2,9 @@
 
 #include "compose/main_form.h"
 #include "core/files.h"
+#include "core/message_box.h"
 #include "core/windows.h"
 #include "platform/error.h"
-#include "platform/text/cp949.h"
 
 namespace compose {
 
@@ -17,10 +17,7 @@ constexpr int MOST_NAMES = 200;
 }  // namespace
 
 void frmZent::MySave_Click() {
-    const Text root = platform_.files.application_directory() + u"\\내모음함\\";
-    const Text folder = root + u"내모음함\\";
-    core::make_folder_when_missing(platform_, root);
-    core::make_folder_when_missing(platform_, folder);
+    core::make_message_box_folders(platform_);
     txtUserName.set_text(platform::trim(txtUserName.text()));
 
     const Text body = platform::trim(platform::remove_all(mText1.text(), sender_tag()));
@@ -33,17 +30,21 @@ void frmZent::MySave_Click() {
 
     const Text subject = subjectText.text();
     Text title = subject;
-    for (int i = 1; core::FILE_EXISTS(platform_, folder + title + u".txt"); ++i) {
-        title = subject + platform::decimal(i);
-        if (i > MOST_NAMES) {
-            platform_.desktop.message_box({.text = u"'" + title + u"' 제목은 이미 존재하고 있습니다."});
-            return;
-        }
-    }
     try {
-        platform_.files.write(folder + title + u".txt", platform::encode_cp949(body));
+        // Asked for first: a wildcard in the subject would find other texts below.
+        core::check_message_name(platform_, core::DEFAULT_CATEGORY, subject);
+        for (int i = 1;
+             core::FILE_EXISTS(platform_, core::message_path(platform_, core::DEFAULT_CATEGORY, title));
+             ++i) {
+            title = subject + platform::decimal(i);
+            if (i > MOST_NAMES) {
+                platform_.desktop.message_box({.text = u"'" + title + u"' 제목은 이미 존재하고 있습니다."});
+                return;
+            }
+        }
+        core::write_message(platform_, core::DEFAULT_CATEGORY, title, body);
     } catch (const platform::RuntimeError& error) {
-        core::show_error(platform_.desktop, error, platform::BoxIcon::exclamation);
+        core::show_error(platform_.desktop, error, platform::BoxIcon::critical);
         return;
     }
     platform_.desktop.message_box({.text = u"내 모음함에 '" + title + u"' 제목으로 등록 되었습니다.",

@@ -1,5 +1,6 @@
 #include "core/files.h"
 
+#include "core/message_box.h"
 #include "platform/error.h"
 
 namespace core {
@@ -55,10 +56,8 @@ void make_folder_when_missing(Platform& platform, const Text& path) {
 }
 
 void MAKE_WORK_DIRS(Platform& platform) {
-    const Text application = platform.files.application_directory();
     make_folder_when_missing(platform, Text(SOUND_FOLDER));
-    make_folder_when_missing(platform, application + u"\\내모음함\\");
-    make_folder_when_missing(platform, application + u"\\내모음함\\내모음함\\");
+    make_message_box_folders(platform);
 }
 
 }  // namespace core

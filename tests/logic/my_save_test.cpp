@@ -82,6 +82,18 @@ TEST_F(SavingAText, AFullDiskIsToldAndNothingCountsAsSaved) {
     desktop.expect_box(u"오류번호:61");
     save(u"인사", u"글");
     EXPECT_EQ(desktop.boxes.size(), 1u);
+    EXPECT_EQ(desktop.boxes.back().icon, platform::BoxIcon::critical);
+}
+
+TEST_F(SavingAText, ATitleThatNoFileCanHaveIsToldAndNothingIsWritten) {
+    files.files[FOLDER + u"회의.txt"] = "old";
+    const auto before = files.files;
+    for (const Text& subject : {Text(u"..\\..\\위"), Text(u"3/4"), Text(u"회*"), Text(u"회의?"),
+                                Text(u"3:00"), Text(u"AUX"), Text(u".숨김"), Text(300, u'긴')}) {
+        desktop.expect_box(u"오류번호:52");
+        save(subject, u"글");
+        EXPECT_EQ(files.files, before) << utf8(subject);
+    }
 }
 
 }  // namespace
