@@ -3,6 +3,7 @@
 #include "addressbook/frmSendMan.h"
 #include "addressbook/handover.h"
 #include "core/entry_routine.h"
+#include "msgbox/frmMyMsgBox.h"
 #include "send/send_check.h"
 
 namespace app {
@@ -22,6 +23,7 @@ compose::MainDoors Application::doors() {
         picker.ShowEnter(main_.TabStrip1.selected_caption());
     };
     doors.NEW_SENDMAN_LOAD = [this] { addressbook::NEW_SENDMAN_LOAD(platform_, state_, main_); };
+    doors.message_box = [this] { msgbox::frmMyMsgBox(platform_, main_).show_modal(); };
     return doors;
 }
 

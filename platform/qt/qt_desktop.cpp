@@ -5,6 +5,7 @@
 #include "platform/qt/form_window.h"
 #include "platform/qt/input_box.h"
 #include "platform/qt/input_watch.h"
+#include "platform/qt/keep_painted.h"
 #include "platform/qt/message_box.h"
 #include "platform/qt/text_conversion.h"
 #include "platform/qt/twips.h"

@@ -2,6 +2,7 @@
 
 #include "ui_frmAbout.h"
 #include "ui_frmAutoLogin.h"
+#include "ui_frmMyMsgBox.h"
 #include "ui_frmPondiraReg.h"
 #include "ui_frmSBox.h"
 #include "ui_frmSendEndBox.h"
@@ -37,6 +38,7 @@ Screens program_screens() {
     screens.add<Ui::frmZentSend, QDialog>(u"frmZentSend");
     screens.add<Ui::frmSendEndBox, QDialog>(u"frmSendEndBox");
     screens.add<Ui::frmSendMan, QDialog>(u"frmSendMan");
+    screens.add<Ui::frmMyMsgBox, QDialog>(u"frmMyMsgBox");
     return screens;
 }
 

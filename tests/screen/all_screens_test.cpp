@@ -7,6 +7,7 @@
 #include "gateway/frmPondiraReg.h"
 #include "gateway/frmWeb.h"
 #include "gateway/frmZentLogin.h"
+#include "msgbox/frmMyMsgBox.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/screen_faults.h"
 #include "platform/qt/text_conversion.h"
@@ -50,6 +51,7 @@ struct System {
         forms.push_back(std::make_unique<send::frmZentSend>(platform, machine.state, main));
         forms.push_back(std::make_unique<send::frmSendEndBox>(platform, main));
         forms.push_back(std::make_unique<addressbook::frmSendMan>(platform, machine.state, main));
+        forms.push_back(std::make_unique<msgbox::frmMyMsgBox>(platform, main));
         return forms;
     }
 };

@@ -1,0 +1,86 @@
+// The lists of categories and of messages, and what a selection in them does.
+
+#include "core/list_columns.h"
+#include "core/message_box.h"
+#include "core/windows.h"
+#include "msgbox/frmMyMsgBox.h"
+#include "msgbox/message_store.h"
+#include "platform/text/format.h"
+
+namespace msgbox {
+
+using platform::ListView;
+using platform::Text;
+
+namespace {
+
+constexpr int CLOSED_FOLDER = 1;
+constexpr int OPEN_FOLDER = 2;
+
+/// Two messages of one minute are told apart, and the text sorts.
+constexpr platform::TextView SAVED_PATTERN = u"yyyy-MM-dd ampm hh:mm:ss";
+
+}  // namespace
+
+void frmMyMsgBox::CATEGORY_LIST_LOAD() {
+    core::make_message_box_folders(platform_);
+    const std::vector<Text> names = categories(platform_);
+    ListView1.clear();
+    for (const Text& name : names) ListView1.set_small_icon(ListView1.add_row(name, {}), CLOSED_FOLDER);
+    select_category(0);
+}
+
+void frmMyMsgBox::select_category(std::size_t row) {
+    ListView1.deselect_item();
+    ListView1.select_item(row);
+    ListView1.make_visible(row);
+    ListView1_Click();
+}
+
+std::optional<Text> frmMyMsgBox::selected_category() const {
+    const auto row = ListView1.selected_item();
+    return row ? std::optional(ListView1.row(*row).text()) : std::nullopt;
+}
+
+void frmMyMsgBox::ListView1_Click() {
+    const auto category = selected_category();
+    if (!category) return;
+    with_net([&] { MESSAGE_LIST_LOAD(*category); });
+    for (std::size_t row = 0; row < ListView1.row_count(); ++row)
+        ListView1.set_small_icon(row, row == ListView1.selected_item() ? OPEN_FOLDER : CLOSED_FOLDER);
+}
+
+void frmMyMsgBox::MESSAGE_LIST_LOAD(const Text& category) {
+    std::optional<platform::RuntimeError> failure;
+    {
+        const core::BusyPointer busy(platform_.desktop);
+        core::Painting painting(platform_.desktop);
+        CategoryContent content = read_category(platform_, category, [&] { painting.step(); });
+        failure = std::move(content.failure);
+
+        ListView2.clear();
+        for (Message& message : content.messages) {
+            ListView2.add_row(std::move(message.title),
+                              {platform::trim(platform::replace_all(message.body, platform::CRLF, u" ")),
+                               platform::format_date(message.saved, SAVED_PATTERN), std::move(message.body)});
+            painting.step();
+        }
+        // Deliberately by the text of the date: within a day 오전 and 오후 sort as words, and 12 o'clock
+        // behind 11. Users know their lists so.
+        ListView2.sort(MESSAGE_SAVED, ListView::SortOrder::descending);
+        core::SET_SORT_ARROW(ListView2, MESSAGE_SAVED, 1, true);
+        if (ListView2.row_count() > 0) ListView2.select_item(0);
+    }
+    if (failure) throw *failure;
+}
+
+void frmMyMsgBox::ListView2_Click() {
+    empty_fields();
+    const auto row = ListView2.selected_item();
+    if (!row) return;
+    Command5.set_enabled(true);
+    Text1.set_text(ListView2.row(*row).text());
+    txtText.set_text(ListView2.row(*row).sub_item(MESSAGE_BODY));
+}
+
+}  // namespace msgbox

@@ -1,0 +1,450 @@
+#include "core/message_box.h"
+#include "msgbox/frmMyMsgBox.h"
+#include "platform/text/cp949.h"
+#include "tests/support/main_window.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <optional>
+
+namespace {
+
+using msgbox::frmMyMsgBox;
+using platform::BoxAnswer;
+using platform::BoxIcon;
+using platform::ListView;
+using platform::Text;
+using tests::utf8;
+using Strings = std::vector<std::string>;
+
+const Text ROOT = u"z:\\app\\내모음함";
+const Text FIRST = u"내모음함";
+
+class MyMsgBox : public testing::Test, protected tests::MainWindow {
+  protected:
+    void SetUp() override {
+        compose_as(u"홍길동");
+        files.folders = {ROOT, ROOT + u"\\" + FIRST};
+    }
+
+    void put(const Text& category, const Text& title, const std::string& bytes) {
+        files.folders.insert(ROOT + u"\\" + category);
+        files.files[path(category, title)] = bytes;
+    }
+    static Text path(const Text& category, const Text& title) {
+        return ROOT + u"\\" + category + u"\\" + title + u".txt";
+    }
+    /// The text on the disk.
+    std::string saved(const Text& category, const Text& title) const {
+        const auto file = files.files.find(path(category, title));
+        return file == files.files.end() ? "none" : utf8(platform::decode_cp949(file->second));
+    }
+
+    frmMyMsgBox& open() {
+        box_.emplace(platform, form);
+        box_->load();
+        return *box_;
+    }
+    frmMyMsgBox& box() { return *box_; }
+
+    static void choose(ListView& list, std::size_t row) {
+        list.deselect_item();
+        list.select_item(row);
+        list.MouseUp.raise(platform::MouseButton::left);
+    }
+    static Strings column(const ListView& list, int sub_item = 0) {
+        Strings texts;
+        for (std::size_t row = 0; row < list.row_count(); ++row)
+            texts.push_back(utf8(list.row(row).sub_item(sub_item)));
+        return texts;
+    }
+    void write_fields(const Text& title, const Text& body) {
+        box().Text1.set_text(title);
+        box().txtText.set_text(body);
+    }
+
+  private:
+    std::optional<frmMyMsgBox> box_;
+};
+
+TEST_F(MyMsgBox, ListsACategoryByTheTextOfTheDates) {
+    const auto at = [&](const Text& title, int day, int hour, const std::string& bytes) {
+        put(FIRST, title, bytes);
+        files.dates[path(FIRST, title)] = platform::make_time(2026, 11, day, hour, 5, 9);
+    };
+    at(u"아침", 22, 9, "");
+    at(u"정오", 22, 12, platform::encode_cp949(u" 첫 줄\r\n둘째 줄 "));
+    at(u"열한시", 22, 23, "x");
+    at(u"a.b", 21, 0, "x");
+    files.files[ROOT + u"\\내모음함\\그림.bmp"] = "x";
+    put(u"하", u"하나", "x");
+    put(u"가", u"둘", "x");
+
+    open();
+    EXPECT_EQ(column(box().ListView1), (Strings{"내모음함", "가", "하"}));
+    EXPECT_EQ(column(box().ListView2), (Strings{"정오", "열한시", "아침", "a.b"}));
+    EXPECT_EQ(column(box().ListView2, msgbox::MESSAGE_SAVED),
+              (Strings{"2026-11-22 오후 12:05:09", "2026-11-22 오후 11:05:09", "2026-11-22 오전 09:05:09",
+                       "2026-11-21 오전 12:05:09"}));
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(msgbox::MESSAGE_LINE)), "첫 줄 둘째 줄");
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(msgbox::MESSAGE_BODY)), " 첫 줄\r\n둘째 줄 ");
+    EXPECT_EQ(box().ListView2.selected_item(), 0U);
+    EXPECT_EQ(utf8(box().Text1.text()), "") << "selected by the program, not by the user";
+    EXPECT_FALSE(box().Command5.enabled());
+    EXPECT_EQ(box().ListView1.row(0).small_icon(), 2);
+
+    box().ListView2.ColumnClick.raise(1);
+    EXPECT_EQ(column(box().ListView2), (Strings{"a.b", "아침", "열한시", "정오"}));
+    choose(box().ListView1, 2);
+    EXPECT_EQ(column(box().ListView2), Strings{"하나"});
+    EXPECT_EQ(box().ListView1.row(0).small_icon(), 1);
+    EXPECT_EQ(box().ListView1.row(2).small_icon(), 2);
+    EXPECT_EQ(desktop.pointer, platform::Pointer::normal);
+}
+
+TEST_F(MyMsgBox, ShowsTheSelectedMessageAndFiltersTheKeysOfTheTitle) {
+    put(FIRST, u"가", platform::encode_cp949(u"한글\r\nabc "));
+    put(FIRST, u"나", "");
+    open();
+    choose(box().ListView2, 0);
+    EXPECT_EQ(utf8(box().txtText.text()), "한글\r\nabc ");
+    EXPECT_EQ(utf8(box().LenCaption.caption()), "10Bytes");
+    EXPECT_TRUE(box().Command5.enabled());
+
+    box().ListView2.deselect_item();
+    box().ListView2.select_item(1);
+    platform::KeyPressed released{platform::KEY_DOWN};
+    box().ListView2.KeyUp.raise(released);
+    EXPECT_EQ(utf8(box().Text1.text() + box().txtText.text()), "나");
+
+    box().Text1.set_text(u"");
+    for (const char16_t key : Text(u"a\"b*c.d/e:f<g>h?i\\j|k한!")) {
+        box().Text1.set_caret_to_end();
+        tests::press(box().Text1, key);
+    }
+    EXPECT_EQ(utf8(box().Text1.text()), "abcdefghijk한!");
+    box().LenCaption.Click.raise();
+    EXPECT_TRUE(box().txtText.has_focus());
+}
+
+TEST_F(MyMsgBox, SavesANewMessageUnderItsCleanedTitleOrTellsWhyNot) {
+    put(FIRST, u"있음", "old");
+    open();
+    const struct {
+        const char16_t *title, *body, *told;
+        const char* file;
+    } rows[] = {
+        {u"제목", u"   ", u"메시지 내용을 입력하세요!", nullptr},
+        {u"   ", u"글", u"'제목'을 입력하여 주십시오.", nullptr},
+        {u" *.*/ ", u"글", u"'제목'을 입력하여 주십시오.", nullptr},
+        {u"있.음", u"글", u"'있음' 제목은 이미 존재하고 있습니다.", nullptr},
+        {u"con", u"글", u"오류번호:52\r\n\r\n시스템에서 사용하는 이름", nullptr},
+        {u"..\\..\\탈출", u" 글 \r\n ", u"저장 되었습니다.", " 글 \r\n"},
+    };
+    for (const auto& row : rows) {
+        const auto before = files.files;
+        desktop.expect_box(row.told);
+        write_fields(row.title, row.body);
+        box().Command1.Click.raise();
+        if (row.file == nullptr) {
+            EXPECT_EQ(files.files, before) << utf8(row.title);
+            EXPECT_EQ(utf8(box().txtText.text()), utf8(platform::right_trim(row.body)));
+        } else {
+            EXPECT_EQ(saved(FIRST, u"탈출"), row.file);
+            EXPECT_EQ(utf8(box().Text1.text() + box().txtText.text()), "");
+        }
+    }
+    EXPECT_EQ(box().ListView2.row_count(), 2U);
+}
+
+TEST_F(MyMsgBox, SavesAnEditInPlaceOfTheOldMessage) {
+    put(FIRST, u"가", "old");
+    put(FIRST, u"나", "other");
+    open();
+    choose(box().ListView2, 0);
+    box().txtText.set_text(u"새 글\r\n끝");
+    desktop.expect_box(u"수정 되었습니다.");
+    box().Command2.Click.raise();
+    EXPECT_EQ(saved(FIRST, u"가"), "새 글\r\n끝");
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(msgbox::MESSAGE_LINE)), "새 글 끝");
+
+    box().Text1.set_text(u"나");
+    desktop.expect_box(u"'나' 제목은 이미 존재하고 있습니다.");
+    box().Command2.Click.raise();
+    EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::none);
+    EXPECT_EQ(saved(FIRST, u"나"), "other");
+
+    box().Text1.set_text(u"다.라");
+    desktop.expect_box(u"수정 되었습니다.");
+    box().Command2.Click.raise();
+    EXPECT_EQ(saved(FIRST, u"가") + " " + saved(FIRST, u"다라"), "none 새 글\r\n끝");
+    EXPECT_EQ(utf8(box().ListView2.row(0).text()), "다라");
+    EXPECT_EQ(saved(FIRST, u"나"), "other");
+}
+
+TEST_F(MyMsgBox, AnEditThatCannotBeWrittenStaysInTheRowAndInTheFields) {
+    put(FIRST, u"가", "old");
+    open();
+    choose(box().ListView2, 0);
+    write_fields(Text(100, u'긴'), u"새 글");
+    desktop.expect_box(u"오류번호:52\r\n\r\n이름이 너무 깁니다.");
+    box().Command2.Click.raise();
+    EXPECT_EQ(saved(FIRST, u"가"), "old") << "a name that no file can have costs nothing";
+
+    write_fields(u"나", u"새 글");
+    // The disk becomes full between the removal and the write.
+    files.changes_until_failure = {1, platform::ErrorNumber::disk_full};
+    desktop.expect_box(u"오류번호:61");
+    box().Command2.Click.raise();
+    EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::critical);
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(msgbox::MESSAGE_BODY)), "새 글");
+    EXPECT_EQ(utf8(box().Text1.text() + box().txtText.text()), "나새 글");
+
+    files.changes_until_failure.reset();
+    desktop.expect_box(u"수정 되었습니다.");
+    box().Command2.Click.raise();
+    EXPECT_EQ(saved(FIRST, u"나"), "새 글");
+}
+
+TEST_F(MyMsgBox, RemovesAMessageAfterAYes) {
+    put(FIRST, u"가", "x");
+    open();
+    choose(box().ListView2, 0);
+    for (const BoxAnswer answer : {BoxAnswer::no, BoxAnswer::yes}) {
+        EXPECT_EQ(saved(FIRST, u"가"), "x");
+        desktop.expect_box(u"제목:가\r\n\r\n선택한 자료를 삭제하시겠습니까?", answer);
+        platform::KeyPressed key{platform::KEY_DELETE};
+        box().ListView2.KeyDown.raise(key);
+        EXPECT_EQ(desktop.boxes.back().default_answer, BoxAnswer::no);
+    }
+    EXPECT_TRUE(files.files.empty());
+    EXPECT_EQ(box().ListView2.row_count(), 0U);
+    EXPECT_EQ(utf8(box().Text1.text() + box().txtText.text()), "");
+    EXPECT_TRUE(box().Command5.enabled());
+    box().Command3.Click.raise();
+    box().Command2.Click.raise();
+    EXPECT_EQ(desktop.boxes.size(), 2U) << "nothing to remove or to edit, nothing happens";
+}
+
+TEST_F(MyMsgBox, AddsACategoryUnderANameThatIsFree) {
+    put(u"거래처", u"하나", "x");
+    open();
+    const struct {
+        const char16_t* answer;
+        const char16_t* told;
+    } rows[] = {
+        {u"", nullptr},
+        {u" */ ", nullptr},
+        {u"거*래처", u"'거래처' 분류명은 이미 존재하고 있습니다."},
+        {u"LPT1", u"오류번호:52\r\n\r\n시스템에서 사용하는 이름"},
+        {u"...", u"오류번호:52\r\n\r\n이름은 마침표로 시작할 수 없습니다."},
+        {u"끝.", u"오류번호:52\r\n\r\n이름은 마침표나 빈칸으로 끝날 수 없습니다."},
+    };
+    for (const auto& row : rows) {
+        desktop.expect_input(
+            u"등록할 분류명을 입력하십시오.\r\n\r\n분류명에 다음 문자는 사용할 수 "
+            u"없습니다.\r\n\\ / : * ? \" < > |",
+            row.answer);
+        if (row.told != nullptr) desktop.expect_box(row.told);
+        // What is taken is asked for again.
+        if (Text(row.answer) == u"거*래처") desktop.expect_input(u"등록할 분류명을", u"");
+        box().Command8.Click.raise();
+        EXPECT_EQ(box().ListView1.row_count(), 2U) << utf8(row.answer);
+    }
+    desktop.expect_input(u"등록할 분류명을", u" 새 분류<> ");
+    box().Command8.Click.raise();
+    EXPECT_TRUE(files.folders.contains(ROOT + u"\\새 분류"));
+    EXPECT_EQ(column(box().ListView1), (Strings{"내모음함", "거래처", "새 분류"}));
+    EXPECT_EQ(box().ListView1.selected_item(), 2U);
+    EXPECT_EQ(box().ListView2.row_count(), 0U);
+}
+
+TEST_F(MyMsgBox, RenamesACategoryWithItsMessages) {
+    put(u"거래처", u"하나", "x");
+    put(u"친구", u"둘", "y");
+    open();
+    desktop.expect_box(u"'내 모음함'은 변경할 수 없습니다!");
+    box().Command7.Click.raise();
+    choose(box().ListView1, 1);
+    desktop.expect_input(u"수정할 분류명을 입력하십시오!", u"친구");
+    desktop.expect_box(u"'친구' 분류명은 이미 존재하고 있습니다.");
+    desktop.expect_input(u"수정할 분류명을 입력하십시오!", u"거래처");
+    box().Command7.Click.raise();
+    EXPECT_EQ(utf8(desktop.input_boxes.back().default_text), "거래처");
+    desktop.expect_input(u"수정할 분류명을 입력하십시오!", u"고객");
+    box().Command7.Click.raise();
+    EXPECT_EQ(saved(u"고객", u"하나") + saved(u"거래처", u"하나"), "xnone");
+    EXPECT_EQ(column(box().ListView1), (Strings{"내모음함", "고객", "친구"}));
+}
+
+TEST_F(MyMsgBox, RemovesACategoryButNotWhatIsNoMessage) {
+    put(u"거래처", u"하나", "x");
+    put(u"그림", u"하나", "x");
+    files.files.erase(path(u"그림", u"하나"));
+    files.files[ROOT + u"\\그림\\해.bmp"] = "sun";
+    open();
+    desktop.expect_box(u"'내 모음함'은 삭제할 수 없습니다!");
+    box().Command9.Click.raise();
+
+    const auto remove = [&](std::size_t row, const Text& name, BoxAnswer answer) {
+        choose(box().ListView1, row);
+        desktop.expect_box(u"분류:" + name + u"\r\n\r\n선택한 분류를 삭제하시겠습니까?", answer);
+    };
+    remove(1, u"거래처", BoxAnswer::no);
+    box().Command9.Click.raise();
+    EXPECT_EQ(saved(u"거래처", u"하나"), "x");
+    remove(1, u"거래처", BoxAnswer::yes);
+    platform::KeyPressed key{platform::KEY_DELETE};
+    box().ListView1.KeyDown.raise(key);
+    EXPECT_EQ(column(box().ListView1), (Strings{"내모음함", "그림"}));
+    EXPECT_EQ(box().ListView1.selected_item(), 0U);
+
+    remove(1, u"그림", BoxAnswer::yes);
+    desktop.expect_box(u"오류번호:75");
+    box().Command9.Click.raise();
+    EXPECT_EQ(files.files.at(ROOT + u"\\그림\\해.bmp"), "sun");
+}
+
+TEST_F(MyMsgBox, TheApplyQuestionCountsTheSendersNameAndTheTagEndsWithIt) {
+    const Text fits(68, u'a');  // 80 bytes with "[홍길동]" and four characters more
+    const struct {
+        const char16_t* sender;
+        Text body;
+        std::optional<BoxAnswer> answer;
+        std::string applied;
+    } rows[] = {
+        {u"홍길동", u"1234" + fits + u"  ", std::nullopt, "[홍길동]1234" + utf8(fits)},
+        {u"홍길동", u"12345" + fits, BoxAnswer::yes, "[홍길동]12345" + utf8(fits)},
+        {u"홍길동", u"한" + fits + u"123", BoxAnswer::no, "[홍길동]한" + utf8(fits) + "12"},
+        {u"  ", u"글", std::nullopt, "글"},
+    };
+    for (const auto& row : rows) {
+        put(FIRST, u"인사", platform::encode_cp949(row.body));
+        form.txtUserName.set_text(row.sender);
+        form.subjectText.set_text(u"");
+        open();
+        choose(box().ListView2, 0);
+        if (row.answer) desktop.expect_box(u"[장문메시지 알림] 80Byte이상 입력하시겠습니까?", *row.answer);
+        if (row.answer == BoxAnswer::no) desktop.expect_box(u"입력하신 문자가 80Byte를 넘었습니다.");
+        box().Command5.Click.raise();
+        EXPECT_EQ(utf8(form.mText1.text()), row.applied);
+        EXPECT_EQ(utf8(form.mText1.tag()), "");
+        EXPECT_EQ(utf8(form.subjectText.text() + form.subjectText.tag()), "인사END");
+        EXPECT_FALSE(box().Command5.enabled());
+    }
+}
+
+TEST_F(MyMsgBox, OtherKindsTakeTheTitleAlone) {
+    put(FIRST, u"인사", "text");
+    put(FIRST, u"빈글", "\r\n  \r\n");
+    for (const int kind : {compose::TEXT_PLUS, compose::VOICE_MESSAGE, compose::FAX_MESSAGE}) {
+        form.TabStrip1.select(kind);
+        const Text before = form.mText1.text() + form.mText2.text();
+        open();
+        choose(box().ListView2, 1);
+        box().Command6.Click.raise();
+        EXPECT_FALSE(box().loaded());
+        EXPECT_EQ(utf8(form.subjectText.text()), "인사") << kind;
+        EXPECT_EQ(utf8(form.mText1.text() + form.mText2.text()), utf8(before));
+    }
+    open();
+    choose(box().ListView2, 0);
+    box().Command5.Click.raise();
+    EXPECT_EQ(utf8(form.subjectText.text()), "인사") << "an empty text is not applied";
+}
+
+TEST_F(MyMsgBox, EveryCharacterOfTheCodePageAndEveryShapeOfTextComesBackByteByByte) {
+    std::string all;
+    for (unsigned unit = 0x20; unit < 0x10000; ++unit) {
+        const std::string bytes = platform::encode_cp949(Text(1, static_cast<char16_t>(unit)));
+        if (platform::decode_cp949(bytes) == Text(1, static_cast<char16_t>(unit))) all += bytes;
+    }
+    ASSERT_GT(all.size(), 2 * 17000u);
+    for (const std::string& bytes :
+         {all, std::string("no line end"), std::string("a\r\n\r\nb\r\n"), std::string("\t|")}) {
+        put(FIRST, u"글", bytes);
+        open();
+        choose(box().ListView2, 0);
+        desktop.expect_box(u"수정 되었습니다.");
+        box().Command2.Click.raise();
+        EXPECT_EQ(files.files[path(FIRST, u"글")], bytes);
+    }
+    choose(box().ListView2, 0);
+    box().txtText.set_text(u"가☃나");
+    for (int times = 0; times < 2; ++times) {
+        desktop.expect_box(u"수정 되었습니다.");
+        box().Command2.Click.raise();
+        EXPECT_EQ(saved(FIRST, u"글"), "가?나");
+        open();
+        choose(box().ListView2, 0);
+    }
+}
+
+/// The program is killed at each change of the disk in turn, in each operation.
+TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited) {
+    const std::map<Text, std::string> all = {
+        {path(FIRST, u"가"), "1"}, {path(u"분류", u"나"), "2"}, {path(u"분류", u"다"), "3"}};
+    const struct {
+        const char* what;
+        std::function<void()> act;
+        /// What the user wants gone, or what the order of the steps exposes.
+        std::vector<Text> at_risk;
+    } operations[] = {
+        {"new",
+         [&] {
+             write_fields(u"새", u"글");
+             box().Command1.Click.raise();
+         },
+         {}},
+        // The old file goes before the new one is written: between the two this text is nowhere on the disk.
+        {"edit",
+         [&] {
+             write_fields(u"라", u"글");
+             box().Command2.Click.raise();
+         },
+         {path(u"분류", u"나")}},
+        {"rename", [&] { box().Command7.Click.raise(); }, {}},
+        {"add a category", [&] { box().Command8.Click.raise(); }, {}},
+        {"delete", [&] { box().Command3.Click.raise(); }, {path(u"분류", u"나")}},
+        {"delete the category",
+         [&] { box().Command9.Click.raise(); },
+         {path(u"분류", u"나"), path(u"분류", u"다")}},
+        {"MySave",
+         [&] {
+             form.subjectText.set_text(u"가");
+             form.mText1.set_text(u"글");
+             form.MySave.Click.raise();
+         },
+         {}},
+    };
+    for (const auto& operation : operations) {
+        bool finished = false;
+        for (int kill = 0; !finished; ++kill) {
+            SCOPED_TRACE(testing::Message() << operation.what << ", killed at change " << kill);
+            ASSERT_LT(kill, 10);
+            files.folders = {ROOT, ROOT + u"\\" + FIRST, ROOT + u"\\분류"};
+            files.files = all;
+            desktop.any_box = BoxAnswer::yes;
+            desktop.any_input = u"다른 분류";
+            open();
+            choose(box().ListView1, 1);
+            choose(box().ListView2, 0);
+            files.changes_until_kill = kill;
+            try {
+                operation.act();
+                finished = true;
+            } catch (const MemoryFiles::Killed&) {
+                // The next start finds what is left.
+            }
+            files.changes_until_kill.reset();
+            for (const auto& [file, bytes] : all) {
+                if (std::ranges::find(operation.at_risk, file) != operation.at_risk.end()) continue;
+                const bool kept = std::ranges::any_of(
+                    files.files, [&, &wanted = bytes](const auto& left) { return left.second == wanted; });
+                EXPECT_TRUE(kept) << utf8(file);
+            }
+        }
+    }
+}
+
+}  // namespace

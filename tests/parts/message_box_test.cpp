@@ -1,0 +1,160 @@
+// The box of saved texts in real folders, as other systems, other programs and bad luck leave them.
+
+#include "core/message_box.h"
+
+#include "msgbox/frmMyMsgBox.h"
+#include "platform/text/hangul.h"
+#include "tests/support/child_process.h"
+#include "tests/support/files_on_disk.h"
+#include "tests/support/test_platform.h"
+#include "tests/support/utf8.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using platform::Text;
+using tests::bytes_of;
+using tests::names_in;
+using tests::put;
+using tests::utf8;
+using Strings = std::vector<std::string>;
+
+class MessageBoxOnDisk : public testing::Test, protected tests::FilesOnDisk {
+  protected:
+    MessageBoxOnDisk() { core::make_message_box_folders(platform); }
+
+    static Strings column(const platform::ListView& list, int sub_item = 0) {
+        Strings texts;
+        for (std::size_t row = 0; row < list.row_count(); ++row)
+            texts.push_back(utf8(list.row(row).sub_item(sub_item)));
+        return texts;
+    }
+    static void choose(platform::ListView& list, std::size_t row) {
+        list.deselect_item();
+        list.select_item(row);
+        list.MouseUp.raise(platform::MouseButton::left);
+    }
+
+    TestPlatform machine;
+    ScriptedDesktop& desktop = machine.desktop;
+    platform::Platform platform{.desktop = desktop,
+                                .clock = machine.clock,
+                                .files = files,
+                                .settings = machine.settings,
+                                .shell = machine.shell,
+                                .carrier = machine.carrier,
+                                .cards = machine.cards};
+    compose::frmZent main{platform, machine.state, {}};
+    msgbox::frmMyMsgBox box{platform, main};
+    const fs::path root = application / "내모음함";
+    const fs::path first = root / "내모음함";
+};
+
+TEST_F(MessageBoxOnDisk, NamesWithSpelledOutSyllablesListOpenAndAreFoundByTyping) {
+    const std::string apart = platform::to_utf8(platform::decompose_hangul(u"각서"));
+    fs::create_directory(root / apart);
+    put(root / apart / (apart + ".txt"), "\xB0\xA1");
+    box.load();
+    EXPECT_EQ(column(box.ListView1), (Strings{"내모음함", "각서"}));
+    choose(box.ListView1, 1);
+    choose(box.ListView2, 0);
+    EXPECT_EQ(utf8(box.Text1.text() + box.txtText.text()), "각서가");
+
+    desktop.expect_box(u"'각서' 제목은 이미 존재하고 있습니다.");
+    box.Command1.Click.raise();
+    desktop.expect_box(u"수정 되었습니다.");
+    box.txtText.set_text(u"나");
+    box.Command2.Click.raise();
+    EXPECT_EQ(names_in(root / apart), std::set<std::string>{"각서.txt"});
+    EXPECT_EQ(bytes_of(root / apart / "각서.txt"), "\xB3\xAA");
+}
+
+TEST_F(MessageBoxOnDisk, NoPathLeavesTheBox) {
+    fs::create_directory(folder.path() / "outside");
+    put(folder.path() / "outside/남.txt", "theirs");
+    put(application / "..txt", "x");
+    fs::create_directory_symlink(folder.path() / "outside", root / "밖");
+    fs::create_symlink(folder.path() / "outside/남.txt", first / "링크.txt");
+    put(first / "..\\..\\위.txt", "x");
+    box.load();
+    EXPECT_EQ(column(box.ListView1), Strings{"내모음함"});
+    EXPECT_EQ(column(box.ListView2), Strings{});
+    for (const char16_t* name : {u"밖", u"..", u"."}) {
+        desktop.expect_input(u"등록할", name);
+        desktop.expect_box(u"' 분류명은 이미 존재하고 있습니다.");
+        desktop.expect_input(u"등록할", u"");
+        box.Command8.Click.raise();
+    }
+
+    fs::remove_all(first);
+    fs::create_directory_symlink(folder.path() / "outside", first);
+    desktop.expect_box(u"오류번호:75\r\n\r\n'내모음함' 분류는 내 모음함 밖으로 연결된 폴더");
+    box.Command10.Click.raise();
+    box.Text1.set_text(u"남");
+    box.txtText.set_text(u"글");
+    desktop.expect_box(u"'남' 제목은 이미 존재하고 있습니다.");
+    box.Command1.Click.raise();
+    box.Text1.set_text(u"새");
+    desktop.expect_box(u"오류번호:75");
+    box.Command1.Click.raise();
+    EXPECT_EQ(names_in(folder.path() / "outside"), std::set<std::string>{"남.txt"});
+    EXPECT_EQ(bytes_of(folder.path() / "outside/남.txt"), "theirs");
+}
+
+TEST_F(MessageBoxOnDisk, AMessageWithoutPermissionIsToldAndHidesNoOther) {
+    put(first / "가.txt", "1");
+    put(first / "나.txt", "2");
+    fs::create_directory(root / "잠김");
+    fs::permissions(first / "가.txt", fs::perms::none);
+    fs::permissions(root / "잠김", fs::perms::none);
+    for (const fs::path& path : {folder.path(), application, root, first})
+        fs::permissions(path, fs::perms(0755));
+    fs::permissions(first / "나.txt", fs::perms(0644));
+    tests::ChildProcess child([&] {
+        constexpr uid_t NOBODY = 65534;
+        if (::getuid() == 0 && ::setuid(NOBODY) != 0) return 1;
+        desktop.expect_box(u"오류번호:70\r\n\r\n'가.txt'");
+        box.load();
+        if (column(box.ListView2) != Strings{"나"}) return 2;
+        desktop.expect_box(u"오류번호:75");
+        choose(box.ListView1, 1);
+        return testing::Test::HasFailure() ? 3 : 0;
+    });
+    EXPECT_EQ(child.wait(), 0);
+    fs::permissions(root / "잠김", fs::perms(0700));
+}
+
+TEST_F(MessageBoxOnDisk, AKilledProgramLeavesEveryTextWholeButTheEditedOne) {
+    const std::string kept(500'000, 'k');
+    const std::string edited(500'000, 'e');
+    put(first / "가.txt", kept);
+    put(first / "나.txt", edited);
+    for (int kills = 0; kills < 8; ++kills) {
+        tests::Pipe begun;
+        tests::ChildProcess writer([&] {
+            desktop.any_box = platform::BoxAnswer::yes;
+            box.load();
+            const auto row = column(box.ListView2)[0] == "나" ? 0U : 1U;
+            choose(box.ListView2, row);
+            for (;;) {
+                begun.tell();
+                box.txtText.set_text(box.txtText.text() + u"e");
+                box.Command2.Click.raise();
+            }
+            return 0;
+        });
+        for (int edits = 0; edits <= kills; ++edits) ASSERT_TRUE(begun.wait());
+        writer.kill();
+        EXPECT_EQ(bytes_of(first / "가.txt"), kept);
+        // Gone, or whole: an edit removes the old file first.
+        if (fs::exists(first / "나.txt")) {
+            EXPECT_GE(bytes_of(first / "나.txt").size(), edited.size());
+        } else {
+            put(first / "나.txt", edited);
+        }
+    }
+}
+
+}  // namespace
