@@ -29,7 +29,8 @@ struct PickerCards : testing::Test, TestPlatform {
                                .settings = settings,
                                .shell = shell,
                                .carrier = carrier,
-                               .cards = disk.source};
+                               .cards = disk.source,
+                               .recorder = recorder};
     compose::frmZent form{machine, state, {}};
 
     void pick(const std::string& database, const std::function<void(frmSendMan&)>& act) {

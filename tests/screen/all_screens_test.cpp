@@ -204,6 +204,7 @@ TEST(AllScreens, have_a_picture_of_its_own_for_every_kind_of_document) {
     for (int number = 1; number <= 10; ++number) {
         const int row = static_cast<int>(form.FAX1.add_row(u"a", {}));
         form.FAX1.set_small_icon(static_cast<std::size_t>(row), number);
+        settle();
         const auto icon = documents.index(row, 0).data(Qt::DecorationRole).value<QIcon>();
         const QImage picture = icon.pixmap(32).toImage();
         EXPECT_FALSE(picture.isNull()) << number;

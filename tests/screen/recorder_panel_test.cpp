@@ -38,13 +38,7 @@ struct RecorderPanel : tests::DeskTest {
     TestPlatform machine;
     platform::qt::Screens screens = platform::qt::program_screens();
     platform::qt::QtDesktop desktop{screens, machine.files};
-    platform::Platform platform{.desktop = desktop,
-                                .clock = machine.clock,
-                                .files = machine.files,
-                                .settings = machine.settings,
-                                .shell = machine.shell,
-                                .carrier = machine.carrier,
-                                .recorder = machine.recorder};
+    platform::Platform platform = machine.on(desktop);
     compose::frmZent form{platform, machine.state, compose::MainDoors{}};
 };
 
