@@ -1,6 +1,7 @@
 // Every kind of message through the real windows: one registration each, with all that the carrier is told.
 
 #include "tests/screen/kinds_fixture.h"
+#include "tests/support/scripted_recorder.h"
 
 namespace tests {
 
@@ -13,8 +14,15 @@ const char* const ALL_BUT_TIME =
     "|| "
     "attach_file_count || ' ' || attach_file";
 
-class EveryKind : public KindsTest {
+/// Stands before the program's end: it is the program that ends the microphone's work.
+struct Microphone {
+    ScriptedRecorder microphone;
+};
+
+class EveryKind : private Microphone, public KindsTest {
   protected:
+    EveryKind() : KindsTest(&microphone) {}
+
     void compose(QWidget& window, int tab, int source) {
         choose_tab(window, "TabStrip1", tab);
         if (source > 0) choose_tab(window, "TabStrip2", source);
@@ -36,6 +44,17 @@ class EveryKind : public KindsTest {
         window.findChild<QDateEdit*>(QStringLiteral("DTP1"))->setDate(QDate(2027, 1, 2));
         QTest::keyClick(window.findChild<QWidget*>(QStringLiteral("Combo1")), Qt::Key_Home);
         QTest::keyClick(window.findChild<QWidget*>(QStringLiteral("Combo2")), Qt::Key_End);
+    }
+
+    void record() {
+        const auto& control = form().RFK1;
+        user.in_window(
+            "frmZent", [](QWidget& window) { press(window, "_record"); },
+            [&] { return control.can_record(); });
+        user.in_window("frmZent", [this](QWidget& window) {
+            microphone.speak(platform::Samples(platform::SAMPLES_A_SECOND, 1000));
+            press(window, "_stop");
+        });
     }
 
     /// The kind's draft is sent at once and then by schedule, to a recipient of its own each time.
@@ -62,6 +81,7 @@ TEST_F(EveryKind, ReachesTheCarrierWithAllItsArguments) {
     // Nobody looks into an attachment before the carrier does.
     for (const auto& file : {sound, report_file, picture}) put(file, "text");
     const std::string waves = "1 " + carrier_path(sound) + ";";
+    const std::string recording = "1 c:\\temp\\tmp.wav;";
     const std::string documents = "2 " + carrier_path(report_file) + ";" + carrier_path(picture) + ";";
 
     const struct {
@@ -71,8 +91,10 @@ TEST_F(EveryKind, ReachesTheCarrierWithAllItsArguments) {
     } kinds[] = {
         {1, 0, u"0101111000", "fn_x_submit 1/- #1 안내 [021234567] - 1 ", " [회의] [-] 0 "},
         {2, 1, u"0102222000", "fn_x_submit_2 7/1 #1 안내 [] 3 1 ", " [전화] [음성] 0 "},
+        {2, 2, u"0107777000", "fn_x_submit_2 7/2 #1 안내 [] 3 1 ", " [전화] [] " + recording},
         {2, 3, u"0103333000", "fn_x_submit_2 7/2 #1 안내 [] 3 1 ", " [전화] [] " + waves},
         {3, 1, u"0104444000", "fn_x_submit_2 2/1 #1 안내 [021234567] 3 1 ", " [] [음성] 0 "},
+        {3, 2, u"0288889000", "fn_x_submit_2 3/2 #1 안내 [021234567] 3 1 ", " [] [] " + recording},
         {3, 3, u"0255556000", "fn_x_submit_2 3/2 #1 안내 [021234567] 3 1 ", " [] [] " + waves},
         {4, 0, u"0266667000", "fn_x_submit_2 5/2 #1 안내 [] 0 1 ", " [] [] " + documents},
     };
@@ -81,6 +103,7 @@ TEST_F(EveryKind, ReachesTheCarrierWithAllItsArguments) {
     std::vector<std::string> expected, times;
     for (const auto& kind : kinds) {
         user.in_window("frmZent", [this, &kind](QWidget& window) { compose(window, kind.tab, kind.source); });
+        if (kind.tab == 2 && kind.source == 2) record();
         if (kind.tab == 2 && kind.source == 3) pick("TTSBttn1", sound);
         if (kind.tab == 4) {
             pick("FAXBttn1", report_file);

@@ -15,6 +15,8 @@ namespace tests {
 /// Drafts of every kind in the real windows.
 class KindsTest : public ProgramTest {
   protected:
+    using ProgramTest::ProgramTest;
+
     compose::frmZent& form() { return application.main_form(); }
 
     /// Clicks the tab of that number, counted from 1.

@@ -27,6 +27,17 @@ QWidget& find(QWidget& window, const char* name) {
     return *found;
 }
 
+platform::Platform with(platform::Recorder* microphone, const platform::Platform& machine) {
+    return {.desktop = machine.desktop,
+            .clock = machine.clock,
+            .files = machine.files,
+            .settings = machine.settings,
+            .shell = machine.shell,
+            .carrier = machine.carrier,
+            .cards = machine.cards,
+            .recorder = microphone != nullptr ? *microphone : machine.recorder};
+}
+
 }  // namespace
 
 void HastyClock::pause(int milliseconds) {
@@ -58,7 +69,7 @@ void WindowPlayer::look() {
     step.act(*window);
 }
 
-ProgramTest::ProgramTest() {
+ProgramTest::ProgramTest(platform::Recorder* microphone) : platform(with(microphone, machine.platform)) {
     namespace fs = std::filesystem;
     fs::copy_file(CARRIER_LIBRARY, folder.path() / "x_msggate_d.so");
     fs::copy_file(CARRIER_INI, folder.path() / "carrier.ini");

@@ -53,7 +53,9 @@ class WindowPlayer : public QObject {
 /// library and its ledger.
 class ProgramTest : public testing::Test {
   protected:
-    ProgramTest();
+    ProgramTest() : ProgramTest(nullptr) {}
+    /// With another microphone than the machine's.
+    explicit ProgramTest(platform::Recorder* microphone);
     ~ProgramTest() override;
 
     /// Runs the program from its start to its end.
@@ -86,7 +88,8 @@ class ProgramTest : public testing::Test {
     HastyClock clock;
     app::Machine machine{paths, platform::posix::PosixFiles(paths, (folder.path() / "windows").string()),
                          clock};
-    app::Application application{machine.platform};
+    platform::Platform platform;
+    app::Application application{platform};
 };
 
 }  // namespace tests
