@@ -26,8 +26,6 @@ class ListItem {
     int small_icon() const { return small_icon_; }
     bool checked() const { return checked_; }
     bool selected() const { return selected_; }
-    /// Number of its picture in the screen's list, counted from 1; 0 for none.
-    int small_icon() const { return small_icon_; }
     /// Place in the list, counted from 0.
     std::size_t position() const { return position_; }
 
@@ -102,7 +100,6 @@ class ListView : public Control {
     void set_item_text(std::size_t row, Text text);
     void set_small_icon(std::size_t row, int number);
     void set_sub_item(std::size_t row, int sub_item, Text text);
-    void set_small_icon(std::size_t row, int number);
     /// By code: raises nothing.
     void set_checked(std::size_t row, bool checked);
     std::size_t checked_count() const { return checked_count_; }
