@@ -5,6 +5,7 @@
 #include "core/entry_routine.h"
 #include "msgbox/frmMyMsgBox.h"
 #include "send/send_check.h"
+#include "update/update_check.h"
 
 namespace app {
 
@@ -24,6 +25,8 @@ compose::MainDoors Application::doors() {
     };
     doors.NEW_SENDMAN_LOAD = [this] { addressbook::NEW_SENDMAN_LOAD(platform_, state_, main_); };
     doors.message_box = [this] { msgbox::frmMyMsgBox(platform_, main_).show_modal(); };
+    doors.update_check = [this] { update::mnuUpDate_Click(platform_, state_, main_); };
+    doors.update_check_at_start = [this] { return update::check_at_start(platform_, state_, main_); };
     return doors;
 }
 

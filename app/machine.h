@@ -8,6 +8,7 @@
 #include "platform/posix/posix_shell.h"
 #include "platform/qt/keep_painted.h"
 #include "platform/qt/late_recorder.h"
+#include "platform/qt/lazy_internet.h"
 #include "platform/qt/qt_desktop.h"
 
 #include <utility>
@@ -28,7 +29,8 @@ struct Machine {
                    .shell = shell,
                    .carrier = carrier,
                    .cards = cards,
-                   .recorder = recorder} {}
+                   .recorder = recorder,
+                   .internet = internet} {}
 
     platform::posix::PosixFiles files;
     platform::IniSettings settings{files};
@@ -36,6 +38,7 @@ struct Machine {
     platform::posix::PosixCarrierLibrary carrier;
     platform::jet::JetCardSource cards;
     platform::qt::LateRecorder recorder;
+    platform::qt::LazyInternet internet;
     platform::qt::Screens screens = platform::qt::program_screens();
     platform::qt::QtDesktop desktop{screens, files};
     platform::Platform platform;

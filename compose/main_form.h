@@ -239,6 +239,8 @@ class frmZent : public platform::Form {
 
     /// Removes the folder of fetched update files.
     void TEMP_ALL_DEL();
+    /// What is to be done before the installer takes over: nothing.
+    void BEFORE_UPDATE_RUN() {}
 
     /// "[" and the sender's name and "]", as it stands in front of a text.
     platform::Text sender_tag() const;
@@ -264,6 +266,8 @@ class frmZent : public platform::Form {
     void save_placement();
     void Timer2_Timer();
     void first_tick();
+    /// False when a check ran and the server was not reached.
+    bool update_check_at_start();
     void save_sender_name();
     void save_callback(platform::TextView key);
 

@@ -116,10 +116,11 @@ void frmZent::Timer2_Timer() {
 }
 
 void frmZent::first_tick() {
-    // The menu's tag is never set, so the check at the start never runs, whatever the menu's mark shows.
-    if (platform::leading_number(mnuStartUpdate.tag()) != 0 && doors_.update_check) doors_.update_check();
+    const bool server_reached = update_check_at_start();
     if (doors_.NEW_SENDMAN_LOAD) doors_.NEW_SENDMAN_LOAD();
     DRAFT_RESET_IF_NO_KIND();
+    // Without a network the user logs in by hand.
+    if (!server_reached) return cmdLogin_Click();
     if (!Timer2.tag().empty() || state_.gLoggedIn) return;
 
     const Text login = core::login_ini(platform_);
@@ -130,6 +131,12 @@ void frmZent::first_tick() {
     } else {
         cmdLogin_Click();
     }
+}
+
+bool frmZent::update_check_at_start() {
+    // Deliberately armed by nothing: the menu's mark is kept in the settings, but nobody sets this tag.
+    if (platform::leading_number(mnuStartUpdate.tag()) == 0 || !doors_.update_check_at_start) return true;
+    return doors_.update_check_at_start();
 }
 
 void frmZent::Form_Unload() {
@@ -177,11 +184,6 @@ void frmZent::save_callback(platform::TextView key) {
     core::INI_WRITE(platform_, core::application_ini(platform_), u"SET", key, callback);
 }
 
-void frmZent::TEMP_ALL_DEL() {
-    platform::ignore_errors([&] {
-        const Text folder = platform_.files.application_directory() + u"\\update_temp";
-        if (platform_.files.folder_exists(folder)) platform_.files.remove_folder(folder);
-    });
-}
+void frmZent::TEMP_ALL_DEL() { core::TEMP_ALL_DEL(platform_); }
 
 }  // namespace compose

@@ -76,8 +76,20 @@ struct AppState {
     // Flags between forms.
     platform::BooleanWord gSendFormOpen;
     platform::BooleanWord gWebFormOpen;
+    platform::BooleanWord gUpdateFormOpen;
     /// The answer of the last dialog that asks yes or no.
     platform::BooleanWord gDialogConfirmed;
+
+    // What the last update check found.
+    platform::BooleanWord gUpdateServerReached;
+    /// At least one listed file is out of date.
+    platform::BooleanWord gUpdateAvailable;
+    /// A file that is out of date carries the marker "ums".
+    platform::BooleanWord gUpdateUmsFlag;
+    /// The same for the marker "i".
+    platform::BooleanWord gUpdateIFlag;
+    /// Address of the page that tells what is new.
+    platform::Text gUpdateNoteFile;
 };
 
 }  // namespace core

@@ -55,6 +55,13 @@ void make_folder_when_missing(Platform& platform, const Text& path) {
     });
 }
 
+void TEMP_ALL_DEL(Platform& platform) {
+    platform::ignore_errors([&] {
+        const Text folder = platform.files.application_directory() + Text(UPDATE_TEMP);
+        if (platform.files.folder_exists(folder)) platform.files.remove_folder(folder);
+    });
+}
+
 void MAKE_WORK_DIRS(Platform& platform) {
     make_folder_when_missing(platform, Text(SOUND_FOLDER));
     make_message_box_folders(platform);

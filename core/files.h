@@ -30,6 +30,12 @@ void SHELL_OPEN_CHECKED(platform::Platform& platform, const platform::Text& path
 /// used.
 void make_folder_when_missing(platform::Platform& platform, const platform::Text& path);
 
+/// The folder that a running update check keeps its file in, below the application directory.
+inline constexpr platform::TextView UPDATE_TEMP = u"\\update_temp";
+
+/// Removes the folder of a running update check with all that is in it.
+void TEMP_ALL_DEL(platform::Platform& platform);
+
 /// The folder of temporary sound files, on drive C whatever the application directory is.
 inline constexpr platform::TextView SOUND_FOLDER = u"c:\\temp\\";
 

@@ -11,10 +11,16 @@ Text description_of(ErrorNumber number) {
     switch (number) {
         case ErrorNumber::invalid_call:
             return u"프로시저 호출 또는 인수가 잘못되었습니다.";
+        case ErrorNumber::overflow:
+            return u"오버플로입니다.";
         case ErrorNumber::out_of_memory:
             return u"메모리가 부족합니다.";
         case ErrorNumber::subscript_out_of_range:
             return u"아래 첨자 사용이 잘못되었습니다.";
+        case ErrorNumber::division_by_zero:
+            return u"0으로 나누었습니다.";
+        case ErrorNumber::type_mismatch:
+            return u"형식이 일치하지 않습니다.";
         case ErrorNumber::library_not_loaded:
             return u"DLL을 로드하는 중 오류가 발생했습니다.";
         case ErrorNumber::bad_file_name:
@@ -49,6 +55,12 @@ Text description_of(ErrorNumber number) {
             return u"데이터베이스 암호가 올바르지 않습니다.";
         case ErrorNumber::broken_statement:
             return u"SQL 문에 구문 오류가 있습니다.";
+        case ErrorNumber::protocol_not_supported:
+            return u"지원하지 않는 프로토콜입니다.";
+        case ErrorNumber::request_not_completed:
+            return u"요청을 완료할 수 없습니다.";
+        case ErrorNumber::request_timed_out:
+            return u"요청 시간이 초과되었습니다.";
     }
     return u"응용 프로그램 정의 오류 또는 개체 정의 오류입니다.";
 }

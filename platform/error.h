@@ -10,8 +10,11 @@ namespace platform {
 /// The numbers of the run-time errors that the program raises or shows.
 enum class ErrorNumber {
     invalid_call = 5,
+    overflow = 6,
     out_of_memory = 7,
     subscript_out_of_range = 9,
+    division_by_zero = 11,
+    type_mismatch = 13,
     bad_file_name = 52,
     file_not_found = 53,
     file_exists = 58,
@@ -30,6 +33,9 @@ enum class ErrorNumber {
     database_unusable = -2147467259,
     wrong_database_password = -2147217843,
     broken_statement = -2147217900,
+    protocol_not_supported = 35753,
+    request_not_completed = 35756,
+    request_timed_out = 35761,
 };
 
 /// A failure inside the system: a classic number and a Korean description, as an error box shows them.

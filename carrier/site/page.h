@@ -20,6 +20,8 @@ struct Sources {
 };
 
 struct Request {
+    /// Name and port under which the client knows the site.
+    std::string host{};
     std::string path;
     std::string query;
     std::string posted;

@@ -18,4 +18,10 @@ Answer find_password_page(const Request& request, const Sources& sources);
 Answer sign_up_page(const Request& request, const Sources& sources);
 Answer document(const Request& request, const Sources& sources);
 
+// What the client's update check asks for.
+Answer update_page(const Request& request, const Sources& sources);
+Answer current_update_list(const Request& request, const Sources& sources);
+Answer due_update_list(const Request& request, const Sources& sources);
+Answer update_note(const Request& request, const Sources& sources);
+
 }  // namespace carrier::site

@@ -29,6 +29,10 @@ constexpr std::array routes = {
     Route{"/idpass", find_password_page},
     Route{"*/htm/register/default.jsp", sign_up_page},
     Route{"/download/*", document},
+    Route{"/update", update_page},
+    Route{"/update/update.ini", current_update_list},
+    Route{"/update/due/update.ini", due_update_list},
+    Route{"/update/note", update_note},
 };
 
 bool matches(std::string_view route, std::string_view path) {

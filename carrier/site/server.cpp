@@ -51,7 +51,8 @@ Server::Server(Sources sources) : sources_(std::move(sources)), http_(std::make_
     const auto handle = [this](const httplib::Request& request, httplib::Response& response) {
         const std::string_view target = request.target;
         const std::size_t mark = target.find('?');
-        send(answer({.path = request.path,
+        send(answer({.host = request.get_header_value("Host"),
+                     .path = request.path,
                      .query = std::string(mark == std::string_view::npos ? "" : target.substr(mark + 1)),
                      .posted = request.body},
                     sources_),

@@ -74,6 +74,8 @@ class ListView : public Control {
 
     ListView(Form& form, TextView name, std::vector<Column> columns, bool check_boxes = false)
         : Control(form, name), columns_(std::move(columns)), check_boxes_(check_boxes) {}
+    /// Working storage, never shown.
+    explicit ListView(std::vector<Column> columns) : columns_(std::move(columns)), check_boxes_(false) {}
     void accept(ControlVisitor& visitor) override;
 
     bool check_boxes() const { return check_boxes_; }

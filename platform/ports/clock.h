@@ -19,6 +19,8 @@ class Clock {
     virtual ~Clock() = default;
 
     virtual LocalTime now() = 0;
+    /// Seconds since midnight with their fraction.
+    virtual double timer() = 0;
     /// Lets the time pass while windows paint and buttons answer, in milliseconds.
     virtual void pause(int milliseconds) = 0;
     virtual std::unique_ptr<Ticker> every(int milliseconds, std::function<void()> tick) = 0;

@@ -4,7 +4,9 @@
 #include "platform/text/text.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace platform {
@@ -14,6 +16,16 @@ struct FileEntry {
     Text name;
     /// When it was written last.
     LocalTime modified;
+};
+
+/// A file that is open for writing. It is closed with this object; what was not flushed may be lost then.
+class OpenFile {
+  public:
+    virtual ~OpenFile() = default;
+
+    /// Writes at the place where the last write ended; what is written shows in the file after a flush.
+    virtual void write(std::string_view bytes) = 0;
+    virtual void flush() = 0;
 };
 
 /// The file system, by paths with backslashes: below the application directory, on drive `c:` or, for what
@@ -49,6 +61,9 @@ class Files {
     /// Writes the whole file or leaves the old one as it was, also when the program is killed meanwhile; the
     /// file is its user's alone. Here and for folders, a new name must pass `check_file_name`.
     virtual void write(const Text& path, const std::string& bytes) = 0;
+    /// Opens for writing from the file's beginning, for what arrives in pieces; makes it when it is missing.
+    /// What stands behind the last byte written stays.
+    virtual std::unique_ptr<OpenFile> open_for_writing(const Text& path) = 0;
     virtual void remove(const Text& path) = 0;
     /// Removes the files of the folder that match the pattern, hidden ones too. Links go as links, folders
     /// stay.

@@ -5,6 +5,7 @@
 #include "platform/ports/clock.h"
 #include "platform/ports/desktop.h"
 #include "platform/ports/files.h"
+#include "platform/ports/internet.h"
 #include "platform/ports/recorder.h"
 #include "platform/ports/settings.h"
 #include "platform/ports/shell.h"
@@ -21,6 +22,7 @@ struct Platform {
     CarrierLibrary& carrier;
     CardSource& cards;
     Recorder& recorder;
+    Internet& internet;
 };
 
 }  // namespace platform

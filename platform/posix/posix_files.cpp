@@ -3,6 +3,7 @@
 #include "platform/file_name.h"
 #include "platform/posix/file_error.h"
 #include "platform/posix/folder_list.h"
+#include "platform/posix/open_file.h"
 #include "platform/posix/whole_file.h"
 #include "platform/text/hangul.h"
 
@@ -137,6 +138,12 @@ void PosixFiles::write(const Text& path, const std::string& bytes) {
     const std::string file = paths_.to_posix(path);
     make_standing_folder_of(file);
     replace_file(file, bytes);
+}
+
+std::unique_ptr<OpenFile> PosixFiles::open_for_writing(const Text& path) {
+    const std::string file = paths_.to_posix(path);
+    make_standing_folder_of(file);
+    return open_file_for_writing(file);
 }
 
 void PosixFiles::remove(const Text& path) {

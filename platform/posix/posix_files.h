@@ -27,6 +27,7 @@ class PosixFiles : public Files {
     std::uint64_t length(const Text& path) const override;
     std::string read(const Text& path) const override;
     void write(const Text& path, const std::string& bytes) override;
+    std::unique_ptr<OpenFile> open_for_writing(const Text& path) override;
     void remove(const Text& path) override;
     void remove_files(const Text& folder, TextView pattern) override;
     void make_folder(const Text& path) override;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
+#include <optional>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -15,13 +16,14 @@ namespace platform::posix {
 
 namespace {
 
-/// Starts the program with one argument and forgets it. The program's parent ends at once, so that the system
-/// takes it in and no dead process is left waiting for this one to ask.
-void start(const std::string& program, const std::string& argument) {
+/// Starts the program and forgets it. The program's parent ends at once, so that the system takes it in and
+/// no dead process is left waiting for this one to ask.
+void start(const std::string& program, const std::optional<std::string>& argument = std::nullopt) {
     const pid_t parent = ::fork();
     if (parent == 0) {
         ::setsid();
-        if (::fork() == 0) ::execlp(program.c_str(), program.c_str(), argument.c_str(), nullptr);
+        const char* first = argument ? argument->c_str() : nullptr;
+        if (::fork() == 0) ::execlp(program.c_str(), program.c_str(), first, nullptr);
         ::_exit(0);
     }
     while (parent > 0 && ::waitpid(parent, nullptr, 0) < 0 && errno == EINTR) {
@@ -48,7 +50,12 @@ PosixShell::PosixShell(Paths paths, std::string opener)
     : paths_(std::move(paths)), opener_(std::move(opener)) {}
 
 void PosixShell::open(const Text& path) {
-    ignore_errors([&] { start(opener_, paths_.to_posix(path)); });
+    ignore_errors([&] {
+        const std::string file = paths_.to_posix(path);
+        // By its name too: on a foreign disk every file may be executed.
+        const bool is_program = lower_case(path).ends_with(u".exe") && ::access(file.c_str(), X_OK) == 0;
+        is_program ? start(file) : start(opener_, file);
+    });
 }
 
 void PosixShell::open_page(const Text& address) {
@@ -60,6 +67,8 @@ void PosixShell::open_page(const Text& address) {
         start(opener_, "http://" + page);
     }
 }
+
+void PosixShell::end_process() { ::_exit(0); }
 
 bool PosixShell::another_instance_runs() {
     if (instance_.is_open()) return false;

@@ -16,6 +16,7 @@ class PosixShell : public Shell {
 
     void open(const Text& path) override;
     void open_page(const Text& address) override;
+    [[noreturn]] void end_process() override;
     bool another_instance_runs() override;
 
   private:

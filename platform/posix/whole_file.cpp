@@ -21,16 +21,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view NEW_FILE = ".zent-new-";
 
-/// Returns 0, or the `errno` of the write that failed.
-int write_all(int file, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(file, bytes.data(), bytes.size());
-        if (written < 0 && errno != EINTR) return errno;
-        if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return 0;
-}
-
 /// Writes the file and makes the disk keep it. Returns 0 or an `errno`.
 int fill(int file, std::string_view bytes) {
     if (const int failure = write_all(file, bytes)) return failure;

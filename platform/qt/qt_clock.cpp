@@ -43,6 +43,17 @@ LocalTime QtClock::now() {
     return LocalTime(std::chrono::seconds(now.toSecsSinceEpoch() + now.offsetFromUtc()));
 }
 
+double QtClock::timer() {
+    constexpr std::int64_t A_DAY = 24LL * 60 * 60 * 1000;
+    const std::int64_t now = QDateTime::currentMSecsSinceEpoch();
+    // The time zone takes longer to ask for than all else that is done with the time.
+    if (const std::int64_t second = now / 1000; second != zone_asked_at_) {
+        zone_asked_at_ = second;
+        zone_ = QDateTime::currentDateTime().offsetFromUtc() * 1000LL;
+    }
+    return static_cast<double>((now + zone_) % A_DAY) / 1000;
+}
+
 void QtClock::pause(int milliseconds) {
     QEventLoop loop;
     QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);

@@ -8,6 +8,8 @@
 #include "ui_frmSendEndBox.h"
 #include "ui_frmSendMan.h"
 #include "ui_frmSet1.h"
+#include "ui_frmUpdate.h"
+#include "ui_frmUpdateStart.h"
 #include "ui_frmWeb.h"
 #include "ui_frmXTip.h"
 #include "ui_frmZent.h"
@@ -39,6 +41,8 @@ Screens program_screens() {
     screens.add<Ui::frmSendEndBox, QDialog>(u"frmSendEndBox");
     screens.add<Ui::frmSendMan, QDialog>(u"frmSendMan");
     screens.add<Ui::frmMyMsgBox, QDialog>(u"frmMyMsgBox");
+    screens.add<Ui::frmUpdate, QDialog>(u"frmUpdate");
+    screens.add<Ui::frmUpdateStart, QDialog>(u"frmUpdateStart");
     return screens;
 }
 

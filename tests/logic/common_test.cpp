@@ -138,8 +138,8 @@ TEST_F(Paths, AnErrorOfTheDiskMeansThatTheFileIsNotThere) {
             throw platform::RuntimeError(platform::ErrorNumber::bad_file_name);
         }
     } broken;
-    const platform::Platform machine{desktop, clock,   broken, settings,
-                                     shell,   carrier, cards,  recorder};
+    const platform::Platform machine{desktop, clock, broken,   settings, shell,
+                                     carrier, cards, recorder, internet};
     EXPECT_FALSE(FILE_EXISTS(machine, u"a<b"));
 }
 

@@ -82,7 +82,8 @@ struct Wrappers : testing::Test, TestPlatform {
                                .shell = shell,
                                .carrier = library,
                                .cards = cards,
-                               .recorder = recorder};
+                               .recorder = recorder,
+                               .internet = internet};
     Gateway carrier_gateway{machine, state};
 
     struct Wrapper {

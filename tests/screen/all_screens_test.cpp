@@ -15,6 +15,8 @@
 #include "send/frmSendEndBox.h"
 #include "send/frmZentSend.h"
 #include "tests/support/test_platform.h"
+#include "update/frmUpdate.h"
+#include "update/frmUpdateStart.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -52,6 +54,8 @@ struct System {
         forms.push_back(std::make_unique<send::frmSendEndBox>(platform, main));
         forms.push_back(std::make_unique<addressbook::frmSendMan>(platform, machine.state, main));
         forms.push_back(std::make_unique<msgbox::frmMyMsgBox>(platform, main));
+        forms.push_back(std::make_unique<update::frmUpdate>(platform, machine.state));
+        forms.push_back(std::make_unique<update::frmUpdateStart>(platform, machine.state));
         return forms;
     }
 };

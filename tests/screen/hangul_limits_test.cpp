@@ -137,6 +137,7 @@ struct Draft {
     RecordingCarrier carrier;
     ScriptedCards cards;
     ScriptedRecorder recorder;
+    ScriptedInternet internet;
     platform::qt::QtDesktop desktop{screens, files};
     platform::Platform platform{.desktop = desktop,
                                 .clock = clock,
@@ -145,7 +146,8 @@ struct Draft {
                                 .shell = shell,
                                 .carrier = carrier,
                                 .cards = cards,
-                                .recorder = recorder};
+                                .recorder = recorder,
+                                .internet = internet};
     core::AppState state;
     InputMethod method;
     int kind;
@@ -155,7 +157,8 @@ struct Draft {
                            .pick_recipients = {},
                            .NEW_SENDMAN_LOAD = {},
                            .message_box = {},
-                           .update_check = {}}};
+                           .update_check = {},
+                           .update_check_at_start = {}}};
 };
 
 /// A line end counts two bytes, and there are none in the subject.

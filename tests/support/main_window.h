@@ -18,6 +18,10 @@ struct MainWindow : TestPlatform {
     std::vector<std::string> opened;
     std::function<void()> pick_recipients = [] {};
     std::function<void()> hand_over = [] {};
+    std::function<bool()> update_check_at_start = [this] {
+        opened.emplace_back("update_check_at_start");
+        return true;
+    };
 
     compose::frmZent form{platform, state, main_doors()};
 
@@ -59,7 +63,8 @@ struct MainWindow : TestPlatform {
                 .pick_recipients = [this] { pick_recipients(); },
                 .NEW_SENDMAN_LOAD = [this] { hand_over(); },
                 .message_box = write("message_box"),
-                .update_check = write("update_check")};
+                .update_check = write("update_check"),
+                .update_check_at_start = [this] { return update_check_at_start(); }};
     }
     std::function<void()> write(const char* door) {
         return [this, door] { opened.emplace_back(door); };

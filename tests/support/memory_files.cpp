@@ -64,6 +64,7 @@ std::vector<Text> MemoryFiles::list_folders(const Text& folder) const {
 }
 
 std::string MemoryFiles::read(const Text& path) const {
+    touched.push_back(path);
     const auto file = files.find(key(path));
     if (file == files.end()) throw RuntimeError(ErrorNumber::file_not_found);
     return file->second;
@@ -72,7 +73,28 @@ std::string MemoryFiles::read(const Text& path) const {
 void MemoryFiles::write(const Text& path, const std::string& bytes) {
     platform::check_file_name(name_of(path));
     before_change();
+    touched.push_back(path);
     files[key(path)] = bytes;
+}
+
+std::unique_ptr<platform::OpenFile> MemoryFiles::open_for_writing(const Text& path) {
+    class File : public platform::OpenFile {
+      public:
+        explicit File(std::string& bytes) : bytes_(bytes) {}
+        void write(std::string_view bytes) override {
+            const std::size_t covered = std::min(bytes.size(), bytes_.size() - place_);
+            bytes_.replace(place_, covered, bytes);
+            place_ += bytes.size();
+        }
+        void flush() override {}
+
+      private:
+        std::string& bytes_;
+        std::size_t place_ = 0;
+    };
+    before_change();
+    touched.push_back(path);
+    return std::make_unique<File>(files[key(path)]);
 }
 
 void MemoryFiles::remove(const Text& path) {

@@ -7,6 +7,7 @@
 #include <optional>
 #include <set>
 #include <utility>
+#include <vector>
 
 /// A file system in memory. Paths match without regard to ASCII case.
 class MemoryFiles : public platform::Files {
@@ -24,6 +25,7 @@ class MemoryFiles : public platform::Files {
     std::vector<platform::Text> list_folders(const platform::Text& folder) const override;
     std::string read(const platform::Text& path) const override;
     void write(const platform::Text& path, const std::string& bytes) override;
+    std::unique_ptr<platform::OpenFile> open_for_writing(const platform::Text& path) override;
     void remove(const platform::Text& path) override;
     void remove_files(const platform::Text& folder, platform::TextView pattern) override;
     void make_folder(const platform::Text& path) override;
@@ -35,6 +37,9 @@ class MemoryFiles : public platform::Files {
 
     /// Every write, removal and folder from now on fails so.
     std::optional<platform::ErrorNumber> failure;
+
+    /// Every file that was read or written, in order.
+    mutable std::vector<platform::Text> touched;
 
     std::map<platform::Text, std::string> files;
     std::set<platform::Text> folders;

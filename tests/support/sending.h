@@ -121,7 +121,8 @@ struct Sending : TestPlatform {
                 .pick_recipients = {},
                 .NEW_SENDMAN_LOAD = {},
                 .message_box = {},
-                .update_check = {}};
+                .update_check = {},
+                .update_check_at_start = {}};
     }
 };
 

@@ -7,13 +7,18 @@
 #include "tests/support/recording_carrier.h"
 #include "tests/support/scripted_cards.h"
 #include "tests/support/scripted_desktop.h"
+#include "tests/support/scripted_internet.h"
 #include "tests/support/scripted_recorder.h"
 #include "tests/support/virtual_clock.h"
+
+/// The process has ended: nothing behind it runs.
+struct ProcessEnded {};
 
 class RecordingShell : public platform::Shell {
   public:
     void open(const platform::Text& path) override { opened.push_back(path); }
     void open_page(const platform::Text& address) override { pages.push_back(address); }
+    [[noreturn]] void end_process() override { throw ProcessEnded(); }
     bool another_instance_runs() override { return another_instance; }
 
     std::vector<platform::Text> opened;
@@ -31,6 +36,7 @@ struct TestPlatform {
     RecordingCarrier carrier;
     ScriptedCards cards;
     ScriptedRecorder recorder;
+    ScriptedInternet internet;
     platform::Platform platform = on(desktop);
     core::AppState state;
 
@@ -46,6 +52,7 @@ struct TestPlatform {
                 .shell = shell,
                 .carrier = carrier,
                 .cards = cards,
-                .recorder = recorder};
+                .recorder = recorder,
+                .internet = internet};
     }
 };

@@ -25,6 +25,11 @@ class VirtualClock::VirtualTicker : public platform::Ticker {
     std::shared_ptr<Entry> entry_;
 };
 
+double VirtualClock::timer() {
+    return static_cast<double>(platform::time_of_day(now_).count()) +
+           static_cast<double>(elapsed_ % 1000) / 1000;
+}
+
 void VirtualClock::pause(int milliseconds) {
     pauses.push_back(milliseconds);
     if (during_pause) during_pause();

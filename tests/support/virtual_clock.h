@@ -10,6 +10,7 @@
 class VirtualClock : public platform::Clock {
   public:
     platform::LocalTime now() override { return now_; }
+    double timer() override;
     void pause(int milliseconds) override;
     std::unique_ptr<platform::Ticker> every(int milliseconds, std::function<void()> tick) override;
 

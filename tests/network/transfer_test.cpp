@@ -1,0 +1,225 @@
+#include "platform/error.h"
+#include "platform/qt/network/qt_internet.h"
+#include "tests/network/event_clock.h"
+#include "tests/support/http_server.h"
+#include "tests/support/utf8.h"
+
+#include <QFile>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QSslServer>
+#include <QSslSocket>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace platform;
+using tests::HttpClient;
+using tests::HttpServer;
+using tests::utf8;
+
+constexpr int SOON = 50;
+constexpr qt::TransferLimits SHORT{
+    .header_milliseconds = SOON, .answer_milliseconds = SOON, .body_bytes = 5000};
+
+/// The number of the RuntimeError that the step raises, 0 without one.
+template <class Step>
+int error_of(Step&& step) {
+    try {
+        step();
+        return 0;
+    } catch (const RuntimeError& error) {
+        return error.number();
+    }
+}
+
+constexpr int PROTOCOL = static_cast<int>(ErrorNumber::protocol_not_supported);
+constexpr int NOT_COMPLETED = static_cast<int>(ErrorNumber::request_not_completed);
+constexpr int TIMED_OUT = static_cast<int>(ErrorNumber::request_timed_out);
+constexpr int GIVEN_UP = static_cast<int>(ErrorNumber::dialog_cancelled);
+
+struct Transfers : testing::Test {
+    qt::QtInternet internet{qt::TransferLimits{}};
+    std::unique_ptr<Transfer> transfer = internet.make_transfer();
+    tests::EventClock clock;
+
+    void get(Transfer& by, const Text& url) {
+        by.execute(url);
+        while (by.still_executing()) clock.pause(1);
+    }
+    void get(const Text& url) { get(*transfer, url); }
+};
+
+TEST_F(Transfers, HandTheHeaderOverBeforeTheBodyAndTheBodyInWholeChunks) {
+    HttpServer server([](HttpClient& client) {
+        client.send("HTTP/1.1 200 Fine\r\nContent-Length: 6\r\nX-Ray: yes\r\n\r\n");
+        // Byte by byte, the second only once somebody has asked for the first chunk.
+        for (const char byte : {'a', 'b', 'c', 'd', 'e', 'f'}) client.send(std::string(1, byte));
+    });
+    get(server.url());
+    const std::string header = utf8(transfer->header());
+    EXPECT_TRUE(header.starts_with("HTTP/1.1 200 Fine\r\n")) << header;
+    EXPECT_EQ(utf8(transfer->header(u"content-LENGTH")), "6");
+    EXPECT_EQ(utf8(transfer->header(u"Content-Type")), "");
+    EXPECT_EQ(transfer->chunk(4), "abcd");
+    EXPECT_EQ(transfer->chunk(4), "ef");
+    EXPECT_EQ(transfer->chunk(4), "");
+}
+
+TEST_F(Transfers, AskPlainlyFollowNoRedirectAndRememberNothing) {
+    std::string second_request;
+    HttpServer server([&](HttpClient& client) {
+        second_request = client.request;
+        client.send(
+            "HTTP/1.1 301 Moved\r\nLocation: /other\r\nSet-Cookie: a=b\r\n"
+            "Cache-Control: max-age=9999\r\nContent-Length: 4\r\nConnection: close\r\n\r\nbody");
+    });
+    for (int round = 1; round <= 2; ++round) {
+        get(server.url());
+        EXPECT_TRUE(utf8(transfer->header()).starts_with("HTTP/1.1 301"));
+        EXPECT_EQ(transfer->chunk(10), "body");
+        EXPECT_EQ(server.requests(), round);
+    }
+    EXPECT_TRUE(second_request.starts_with("GET /update.ini HTTP/1.1\r\n"));
+    EXPECT_EQ(second_request.find("Cookie"), std::string::npos) << second_request;
+    EXPECT_EQ(second_request.find("gzip"), std::string::npos) << second_request;
+}
+
+TEST_F(Transfers, AnErrorOfTheServersIsAnAnswerToo) {
+    for (const char* status : {"401 Who", "404 None", "500 Broken"}) {
+        HttpServer server(HttpServer::sending(std::string("HTTP/1.1 ") + status +
+                                              "\r\nWWW-Authenticate: Basic realm=\"a\"\r\n"
+                                              "Content-Length: 4\r\n\r\npage"));
+        EXPECT_EQ(transfer->open_url(server.url(), 100), "page") << status;
+    }
+}
+
+TEST_F(Transfers, OnlyTheWebIsAskedAndAnAddressWithoutASchemeIsOfIt) {
+    for (const char16_t* url : {u"file:///etc/passwd", u"qrc://a/b", u"data://text/plain,a", u"ftp://a/b"})
+        EXPECT_EQ(error_of([&] { transfer->open_url(url, 10); }), PROTOCOL) << utf8(url);
+    for (const char16_t* url : {u"", u"http://", u"http://a b/", u"file:/etc/passwd"})
+        EXPECT_EQ(error_of([&] { transfer->open_url(url, 10); }), NOT_COMPLETED) << utf8(url);
+    HttpServer server(HttpServer::sending("HTTP/1.1 200 OK\r\n\r\nok"));
+    EXPECT_EQ(transfer->open_url(u" " + server.url().substr(7) + u" ", 10), "ok");
+}
+
+TEST_F(Transfers, WhatBreaksIsAFailureOnceTheWholeChunksBeforeItAreRead) {
+    const struct {
+        const char* sent;
+        int chunks_of_two;
+    } rows[] = {
+        {"", 0},
+        {"hello", 0},
+        {"HTTP/1.1 200 OK\r\nContent-Le", 0},
+        {"HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\n", 0},
+        {"HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\nabcde", 2},
+    };
+    for (const auto& row : rows) {
+        HttpServer server(HttpServer::sending(row.sent));
+        get(server.url());
+        int chunks = 0;
+        EXPECT_EQ(error_of([&] {
+                      while (!transfer->chunk(2).empty()) ++chunks;
+                  }),
+                  NOT_COMPLETED)
+            << row.sent;
+        EXPECT_EQ(chunks, row.chunks_of_two) << row.sent;
+    }
+}
+
+TEST_F(Transfers, ALengthThatIsTooShortEndsTheBodyAndOneThatIsMissingTheConnection) {
+    HttpServer short_length(HttpServer::sending("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nabcdef"));
+    EXPECT_EQ(transfer->open_url(short_length.url(), 100), "ab");
+    HttpServer no_length(HttpServer::sending("HTTP/1.0 200 OK\r\n\r\nabcdef"));
+    EXPECT_EQ(transfer->open_url(no_length.url(), 100), "abcdef");
+}
+
+TEST_F(Transfers, EndWhenTheyTakeTooLong) {
+    const std::function<void(HttpClient&)> servers[] = {
+        [](HttpClient& client) { client.wait_until_gone(); },
+        [](HttpClient& client) {
+            client.send("HTTP/1.1 200 OK\r\nX: " + std::string(100'000, 'x'));
+            client.wait_until_gone();
+        },
+        [](HttpClient& client) {
+            client.send("HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\na");
+            client.wait_until_gone();
+        },
+    };
+    qt::QtInternet impatient(SHORT);
+    for (const auto& answer : servers) {
+        HttpServer server(answer);
+        const auto bounded = impatient.make_transfer();
+        EXPECT_EQ(error_of([&] { bounded->open_url(server.url(), 100); }), TIMED_OUT);
+        EXPECT_EQ(error_of([&] { bounded->chunk(1); }), TIMED_OUT) << "nobody waits twice";
+    }
+}
+
+TEST_F(Transfers, EndWhenTheBodyIsTooLargeAndAGetMayBeCut) {
+    qt::QtInternet narrow({.header_milliseconds = 20'000, .answer_milliseconds = 20'000, .body_bytes = 5000});
+    HttpServer endless([](HttpClient& client) {
+        client.send("HTTP/1.1 200 OK\r\n\r\n");
+        while (client.send(std::string(1000, 'x'))) {
+        }
+    });
+    const auto bounded = narrow.make_transfer();
+    EXPECT_EQ(error_of([&] { bounded->open_url(endless.url(), 1'000'000); }), NOT_COMPLETED);
+    EXPECT_EQ(transfer->open_url(endless.url(), 700), std::string(700, 'x'));
+}
+
+TEST_F(Transfers, CanBeGivenUpWhileSomebodyWaits) {
+    HttpServer silent([](HttpClient& client) { client.wait_until_gone(); });
+    QTimer::singleShot(0, [&] { transfer->cancel(); });
+    EXPECT_EQ(error_of([&] { transfer->open_url(silent.url(), 100); }), GIVEN_UP);
+
+    transfer->execute(silent.url());
+    transfer->cancel();
+    EXPECT_FALSE(transfer->still_executing());
+    EXPECT_EQ(error_of([&] { (void)transfer->header(); }), GIVEN_UP);
+
+    HttpServer server(HttpServer::sending("HTTP/1.1 200 OK\r\n\r\nok"));
+    EXPECT_EQ(transfer->open_url(server.url(), 100), "ok") << "the next one starts anew";
+}
+
+/// A server that answers one request behind a certificate that nobody but this test has signed.
+struct SecureServer {
+    SecureServer() {
+        QFile certificate_file(QStringLiteral(ZENT_FIXTURES "/tls/loopback.pem"));
+        QFile key_file(QStringLiteral(ZENT_FIXTURES "/tls/loopback.key"));
+        if (!certificate_file.open(QIODevice::ReadOnly) || !key_file.open(QIODevice::ReadOnly))
+            throw std::runtime_error("no certificate");
+        certificate = QSslCertificate(&certificate_file);
+        QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+        configuration.setLocalCertificate(certificate);
+        configuration.setPrivateKey(QSslKey(&key_file, QSsl::Ec));
+        server.setSslConfiguration(configuration);
+        QObject::connect(&server, &QTcpServer::pendingConnectionAvailable, [this] {
+            auto* client = server.nextPendingConnection();
+            QObject::connect(client, &QTcpSocket::readyRead, client, [client] {
+                if (!client->readAll().contains("\r\n\r\n")) return;
+                client->write("HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\nsecret");
+            });
+        });
+        if (!server.listen(QHostAddress::LocalHost)) throw std::runtime_error("no server");
+    }
+    Text url() const { return u"https://127.0.0.1:" + decimal(server.serverPort()) + u"/"; }
+
+    QSslCertificate certificate;
+    QSslServer server;
+};
+
+TEST_F(Transfers, AreSecureWhereTheAddressSaysSoAndTheCertificateHolds) {
+    const SecureServer server;
+    EXPECT_EQ(error_of([&] { transfer->open_url(server.url(), 100); }), NOT_COMPLETED);
+
+    const QSslConfiguration before = QSslConfiguration::defaultConfiguration();
+    QSslConfiguration trusting = before;
+    trusting.addCaCertificate(server.certificate);
+    QSslConfiguration::setDefaultConfiguration(trusting);
+    qt::QtInternet trusting_internet{qt::TransferLimits{}};
+    EXPECT_EQ(trusting_internet.make_transfer()->open_url(server.url(), 100), "secret");
+    QSslConfiguration::setDefaultConfiguration(before);
+}
+
+}  // namespace

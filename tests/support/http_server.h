@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/text/text.h"
+
+#include <atomic>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <thread>
+
+namespace tests {
+
+/// One client of a server, before which its request has been read.
+class HttpClient {
+  public:
+    explicit HttpClient(int socket, std::string request) : socket_(socket), request(std::move(request)) {}
+
+    /// Returns false once the client has gone.
+    bool send(std::string_view bytes) const;
+    /// Returns when the client has gone.
+    void wait_until_gone() const;
+
+  private:
+    int socket_;
+
+  public:
+    /// The head of the request.
+    std::string request;
+};
+
+/// A server on the loopback device that does to each client what a test says, in a thread of its own. The
+/// connection is closed afterwards.
+class HttpServer {
+  public:
+    explicit HttpServer(std::function<void(HttpClient&)> answer);
+    HttpServer(const HttpServer&) = delete;
+    HttpServer& operator=(const HttpServer&) = delete;
+    ~HttpServer();
+
+    /// A server that sends these bytes.
+    static std::function<void(HttpClient&)> sending(std::string bytes) {
+        return [bytes](HttpClient& client) { client.send(bytes); };
+    }
+
+    /// An address of the server; the path begins with a slash.
+    platform::Text url(platform::TextView path = u"/update.ini") const;
+    /// How many requests have come.
+    int requests() const { return requests_; }
+
+  private:
+    void serve();
+
+    std::function<void(HttpClient&)> answer_;
+    int listener_;
+    int port_ = 0;
+    std::atomic<int> requests_ = 0;
+    std::atomic<int> client_ = -1;
+    std::atomic<bool> ending_ = false;
+    std::thread thread_;
+};
+
+}  // namespace tests

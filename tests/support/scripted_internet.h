@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/ports/internet.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// What a server of the script answers.
+struct ScriptedAnswer {
+    /// The header without the empty line at its end; none for a server that nobody reaches.
+    std::optional<std::string> header;
+    std::string body;
+    /// The connection breaks where the body ends.
+    bool breaks = false;
+
+    static ScriptedAnswer ok(std::string body) {
+        std::string header = "HTTP/1.1 200 OK\r\nContent-Length: " + std::to_string(body.size());
+        return {.header = std::move(header), .body = std::move(body)};
+    }
+};
+
+/// A network of a few addresses. Everything else is beyond reach.
+class ScriptedInternet : public platform::Internet {
+  public:
+    std::unique_ptr<platform::Transfer> make_transfer() override;
+
+    std::map<platform::Text, ScriptedAnswer> answers;
+    /// Every address asked for, in order.
+    std::vector<platform::Text> asked;
+    /// Happens while somebody waits for a header or for bytes.
+    std::function<void()> while_waiting = [] {};
+
+  private:
+    class ScriptedTransfer;
+};

@@ -1,0 +1,49 @@
+#include "update/frmUpdateStart.h"
+
+#include "core/files.h"
+#include "core/windows.h"
+#include "platform/error.h"
+#include "platform/text/cp949.h"
+
+namespace update {
+
+using platform::Text;
+
+frmUpdateStart::frmUpdateStart(platform::Platform& platform, core::AppState& state)
+    : Form(platform.desktop, u"frmUpdateStart"), platform_(platform), state_(state) {
+    set_caption(u"프로그램이 업데이트 되었습니다.");
+    RichTextBox1.set_text(u"[UPDATE]\r\nAUTORUN=OK\r\n");
+    RichTextBox1.set_tag(u"\\i_autorun.ini");
+    Command1.Click.connect([this] { Command1_Click(); });
+    Command2.Click.connect([this] { Command2_Click(); });
+}
+
+void frmUpdateStart::Form_Load() {
+    core::CENTER_FORM(platform_.desktop, *this);
+    WebBrowser.Navigate(state_.gUpdateNoteFile, {}, {});
+}
+
+/// However the form was closed: without a yes the installer finds no note, not even an old one.
+void frmUpdateStart::Form_Unload() {
+    if (state_.gDialogConfirmed) return;
+    platform::ignore_errors([this] { core::DELETE_FILE(platform_, note_path()); });
+}
+
+void frmUpdateStart::Command1_Click() {
+    state_.gDialogConfirmed = true;
+    // A note that cannot be written does not keep the update from going on.
+    platform::ignore_errors(
+        [this] { platform_.files.write(note_path(), platform::encode_cp949(RichTextBox1.text())); });
+    unload();
+}
+
+void frmUpdateStart::Command2_Click() {
+    state_.gDialogConfirmed = false;
+    unload();
+}
+
+Text frmUpdateStart::note_path() const {
+    return platform_.files.application_directory() + RichTextBox1.tag();
+}
+
+}  // namespace update

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "compose/main_form.h"
+#include "core/app_state.h"
+#include "platform/ports/platform.h"
+
+namespace update {
+
+/// The check from the menu: looks for an update, offers it, and hands over to the installer or tells the user
+/// that there is nothing to do.
+void mnuUpDate_Click(platform::Platform& platform, core::AppState& state, compose::frmZent& form);
+
+/// The check while the program starts: only what keeps it from going on is told. False when the server was
+/// not reached.
+bool check_at_start(platform::Platform& platform, core::AppState& state, compose::frmZent& form);
+
+}  // namespace update
