@@ -22,7 +22,8 @@ class ListItem {
     /// The item text for 0; empty behind the last sub-item.
     const Text& sub_item(int index) const;
     int sub_item_count() const { return static_cast<int>(sub_items_.size()); }
-    /// The number of the row's picture in the list of pictures that the screen has for it; 0 for none.
+    /// The number of the row's picture in the list of pictures that the screen has for it, counted from 1; 0
+    /// for none.
     int small_icon() const { return small_icon_; }
     bool checked() const { return checked_; }
     bool selected() const { return selected_; }
