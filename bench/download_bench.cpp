@@ -45,6 +45,8 @@ int download(int argc, char** argv) {
                                .settings = doubles.settings,
                                .shell = doubles.shell,
                                .carrier = doubles.carrier,
+                               .cards = doubles.cards,
+                               .recorder = doubles.recorder,
                                .internet = internet};
     update::Download control(machine);
     bool complete = false;

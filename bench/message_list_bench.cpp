@@ -82,7 +82,9 @@ int main(int argc, char** argv) {
                                 .settings = machine.settings,
                                 .shell = machine.shell,
                                 .carrier = machine.carrier,
-                                .cards = machine.cards};
+                                .cards = machine.cards,
+                                .recorder = machine.recorder,
+                                .internet = machine.internet};
     core::make_message_box_folders(platform);
     const fs::path category = disk.application / "내모음함/내모음함";
     write_messages(category);

@@ -55,6 +55,8 @@ struct DownloadBench : TestPlatform {
                      .settings = settings,
                      .shell = shell,
                      .carrier = carrier,
+                     .cards = cards,
+                     .recorder = recorder,
                      .internet = network};
     Download control{machine};
     std::string log;

@@ -45,7 +45,9 @@ class MessageBoxOnDisk : public testing::Test, protected tests::FilesOnDisk {
                                 .settings = machine.settings,
                                 .shell = machine.shell,
                                 .carrier = machine.carrier,
-                                .cards = machine.cards};
+                                .cards = machine.cards,
+                                .recorder = machine.recorder,
+                                .internet = machine.internet};
     compose::frmZent main{platform, machine.state, {}};
     msgbox::frmMyMsgBox box{platform, main};
     const fs::path root = application / "내모음함";

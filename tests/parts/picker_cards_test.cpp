@@ -30,7 +30,8 @@ struct PickerCards : testing::Test, TestPlatform {
                                .shell = shell,
                                .carrier = carrier,
                                .cards = disk.source,
-                               .recorder = recorder};
+                               .recorder = recorder,
+                               .internet = internet};
     compose::frmZent form{machine, state, {}};
 
     void pick(const std::string& database, const std::function<void(frmSendMan&)>& act) {

@@ -35,7 +35,8 @@ platform::Platform with(platform::Recorder* microphone, const platform::Platform
             .shell = machine.shell,
             .carrier = machine.carrier,
             .cards = machine.cards,
-            .recorder = microphone != nullptr ? *microphone : machine.recorder};
+            .recorder = microphone != nullptr ? *microphone : machine.recorder,
+            .internet = machine.internet};
 }
 
 }  // namespace
