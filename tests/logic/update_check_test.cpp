@@ -64,7 +64,7 @@ TEST(UpdateDecision, LooksForAFileWhereItsKindSays) {
         {"winsysdir", "a.dll", u"z:\\windows\\system\\a.dll"},
         {"resource", "a.dll", u"z:\\app\\resource\\a.dll"},
         {" sub", "a.dll", u"z:\\app\\ sub\\a.dll"},
-        {"", "a.dll", u"z:\\app\\\\a.dll"},
+        {"", "a.dll", u"z:\\app\\a.dll"},
         {"..\\..", "etc\\passwd", u"z:\\app\\..\\..\\etc\\passwd"},
         {"apppath", "c:\\a.dll", u"z:\\app\\c:\\a.dll"},
     };

@@ -12,8 +12,11 @@ using platform::TextView;
 
 namespace {
 
+/// As on the disk, two backslashes in a row are one.
 Text key(const Text& path) {
     Text folded = platform::lower_case(path);
+    const auto both = [](char16_t left, char16_t right) { return left == u'\\' && right == u'\\'; };
+    folded.erase(std::ranges::unique(folded, both).begin(), folded.end());
     while (folded.ends_with(u'\\')) folded.pop_back();
     return folded;
 }
