@@ -92,8 +92,11 @@ ProgressBarBinder::ProgressBarBinder(BoundForm& bound, ProgressBar& control, QPr
 void ProgressBarBinder::refresh(Aspect aspect) {
     if (aspect != Aspect::value) return WidgetBinder::refresh(aspect);
     bar_.setValue(control_.value());
-    // The handlers run long loops in which nothing else is painted.
+    // The handlers run long loops in which nothing else is painted; an eye cannot tell more than this.
+    constexpr int MILLISECONDS_BETWEEN = 30;
+    if (painted_.isValid() && !painted_.hasExpired(MILLISECONDS_BETWEEN)) return;
     bar_.repaint();
+    painted_.start();
 }
 
 DatePickerBinder::DatePickerBinder(BoundForm& bound, DatePicker& control, QDateEdit& edit)

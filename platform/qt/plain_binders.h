@@ -7,6 +7,8 @@
 #include "platform/controls/progress_bar.h"
 #include "platform/qt/binder.h"
 
+#include <QElapsedTimer>
+
 class QDateEdit;
 class QFrame;
 class QLabel;
@@ -66,6 +68,7 @@ class ProgressBarBinder : public WidgetBinder {
   private:
     ProgressBar& control_;
     QProgressBar& bar_;
+    QElapsedTimer painted_;
 };
 
 class DatePickerBinder : public WidgetBinder {
