@@ -64,11 +64,11 @@ bool FAX_NUMBER_OK(TextView number) {
     return !digits.starts_with(u"03030") && !digits.starts_with(u"0502") && !digits.starts_with(u"0505");
 }
 
-Text FIELD_VALUE(const platform::CardField& field) {
+Text FIELD_VALUE(platform::CardField field) {
     if (const auto* number = std::get_if<std::int32_t>(&field.value)) return platform::decimal(*number);
-    const auto* text = std::get_if<Text>(&field.value);
+    auto* text = std::get_if<Text>(&field.value);
     if (text == nullptr) return Text();
-    return std::ranges::count(PADDED_TYPES, field.type) > 0 ? platform::right_trim(*text) : *text;
+    return std::ranges::count(PADDED_TYPES, field.type) > 0 ? platform::right_trim(*text) : std::move(*text);
 }
 
 }  // namespace core

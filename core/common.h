@@ -21,6 +21,6 @@ bool TEXT_NUMBER_OK(platform::TextView number);
 bool FAX_NUMBER_OK(platform::TextView number);
 
 /// A database field's value as a text: NULL is empty, a number its decimal digits.
-platform::Text FIELD_VALUE(const platform::CardField& field);
+platform::Text FIELD_VALUE(platform::CardField field);
 
 }  // namespace core

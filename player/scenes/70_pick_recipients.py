@@ -2,7 +2,7 @@
 
 
 def play(desk):
-    main = desk.window("[문자메시지]")
+    main = desk.choose_kind("문자메시지", "신제품 안내")
     desk.click(desk.find("명함DB 불러오기", "push button", main))
     picker = desk.window("발송대상 선택-")
     desk.find("윤가희", within=picker)
@@ -14,7 +14,7 @@ def play(desk):
     desk.fill(desk.find("찾기", "text", picker), "차오름\n")
     desk.find("류예호", within=picker)
     desk.click(desk.find("류예호", within=picker))
-    desk.keys("shift+Down")
+    desk.keys("shift+Down", "shift+Down")
     desk.picture("picker-search")
     desk.keys("alt+a")
     desk.keys("Escape")
