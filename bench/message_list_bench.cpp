@@ -33,12 +33,26 @@ class WatchedDesktop : public platform::qt::QtDesktop {
     using QtDesktop::QtDesktop;
 
     void paint() override {
-        note_gap();
+        // Delivered as what is to be painted is: not before the desktop finds that it is time.
+        if (!waiting) QCoreApplication::postEvent(&window, new QEvent(QEvent::User));
+        waiting = true;
         QtDesktop::paint();
-        painted = Clock::now();
+        if (window.delivered) {
+            note_gap();
+            painted = Clock::now();
+            waiting = window.delivered = false;
+        }
     }
     void note_gap() { longest_gap = std::max(longest_gap, Milliseconds(Clock::now() - painted)); }
 
+    struct : QObject {
+        bool event(QEvent* event) override {
+            delivered = true;
+            return QObject::event(event);
+        }
+        bool delivered = false;
+    } window;
+    bool waiting = false;
     Clock::time_point painted = Clock::now();
     Milliseconds longest_gap{};
 };

@@ -38,12 +38,4 @@ bool ask(Desktop& desktop, Text text, Text title, BoxIcon icon, BoxAnswer defaul
                                 .default_answer = default_answer}) == BoxAnswer::yes;
 }
 
-void Painting::step() {
-    constexpr std::chrono::milliseconds PAUSE(50);
-    const auto now = std::chrono::steady_clock::now();
-    if (now - painted_ < PAUSE) return;
-    desktop_.paint();
-    painted_ = std::chrono::steady_clock::now();
-}
-
 }  // namespace core

@@ -4,8 +4,6 @@
 #include "platform/error.h"
 #include "platform/ports/desktop.h"
 
-#include <chrono>
-
 namespace core {
 
 /// The placement of the given size in the middle of the screen, in twips.
@@ -37,18 +35,6 @@ class BusyPointer {
 
   private:
     platform::Desktop& desktop_;
-};
-
-/// Lets the windows be painted a few times a second in the midst of long work, which calls it at every step.
-class Painting {
-  public:
-    explicit Painting(platform::Desktop& desktop) : desktop_(desktop) {}
-
-    void step();
-
-  private:
-    platform::Desktop& desktop_;
-    std::chrono::steady_clock::time_point painted_ = std::chrono::steady_clock::now();
 };
 
 }  // namespace core

@@ -54,8 +54,7 @@ void frmMyMsgBox::MESSAGE_LIST_LOAD(const Text& category) {
     std::optional<platform::RuntimeError> failure;
     {
         const core::BusyPointer busy(platform_.desktop);
-        core::Painting painting(platform_.desktop);
-        CategoryContent content = read_category(platform_, category, [&] { painting.step(); });
+        CategoryContent content = read_category(platform_, category, [this] { platform_.desktop.paint(); });
         failure = std::move(content.failure);
 
         ListView2.clear();
@@ -63,7 +62,7 @@ void frmMyMsgBox::MESSAGE_LIST_LOAD(const Text& category) {
             ListView2.add_row(std::move(message.title),
                               {platform::trim(platform::replace_all(message.body, platform::CRLF, u" ")),
                                platform::format_date(message.saved, SAVED_PATTERN), std::move(message.body)});
-            painting.step();
+            platform_.desktop.paint();
         }
         // Deliberately by the text of the date: within a day 오전 and 오후 sort as words, and 12 o'clock
         // behind 11. Users know their lists so.
