@@ -19,7 +19,8 @@ class PosixOpenFile : public OpenFile {
   public:
     explicit PosixOpenFile(const std::string& path)
         : path_(path),
-          file_(::open(path.c_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, 0600)) {
+          file_(::open(path.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC,
+                       0600)) {
         if (!file_.is_open()) throw file_error(errno, path);
         struct stat status {};
         if (::fstat(file_.number(), &status) != 0 || !S_ISREG(status.st_mode))

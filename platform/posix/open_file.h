@@ -8,7 +8,7 @@
 namespace platform::posix {
 
 /// The normal file of the machine's path, its user's alone when it is new, open for writing from its
-/// beginning. Raises RuntimeError when it cannot be opened.
+/// beginning. A link is not followed. Raises RuntimeError when it cannot be opened.
 std::unique_ptr<OpenFile> open_file_for_writing(const std::string& path);
 
 }  // namespace platform::posix

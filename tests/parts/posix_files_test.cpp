@@ -281,6 +281,30 @@ TEST_F(PosixFilesTest, AFullDiskLeavesTheOldFile) {
     EXPECT_EQ(names_in(application), std::set<std::string>{"zent.ini"});
 }
 
+TEST_F(PosixFilesTest, AFileThatIsWrittenInPiecesShowsThemAfterAFlushAndKeepsItsTail) {
+    put(application / "old", "an old file");
+    const auto file = files.open_for_writing(u"OLD");
+    file->write("th");
+    file->write("e");
+    EXPECT_EQ(bytes_of(application / "old"), "an old file");
+    file->flush();
+    EXPECT_EQ(bytes_of(application / "old"), "theold file");
+    file->write(std::string(100'000, 'x'));
+    EXPECT_EQ(fs::file_size(application / "old"), 100'003u) << "much is not kept waiting";
+
+    files.open_for_writing(u"new");
+    EXPECT_EQ(mode_of(application / "new"), 0600u);
+}
+
+TEST_F(PosixFilesTest, OnlyNormalFilesAreWrittenInPieces) {
+    fs::create_symlink(application / "target", application / "link");
+    fs::create_directory(application / "folder");
+    ::mkfifo((application / "pipe").c_str(), 0600);
+    for (const char16_t* name : {u"link", u"folder", u"pipe", u"folder\\missing\\file"})
+        EXPECT_NE(error_number([&] { files.open_for_writing(name); }), 0) << to_utf8(name);
+    EXPECT_FALSE(fs::exists(application / "target"));
+}
+
 TEST_F(PosixFilesTest, AKilledWriteLeavesTheOldFileAndTheNextOneSweepsUp) {
     files.write(u"zent.ini", "old");
     for (const rlim_t bytes : {0, 1, 99999}) {

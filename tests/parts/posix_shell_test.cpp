@@ -82,6 +82,40 @@ TEST(PosixShell, OnlyPagesReachTheBrowser) {
     }
 }
 
+TEST(PosixShell, AProgramIsStartedByItsNameAndItsPermission) {
+    const tests::TemporaryFolder folder;
+    const fs::path answer = folder.path() / "answer";
+    ::mkfifo(answer.c_str(), 0600);
+    const auto script = [&](const char* name, const char* text) {
+        tests::put(folder.path() / name,
+                   std::string("#!/bin/sh\nprintf '%s' \"") + text + " $#\" > '" + answer.string() + "'\n");
+        fs::permissions(folder.path() / name, fs::perms(0755));
+    };
+    script("opener", "opened");
+    script("i_update.exe", "started");
+    script("song.wav", "started");
+    script("page.exe", "started");
+    fs::permissions(folder.path() / "page.exe", fs::perms(0644));
+
+    PosixShell shell(Paths(folder.path()), folder.path() / "opener");
+    const std::pair<const char16_t*, const char*> rows[] = {
+        {u"I_Update.EXE", "started 0"}, {u"song.wav", "opened 1"}, {u"page.exe", "opened 1"}};
+    for (const auto& [name, what] : rows) {
+        shell.open(name);
+        EXPECT_EQ(tests::bytes_of(answer), what) << "reading waits for the program to write";
+    }
+}
+
+TEST(PosixShell, TheProcessEndsAtOnce) {
+    const tests::TemporaryFolder folder;
+    tests::ChildProcess process([&]() -> int {
+        std::atexit([] { tests::put("exit step", "x"); });
+        PosixShell(Paths(folder.path())).end_process();
+    });
+    EXPECT_EQ(process.wait(), 0);
+    EXPECT_TRUE(fs::is_empty(folder.path()));
+}
+
 TEST(PosixShell, WhatCannotBeOpenedIsSilent) {
     const tests::TemporaryFolder folder;
     PosixShell shell(Paths(folder.path()), folder.path() / "no opener");
