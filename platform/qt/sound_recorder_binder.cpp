@@ -10,9 +10,9 @@ namespace platform::qt {
 
 SoundRecorderBinder::SoundRecorderBinder(BoundForm& bound, SoundRecorder& control, RecorderPanel& panel)
     : WidgetBinder(bound, control, panel), control_(control), panel_(panel) {
-    connect_button(panel.record_button(), &SoundRecorder::record);
-    connect_button(panel.stop_button(), &SoundRecorder::stop);
-    connect_button(panel.play_button(), &SoundRecorder::play);
+    connect_button(panel.record_button(), [this] { control_.record(); });
+    connect_button(panel.stop_button(), [this] { control_.stop(); });
+    connect_button(panel.play_button(), [this] { control_.play(); });
     panel.show_recorder(control);
 }
 
@@ -46,9 +46,9 @@ void SoundRecorderBinder::open() {
     if (is_bound_live()) control_.open();
 }
 
-void SoundRecorderBinder::connect_button(QAbstractButton& button, void (SoundRecorder::*press)()) {
+void SoundRecorderBinder::connect_button(QAbstractButton& button, std::function<void()> press) {
     button.installEventFilter(this);
-    connect(&button, &QAbstractButton::clicked, this, [this, press] { act([&] { (control_.*press)(); }); });
+    connect(&button, &QAbstractButton::clicked, this, [this, press = std::move(press)] { act(press); });
 }
 
 }  // namespace platform::qt

@@ -3,6 +3,8 @@
 #include "platform/controls/sound_recorder.h"
 #include "platform/qt/binder.h"
 
+#include <functional>
+
 class QAbstractButton;
 
 namespace platform::qt {
@@ -17,7 +19,7 @@ class SoundRecorderBinder : public WidgetBinder {
   private:
     bool filter(QObject& object, QEvent& event) override;
     void open();
-    void connect_button(QAbstractButton& button, void (SoundRecorder::*press)());
+    void connect_button(QAbstractButton& button, std::function<void()> press);
 
     SoundRecorder& control_;
     RecorderPanel& panel_;
