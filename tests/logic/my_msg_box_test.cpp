@@ -116,6 +116,9 @@ TEST_F(MyMsgBox, ShowsTheSelectedMessageAndFiltersTheKeysOfTheTitle) {
     platform::KeyPressed released{platform::KEY_DOWN};
     box().ListView2.KeyUp.raise(released);
     EXPECT_EQ(utf8(box().Text1.text() + box().txtText.text()), "나");
+    box().ListView2.deselect_item();
+    box().ListView2.MouseUp.raise(platform::MouseButton::left);
+    EXPECT_EQ(utf8(box().Text1.text()), "");
 
     box().Text1.set_text(u"");
     for (const char16_t key : Text(u"a\"b*c.d/e:f<g>h?i\\j|k한!")) {
