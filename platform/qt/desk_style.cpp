@@ -55,4 +55,12 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     painter->restore();
 }
 
+/// A wheel that is turned to scroll would otherwise choose on its way: another kind of message, which costs
+/// the draft, another hour, another sender.
+int DeskStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* returned) const {
+    if (hint == SH_TabBar_AllowWheelScrolling || hint == SH_ComboBox_AllowWheelScrolling) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 }  // namespace platform::qt

@@ -4,8 +4,8 @@
 
 namespace platform::qt {
 
-/// The look of the program's windows: the toolkit's own style, with rows of lists that are easy to hit and
-/// boxes to tick that are seen on dark windows too.
+/// The look of the program's windows: the toolkit's own style, with rows of lists that are easy to hit,
+/// boxes to tick that are seen on dark windows too and choices that the wheel of the mouse passes over.
 class DeskStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -16,6 +16,8 @@ class DeskStyle : public QProxyStyle {
                            const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override;
 };
 
 }  // namespace platform::qt

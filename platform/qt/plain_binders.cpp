@@ -103,6 +103,8 @@ DatePickerBinder::DatePickerBinder(BoundForm& bound, DatePicker& control, QDateE
     : WidgetBinder(bound, control, edit), control_(control), edit_(edit) {
     edit.setCalendarPopup(true);
     edit.setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+    // The wheel alone does not bring the focus.
+    edit.setFocusPolicy(Qt::StrongFocus);
     show_day();
     connect(&edit, &QDateEdit::userDateChanged, this, [this] { take_day(); });
 }
@@ -110,6 +112,13 @@ DatePickerBinder::DatePickerBinder(BoundForm& bound, DatePicker& control, QDateE
 void DatePickerBinder::refresh(Aspect aspect) {
     if (aspect == Aspect::value) return show_day();
     WidgetBinder::refresh(aspect);
+}
+
+/// A wheel that is turned over the field to scroll is not meant for it.
+bool DatePickerBinder::filter(QObject&, QEvent& event) {
+    if (event.type() != QEvent::Wheel || edit_.hasFocus()) return false;
+    event.ignore();
+    return true;
 }
 
 void DatePickerBinder::show_day() {

@@ -77,6 +77,7 @@ class DatePickerBinder : public WidgetBinder {
     void refresh(Aspect aspect) override;
 
   private:
+    bool filter(QObject& object, QEvent& event) override;
     void show_day();
     void take_day();
 

@@ -14,6 +14,7 @@
 #include <QTabBar>
 #include <QToolBar>
 #include <QToolButton>
+#include <QWheelEvent>
 
 namespace tests {
 namespace {
@@ -131,6 +132,29 @@ TEST_F(ControlTest, another_day_keeps_the_time_of_day) {
     EXPECT_EQ(form.DTP1.value(), platform::make_time(2010, 2, 28, 13, 5, 7));
     form.DTP1.set_value(platform::make_time(1969, 12, 31, 23, 0, 0));
     EXPECT_EQ(date.date(), QDate(1969, 12, 31));
+}
+
+TEST_F(ControlTest, the_wheel_passes_over_every_choice_that_the_user_has_not_gone_to) {
+    form.Combo3.add_row(u"00");
+    form.Combo3.add_row(u"01");
+    form.txtUserName.add_row(u"Hong");
+    form.DTP1.set_value(platform::make_time(2010, 3, 1, 13, 5, 7));
+    form.txtUserName.set_focus();
+    const auto turn = [](QWidget& widget) {
+        const QPointF place = widget.rect().center();
+        QWheelEvent event(place, widget.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&widget, &event);
+    };
+    for (const char* name : {"TabStrip1", "Combo3", "txtUserName", "DTP1"}) turn(find(name));
+    EXPECT_EQ(form.TabStrip1.selected(), 1);
+    EXPECT_EQ(form.Combo3.list_index(), -1);
+    EXPECT_EQ(form.txtUserName.text(), u"");
+    EXPECT_EQ(form.DTP1.value(), platform::make_time(2010, 3, 1, 13, 5, 7));
+
+    find("DTP1").setFocus();
+    turn(find("DTP1"));
+    EXPECT_NE(form.DTP1.value(), platform::make_time(2010, 3, 1, 13, 5, 7));
 }
 
 TEST_F(ControlTest, a_caption_leaves_the_shortcut_that_the_screen_gives) {
