@@ -3,6 +3,8 @@
 #include "core/message_box.h"
 #include "platform/text/cp949.h"
 
+#include <algorithm>
+
 namespace msgbox {
 
 using platform::ErrorNumber;
@@ -11,6 +13,17 @@ using platform::Platform;
 using platform::RuntimeError;
 using platform::Text;
 using platform::TextView;
+
+namespace {
+
+/// Editors of other systems end a line with one character, which the program's own fields do not know.
+Text with_whole_line_ends(TextView text) {
+    Text whole = platform::replace_all(text, platform::CRLF, u"\n");
+    std::ranges::replace(whole, u'\r', u'\n');
+    return platform::replace_all(whole, u"\n", platform::CRLF);
+}
+
+}  // namespace
 
 std::vector<Text> categories(const Platform& platform) {
     std::vector<Text> names{Text(core::DEFAULT_CATEGORY)};
@@ -28,8 +41,8 @@ CategoryContent read_category(const Platform& platform, TextView category,
     for (const FileEntry& file : platform.files.list_files(folder, u"*" + Text(core::MESSAGE_EXTENSION))) {
         try {
             const Text title = file.name.substr(0, file.name.size() - core::MESSAGE_EXTENSION.size());
-            content.messages.push_back(
-                {title, platform::decode_cp949(platform.files.read(folder + file.name)), file.modified});
+            const Text body = platform::decode_cp949(platform.files.read(folder + file.name));
+            content.messages.push_back({title, with_whole_line_ends(body), file.modified});
         } catch (const RuntimeError& error) {
             // One that has been removed meanwhile is simply gone.
             if (error.number() != static_cast<int>(ErrorNumber::file_not_found) && !content.failure)

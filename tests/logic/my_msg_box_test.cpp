@@ -372,7 +372,12 @@ TEST_F(MyMsgBox, EveryCharacterOfTheCodePageAndEveryShapeOfTextComesBackByteByBy
         box().Command2.Click.raise();
         EXPECT_EQ(files.files[path(FIRST, u"글")], bytes);
     }
+    put(FIRST, u"글", "a\nb\rc\r\n\n");
+    open();
     choose(box().ListView2, 0);
+    EXPECT_EQ(utf8(box().txtText.text()), "a\r\nb\r\nc\r\n\r\n");
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(msgbox::MESSAGE_LINE)), "a b c");
+
     box().txtText.set_text(u"가☃나");
     for (int times = 0; times < 2; ++times) {
         desktop.expect_box(u"수정 되었습니다.");
