@@ -56,6 +56,7 @@ void frmMyMsgBox::Command7_Click() {
         platform_.files.rename_folder(core::category_folder(platform_, *old_name),
                                       core::category_folder(platform_, name));
         if (const auto row = ListView1.selected_item()) ListView1.set_item_text(*row, name);
+        if (listed_category_ == old_name) listed_category_ = name;
     });
 }
 

@@ -67,6 +67,7 @@ class frmMyMsgBox : public platform::Form {
     void ListView2_Click();
     std::optional<platform::Text> selected_category() const;
     void select_category(std::size_t row);
+    bool lists(const platform::Text& category);
 
     // Messages.
     void Command1_Click();
@@ -102,6 +103,8 @@ class frmMyMsgBox : public platform::Form {
 
     platform::Platform& platform_;
     compose::frmZent& main_;
+    /// Whose messages ListView2 shows; nothing when the last listing failed.
+    std::optional<platform::Text> listed_category_;
 };
 
 }  // namespace msgbox

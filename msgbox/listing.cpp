@@ -50,7 +50,16 @@ void frmMyMsgBox::ListView1_Click() {
         ListView1.set_small_icon(row, row == ListView1.selected_item() ? OPEN_FOLDER : CLOSED_FOLDER);
 }
 
+/// Whether the rows are the category's. After a listing that failed they are those of another one, whose
+/// titles may well be files in this one too: then nothing is done to them, and the category is listed anew.
+bool frmMyMsgBox::lists(const Text& category) {
+    if (listed_category_ == category) return true;
+    ListView1_Click();
+    return false;
+}
+
 void frmMyMsgBox::MESSAGE_LIST_LOAD(const Text& category) {
+    listed_category_.reset();
     std::optional<platform::RuntimeError> failure;
     {
         const core::BusyPointer busy(platform_.desktop);
@@ -58,6 +67,7 @@ void frmMyMsgBox::MESSAGE_LIST_LOAD(const Text& category) {
         failure = std::move(content.failure);
 
         ListView2.clear();
+        listed_category_ = category;
         for (Message& message : content.messages) {
             ListView2.add_row(std::move(message.title),
                               {platform::trim(platform::replace_all(message.body, platform::CRLF, u" ")),

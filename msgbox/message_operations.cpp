@@ -57,7 +57,7 @@ void frmMyMsgBox::Command1_Click() {
 
 void frmMyMsgBox::Command2_Click() {
     const auto category = selected_category();
-    if (ListView2.row_count() == 0 || !category) return;
+    if (ListView2.row_count() == 0 || !category || !lists(*category)) return;
     const auto row = ListView2.selected_item();
     if (!row) {
         core::warn(platform_.desktop, u"수정할 자료를 먼저 선택하세요!");
@@ -67,7 +67,8 @@ void frmMyMsgBox::Command2_Click() {
     const Text old_title = ListView2.row(*row).text();
     const Text title = Text1.text();
     const Text body = txtText.text();
-    if (platform::trim(old_title) != platform::trim(title) && is_saved(*category, title)) {
+    // Two titles that a blank alone tells apart are two messages, too.
+    if (old_title != title && is_saved(*category, title)) {
         platform_.desktop.message_box({.text = u"'" + title + u"' 제목은 이미 존재하고 있습니다."});
         return;
     }
@@ -88,7 +89,7 @@ void frmMyMsgBox::Command2_Click() {
 
 void frmMyMsgBox::Command3_Click() {
     const auto category = selected_category();
-    if (ListView2.row_count() == 0 || !category) return;
+    if (ListView2.row_count() == 0 || !category || !lists(*category)) return;
     const auto row = ListView2.selected_item();
     if (!row) {
         core::warn(platform_.desktop, u"삭제할 자료를 먼저 선택하세요!");

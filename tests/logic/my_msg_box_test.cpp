@@ -183,6 +183,33 @@ TEST_F(MyMsgBox, SavesAnEditInPlaceOfTheOldMessage) {
     EXPECT_EQ(saved(FIRST, u"가") + " " + saved(FIRST, u"다라"), "none 새 글\r\n끝");
     EXPECT_EQ(utf8(box().ListView2.row(0).text()), "다라");
     EXPECT_EQ(saved(FIRST, u"나"), "other");
+
+    put(FIRST, u"나 ", "with a blank");
+    open();
+    choose(box().ListView2, 0);
+    ASSERT_EQ(utf8(box().Text1.text()), "나 ");
+    desktop.expect_box(u"'나' 제목은 이미 존재하고 있습니다.");
+    box().Command2.Click.raise();
+    EXPECT_EQ(saved(FIRST, u"나") + ", " + saved(FIRST, u"나 "), "other, with a blank");
+}
+
+TEST_F(MyMsgBox, RowsThatACategoryThatCouldNotBeListedLeftBehindAreNotTouched) {
+    put(FIRST, u"가", "theirs");
+    put(u"거래처", u"가", "ours");
+    open();
+    files.links.insert(ROOT + u"\\거래처");
+    desktop.expect_box(u"오류번호:75");
+    choose(box().ListView1, 1);
+    choose(box().ListView2, 0);
+    for (platform::CommandButton* button : {&box().Command2, &box().Command3}) {
+        desktop.expect_box(u"오류번호:75");
+        button->Click.raise();
+        EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(msgbox::MESSAGE_BODY)), "theirs");
+    }
+    files.links.clear();
+    box().Command3.Click.raise();
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(msgbox::MESSAGE_BODY)), "ours");
+    EXPECT_EQ(saved(FIRST, u"가") + ", " + saved(u"거래처", u"가"), "theirs, ours");
 }
 
 TEST_F(MyMsgBox, AnEditThatCannotBeWrittenStaysInTheRowAndInTheFields) {
