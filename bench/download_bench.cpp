@@ -37,7 +37,7 @@ int download(int argc, char** argv) {
     platform::posix::PosixFiles files{platform::posix::Paths(argv[2])};
     platform::qt::QtClock clock;
     platform::qt::QtInternet internet(
-        {.header_milliseconds = 60'000, .answer_milliseconds = 600'000, .body_bytes = LARGE});
+        {.silence_milliseconds = 60'000, .answer_milliseconds = 600'000, .body_bytes = LARGE});
     TestPlatform doubles;
     platform::Platform machine{.desktop = doubles.desktop,
                                .clock = clock,

@@ -7,12 +7,16 @@
 
 namespace platform::qt {
 
-/// What one answer may take: nobody should wait for a server that plays for time, or find the disk full of
-/// what it sends. The longest list of an update has some 30 KB, which the slowest line brings in ten seconds;
-/// a proxy or a cellular link may think half a minute before the first byte. The time counts for the answer
-/// as a whole and not from byte to byte, or a byte a second would be waited for all day.
+/// What one answer may take: nobody should wait for a server that plays for time, or find the memory or the
+/// disk full of what it sends.
 struct TransferLimits {
-    int header_milliseconds = 30'000;
+    /// Without the whole header, and afterwards without a byte of the body. A proxy or a cellular link may
+    /// think for some seconds. The toolkit keeps a header until its end and only then finds one of megabytes
+    /// too large, whose fields it drops: what a header may cost in memory is what the line brings in this
+    /// time, and it is given back with the connection.
+    int silence_milliseconds = 10'000;
+    /// For the answer as a whole, or a byte a second would be waited for all day. The slowest line brings the
+    /// longest list of an update, some 30 KB, in ten seconds.
     int answer_milliseconds = 60'000;
     std::size_t body_bytes = 1024 * 1024;
 };

@@ -4,6 +4,7 @@
 
 #include "platform/qt/network/qt_internet.h"
 #include "tests/network/event_clock.h"
+#include "tests/network/secure_server.h"
 #include "tests/support/http_server.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/test_platform.h"
@@ -39,9 +40,10 @@ struct DownloadBench : TestPlatform {
     void write(const std::string& event) { log += event + "\n"; }
 
     /// The events of a transfer from the server.
-    std::string run(const HttpServer& server) {
+    std::string run(const HttpServer& server) { return run(server.url()); }
+    std::string run(const Text& url) {
         log.clear();
-        control.set_url(server.url());
+        control.set_url(url);
         control.GetFileInformation();
         control.download();
         return log;
@@ -94,6 +96,7 @@ TEST(DownloadEvents, AreTheseForEachAnswer) {
     const std::string page = "<html>";
     // Without a file the time since midnight is what it has taken, and the first percentage ends it.
     const std::string first_chunk_of_page = "Rate 0 Byte\nTimeLeft -10 시 0 분\nRecievedBytes 6\n";
+    const char* first_chunk_of_found_page = "Rate 6 Byte\nTimeLeft 0 시 0 분\nRecievedBytes 6\n";
     const struct {
         const char* name;
         std::string sent;
@@ -117,8 +120,10 @@ TEST(DownloadEvents, AreTheseForEachAnswer) {
         {"500 without a page", answer("500 Broken", ""), ASKED + std::string(MISSING) + RECEIVING + FAILED},
         {"an empty file", answer("200 OK", ""), ASKED + std::string(FOUND) + RECEIVING + FAILED},
         {"no length", "HTTP/1.1 200 OK\r\n\r\n" + page,
-         ASKED + std::string(BAD_HEADER) + RECEIVING + "Rate 6 Byte\nTimeLeft 0 시 0 분\nRecievedBytes 6\n" +
-             FAILED},
+         ASKED + std::string(BAD_HEADER) + RECEIVING + first_chunk_of_found_page + FAILED},
+        {"a header of ten megabytes",
+         "HTTP/1.1 200 OK\r\nX: " + std::string(10'000'000, 'x') + "\r\nContent-Length: 6\r\n\r\n" + page,
+         ASKED + std::string(BAD_HEADER) + RECEIVING + first_chunk_of_found_page + FAILED},
         {"too long a length", answer("200 OK", "a", 99'999'999'999),
          ASKED + std::string(BAD_HEADER) + RECEIVING + FAILED},
         {"closed in the middle", answer("200 OK", kilobyte + "half", 2048),
@@ -133,17 +138,51 @@ TEST(DownloadEvents, AreTheseForEachAnswer) {
     }
 }
 
-TEST(DownloadEvents, AServerThatPlaysForTimeFailsLikeOneThatIsNotThere) {
-    DownloadBench bench({.header_milliseconds = 20, .answer_milliseconds = 20, .body_bytes = 1000});
-    HttpServer silent([](HttpClient& client) { client.wait_until_gone(); });
-    EXPECT_EQ(bench.run(silent), ASKED + std::string(BAD_HEADER) + RECEIVING + FAILED);
-    DownloadBench patient({.header_milliseconds = 20'000, .answer_milliseconds = 20'000, .body_bytes = 1500});
-    HttpServer endless(HttpServer::sending(answer("200 OK", std::string(3000, 'x'))));
-    EXPECT_EQ(patient.run(endless), ASKED + std::string(FOUND) + RECEIVING + FAILED)
-        << "nothing of what is too large";
+TEST(DownloadEvents, AServerThatPlaysForTimeOrSizeFailsLikeOneThatIsNotThere) {
+    constexpr int AT_ONCE = 20, SOON = 500, NEVER = 100'000;
+    const std::string kilobyte(1024, 'k');
+    const std::string first_chunk =
+        ASKED + std::string(FOUND) + RECEIVING + progress("1 KB", "1 초", 1024, 50);
+    const struct {
+        const char* name;
+        qt::TransferLimits limits;
+        std::string sent;
+        std::string events;
+    } rows[] = {
+        {"nothing",
+         {.silence_milliseconds = AT_ONCE},
+         "",
+         ASKED + std::string(BAD_HEADER) + RECEIVING + FAILED},
+        {"half the body",
+         {.silence_milliseconds = SOON},
+         answer("200 OK", kilobyte + "half", 2048),
+         first_chunk + FAILED},
+        {"half the body, and all the patience",
+         {.silence_milliseconds = NEVER, .answer_milliseconds = SOON},
+         answer("200 OK", kilobyte + "half", 2048),
+         first_chunk + FAILED},
+        {"more than the limit",
+         {.silence_milliseconds = NEVER, .answer_milliseconds = NEVER, .body_bytes = 1500},
+         answer("200 OK", std::string(3000, 'x')),
+         ASKED + std::string(FOUND) + RECEIVING + FAILED},
+    };
+    for (const auto& row : rows) {
+        DownloadBench bench(row.limits);
+        HttpServer server([&](HttpClient& client) {
+            client.send(row.sent);
+            client.wait_until_gone();
+        });
+        EXPECT_EQ(bench.run(server), row.events) << row.name;
+    }
 }
 
-TEST(DownloadEvents, ACancelEndsTheWaitForTheHeader) {
+TEST(DownloadEvents, ACertificateThatDoesNotHoldFailsTheHeader) {
+    DownloadBench bench;
+    const tests::SecureServer server;
+    EXPECT_EQ(bench.run(server.url()), ASKED + std::string(BAD_HEADER) + RECEIVING + FAILED);
+}
+
+TEST(DownloadEvents, ACancelEndsTheWaitForTheHeaderAndWhoDownloadsAllTheSameFails) {
     DownloadBench bench;
     HttpServer silent([](HttpClient& client) { client.wait_until_gone(); });
     bench.control.set_url(silent.url());
@@ -153,6 +192,20 @@ TEST(DownloadEvents, ACancelEndsTheWaitForTheHeader) {
               "StatusChange 서버에 접속중.\nStatusChange Cancelling..\n"
               "StatusChange 파일의 정보를 읽습니다.\nDLECode 4\nStatusChange 에러.\n");
     EXPECT_TRUE(bench.files.files.empty());
+    bench.log.clear();
+    bench.control.download();
+    EXPECT_EQ(bench.log, RECEIVING + std::string(FAILED));
+}
+
+TEST(DownloadEvents, ACancelBeforeTheStartIsHeardOnceTheHeaderIsThere) {
+    DownloadBench bench;
+    bench.control.Cancel();
+    HttpServer server(HttpServer::sending(answer("200 OK", "new")));
+    bench.control.set_url(server.url());
+    bench.log.clear();
+    bench.control.GetFileInformation();
+    EXPECT_EQ(bench.log, ASKED + std::string("DLECode 4\nStatusChange 에러.\n"));
+    EXPECT_FALSE(bench.control.file_exists());
 }
 
 TEST(DownloadEvents, ACancelEndsTheWaitForTheRestAndIsHeardBetweenTwoChunks) {

@@ -1,15 +1,13 @@
 #include "platform/error.h"
 #include "platform/qt/network/qt_internet.h"
 #include "tests/network/event_clock.h"
+#include "tests/network/secure_server.h"
 #include "tests/support/http_server.h"
 #include "tests/support/utf8.h"
 
-#include <QFile>
-#include <QSslConfiguration>
-#include <QSslKey>
-#include <QSslServer>
-#include <QSslSocket>
 #include <QTimer>
+#include <atomic>
+#include <future>
 #include <gtest/gtest.h>
 
 namespace {
@@ -20,8 +18,8 @@ using tests::HttpServer;
 using tests::utf8;
 
 constexpr int SOON = 50;
-constexpr qt::TransferLimits SHORT{
-    .header_milliseconds = SOON, .answer_milliseconds = SOON, .body_bytes = 5000};
+constexpr int NEVER = 100'000;
+constexpr std::size_t ANY_SIZE = 1'000'000'000;
 
 /// The number of the RuntimeError that the step raises, 0 without one.
 template <class Step>
@@ -136,28 +134,48 @@ TEST_F(Transfers, ALengthThatIsTooShortEndsTheBodyAndOneThatIsMissingTheConnecti
 }
 
 TEST_F(Transfers, EndWhenTheyTakeTooLong) {
-    const std::function<void(HttpClient&)> servers[] = {
-        [](HttpClient& client) { client.wait_until_gone(); },
-        [](HttpClient& client) {
-            client.send("HTTP/1.1 200 OK\r\nX: " + std::string(100'000, 'x'));
-            client.wait_until_gone();
-        },
-        [](HttpClient& client) {
-            client.send("HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\na");
-            client.wait_until_gone();
-        },
+    constexpr qt::TransferLimits SILENCE{
+        .silence_milliseconds = SOON, .answer_milliseconds = NEVER, .body_bytes = ANY_SIZE};
+    constexpr qt::TransferLimits WHOLE{
+        .silence_milliseconds = NEVER, .answer_milliseconds = SOON, .body_bytes = ANY_SIZE};
+    const struct {
+        const char* name;
+        qt::TransferLimits limits;
+        std::string sent;
+        /// What comes again and again.
+        std::string endless;
+    } rows[] = {
+        {"nothing", SILENCE, "", ""},
+        {"half a header", SILENCE, "HTTP/1.1 200 OK\r\nX: " + std::string(100'000, 'x'), ""},
+        {"a header without an end", SILENCE, "HTTP/1.1 200 OK\r\nX: ", std::string(65'536, 'x')},
+        {"nothing of the body", SILENCE, "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\n", ""},
+        {"half the body", SILENCE, "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\na", ""},
+        {"the length of a piece without an end", SILENCE,
+         "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n1\r\na\r\n1;", std::string(65'536, 'x')},
+        {"a byte now and then", WHOLE, "HTTP/1.1 200 OK\r\nContent-Length: 999999999\r\n\r\n", "x"},
     };
-    qt::QtInternet impatient(SHORT);
-    for (const auto& answer : servers) {
-        HttpServer server(answer);
+    for (const auto& row : rows) {
+        std::promise<void> gone;
+        std::atomic<bool> came = false;
+        HttpServer server([&](HttpClient& client) {
+            if (came.exchange(true)) return;
+            client.send(row.sent);
+            while (!row.endless.empty() && client.send(row.endless)) {
+            }
+            client.wait_until_gone();
+            gone.set_value();
+        });
+        qt::QtInternet impatient(row.limits);
         const auto bounded = impatient.make_transfer();
-        EXPECT_EQ(error_of([&] { bounded->open_url(server.url(), 100); }), TIMED_OUT);
+        EXPECT_EQ(error_of([&] { bounded->open_url(server.url(), ANY_SIZE); }), TIMED_OUT) << row.name;
         EXPECT_EQ(error_of([&] { bounded->chunk(1); }), TIMED_OUT) << "nobody waits twice";
+        EXPECT_EQ(gone.get_future().wait_for(std::chrono::seconds(20)), std::future_status::ready)
+            << row.name << ": nobody reads on";
     }
 }
 
 TEST_F(Transfers, EndWhenTheBodyIsTooLargeAndAGetMayBeCut) {
-    qt::QtInternet narrow({.header_milliseconds = 20'000, .answer_milliseconds = 20'000, .body_bytes = 5000});
+    qt::QtInternet narrow({.silence_milliseconds = NEVER, .answer_milliseconds = NEVER, .body_bytes = 5000});
     HttpServer endless([](HttpClient& client) {
         client.send("HTTP/1.1 200 OK\r\n\r\n");
         while (client.send(std::string(1000, 'x'))) {
@@ -182,35 +200,20 @@ TEST_F(Transfers, CanBeGivenUpWhileSomebodyWaits) {
     EXPECT_EQ(transfer->open_url(server.url(), 100), "ok") << "the next one starts anew";
 }
 
-/// A server that answers one request behind a certificate that nobody but this test has signed.
-struct SecureServer {
-    SecureServer() {
-        QFile certificate_file(QStringLiteral(ZENT_FIXTURES "/tls/loopback.pem"));
-        QFile key_file(QStringLiteral(ZENT_FIXTURES "/tls/loopback.key"));
-        if (!certificate_file.open(QIODevice::ReadOnly) || !key_file.open(QIODevice::ReadOnly))
-            throw std::runtime_error("no certificate");
-        certificate = QSslCertificate(&certificate_file);
-        QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
-        configuration.setLocalCertificate(certificate);
-        configuration.setPrivateKey(QSslKey(&key_file, QSsl::Ec));
-        server.setSslConfiguration(configuration);
-        QObject::connect(&server, &QTcpServer::pendingConnectionAvailable, [this] {
-            auto* client = server.nextPendingConnection();
-            QObject::connect(client, &QTcpSocket::readyRead, client, [client] {
-                if (!client->readAll().contains("\r\n\r\n")) return;
-                client->write("HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\nsecret");
-            });
-        });
-        if (!server.listen(QHostAddress::LocalHost)) throw std::runtime_error("no server");
-    }
-    Text url() const { return u"https://127.0.0.1:" + decimal(server.serverPort()) + u"/"; }
-
-    QSslCertificate certificate;
-    QSslServer server;
-};
+TEST_F(Transfers, GoThroughTheSystemsProxy) {
+    std::string request;
+    HttpServer proxy([&](HttpClient& client) {
+        request = client.request;
+        client.send("HTTP/1.1 200 OK\r\nContent-Length: 3\r\n\r\nfar");
+    });
+    qputenv("http_proxy", utf8(proxy.url(u"")).c_str());
+    EXPECT_EQ(transfer->open_url(u"http://far.example/update.ini", 100), "far");
+    qunsetenv("http_proxy");
+    EXPECT_TRUE(request.starts_with("GET http://far.example/update.ini HTTP/1.1\r\n")) << request;
+}
 
 TEST_F(Transfers, AreSecureWhereTheAddressSaysSoAndTheCertificateHolds) {
-    const SecureServer server;
+    const tests::SecureServer server;
     EXPECT_EQ(error_of([&] { transfer->open_url(server.url(), 100); }), NOT_COMPLETED);
 
     const QSslConfiguration before = QSslConfiguration::defaultConfiguration();

@@ -66,10 +66,11 @@ bool is_broken(QNetworkReply::NetworkError error) {
 }  // namespace
 
 QtTransfer::QtTransfer(QtInternet& internet) : internet_(internet) {
-    header_timer_.setSingleShot(true);
+    silence_timer_.setSingleShot(true);
     answer_timer_.setSingleShot(true);
-    QObject::connect(&header_timer_, &QTimer::timeout, &header_timer_, [this] {
-        if (still_executing()) fail(ErrorNumber::request_timed_out);
+    QObject::connect(&silence_timer_, &QTimer::timeout, &silence_timer_, [this] {
+        const bool something_lies_here = reply_ != nullptr && reply_->bytesAvailable() > 0;
+        if (!has_ended() && !something_lies_here) fail(ErrorNumber::request_timed_out);
     });
     QObject::connect(&answer_timer_, &QTimer::timeout, &answer_timer_,
                      [this] { fail(ErrorNumber::request_timed_out); });
@@ -88,12 +89,13 @@ void QtTransfer::execute(const Text& url) {
     reply_->setReadBufferSize(READ_AHEAD);
     listener_ = std::make_unique<QObject>();
     const auto wake = [this] {
+        silence_timer_.start();
         if (waiting_ != nullptr) waiting_->quit();
     };
     QObject::connect(reply_, &QNetworkReply::metaDataChanged, listener_.get(), wake);
     QObject::connect(reply_, &QNetworkReply::readyRead, listener_.get(), wake);
     QObject::connect(reply_, &QNetworkReply::finished, listener_.get(), wake);
-    header_timer_.start(internet_.limits().header_milliseconds);
+    silence_timer_.start(internet_.limits().silence_milliseconds);
     answer_timer_.start(internet_.limits().answer_milliseconds);
 }
 
@@ -187,14 +189,11 @@ void QtTransfer::fail(ErrorNumber failure) {
 }
 
 void QtTransfer::drop_reply() {
-    header_timer_.stop();
+    silence_timer_.stop();
     answer_timer_.stop();
     listener_.reset();
     if (reply_ == nullptr) return;
-    if (!reply_->isFinished()) {
-        reply_->abort();
-        internet_.abandon_manager();
-    }
+    if (!reply_->isFinished()) reply_->abort();
     reply_->deleteLater();
     reply_ = nullptr;
 }

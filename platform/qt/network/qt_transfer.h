@@ -43,7 +43,7 @@ class QtTransfer : public Transfer {
     QNetworkReply* reply_ = nullptr;
     /// Ends the connections to a reply that is dropped.
     std::unique_ptr<QObject> listener_;
-    QTimer header_timer_;
+    QTimer silence_timer_;
     QTimer answer_timer_;
     QEventLoop* waiting_ = nullptr;
     /// Why nothing more is to be had, other than by what the server did.
