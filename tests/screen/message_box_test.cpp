@@ -106,10 +106,15 @@ TEST_F(MessageBoxWindow, AddsRenamesAndRemovesACategory) {
         EXPECT_EQ(names_in(root), (std::set<std::string>{"내모음함", "거래처"}));
         EXPECT_EQ(row_text(window, "ListView1", 1), QStringLiteral("거래처"));
         type_title_and_body(window, "하나", "글");
-        press(window, "Command1");
+        QTest::keyClick(window.focusWidget(), Qt::Key_S, Qt::ControlModifier);
     });
     in_message(Qt::Key_Return);
-    in_box([](QWidget& window) { press(window, "Command7"); });
+    in_box([](QWidget& window) {
+        // A field is no row to rename.
+        QTest::keyClick(window.focusWidget(), Qt::Key_F2);
+        list(window, "ListView1").setFocus();
+        QTest::keyClick(window.focusWidget(), Qt::Key_F2);
+    });
     user.in_window("inputBox", [](QWidget& window) {
         type_into(window, "answer", QStringLiteral("고객"));
         QTest::keyClick(window.focusWidget(), Qt::Key_Return);
