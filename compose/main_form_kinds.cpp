@@ -28,6 +28,11 @@ void frmZent::connect_kinds() {
     Toolbar1.ButtonClick.connect([this](int index) { Toolbar1_ButtonClick(index); });
     STBar1.MouseDown.connect([this](platform::MouseButton button) { status_bar_button_ = button; });
     STBar1.PanelClick.connect([this](int panel) { STBar1_PanelClick(panel); });
+    // The panels are blank until the first log-in, and say later what they show, not what they do.
+    STBar1.set_panel_tool_tip(1, u"로그인하기");
+    STBar1.set_panel_tool_tip(2, u"가입자 정보변경");
+    STBar1.set_panel_tool_tip(3, u"팩스수신");
+    STBar1.set_panel_tool_tip(4, Text(core::APPLICATION_TITLE) + u" 정보");
     Command3.Click.connect([this] { Command3_Click(); });
     Command5.Click.connect([this] { Command5_Click(); });
     // What is said from now on is not meant for the message.

@@ -56,8 +56,7 @@ void StatusBarBinder::show_panels() {
         panel.setText(to_qstring(shown.text));
         panel.setToolTip(to_qstring(shown.tool_tip));
         panel.setIcon(icon_of_list(bar_, "pictures", shown.picture));
-        const Text& name = shown.text.empty() ? shown.tool_tip : shown.text;
-        panel.setAccessibleName(name.empty() ? QStringLiteral("상태 %1").arg(number) : to_qstring(name));
+        panel.setAccessibleName(to_qstring(shown.text.empty() ? shown.tool_tip : shown.text));
     }
 }
 
