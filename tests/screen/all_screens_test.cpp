@@ -24,6 +24,7 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QTabBar>
+#include <QTest>
 #include <QTreeView>
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -195,6 +196,33 @@ TEST(AllScreens, show_the_main_window_whole_at_its_smallest) {
         }
     }
     form.unload();
+    settle();
+}
+
+TEST(AllScreens, have_the_emoticons_as_one_stop_in_which_arrows_move) {
+    System system;
+    system.main.show();
+    system.main.TabStrip1.select(compose::TEXT_MESSAGE);
+    settle();
+    QWidget& window = window_of(system.main);
+    const auto emoticon = [&](int index) {
+        return window.findChild<QWidget*>(QStringLiteral("mBttn1_%1").arg(index));
+    };
+    emoticon(27)->setFocus();
+    QTest::keyClick(window.focusWidget(), Qt::Key_Right);
+    EXPECT_EQ(window.focusWidget(), emoticon(26));
+    QTest::keyClick(window.focusWidget(), Qt::Key_Down);
+    EXPECT_EQ(window.focusWidget(), emoticon(24));
+    QTest::keyClick(window.focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(platform::to_utf8(system.main.mText1.text()), "(^0^) (~0~)[]");
+    EXPECT_EQ(window.focusWidget()->objectName(), "mBttn1_24");
+    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(window.focusWidget()->objectName(), "MySave");
+    for (int panel = 1; panel <= 3; ++panel) {
+        const auto* status = window.findChild<QWidget*>(QStringLiteral("STBar1_%1").arg(panel));
+        EXPECT_FALSE(status->accessibleName().isEmpty()) << "blank before the first log-in: panel " << panel;
+    }
+    system.main.unload();
     settle();
 }
 
