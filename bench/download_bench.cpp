@@ -39,15 +39,8 @@ int download(int argc, char** argv) {
     platform::qt::QtInternet internet(
         {.silence_milliseconds = 60'000, .answer_milliseconds = 600'000, .body_bytes = LARGE});
     TestPlatform doubles;
-    platform::Platform machine{.desktop = doubles.desktop,
-                               .clock = clock,
-                               .files = files,
-                               .settings = doubles.settings,
-                               .shell = doubles.shell,
-                               .carrier = doubles.carrier,
-                               .cards = doubles.cards,
-                               .recorder = doubles.recorder,
-                               .internet = internet};
+    platform::Platform machine =
+        tests::with(doubles.platform, {.clock = &clock, .files = &files, .internet = &internet});
     update::Download control(machine);
     bool complete = false;
     std::size_t heard = 0;

@@ -90,15 +90,7 @@ int main(int argc, char** argv) {
     TestPlatform machine;
     const auto screens = platform::qt::program_screens();
     WatchedDesktop desktop(screens, disk.files);
-    platform::Platform platform{.desktop = desktop,
-                                .clock = machine.clock,
-                                .files = disk.files,
-                                .settings = machine.settings,
-                                .shell = machine.shell,
-                                .carrier = machine.carrier,
-                                .cards = machine.cards,
-                                .recorder = machine.recorder,
-                                .internet = machine.internet};
+    platform::Platform platform = tests::with(machine.platform, {.desktop = &desktop, .files = &disk.files});
     core::make_message_box_folders(platform);
     const fs::path category = disk.application / "내모음함/내모음함";
     write_messages(category);

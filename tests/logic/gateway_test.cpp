@@ -75,15 +75,7 @@ struct Wrappers : testing::Test, TestPlatform {
     }
 
     ScribblingCarrier library;
-    platform::Platform machine{.desktop = desktop,
-                               .clock = clock,
-                               .files = files,
-                               .settings = settings,
-                               .shell = shell,
-                               .carrier = library,
-                               .cards = cards,
-                               .recorder = recorder,
-                               .internet = internet};
+    platform::Platform machine = tests::with(platform, {.carrier = &library});
     Gateway carrier_gateway{machine, state};
 
     struct Wrapper {

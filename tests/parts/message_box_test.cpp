@@ -39,15 +39,7 @@ class MessageBoxOnDisk : public testing::Test, protected tests::FilesOnDisk {
 
     TestPlatform machine;
     ScriptedDesktop& desktop = machine.desktop;
-    platform::Platform platform{.desktop = desktop,
-                                .clock = machine.clock,
-                                .files = files,
-                                .settings = machine.settings,
-                                .shell = machine.shell,
-                                .carrier = machine.carrier,
-                                .cards = machine.cards,
-                                .recorder = machine.recorder,
-                                .internet = machine.internet};
+    platform::Platform platform = tests::with(machine.platform, {.files = &files});
     compose::frmZent main{platform, machine.state, {}};
     msgbox::frmMyMsgBox box{platform, main};
     const fs::path root = application / "내모음함";

@@ -23,15 +23,7 @@ struct PickerCards : testing::Test, TestPlatform {
     tests::CardsOnDisk disk;
     const std::string folder = disk.folder.path().string();
     platform::posix::PosixFiles files_on_disk{platform::posix::Paths(folder), folder + "/windows"};
-    platform::Platform machine{.desktop = desktop,
-                               .clock = clock,
-                               .files = files_on_disk,
-                               .settings = settings,
-                               .shell = shell,
-                               .carrier = carrier,
-                               .cards = disk.source,
-                               .recorder = recorder,
-                               .internet = internet};
+    platform::Platform machine = tests::with(platform, {.files = &files_on_disk, .cards = &disk.source});
     compose::frmZent form{machine, state, {}};
 
     void pick(const std::string& database, const std::function<void(frmSendMan&)>& act) {

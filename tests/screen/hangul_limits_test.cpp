@@ -2,13 +2,11 @@
 
 #include "compose/main_form.h"
 #include "core/common.h"
-#include "platform/ini/ini_settings.h"
 #include "platform/qt/message_edit.h"
 #include "platform/qt/text_conversion.h"
 #include "send/send_check.h"
 #include "tests/screen/program_fixture.h"
 #include "tests/screen/screen_fixture.h"
-#include "tests/support/recording_carrier.h"
 #include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
 
@@ -131,24 +129,10 @@ struct Draft {
     BoxPlayer boxes;
     platform::qt::Screens screens = platform::qt::program_screens();
     HastyClock clock;
-    MemoryFiles files;
-    platform::IniSettings settings{files};
-    RecordingShell shell;
-    RecordingCarrier carrier;
-    ScriptedCards cards;
-    ScriptedRecorder recorder;
-    ScriptedInternet internet;
-    platform::qt::QtDesktop desktop{screens, files};
-    platform::Platform platform{.desktop = desktop,
-                                .clock = clock,
-                                .files = files,
-                                .settings = settings,
-                                .shell = shell,
-                                .carrier = carrier,
-                                .cards = cards,
-                                .recorder = recorder,
-                                .internet = internet};
-    core::AppState state;
+    TestPlatform machine;
+    platform::qt::QtDesktop desktop{screens, machine.files};
+    platform::Platform platform = with(machine.platform, {.desktop = &desktop, .clock = &clock});
+    core::AppState& state = machine.state;
     InputMethod method;
     int kind;
     compose::frmZent form{platform,
@@ -476,7 +460,7 @@ class HangulSending : public HangulLimits {
 
     static std::vector<Text> sent(const Draft& draft) {
         std::vector<Text> texts;
-        for (const auto& registration : draft.carrier.registrations)
+        for (const auto& registration : draft.machine.carrier.registrations)
             texts.push_back(registration.s_sms_content);
         return texts;
     }

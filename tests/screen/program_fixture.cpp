@@ -1,5 +1,7 @@
 #include "tests/screen/program_fixture.h"
 
+#include "tests/support/other_ports.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QInputMethodEvent>
@@ -25,18 +27,6 @@ QWidget& find(QWidget& window, const char* name) {
     auto* found = window.findChild<QWidget*>(QString::fromLatin1(name));
     if (found == nullptr) throw std::logic_error(name);
     return *found;
-}
-
-platform::Platform with(platform::Recorder* microphone, const platform::Platform& machine) {
-    return {.desktop = machine.desktop,
-            .clock = machine.clock,
-            .files = machine.files,
-            .settings = machine.settings,
-            .shell = machine.shell,
-            .carrier = machine.carrier,
-            .cards = machine.cards,
-            .recorder = microphone != nullptr ? *microphone : machine.recorder,
-            .internet = machine.internet};
 }
 
 }  // namespace
@@ -70,7 +60,8 @@ void WindowPlayer::look() {
     step.act(*window);
 }
 
-ProgramTest::ProgramTest(platform::Recorder* microphone) : platform(with(microphone, machine.platform)) {
+ProgramTest::ProgramTest(platform::Recorder* microphone)
+    : platform(with(machine.platform, {.recorder = microphone})) {
     namespace fs = std::filesystem;
     fs::copy_file(CARRIER_LIBRARY, folder.path() / "x_msggate_d.so");
     fs::copy_file(CARRIER_INI, folder.path() / "carrier.ini");

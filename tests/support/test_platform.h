@@ -4,6 +4,7 @@
 #include "platform/ini/ini_settings.h"
 #include "platform/ports/platform.h"
 #include "tests/support/memory_files.h"
+#include "tests/support/other_ports.h"
 #include "tests/support/recording_carrier.h"
 #include "tests/support/scripted_cards.h"
 #include "tests/support/scripted_desktop.h"
@@ -37,22 +38,20 @@ struct TestPlatform {
     ScriptedCards cards;
     ScriptedRecorder recorder;
     ScriptedInternet internet;
-    platform::Platform platform = on(desktop);
+    platform::Platform platform{.desktop = desktop,
+                                .clock = clock,
+                                .files = files,
+                                .settings = settings,
+                                .shell = shell,
+                                .carrier = carrier,
+                                .cards = cards,
+                                .recorder = recorder,
+                                .internet = internet};
     core::AppState state;
 
     platform::Text app_ini = u"z:\\app\\zent.ini";
     platform::Text login_ini = u"z:\\windows\\zent.ini";
 
     /// The same machine with another desktop.
-    platform::Platform on(platform::Desktop& other) {
-        return {.desktop = other,
-                .clock = clock,
-                .files = files,
-                .settings = settings,
-                .shell = shell,
-                .carrier = carrier,
-                .cards = cards,
-                .recorder = recorder,
-                .internet = internet};
-    }
+    platform::Platform on(platform::Desktop& other) { return tests::with(platform, {.desktop = &other}); }
 };
