@@ -7,7 +7,8 @@ namespace platform::qt {
 /// The network by the module beside the program, which is loaded for the first transfer.
 class LazyInternet : public Internet {
   public:
-    /// Raises RuntimeError 48 when the module is missing or does not fit.
+    /// When the module is missing or does not fit, nothing is within reach: whatever is asked of the transfer
+    /// raises RuntimeError 48.
     std::unique_ptr<Transfer> make_transfer() override;
 
   private:
