@@ -18,7 +18,9 @@ struct TransferLimits {
     /// For the answer as a whole, or a byte a second would be waited for all day. The slowest line brings the
     /// longest list of an update, some 30 KB, in ten seconds.
     int answer_milliseconds = 60'000;
-    std::size_t body_bytes = 1024 * 1024;
+    /// Four of the longest lists. Each of a list's hundred entries is looked for from its start, and the
+    /// window should not stand meanwhile.
+    std::size_t body_bytes = 128 * 1024;
 };
 
 /// The network of the toolkit. Its library brings a dozen others along, so it is a module of its own that
