@@ -6,6 +6,8 @@
 #include "platform/error.h"
 #include "update/manifest.h"
 
+#include <algorithm>
+
 namespace update {
 
 using platform::BooleanWord;
@@ -35,7 +37,10 @@ Text target_path(const platform::Platform& platform, const platform::ListItem& f
     } else if (!platform::equal_without_case(trimmed, u"apppath")) {
         folder += u"\\" + kind;
     }
-    return folder + u"\\" + file.sub_item(FILE_NAME);
+    Text path = folder + u"\\" + file.sub_item(FILE_NAME);
+    // Whoever writes a list writes web addresses in it too. Under its slashes no file would ever be found.
+    std::ranges::replace(path, u'/', u'\\');
+    return path;
 }
 
 }  // namespace
@@ -120,7 +125,7 @@ BooleanWord frmUpdate::DOWN_UPDATE_INI() {
     const Text address = core::INI_READ(platform_, facts, u"SERVER_1", u"HTTPFILE");
     if (platform::trim(address).empty()) return false;
     platform_.desktop.yield();
-    fetch_ini(address);
+    if (!given_up_) fetch_ini(address);
     if (!core::FILE_EXISTS(platform_, fetched_ini())) return false;
     DOWN_UPDATE_INI_LOAD();
 
@@ -144,7 +149,7 @@ void frmUpdate::fetch_ini(const Text& address) {
     if (!platform_.files.folder_exists(folder)) platform_.files.make_folder(folder);
     DownLoad1.set_save_location(fetched_ini());
     DownLoad1.GetFileInformation();
-    DownLoad1.download();
+    if (!given_up_) DownLoad1.download();
 }
 
 Text frmUpdate::fetched_ini() const {

@@ -2,6 +2,7 @@
 
 #include "tests/support/updates.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -65,6 +66,7 @@ TEST(UpdateDecision, LooksForAFileWhereItsKindSays) {
         {"resource", "a.dll", u"z:\\app\\resource\\a.dll"},
         {" sub", "a.dll", u"z:\\app\\ sub\\a.dll"},
         {"", "a.dll", u"z:\\app\\a.dll"},
+        {"data/new", "sub/a.dll", u"z:\\app\\data\\new\\sub\\a.dll"},
         {"..\\..", "etc\\passwd", u"z:\\app\\..\\..\\etc\\passwd"},
         {"apppath", "c:\\a.dll", u"z:\\app\\c:\\a.dll"},
     };
@@ -204,18 +206,22 @@ TEST_F(UpdateCheck, KeepsItsFileInItsFolderAndClearsBothAway) {
 }
 
 TEST_F(UpdateCheck, ClosingTheWindowGivesItUpWhereverItWaits) {
-    // Waits for the server's bytes, for the list's header twice, for its bytes, and for their end.
-    for (int wait = 1; wait <= 5; ++wait) {
+    // Waits for the server's bytes, gives the windows a turn, waits for the list's header twice, for its
+    // bytes, and for their end.
+    for (int wait = 1; wait <= 6; ++wait) {
         tests::Updates updates;
         updates.install("1");
         updates.offer(entry(1, "apppath", "missing", "1"));
         frmUpdate form(updates.platform, updates.state);
         int waits = 0;
-        updates.internet.while_waiting = [&] {
+        updates.desktop.during_yield = updates.internet.while_waiting = [&] {
             if (++waits == wait) wait % 2 == 0 ? form.close_requested() : form.escape_pressed();
         };
         form.show_modal();
         EXPECT_EQ(waits, wait) << "nothing is asked for afterwards";
+        const bool list_opened = std::ranges::any_of(
+            updates.files.touched, [](const Text& path) { return path.ends_with(u"\\update.ini"); });
+        EXPECT_EQ(list_opened, wait >= 5) << wait;
         EXPECT_TRUE(form.given_up());
         EXPECT_FALSE(updates.state.gUpdateServerReached);
         EXPECT_FALSE(updates.state.gUpdateAvailable);

@@ -99,7 +99,8 @@ TEST_F(Transfers, OnlyTheWebIsAskedAndAnAddressWithoutASchemeIsOfIt) {
     for (const char16_t* url : {u"", u"http://", u"http://a b/", u"file:/etc/passwd"})
         EXPECT_EQ(error_of([&] { transfer->open_url(url, 10); }), NOT_COMPLETED) << utf8(url);
     HttpServer server(HttpServer::sending("HTTP/1.1 200 OK\r\n\r\nok"));
-    EXPECT_EQ(transfer->open_url(u" " + server.url().substr(7) + u" ", 10), "ok");
+    for (const char16_t* path : {u"/update.ini", u"/?next=http://other.example/"})
+        EXPECT_EQ(transfer->open_url(u" " + server.url(path).substr(7) + u" ", 10), "ok") << utf8(path);
 }
 
 TEST_F(Transfers, WhatBreaksIsAFailureOnceTheWholeChunksBeforeItAreRead) {

@@ -50,6 +50,7 @@ class ScriptedDesktop : public platform::Desktop {
 
     /// Happens whenever a long loop lets the windows paint.
     std::function<void()> during_paint = [] {};
+    std::function<void()> during_yield = [] {};
     /// Whether the user is found to have pressed a key while a handler runs.
     std::function<bool()> input_waits = [] { return false; };
 
@@ -67,7 +68,7 @@ class ScriptedDesktop : public platform::Desktop {
     void set_clipboard(const platform::Text& text) override { clipboard = text; }
     platform::Screen screen() const override { return screen_size; }
     void set_application_title(const platform::Text& text) override { title = text; }
-    void yield() override {}
+    void yield() override { during_yield(); }
     void paint() override { during_paint(); }
     std::unique_ptr<platform::InputWatch> watch_input() override;
 

@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QUrl>
 #include <algorithm>
@@ -30,7 +31,8 @@ Text to_text(const QByteArray& bytes) {
 /// The toolkit would open files and its own resources by an address too.
 QUrl web_address(const Text& text) {
     QString address = to_qstring(trim(text));
-    if (!address.contains(QStringLiteral("://"))) address.prepend(QStringLiteral("http://"));
+    static const QRegularExpression scheme_first(QStringLiteral("^[A-Za-z0-9+.-]*://"));
+    if (!scheme_first.match(address).hasMatch()) address.prepend(QStringLiteral("http://"));
     const QUrl url(address);
     const QString scheme = url.scheme();
     if (scheme != QStringLiteral("http") && scheme != QStringLiteral("https"))
