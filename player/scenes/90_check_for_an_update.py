@@ -1,10 +1,55 @@
-"""Looks for an update: the site has none."""
+"""Looks for an update: the site has none; then it has one, which is put off first and then handed to the installer."""
+
+import time
+
+LOG_IN = "로그인"
 
 
-def play(desk):
+def look_for_update(desk):
     main = desk.window("Cardvale 폰디라 통합메시징 서비스[")
     desk.click(desk.find("도움말", "menu item", main))
     desk.click(desk.find("업데이트 확인", "menu item"))
+
+
+def offer_update(app):
+    """From now on the site's list names a newer program, and an installer lies here."""
+    facts = app / "i_version.ini"
+    facts.write_text(facts.read_text().replace("/update/update.ini", "/update/due/update.ini"))
+    installer = app / "i_update.exe"
+    installer.write_text('#!/bin/sh\ncat i_autorun.ini >"$(dirname "$0")/installer-was-here"\n')
+    installer.chmod(0o755)
+
+
+def play(desk):
+    app = desk.results / "app"
+    look_for_update(desk)
     desk.find("모든 파일이 최신 버전이므로")
     desk.picture("no-update")
     desk.keys("Return")
+
+    offer_update(app)
+    look_for_update(desk)
+    offer = desk.window("프로그램이 업데이트 되었습니다.")
+    desk.find("새로워진 점", within=offer)
+    desk.picture("update")
+    # The window has opened by itself: an Enter that was meant for the draft answers nothing.
+    desk.keys("Return")
+    desk.click(desk.find("닫기", "push button", offer))
+    desk.gone("프로그램이 업데이트 되었습니다.")
+    assert not (app / "i_autorun.ini").exists()
+
+    look_for_update(desk)
+    offer = desk.window("프로그램이 업데이트 되었습니다.")
+    desk.click(desk.find("업데이트 시작", "push button", offer))
+    desk.program.wait(30)
+    trace = app / "installer-was-here"
+    for _ in range(100):
+        if trace.exists() and trace.stat().st_size > 0:
+            break
+        time.sleep(0.1)
+    assert trace.read_text() == "[UPDATE]\nAUTORUN=OK\n"
+
+    desk.start()
+    desk.window(LOG_IN)
+    desk.keys("Escape")
+    desk.gone(LOG_IN)

@@ -301,6 +301,31 @@ TEST_F(CarrierSite, HandsOutTheDocuments) {
     EXPECT_TRUE(site.get("/download/../carrier.ini").starts_with("HTTP/1.1 404 "));
 }
 
+TEST_F(CarrierSite, HandsOutTheListsOfUpdates) {
+    const Site site;
+    const struct {
+        const char* path;
+        const char* type;
+        const char* part;
+    } rows[] = {
+        {"/update", "text/html", "업데이트 서버입니다"},
+        {"/update/update.ini", "text/plain",
+         "\nUPDATE_FILE(1)=http://h/update/zent;apppath;zent;2.0.0;N;EXE;i\r\n"},
+        {"/update/due/update.ini", "text/plain",
+         "UPDATNOTEFILE=http://h/update/note\r\n[UPDATE_FILE_LIST]\r\n"
+         "UPDATE_FILE(1)=http://h/update/zent;apppath;zent;9.0.0;N;EXE;i\r\n"
+         "UPDATE_FILE(2)=http://h/update/temp_update.exe;apppath;temp_update.exe;2.0.0;N;EXE;\r\n"},
+        {"/update/note", "text/html", "새로워진 점"},
+    };
+    for (const auto& row : rows) {
+        const std::string answer = site.get(row.path);
+        EXPECT_TRUE(answer.starts_with("HTTP/1.1 200 ")) << row.path;
+        EXPECT_TRUE(holds(answer, std::string("Content-Type: ") + row.type)) << row.path << answer;
+        EXPECT_TRUE(holds(answer, "Content-Length: ")) << row.path << ": without it no list is taken";
+        EXPECT_TRUE(holds(answer, row.part)) << row.path << answer;
+    }
+}
+
 TEST_F(CarrierSite, AnswersHostileRequestsAndGoesOn) {
     const Site site;
     const std::string head = "POST /result HTTP/1.1\r\nHost: h\r\n";
