@@ -2,7 +2,7 @@
 #include "platform/controls/containers.h"
 #include "platform/controls/form.h"
 #include "platform/controls/text_box.h"
-#include "platform/error.h"
+#include "tests/support/error_number.h"
 #include "tests/support/scripted_desktop.h"
 #include "tests/support/utf8.h"
 
@@ -14,18 +14,9 @@
 namespace {
 
 using namespace platform;
+using tests::error_number;
 using tests::utf8;
 using Log = std::vector<std::string>;
-
-/// The number of the RuntimeError that the step raises, 0 without one.
-int error_of(const std::function<void()>& step) {
-    try {
-        step();
-        return 0;
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-}
 
 struct Controls : testing::Test, Form {
     Controls() : Form(desktop_double, u"frmControls") {}
@@ -114,8 +105,8 @@ TEST_F(Choices, AComboTakesRowsItHasAndErrorThreeHundredEightyOtherwise) {
     combo.set_list_index(1);
     EXPECT_EQ(log, (Log{"click 둘", "click 둘"}));
     for (const int outside : {-1, 2}) {
-        EXPECT_EQ(error_of([&] { combo.set_list_index(outside); }), 380) << outside;
-        EXPECT_EQ(error_of([&] { combo.item_data(outside); }), 380) << outside;
+        EXPECT_EQ(error_number([&] { combo.set_list_index(outside); }), 380) << outside;
+        EXPECT_EQ(error_number([&] { combo.item_data(outside); }), 380) << outside;
     }
     EXPECT_EQ(combo.list_index(), 1) << "a refused row leaves the old one";
 

@@ -1,5 +1,6 @@
 #include "platform/controls/list_view.h"
 
+#include "tests/support/lists.h"
 #include "tests/support/scripted_desktop.h"
 #include "tests/support/utf8.h"
 
@@ -24,12 +25,7 @@ struct Lists : testing::Test {
     } window{desktop, u"window"};
     ListView list{window, u"list", {{u"선택", {}}, {u"이름", {}}, {u"번호", {}}}, true};
 
-    Names column(int sub_item) const {
-        Names names;
-        for (std::size_t row = 0; row < list.row_count(); ++row)
-            names.push_back(utf8(list.row(row).sub_item(sub_item)));
-        return names;
-    }
+    Names column(int sub_item) const { return tests::column(list, sub_item); }
 
     /// What the index is there to answer, by walking every row.
     std::optional<std::size_t> walk(TextView beginning) const {

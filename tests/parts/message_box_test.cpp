@@ -6,6 +6,7 @@
 #include "platform/text/hangul.h"
 #include "tests/support/child_process.h"
 #include "tests/support/files_on_disk.h"
+#include "tests/support/lists.h"
 #include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
 
@@ -16,6 +17,8 @@ namespace {
 namespace fs = std::filesystem;
 using platform::Text;
 using tests::bytes_of;
+using tests::choose;
+using tests::column;
 using tests::names_in;
 using tests::put;
 using tests::utf8;
@@ -24,18 +27,6 @@ using Strings = std::vector<std::string>;
 class MessageBoxOnDisk : public testing::Test, protected tests::FilesOnDisk {
   protected:
     MessageBoxOnDisk() { core::make_message_box_folders(platform); }
-
-    static Strings column(const platform::ListView& list, int sub_item = 0) {
-        Strings texts;
-        for (std::size_t row = 0; row < list.row_count(); ++row)
-            texts.push_back(utf8(list.row(row).sub_item(sub_item)));
-        return texts;
-    }
-    static void choose(platform::ListView& list, std::size_t row) {
-        list.deselect_item();
-        list.select_item(row);
-        list.MouseUp.raise(platform::MouseButton::left);
-    }
 
     TestPlatform machine;
     ScriptedDesktop& desktop = machine.desktop;

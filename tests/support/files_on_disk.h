@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/error.h"
 #include "platform/posix/posix_files.h"
+#include "tests/support/error_number.h"
 #include "tests/support/temporary_folder.h"
 
 #include <fstream>
@@ -37,17 +37,6 @@ inline std::set<std::string> names_in(const std::filesystem::path& folder) {
     for (const auto& entry : std::filesystem::directory_iterator(folder))
         names.insert(entry.path().filename());
     return names;
-}
-
-/// The number of the RuntimeError that the step raises, 0 without one.
-template <class Step>
-int error_number(Step&& step) {
-    try {
-        step();
-        return 0;
-    } catch (const platform::RuntimeError& error) {
-        return error.number();
-    }
 }
 
 }  // namespace tests
