@@ -4,10 +4,39 @@
 #include "core/app_state.h"
 #include "platform/ports/platform.h"
 
+#include <optional>
+#include <string>
+
 namespace addressbook {
 
-/// Takes in what the card manager has handed over in files, if it has: recipients and the kind to send to
-/// them, or a page of the service to open. While it works the main window's polling stands still.
-void NEW_SENDMAN_LOAD(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form);
+/// Takes in what the card manager hands over in files.
+class HandOver {
+  public:
+    HandOver(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form);
+
+    /// Takes in what is there, if anything is: recipients and the kind to send to them, or a page of the
+    /// service to open. While it works the main window's polling stands still.
+    void NEW_SENDMAN_LOAD();
+
+  private:
+    /// The bytes of the two files; of one that cannot be read none.
+    struct Files {
+        std::string signal, recipients;
+
+        bool operator==(const Files&) const = default;
+    };
+
+    void take_in();
+    void open_page(int page);
+    void take_in_recipients(int tab);
+    Files files() const;
+    void delete_quietly(const platform::Text& path);
+
+    platform::Platform& platform_;
+    core::AppState& state_;
+    compose::frmZent& form_;
+    /// What was taken in and could not be deleted: no new hand-over until it changes.
+    std::optional<Files> left_over_;
+};
 
 }  // namespace addressbook

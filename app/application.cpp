@@ -1,7 +1,6 @@
 #include "app/application.h"
 
 #include "addressbook/frmSendMan.h"
-#include "addressbook/handover.h"
 #include "core/entry_routine.h"
 #include "msgbox/frmMyMsgBox.h"
 #include "send/send_check.h"
@@ -10,7 +9,7 @@
 namespace app {
 
 Application::Application(platform::Platform& platform)
-    : platform_(platform), main_(platform, state_, doors()) {}
+    : platform_(platform), main_(platform, state_, doors()), hand_over_(platform, state_, main_) {}
 
 bool Application::start() {
     return core::entry_routine(platform_, state_, [this] { main_.show(); });
@@ -23,7 +22,7 @@ compose::MainDoors Application::doors() {
         addressbook::frmSendMan picker(platform_, state_, main_);
         picker.ShowEnter(main_.TabStrip1.selected_caption());
     };
-    doors.NEW_SENDMAN_LOAD = [this] { addressbook::NEW_SENDMAN_LOAD(platform_, state_, main_); };
+    doors.NEW_SENDMAN_LOAD = [this] { hand_over_.NEW_SENDMAN_LOAD(); };
     doors.message_box = [this] { msgbox::frmMyMsgBox(platform_, main_).show_modal(); };
     doors.update_check = [this] { update::mnuUpDate_Click(platform_, state_, main_); };
     doors.update_check_at_start = [this] { return update::check_at_start(platform_, state_, main_); };

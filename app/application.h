@@ -1,5 +1,6 @@
 #pragma once
 
+#include "addressbook/handover.h"
 #include "compose/main_form.h"
 #include "core/app_state.h"
 #include "platform/ports/platform.h"
@@ -23,6 +24,7 @@ class Application {
     platform::Platform& platform_;
     core::AppState state_;
     compose::frmZent main_;
+    addressbook::HandOver hand_over_;
 };
 
 }  // namespace app

@@ -42,7 +42,7 @@ void hand_over(benchmark::State& state, const std::string& file) {
         main->files.files[u"z:\\app\\temp\\isend.text"] = "1";
         main->files.files[u"z:\\app\\temp\\tmpman.txt"] = file;
         state.ResumeTiming();
-        addressbook::NEW_SENDMAN_LOAD(main->platform, main->state, main->form);
+        addressbook::HandOver(main->platform, main->state, main->form).NEW_SENDMAN_LOAD();
         if (main->form.ListView1.row_count() != LINES) state.SkipWithError("not everybody came in");
     }
 }

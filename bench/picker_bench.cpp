@@ -140,7 +140,7 @@ void hand_over(Program& program) {
     files.make_folder(files.application_directory() + u"\\temp");
     files.write(files.application_directory() + u"\\temp\\tmpman.txt", lines);
     files.write(files.application_directory() + u"\\temp\\isend.text", "1");
-    addressbook::NEW_SENDMAN_LOAD(program.machine.platform, program.state, program.main);
+    addressbook::HandOver(program.machine.platform, program.state, program.main).NEW_SENDMAN_LOAD();
     QCoreApplication::processEvents();
 }
 

@@ -47,9 +47,7 @@ Text DIGITS_ONLY(TextView value) {
 }
 
 Text CLEAN_FIXED_TEXT(TextView text) {
-    Text cleaned(text);
-    std::ranges::replace(cleaned, u'\0', u' ');
-    return platform::right_trim(cleaned);
+    return platform::right_trim(platform::blanks_for_nul(Text(text)));
 }
 
 bool TEXT_NUMBER_OK(TextView number) {

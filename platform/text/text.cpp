@@ -94,6 +94,11 @@ Text replace_all(TextView text, TextView what, TextView with) {
 
 Text remove_all(TextView text, TextView what) { return replace_all(text, what, u""); }
 
+Text blanks_for_nul(Text text) {
+    std::ranges::replace(text, u'\0', u' ');
+    return text;
+}
+
 bool contains(TextView text, TextView what) { return text.find(what) != TextView::npos; }
 
 Text lower_case(TextView text) {

@@ -20,6 +20,8 @@ Text right_trim(TextView text);
 /// The text with every occurrence of `what` replaced; an empty `what` replaces nothing.
 Text replace_all(TextView text, TextView what, TextView with);
 Text remove_all(TextView text, TextView what);
+/// Code that reads C strings ends a text at its NUL.
+Text blanks_for_nul(Text text);
 
 bool contains(TextView text, TextView what);
 

@@ -24,7 +24,9 @@ struct HandOver : testing::Test, tests::MainWindow {
         files.files[SIGNAL] = signal;
         files.files[RECIPIENTS] = platform::encode_cp949(recipients);
     }
-    void take_in() { addressbook::NEW_SENDMAN_LOAD(platform, state, form); }
+    void take_in() { hand_over.NEW_SENDMAN_LOAD(); }
+
+    addressbook::HandOver hand_over{platform, state, form};
 
     Rows rows() const {
         Rows all;
@@ -85,7 +87,7 @@ TEST_F(HandOver, LinesAreTakenAsFarAsTheyMakeSense) {
         window.form.load();
         window.files.files[SIGNAL] = "1";
         window.files.files[RECIPIENTS] = platform::encode_cp949(file.file);
-        addressbook::NEW_SENDMAN_LOAD(window.platform, window.state, window.form);
+        addressbook::HandOver(window.platform, window.state, window.form).NEW_SENDMAN_LOAD();
         Rows rows;
         for (std::size_t row = 0; row < window.form.ListView1.row_count(); ++row) {
             const platform::ListItem& item = window.form.ListView1.row(row);
@@ -152,14 +154,44 @@ TEST_F(HandOver, ThatArrivesWhileAPageIsOpenOrBringsNobodyIsThrownAway) {
     EXPECT_TRUE(form.Timer1.enabled());
 }
 
-TEST_F(HandOver, FilesThatCannotBeDeletedBringNobodyTwiceAndPollingGoesOnWithoutABox) {
+TEST_F(HandOver, FilesThatCannotBeDeletedAreTakenInOnceAndPollingGoesOnWithoutABox) {
     hand("2", u"x\tA\t0101111\r\n");
     files.failure = platform::ErrorNumber::permission_denied;
     form.Timer1.Tick.connect([this] { take_in(); });
+    clock.run_for(600);
+    form.mText2.set_text(u"a draft");
     clock.run_for(1600);
     EXPECT_EQ(rows(), Rows{"A|0101111|"});
+    EXPECT_EQ(utf8(form.mText2.text()), "a draft") << "the tab is not chosen again";
     EXPECT_TRUE(form.Timer1.enabled());
     EXPECT_TRUE(desktop.boxes.empty());
+
+    hand("2", u"x\tB\t0102222\r\n");
+    clock.run_for(600);
+    EXPECT_EQ(rows(), (Rows{"A|0101111|", "B|0102222|"})) << "another hand-over";
+
+    files.failure.reset();
+    clock.run_for(600);
+    EXPECT_TRUE(files.files.empty());
+    hand("2", u"x\tB\t0102222\r\n");
+    clock.run_for(600);
+    EXPECT_NE(utf8(form.mText2.text()), "a draft") << "the same people once more choose their tab again";
+}
+
+TEST_F(HandOver, APageWhoseSignalCannotBeDeletedOpensOnce) {
+    state.gLoggedIn = true;
+    state.gLoginResult = true;
+    int opened = 0;
+    desktop.in_form(u"frmWeb", [&](platform::Form& page) {
+        ++opened;
+        page.unload();
+    });
+    hand("50", u"");
+    files.failure = platform::ErrorNumber::permission_denied;
+    form.Timer1.Tick.connect([this] { take_in(); });
+    clock.run_for(1600);
+    EXPECT_EQ(opened, 1);
+    EXPECT_TRUE(form.Timer1.enabled());
 }
 
 TEST_F(HandOver, WhileItIsTakenInNoOtherOneStartsAndTheWindowIsPainted) {
