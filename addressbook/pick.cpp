@@ -113,7 +113,10 @@ void frmSendMan::pick_row(const ListItem& row, const PickedCells& cells) {
     if (recipients.find_in_sub_items(number)) return;
 
     recipients.deselect_item();
-    const std::size_t added = recipients.add_row(u"", {name, number, u"", row.sub_item(cells.title)}, true);
+    const std::size_t added = recipients.add_row(u"",
+                                                 {platform::blanks_for_nul(std::move(name)), number, u"",
+                                                  platform::blanks_for_nul(row.sub_item(cells.title))},
+                                                 true);
     recipients.make_visible(added);
     recipients.select_item(added);
     state_.gDialogConfirmed = true;

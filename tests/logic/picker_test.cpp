@@ -322,6 +322,9 @@ TEST_F(Picker, PickedRowsBecomeRecipientsWhenTheyHaveANumberThatIsNew) {
              {u"앞부분", u"", u"", u"0101111"},
              {u"안 고름", u"", u"", u"010-5555-6666"},
              {u"같은 번호", u"", u"", u"01033334444"}};
+    // It would end the list of recipients for the carrier, and a text with the title in it.
+    const Text nul(1, u'\0');
+    found.push_back({u"끊" + nul + u"김", u"과" + nul + u"장", u"", u"01077778888"});
     form.ListView1.add_row(u"", {u"기존", u"0311", u"", u""}, true);
     pick(TEXT, [&](frmSendMan& picker) {
         for (std::size_t row = 0; row < found.size(); ++row) picker.ListView2.user_select(row, row != 6);
@@ -330,17 +333,17 @@ TEST_F(Picker, PickedRowsBecomeRecipientsWhenTheyHaveANumberThatIsNew) {
         EXPECT_TRUE(picker.loaded());
         EXPECT_TRUE(state.gDialogConfirmed);
         EXPECT_FALSE(picker.PBar1.visible());
-        EXPECT_EQ(recipients(),
-                  (Rows{"기존|0311|", "홍길동|01011112222|부장1", "한빛|01033334444|", "이름없음|02333|"}));
-        EXPECT_EQ(form.ListView1.checked_count(), 4u);
-        EXPECT_EQ(form.ListView1.selected_item(), 3u);
+        EXPECT_EQ(recipients(), (Rows{"기존|0311|", "홍길동|01011112222|부장1", "한빛|01033334444|",
+                                      "이름없음|02333|", "끊 김|01077778888|과 장"}));
+        EXPECT_EQ(form.ListView1.checked_count(), 5u);
+        EXPECT_EQ(form.ListView1.selected_item(), 4u);
         EXPECT_FALSE(form.ListView1.row(2).selected()) << "the newest alone is";
 
         state.gDialogConfirmed = false;
         picker.Command2[0].Click.raise();
         EXPECT_FALSE(picker.loaded());
         EXPECT_FALSE(state.gDialogConfirmed) << "all were there already";
-        EXPECT_EQ(form.ListView1.row_count(), 4u);
+        EXPECT_EQ(form.ListView1.row_count(), 5u);
     });
 }
 

@@ -16,7 +16,7 @@ struct Folder {
     const char16_t* name;
 };
 struct Card {
-    const char16_t *name = u"", *title = u"", *company = u"", *cellphone = u"", *phone = u"", *fax = u"";
+    platform::Text name{}, title{}, company{}, cellphone{}, phone{}, fax{};
 };
 
 /// The main window with a card database behind the picker.
