@@ -27,6 +27,12 @@ std::vector<CardRows::Column> fields_of(Table table) {
     return columns;
 }
 
+/// Rows with the same key keep their order.
+void sort_by(std::vector<std::uint32_t>& rows, const std::vector<std::int64_t>& keys) {
+    const auto key = [&](std::uint32_t row) { return keys[row]; };
+    if (!std::ranges::is_sorted(rows, {}, key)) std::ranges::stable_sort(rows, {}, key);
+}
+
 }  // namespace
 
 CardTable::CardTable(Table table) : table_(table), rows_(std::make_shared<CardRows>(fields_of(table))) {}
@@ -39,20 +45,24 @@ void CardTable::all_added() {
     file_order_.resize(rows_->size());
     std::iota(file_order_.begin(), file_order_.end(), 0U);
     order_ = file_order_;
-    std::ranges::stable_sort(order_, {}, [this](std::uint32_t row) { return key(row, order_column()); });
+    sort_by(order_, keys_of(order_column()));
+    folders_ = keys_of(folder_column());
     by_folder_ = order_;
-    std::ranges::stable_sort(by_folder_, {}, [this](std::uint32_t row) { return key(row, folder_column()); });
+    sort_by(by_folder_, folders_);
 }
 
 RowNumbers CardTable::of_folder(std::int32_t folder) const {
     return std::ranges::equal_range(by_folder_, std::int64_t{folder}, {},
-                                    [this](std::uint32_t row) { return key(row, folder_column()); });
+                                    [this](std::uint32_t row) { return folders_[row]; });
 }
 
-std::int64_t CardTable::key(std::uint32_t row, std::size_t column) const {
-    const Cell cell = rows_->at(row, column);
-    const auto* number = std::get_if<std::int32_t>(&cell);
-    return number != nullptr ? *number : std::numeric_limits<std::int64_t>::min();
+std::vector<std::int64_t> CardTable::keys_of(std::size_t column) const {
+    std::vector<std::int64_t> keys(rows_->size(), std::numeric_limits<std::int64_t>::min());
+    for (std::size_t row = 0; row < keys.size(); ++row) {
+        const Cell cell = rows_->at(row, column);
+        if (const auto* number = std::get_if<std::int32_t>(&cell)) keys[row] = *number;
+    }
+    return keys;
 }
 
 }  // namespace platform::jet

@@ -36,12 +36,13 @@ class CardTable {
     RowNumbers of_folder(std::int32_t folder) const;
 
   private:
-    /// Rows without a number come first.
-    std::int64_t key(std::uint32_t row, std::size_t column) const;
+    /// The column's number in every row; a row without one comes before all others.
+    std::vector<std::int64_t> keys_of(std::size_t column) const;
 
     Table table_;
     std::shared_ptr<CardRows> rows_;
     std::vector<std::uint32_t> file_order_, order_, by_folder_;
+    std::vector<std::int64_t> folders_;
 };
 
 }  // namespace platform::jet
