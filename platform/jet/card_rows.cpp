@@ -11,6 +11,8 @@ namespace platform::jet {
 namespace {
 
 constexpr std::size_t LONGEST_TEXT = (1U << 30) - 1;
+/// A million cards. A file that repeats its folders would have the statements make any number of rows.
+constexpr std::size_t MOST_FIELDS = 20'000'000;
 
 /// Where the part stands in the text, when it is one.
 std::optional<std::size_t> position_in(const Text& text, TextView part) {
@@ -24,6 +26,7 @@ std::optional<std::size_t> position_in(const Text& text, TextView part) {
 }  // namespace
 
 void CardRows::add(const Cell& cell) {
+    if (cells_.size() >= MOST_FIELDS) throw RuntimeError(ErrorNumber::out_of_memory);
     Packed packed{};
     if (const auto* number = std::get_if<std::int32_t>(&cell)) {
         packed.kind = Packed::Kind::number;

@@ -24,7 +24,8 @@ class CardRows {
     explicit CardRows(std::vector<Column> columns, std::shared_ptr<const CardRows> source = {})
         : columns_(std::move(columns)), source_(std::move(source)) {}
 
-    /// Fields are added row by row, one for each column.
+    /// Fields are added row by row, one for each column. Raises error 7 (out of memory) beyond what a card
+    /// database can be.
     void add(const Cell& cell);
 
     std::size_t size() const { return columns_.empty() ? 0 : cells_.size() / columns_.size(); }

@@ -50,20 +50,25 @@ bool holds(const MdbColumn& column, Kind kind) {
     return false;
 }
 
-/// Where libmdb has the table's columns, in our order.
-std::vector<unsigned> positions_of(const MdbTableDef& definition, Table table) {
-    std::vector<unsigned> positions;
+/// Where libmdb has a column of ours.
+struct Position {
+    unsigned column;
+    /// Memos are not, nor a column of a type that we do not expect.
+    bool is_read;
+};
+
+std::vector<Position> positions_of(const MdbTableDef& definition, Table table) {
+    std::vector<Position> positions;
     for (const Column& wanted : columns_of(table)) {
-        unsigned found = definition.num_cols;
+        std::optional<Position> found;
         for (unsigned i = 0; i < definition.num_cols; ++i) {
             const auto* column = static_cast<const MdbColumn*>(g_ptr_array_index(definition.columns, i));
-            if (column != nullptr && g_ascii_strcasecmp(column->name, wanted.name.data()) == 0 &&
-                holds(*column, wanted.kind)) {
-                found = i;
-            }
+            if (column == nullptr || g_ascii_strcasecmp(column->name, wanted.name.data()) != 0) continue;
+            const bool expected = holds(*column, wanted.kind);
+            if (expected || !wanted.used) found = Position{i, expected && wanted.kind != Kind::memo};
         }
-        if (found == definition.num_cols) unsound("no such column");
-        positions.push_back(found);
+        if (!found) unsound("no such column");
+        positions.push_back(*found);
     }
     return positions;
 }
@@ -127,15 +132,15 @@ class RowReader {
 
         texts_.clear();
         for (std::size_t i = 0; i < columns_.size(); ++i) {
-            const MdbField* field = field_of_column_[positions_[i]];
+            const MdbField* field = field_of_column_[positions_[i].column];
             if (field == nullptr) unsound("a row without a column");
-            row_[i] = cell_of(*field, columns_[i].kind, start, length);
+            row_[i] = positions_[i].is_read ? cell_of(*field, columns_[i].kind, start, length) : Cell();
         }
         return true;
     }
 
     Cell cell_of(const MdbField& field, Kind kind, int row_start, std::size_t row_length) {
-        if (field.is_null || kind == Kind::memo) return {};
+        if (field.is_null) return {};
         if (field.siz < 0 || field.start < row_start ||
             static_cast<std::size_t>(field.start - row_start) + static_cast<std::size_t>(field.siz) >
                 row_length) {
@@ -152,7 +157,7 @@ class RowReader {
     MdbHandle* file_;
     TableDefinition definition_;
     std::span<const Column> columns_;
-    std::vector<unsigned> positions_;
+    std::vector<Position> positions_;
     std::vector<MdbField> fields_;
     std::vector<const MdbField*> field_of_column_;
     std::deque<Text> texts_;
