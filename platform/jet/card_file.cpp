@@ -3,7 +3,6 @@
 #include "platform/error.h"
 
 #include <cerrno>
-#include <cmath>
 #include <ctime>
 #include <fcntl.h>
 #include <unistd.h>
@@ -26,7 +25,7 @@ bool FileState::is_settled() const {
     ::clock_gettime(CLOCK_REALTIME, &now);
     const double age = static_cast<double>(now.tv_sec - changed.tv_sec) * 1e9 +
                        static_cast<double>(now.tv_nsec - changed.tv_nsec);
-    return std::abs(age) > LONGEST_TICK_NANOSECONDS;
+    return age > LONGEST_TICK_NANOSECONDS;
 }
 
 CardFile::CardFile(const std::string& path)

@@ -16,7 +16,8 @@ struct FileState {
     timespec changed{};
 
     bool operator==(const FileState& other) const;
-    /// Whether a change from now on shows in the date, which goes by the ticks of a clock.
+    /// Whether a change from now on shows in the date, which goes by the ticks of a clock. One in the future
+    /// tells nothing.
     bool is_settled() const;
 };
 
