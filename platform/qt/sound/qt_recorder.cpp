@@ -49,6 +49,12 @@ QtRecorder::QtRecorder() {
     });
 }
 
+/// The devices' ends run the event loop, and what it brings must find a whole recorder.
+QtRecorder::~QtRecorder() {
+    close();
+    qDeleteAll(findChildren<QObject*>(Qt::FindDirectChildrenOnly));
+}
+
 void QtRecorder::open(Listener& listener) {
     listener_ = &listener;
     has_microphone_ = !QMediaDevices::audioInputs().isEmpty();

@@ -17,6 +17,7 @@ namespace platform::qt {
 class QtRecorder : public QObject, public Recorder {
   public:
     QtRecorder();
+    ~QtRecorder() override;
 
     void open(Listener& listener) override;
     void close() override;
