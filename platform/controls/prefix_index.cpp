@@ -13,27 +13,45 @@ constexpr std::size_t CHUNK_SIZE = 256;
 
 }  // namespace
 
-PrefixIndex::Entry::Entry(const ListItem& row, int column) : row(&row), column(column) {
-    const Text& whole = text();
-    std::copy_n(whole.begin(), std::min(whole.size(), key.size()), key.begin());
+PrefixIndex::Key PrefixIndex::key_of(TextView text) {
+    Key key{};
+    for (std::size_t i = 0; i < std::min(text.size(), KEY_CHARACTERS); ++i)
+        key[i / 4] |= std::uint64_t{text[i]} << (48 - 16 * (i % 4));
+    return key;
 }
+
+PrefixIndex::Prefix::Prefix(TextView text)
+    : text(text), key(key_of(text)), mask(key_of(Text(std::min(text.size(), KEY_CHARACTERS), u'\xFFFF'))) {}
+
+PrefixIndex::Entry::Entry(const ListItem& row, int column)
+    : key(key_of(row.sub_item(column))), row(&row), column(column) {}
 
 const Text& PrefixIndex::Entry::text() const { return row->sub_item(column); }
 
 bool PrefixIndex::Entry::operator<(const Entry& other) const {
-    if (key != other.key) return key < other.key;
-    const bool goes_on = key.back() != u'\0';
+    for (std::size_t i = 0; i < key.size(); ++i) {
+        if (key[i] != other.key[i]) return key[i] < other.key[i];
+    }
+    const bool goes_on = (key.back() & 0xFFFF) != 0;
     if (const int order = goes_on ? text().compare(other.text()) : 0; order != 0) return order < 0;
     if (row != other.row) return std::less<>()(row, other.row);
     return column < other.column;
 }
 
-int PrefixIndex::Entry::compare_beginning(TextView prefix) const {
-    const TextView beginning(key.data(), std::min(prefix.size(), key.size()));
-    const int order = beginning.compare(prefix.substr(0, key.size()));
-    return order != 0 || prefix.size() <= key.size()
-               ? order
-               : TextView(text()).substr(0, prefix.size()).compare(prefix);
+bool PrefixIndex::Entry::begins_before(const Prefix& prefix) const {
+    for (std::size_t i = 0; i < key.size(); ++i) {
+        const std::uint64_t beginning = key[i] & prefix.mask[i];
+        if (beginning != prefix.key[i]) return beginning < prefix.key[i];
+    }
+    return prefix.text.size() > KEY_CHARACTERS &&
+           TextView(text()).substr(0, prefix.text.size()) < prefix.text;
+}
+
+bool PrefixIndex::Entry::begins_with(const Prefix& prefix) const {
+    for (std::size_t i = 0; i < key.size(); ++i) {
+        if ((key[i] & prefix.mask[i]) != prefix.key[i]) return false;
+    }
+    return prefix.text.size() <= KEY_CHARACTERS || text().starts_with(prefix.text);
 }
 
 void PrefixIndex::add(const ListItem& row) {
@@ -45,55 +63,76 @@ void PrefixIndex::remove(const ListItem& row) {
 }
 
 void PrefixIndex::add(const ListItem& row, int column) {
-    if (row.sub_item(column).empty()) return;
-    const Entry entry(row, column);
+    const Text& text = row.sub_item(column);
+    if (!text.empty()) buckets_[text.front()].add(Entry(row, column));
+}
+
+void PrefixIndex::remove(const ListItem& row, int column) {
+    const Text& text = row.sub_item(column);
+    if (!text.empty()) buckets_.at(text.front()).remove(Entry(row, column));
+}
+
+const ListItem* PrefixIndex::first_row(TextView prefix) {
+    const auto found = prefix.empty() ? buckets_.end() : buckets_.find(prefix.front());
+    return found == buckets_.end() ? nullptr : found->second.first_row(Prefix(prefix));
+}
+
+void PrefixIndex::Bucket::remove(const Entry& entry) {
+    sort_waiting();
+    const std::size_t place = chunk_for(entry);
+    Entries& chunk = chunks_[place];
+    chunk.erase(std::lower_bound(chunk.begin(), chunk.end(), entry));
+    if (chunk.empty()) chunks_.erase(chunks_.begin() + static_cast<std::ptrdiff_t>(place));
+}
+
+const ListItem* PrefixIndex::Bucket::first_row(const Prefix& prefix) {
+    sort_waiting();
+    if (chunks_.empty()) return nullptr;
+    const auto before = [&](const Entry& entry) { return entry.begins_before(prefix); };
+    auto chunk = std::partition_point(chunks_.begin(), chunks_.end(),
+                                      [&](const Entries& c) { return before(c.front()); });
+    if (chunk != chunks_.begin()) --chunk;
+
+    const ListItem* first = nullptr;
+    auto entry = std::partition_point(chunk->begin(), chunk->end(), before);
+    while (true) {
+        if (entry == chunk->end()) {
+            if (++chunk == chunks_.end()) break;
+            entry = chunk->begin();
+        }
+        if (!entry->begins_with(prefix)) break;
+        if (first == nullptr || entry->row->position() < first->position()) first = entry->row;
+        ++entry;
+    }
+    return first;
+}
+
+void PrefixIndex::Bucket::sort_waiting() {
+    std::sort(waiting_.begin(), waiting_.end());
+    for (const Entry& entry : waiting_) insert(entry);
+    waiting_.clear();
+}
+
+void PrefixIndex::Bucket::insert(const Entry& entry) {
     if (chunks_.empty()) {
         chunks_.push_back({entry});
         return;
     }
     const std::size_t place = chunk_for(entry);
-    Chunk& chunk = chunks_[place];
+    Entries& chunk = chunks_[place];
     chunk.insert(std::upper_bound(chunk.begin(), chunk.end(), entry), entry);
     if (chunk.size() < CHUNK_SIZE) return;
 
     const auto middle = chunk.begin() + static_cast<std::ptrdiff_t>(CHUNK_SIZE / 2);
-    Chunk upper(middle, chunk.end());
+    Entries upper(middle, chunk.end());
     chunk.erase(middle, chunk.end());
     chunks_.insert(chunks_.begin() + static_cast<std::ptrdiff_t>(place) + 1, std::move(upper));
 }
 
-void PrefixIndex::remove(const ListItem& row, int column) {
-    if (row.sub_item(column).empty()) return;
-    const Entry entry(row, column);
-    const std::size_t place = chunk_for(entry);
-    Chunk& chunk = chunks_[place];
-    chunk.erase(std::lower_bound(chunk.begin(), chunk.end(), entry));
-    if (chunk.empty()) chunks_.erase(chunks_.begin() + static_cast<std::ptrdiff_t>(place));
-}
-
-const ListItem* PrefixIndex::first_row(TextView prefix) const {
-    if (prefix.empty()) return nullptr;
-    const auto before = [prefix](const Entry& entry) { return entry.compare_beginning(prefix) < 0; };
-    auto chunk = std::partition_point(chunks_.begin(), chunks_.end(),
-                                      [&](const Chunk& c) { return before(c.back()); });
-    if (chunk == chunks_.end()) return nullptr;
-
-    const ListItem* first = nullptr;
-    auto entry = std::partition_point(chunk->begin(), chunk->end(), before);
-    while (entry->compare_beginning(prefix) == 0) {
-        if (first == nullptr || entry->row->position() < first->position()) first = entry->row;
-        if (++entry == chunk->end()) {
-            if (++chunk == chunks_.end()) break;
-            entry = chunk->begin();
-        }
-    }
-    return first;
-}
-
 /// The last chunk that begins at or before the entry; the first one when all begin behind it.
-std::size_t PrefixIndex::chunk_for(const Entry& entry) const {
+std::size_t PrefixIndex::Bucket::chunk_for(const Entry& entry) const {
     const auto behind = std::partition_point(chunks_.begin(), chunks_.end(),
-                                             [&](const Chunk& chunk) { return !(entry < chunk.front()); });
+                                             [&](const Entries& chunk) { return !(entry < chunk.front()); });
     return behind == chunks_.begin() ? 0 : static_cast<std::size_t>(behind - chunks_.begin()) - 1;
 }
 

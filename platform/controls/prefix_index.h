@@ -4,6 +4,8 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <unordered_map>
 #include <vector>
 
 namespace platform {
@@ -15,7 +17,8 @@ class ListItem;
 ///
 /// Lists reach 100,000 rows and every new row asks for its number first. So the entries stand in sorted
 /// chunks, the first characters of each text beside the next one's: a search touches two short runs of
-/// memory, not every row.
+/// memory, not every row. Texts wait unsorted until one with their first character is searched for: numbers
+/// are, names and titles hardly ever.
 class PrefixIndex {
   public:
     /// Enters all sub-items of a row.
@@ -29,26 +32,54 @@ class PrefixIndex {
     void remove(const ListItem& row);
 
     /// The row that stands first in the list among those with a sub-item that begins with `prefix`, or none.
-    const ListItem* first_row(TextView prefix) const;
+    const ListItem* first_row(TextView prefix);
 
   private:
+    /// The first characters of a text, filled up with zeros; four in a number, the first one highest.
+    using Key = std::array<std::uint64_t, 3>;
+    static constexpr std::size_t KEY_CHARACTERS = 12;
+
+    /// What is searched for, ready to be compared with many texts.
+    struct Prefix {
+        TextView text;
+        Key key, mask;
+
+        explicit Prefix(TextView text);
+    };
+
     struct Entry {
-        /// The beginning of the text, filled up with zeros: most comparisons end here.
-        std::array<char16_t, 12> key{};
+        /// Most comparisons end here.
+        Key key;
         const ListItem* row = nullptr;
         int column = 0;
 
         Entry(const ListItem& row, int column);
         const Text& text() const;
         bool operator<(const Entry& other) const;
-        /// How the text's beginning, as long as the prefix, stands to it: below, equal (0) or above.
-        int compare_beginning(TextView prefix) const;
+        bool begins_before(const Prefix& prefix) const;
+        bool begins_with(const Prefix& prefix) const;
     };
-    using Chunk = std::vector<Entry>;
+    using Entries = std::vector<Entry>;
 
-    std::size_t chunk_for(const Entry& entry) const;
+    /// The texts with one first character.
+    class Bucket {
+      public:
+        void add(const Entry& entry) { waiting_.push_back(entry); }
+        void remove(const Entry& entry);
+        const ListItem* first_row(const Prefix& prefix);
 
-    std::vector<Chunk> chunks_;
+      private:
+        void sort_waiting();
+        void insert(const Entry& entry);
+        std::size_t chunk_for(const Entry& entry) const;
+
+        Entries waiting_;
+        std::vector<Entries> chunks_;
+    };
+
+    static Key key_of(TextView text);
+
+    std::unordered_map<char16_t, Bucket> buckets_;
 };
 
 }  // namespace platform
