@@ -90,11 +90,11 @@ class Busy : public QWidget {
     double longest_ = 0;
 };
 
-/// The shortest of all runs, which other programs disturbed least; the stretches are each run's longest
-/// without a paint.
+/// The shortest of all runs, which other programs disturbed least; of the stretches without a paint the
+/// longest of any run.
 struct Times {
     double bare = 1e9, first = 1e9, second = 1e9;
-    double opening_stretch = 1e9, picking_stretch = 1e9, hand_over_stretch = 1e9;
+    double opening_stretch = 0, sorting_stretch = 0, picking_stretch = 0, hand_over_stretch = 0;
 };
 
 /// The program with its main window shown, and nobody asked to log in.
@@ -145,6 +145,7 @@ void hand_over(Program& program) {
 }
 
 void keep_least(double& least, double time) { least = std::min(least, time); }
+void keep_longest(double& longest, double time) { longest = std::max(longest, time); }
 
 Times measure(const Folder& folder) {
     platform::qt::QtClock clock;
@@ -155,21 +156,25 @@ Times measure(const Folder& folder) {
         keep_least(times.bare, read_barely(folder.cards()));
         busy.longest_stretch();
         keep_least(times.first, open_picker(program, [&](addressbook::frmSendMan& picker) {
-                       keep_least(times.opening_stretch, busy.longest_stretch());
+                       keep_longest(times.opening_stretch, busy.longest_stretch());
                        if (picker.ListView2.row_count() < 49'000)
                            throw std::logic_error("the list is not full");
                    }));
         keep_least(times.second, open_picker(program, [&](addressbook::frmSendMan& picker) {
+                       busy.longest_stretch();
+                       picker.ListView2.ColumnClick.raise(2);
+                       QCoreApplication::processEvents();
+                       keep_longest(times.sorting_stretch, busy.longest_stretch());
                        picker.ListView2.select_all();
                        busy.longest_stretch();
                        picker.SENDLIST_ADD();
                        QCoreApplication::processEvents();
-                       keep_least(times.picking_stretch, busy.longest_stretch());
+                       keep_longest(times.picking_stretch, busy.longest_stretch());
                    }));
         const std::size_t picked = program.main.ListView1.row_count();
         busy.longest_stretch();
         hand_over(program);
-        keep_least(times.hand_over_stretch, busy.longest_stretch());
+        keep_longest(times.hand_over_stretch, busy.longest_stretch());
         if (program.main.ListView1.row_count() < 100'000 + picked)
             throw std::logic_error("recipients are missing");
     }
@@ -192,10 +197,11 @@ int main(int argc, char** argv) {
                                                       "opening the picker / bare libmdb read", 3);
         const bool quick_again = bench::print_ratio_at_most("picker again", times.second / times.first,
                                                             "second / first opening", 0.25);
-        std::printf("longest without a paint: opening %.1f ms, picking %.1f ms, hand-over %.1f ms\n",
-                    times.opening_stretch, times.picking_stretch, times.hand_over_stretch);
-        const double longest =
-            std::max({times.opening_stretch, times.picking_stretch, times.hand_over_stretch});
+        std::printf(
+            "longest without a paint: opening %.1f ms, sorting %.1f ms, picking %.1f ms, hand-over %.1f ms\n",
+            times.opening_stretch, times.sorting_stretch, times.picking_stretch, times.hand_over_stretch);
+        const double longest = std::max(
+            {times.opening_stretch, times.sorting_stretch, times.picking_stretch, times.hand_over_stretch});
         const bool alive = bench::print_ratio_at_most("picker painted", longest / 100,
                                                       "longest time without a paint / 100 ms", 1);
         return quick && quick_again && alive ? 0 : 1;
