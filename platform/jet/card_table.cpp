@@ -52,8 +52,9 @@ void CardTable::all_added() {
 }
 
 RowNumbers CardTable::of_folder(std::int32_t folder) const {
-    return std::ranges::equal_range(by_folder_, std::int64_t{folder}, {},
-                                    [this](std::uint32_t row) { return folders_[row]; });
+    const auto number = [this](std::uint32_t row) { return folders_[row]; };
+    return {std::ranges::lower_bound(by_folder_, std::int64_t{folder}, {}, number),
+            std::ranges::upper_bound(by_folder_, std::int64_t{folder}, {}, number)};
 }
 
 std::vector<std::int64_t> CardTable::keys_of(std::size_t column) const {

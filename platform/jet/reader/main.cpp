@@ -18,7 +18,7 @@ namespace {
 constexpr const char* DATABASE = "/proc/self/fd/0";
 
 constexpr rlim_t LONGEST_SECONDS = 10;
-constexpr rlim_t MOST_MEMORY = rlim_t{256} << 20;
+[[maybe_unused]] constexpr rlim_t MOST_MEMORY = rlim_t{256} << 20;
 constexpr rlim_t MOST_FILES = 16;
 constexpr std::size_t CHUNK_BYTES = 32768;
 
@@ -33,7 +33,7 @@ void limit_myself() {
     limit(RLIMIT_FSIZE, 0);
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_NOFILE, MOST_FILES);
-#ifndef __SANITIZE_ADDRESS__
+#ifdef LIMIT_MEMORY
     limit(RLIMIT_AS, MOST_MEMORY);
 #endif
     if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0) std::_Exit(EXIT_FAILURE);

@@ -1,0 +1,37 @@
+// The input is what is changed of a sound card database: three bytes for where, one that is written there.
+// The program that reads it is a process of its own; whatever happens to it, there are all cards or an error.
+
+#include "fuzz/check.h"
+#include "platform/error.h"
+#include "tests/parts/card_fixtures.h"
+
+namespace {
+
+int rows_of(platform::CardConnection& connection, const platform::Text& table) {
+    return connection.open_recordset(u"select f_idx from " + table)->record_count();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const std::string sound = tests::bytes_of(tests::CardsOnDisk::fixture("edge"));
+    static const auto folders = tests::CardTable("edge.tbl_folder").rows.size();
+    static const auto cards = tests::CardTable("edge.tbl_namecard").rows.size();
+    static tests::CardsOnDisk disk;
+
+    std::string changed = sound;
+    for (std::size_t at = 0; at + 3 < size; at += 4) {
+        const std::size_t where = data[at] | data[at + 1] << 8 | data[at + 2] << 16;
+        changed[where % changed.size()] = static_cast<char>(data[at + 3]);
+    }
+    disk.put_bytes(changed);
+    try {
+        const auto connection = disk.connect();
+        fuzz::check(rows_of(*connection, u"tbl_folder") == static_cast<int>(folders),
+                    "all folders are there");
+        fuzz::check(rows_of(*connection, u"tbl_namecard") == static_cast<int>(cards), "all cards are there");
+    } catch (const platform::RuntimeError&) {
+        // Told in a box, instead of a part of the cards.
+    }
+    return 0;
+}
