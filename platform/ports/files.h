@@ -58,8 +58,9 @@ class Files {
     virtual std::vector<Text> list_folders(const Text& folder) const = 0;
 
     virtual std::string read(const Text& path) const = 0;
-    /// Writes the whole file or leaves the old one as it was, also when the program is killed meanwhile; the
-    /// file is its user's alone. Here and for folders, a new name must pass `check_file_name`.
+    /// Writes the whole file or leaves the old one as it was, also when the program is killed meanwhile; in
+    /// the program's own folders the file is its user's alone. Here and for folders, a new name must pass
+    /// `check_file_name`.
     virtual void write(const Text& path, const std::string& bytes) = 0;
     /// Opens for writing from the file's beginning, for what arrives in pieces; makes it when it is missing.
     /// What stands behind the last byte written stays.

@@ -137,7 +137,7 @@ void PosixFiles::write(const Text& path, const std::string& bytes) {
     check_file_name(name_in(path));
     const std::string file = paths_.to_posix(path);
     make_standing_folder_of(file);
-    replace_file(file, bytes);
+    replace_file(file, bytes, readers_of(file));
 }
 
 std::unique_ptr<OpenFile> PosixFiles::open_for_writing(const Text& path) {
@@ -190,6 +190,15 @@ void PosixFiles::remove_folder(const Text& path) {
     // Links go as links: what they lead to stays.
     fs::remove_all(folder, error);
     if (error) throw folder_error(error.value());
+}
+
+/// In its own folders the program keeps what nobody else is to read, passwords among it. Elsewhere is what
+/// the user has named and gives to others as he likes.
+Readers PosixFiles::readers_of(const std::string& path) const {
+    for (const std::string& own : {paths_.application_directory(), windows_directory_}) {
+        if (path.starts_with(own + "/")) return Readers::user_alone;
+    }
+    return Readers::as_usual;
 }
 
 /// Drive `c:` and the Windows directory are always there for the program: made when something is to stand in

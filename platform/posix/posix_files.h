@@ -2,10 +2,12 @@
 
 #include "platform/ports/files.h"
 #include "platform/posix/paths.h"
+#include "platform/posix/whole_file.h"
 
 namespace platform::posix {
 
-/// The machine's file system. Files and folders that it makes are their user's alone.
+/// The machine's file system. Folders that it makes are their user's alone, and so are files in the program's
+/// own folders.
 class PosixFiles : public Files {
   public:
     /// With `~/.config/cardvale` as the Windows directory, of the home that the user database tells.
@@ -39,6 +41,7 @@ class PosixFiles : public Files {
     Text path_of(const std::string& machine_path) const override { return paths_.on_drives(machine_path); }
 
   private:
+    Readers readers_of(const std::string& path) const;
     void make_standing_folder_of(const std::string& path);
 
     Paths paths_;

@@ -6,12 +6,12 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
 #include <optional>
 #include <string_view>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace platform::posix {
 
@@ -31,6 +31,16 @@ int fill(int file, std::string_view bytes) {
 void sync_folder(const std::string& folder) {
     const FileDescriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (opened.is_open()) ::fsync(opened.number());
+}
+
+/// A file of a name that nothing has; -1 with `errno` on failure.
+int open_new_file(const std::string& folder, mode_t mode, std::string& path) {
+    for (int number = 0;; ++number) {
+        path =
+            folder + "/" + std::string(NEW_FILE) + std::to_string(::getpid()) + "-" + std::to_string(number);
+        const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+        if (file >= 0 || errno != EEXIST) return file;
+    }
 }
 
 }  // namespace
@@ -63,11 +73,14 @@ std::optional<std::string> read_if_there(const std::string& path) {
     }
 }
 
-void replace_file(const std::string& path, const std::string& bytes) {
+void replace_file(const std::string& path, const std::string& bytes, Readers readers) {
     const std::string folder = fs::path(path).parent_path();
-    std::string new_file = folder + "/" + std::string(NEW_FILE) + "XXXXXX";
-    const FileDescriptor file(::mkostemp(new_file.data(), O_CLOEXEC));
+    std::string new_file;
+    const FileDescriptor file(open_new_file(folder, readers == Readers::user_alone ? 0600 : 0666, new_file));
     if (!file.is_open()) throw file_error(errno, new_file);
+    struct stat old {};
+    if (readers == Readers::as_usual && ::lstat(path.c_str(), &old) == 0 && S_ISREG(old.st_mode))
+        ::fchmod(file.number(), old.st_mode & 0666);
     int failure = fill(file.number(), bytes);
     // A link is replaced and not followed: it could lead a password into a folder that others read.
     if (failure == 0 && ::rename(new_file.c_str(), path.c_str()) != 0) failure = errno;

@@ -342,4 +342,26 @@ TEST_F(PosixFilesTest, AKillAtAnyMomentLeavesTheOldFileOrTheNewOne) {
     }
 }
 
+TEST_F(PosixFilesTest, WhatTheUserNamesIsReadByWhomeverHeLetsAndTheProgramsOwnByHimAlone) {
+    ::umask(027);
+    const struct {
+        fs::path path;
+        mode_t mode;
+    } rows[] = {
+        {folder.path() / "new.wav", 0640}, {folder.path() / "old.wav", 0664},
+        {application / "zent.ini", 0600},  {application / "drive_c/tmp.wav", 0600},
+        {windows / "zent.ini", 0600},
+    };
+    for (const fs::path& old : {rows[1].path, rows[2].path}) {
+        put(old, "old");
+        fs::permissions(old, fs::perms(0775));
+    }
+    for (const auto& row : rows) {
+        files.write(Paths::from_posix(row.path), "new");
+        EXPECT_EQ(bytes_of(row.path), "new");
+        EXPECT_EQ(mode_of(row.path), row.mode) << row.path;
+    }
+    ::umask(022);
+}
+
 }  // namespace
