@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstddef>
 #include <optional>
+#include <string_view>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -30,10 +31,25 @@ void start(const std::string& program, const std::optional<std::string>& argumen
     }
 }
 
-/// Whether it is what a browser takes, and not a file or a program that the machine has for another scheme.
-bool is_page(const std::string& address) {
-    const Text scheme = lower_case(from_utf8(address.substr(0, address.find(':'))));
-    return scheme == u"http" || scheme == u"https" || address == "about:blank";
+/// Whether the part behind a host's colon begins with a port.
+bool is_port(std::string_view rest) {
+    const std::size_t digits = std::min(rest.find_first_not_of("0123456789"), rest.size());
+    return digits > 0 &&
+           (digits == rest.size() || std::string_view("/?#").find(rest[digits]) != std::string_view::npos);
+}
+
+/// The address with a browser's scheme; nothing for one of another scheme, which may mean a file or a
+/// program.
+std::optional<std::string> page_of(const std::string& address) {
+    const std::size_t colon = std::min(address.find(':'), address.size());
+    const std::string before = address.substr(0, colon);
+    const Text scheme = lower_case(from_utf8(before));
+    if (scheme == u"http" || scheme == u"https" || address == "about:blank") return address;
+    const bool is_host = before.find('.') != std::string::npos || scheme == u"localhost";
+    const bool has_scheme = colon < address.size() && before.find_first_of("/?#") == std::string::npos &&
+                            !(is_host && is_port(std::string_view(address).substr(colon + 1)));
+    if (has_scheme) return std::nullopt;
+    return "http://" + address;
 }
 
 /// A name for the instances of one user in one application directory, whatever way leads to the directory.
@@ -61,11 +77,7 @@ void PosixShell::open(const Text& path) {
 void PosixShell::open_page(const Text& address) {
     const std::string page = to_utf8(trim(address));
     if (page.empty() || page.find('\0') != std::string::npos) return;
-    if (is_page(page)) {
-        start(opener_, page);
-    } else if (page.find(':') == std::string::npos) {
-        start(opener_, "http://" + page);
-    }
+    if (const auto whole = page_of(page)) start(opener_, *whole);
 }
 
 void PosixShell::end_process() { ::_exit(0); }

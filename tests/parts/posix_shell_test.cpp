@@ -67,13 +67,17 @@ TEST(PosixShell, OpeningHandsThePathOverAsOneArgumentAndLeavesNoDeadProcess) {
 TEST(PosixShell, OnlyPagesReachTheBrowser) {
     Opener opener;
     for (const TextView refused :
-         {u"", u" ", u"file:///etc/passwd", u"mailto:a@b.example", u"javascript:alert(1)", u"about:config"})
+         {u"", u" ", u"file:///etc/passwd", u"mailto:a@b.example", u"javascript:alert(1)", u"about:config",
+          u"tel:15880000", u"www.a.example:x", u"vnd.a:1@b"})
         opener.shell.open_page(Text(refused));
     // What had been opened for one of those would be among the answers.
     const std::pair<TextView, const char*> pages[] = {
         {u"https://pondira.example/a?b=$(c)&d='e f'", "1:https://pondira.example/a?b=$(c)&d='e f'"},
         {u"HTTP://폰디라.example", "1:HTTP://폰디라.example"},
         {u"-www.pondira.example", "1:http://-www.pondira.example"},
+        {u"www.pondira.example:8080/x", "1:http://www.pondira.example:8080/x"},
+        {u"localhost:80", "1:http://localhost:80"},
+        {u"www.pondira.example/?u=http://a.example", "1:http://www.pondira.example/?u=http://a.example"},
         {u"about:blank", "1:about:blank"},
     };
     for (const auto& [address, argument] : pages) {
