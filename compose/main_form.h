@@ -228,6 +228,9 @@ class frmZent : public platform::Form {
     /// Fills an empty subject from the text, or with "제목없음".
     void subjectText_CHECK();
 
+    /// A sound file's path as the machine writes it, pasted perhaps, becomes the program's.
+    void take_machine_path();
+
     /// Writes how large the documents of a fax are together.
     void FAX_SIZE_CAPTION();
 
@@ -316,9 +319,10 @@ class frmZent : public platform::Form {
     void MySave_Click();
 
     // The voice's sources.
+    void RFK1_Replacing(bool& may);
+    void stop_hidden_recording();
     void TTSBttn0_Click();
     void TTSBttn1_Click();
-    bool choose_free_name();
 
     // Fax documents.
     void FAXBttn1_Click();

@@ -82,6 +82,7 @@ void frmZent::TabStrip1_Click() {
         set_number_captions(FAX_NUMBER);
     }
     subjectText.set_tag(u"");
+    stop_hidden_recording();
 }
 
 void frmZent::show_text_kind() {
@@ -130,6 +131,7 @@ void frmZent::show_reply_controls(bool visible) {
 void frmZent::TabStrip2_Click() {
     for (platform::Frame& panel : TPIC) panel.hide();
     TPIC[static_cast<std::size_t>(TabStrip2.selected() - 1)].show();
+    stop_hidden_recording();
 }
 
 void frmZent::Toolbar1_ButtonClick(int index) {

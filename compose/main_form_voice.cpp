@@ -6,7 +6,6 @@
 
 namespace compose {
 
-using platform::BoxAnswer;
 using platform::Text;
 
 namespace {
@@ -18,9 +17,27 @@ constexpr platform::TextView WAV_FILTER = u"Wav 파일|*.wav";
 void frmZent::connect_voice() {
     // A cancelled dialog ends a handler silently, and so does a failure on the way.
     TTSBttn0.Click.connect([this] { platform::ignore_errors([this] { TTSBttn0_Click(); }); });
+    RFK1.Replacing.connect([this](bool& may) { RFK1_Replacing(may); });
     TTSBttn1.Click.connect([this] { platform::ignore_errors([this] { TTSBttn1_Click(); }); });
     TTSBttn2.Click.connect([this] { TTSFileTxt.set_text(u""); });
-    TTSBttn3.Click.connect([this] { core::SHELL_OPEN_CHECKED(platform_, TTSFileTxt.text()); });
+    TTSBttn3.Click.connect([this] {
+        take_machine_path();
+        core::SHELL_OPEN_CHECKED(platform_, TTSFileTxt.text());
+    });
+}
+
+void frmZent::RFK1_Replacing(bool& may) {
+    may = platform_.desktop.message_box({.text = u"저장하거나 보내지 않은 녹음이 있습니다. 새로 녹음하면 "
+                                                 u"지워집니다.\r\n\r\n새로 녹음하시겠습니까?",
+                                         .icon = platform::BoxIcon::question,
+                                         .buttons = platform::BoxButtons::yes_no,
+                                         .default_answer = platform::BoxAnswer::no}) ==
+          platform::BoxAnswer::yes;
+}
+
+/// Nobody is recorded who does not see it.
+void frmZent::stop_hidden_recording() {
+    if (!RFK1.on_screen()) RFK1.stop();
 }
 
 void frmZent::TTSBttn0_Click() {
@@ -29,23 +46,15 @@ void frmZent::TTSBttn0_Click() {
     if (RFK1.SaveWave(Text(core::SOUND_FOLDER), trial)) return;
     core::DELETE_FILE(platform_, Text(core::SOUND_FOLDER) + trial);
     Cmd1.set_up(u"다름 이름으로 저장", Text(WAV_FILTER));
-    if (choose_free_name()) {
+    if (!core::choose_free_name(platform_, Cmd1)) return;
+    const bool failed =
         RFK1.SaveWave(core::PARENT_DIR(platform_, Cmd1.file_name()), core::FILE_NAME_OF(Cmd1.file_name()));
-    }
+    if (!failed) RFK1.set_kept();
 }
 
-/// Asks until the name is free or may be written over; false when the user gives up.
-bool frmZent::choose_free_name() {
-    while (true) {
-        Cmd1.show_save();
-        if (!core::FILE_EXISTS(platform_, Cmd1.file_name())) return true;
-        const BoxAnswer answer = platform_.desktop.message_box(
-            {.text = Cmd1.file_name() + u"\r\n\r\n이미 동일한 파일이 존재합니다. 덮어쓰시겠습니까?",
-             .icon = platform::BoxIcon::exclamation,
-             .buttons = platform::BoxButtons::yes_no_cancel,
-             .default_answer = BoxAnswer::yes});
-        if (answer != BoxAnswer::no) return answer == BoxAnswer::yes;
-    }
+void frmZent::take_machine_path() {
+    if (const Text path = platform::trim(TTSFileTxt.text()); path.starts_with(u'/'))
+        TTSFileTxt.set_text(platform_.files.path_of(platform::to_utf8(path)));
 }
 
 void frmZent::TTSBttn1_Click() {

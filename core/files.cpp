@@ -49,6 +49,20 @@ void SHELL_OPEN_CHECKED(Platform& platform, const Text& path) {
         {.text = path + u"\r\n\r\n파일을 찾을 수 없습니다!", .icon = platform::BoxIcon::critical});
 }
 
+bool choose_free_name(Platform& platform, platform::CommonDialog& dialog) {
+    using platform::BoxAnswer;
+    while (true) {
+        dialog.show_save();
+        if (!FILE_EXISTS(platform, dialog.file_name())) return true;
+        const BoxAnswer answer = platform.desktop.message_box(
+            {.text = dialog.file_name() + u"\r\n\r\n이미 동일한 파일이 존재합니다. 덮어쓰시겠습니까?",
+             .icon = platform::BoxIcon::exclamation,
+             .buttons = platform::BoxButtons::yes_no_cancel,
+             .default_answer = BoxAnswer::yes});
+        if (answer != BoxAnswer::no) return answer == BoxAnswer::yes;
+    }
+}
+
 void make_folder_when_missing(Platform& platform, const Text& path) {
     platform::ignore_errors([&] {
         if (!platform.files.folder_exists(path)) platform.files.make_folder(path);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/controls/common_dialog.h"
 #include "platform/ports/platform.h"
 #include "platform/text/text.h"
 
@@ -25,6 +26,10 @@ void SHELL_OPEN(platform::Platform& platform, const platform::Text& path);
 /// The same for a path that the user typed, with a message when the file is missing; nothing for an empty
 /// path.
 void SHELL_OPEN_CHECKED(platform::Platform& platform, const platform::Text& path);
+
+/// Lets the user choose where to save, until the name is free or he agrees to write over its file; false when
+/// he does not. RuntimeError 32755 when he cancels the dialog.
+bool choose_free_name(platform::Platform& platform, platform::CommonDialog& dialog);
 
 /// A folder that the program needs is made when it is missing; a failure is left to show where the folder is
 /// used.

@@ -113,6 +113,8 @@ void frmZentSend::report(const SendJob& job) {
     normal_cursor();
     const Text text = report_text(job, MSGSendCount, platform_.clock.now());
     SEND_FINISHED();
+    if (job.success > 0 && job.kind != nullptr && job.kind->content == Content::recording)
+        main_form_.RFK1.set_kept();
     frmSendEndBox box(platform_, main_form_);
     box.load();
     box.Text1.set_text(Text(platform::CRLF) + text);

@@ -3,12 +3,12 @@
 #include "compose/recipient_number.h"
 #include "core/common.h"
 #include "core/files.h"
+#include "core/percent.h"
 #include "core/windows.h"
 #include "send/confirmation.h"
 #include "send/draft.h"
 #include "send/frmSBox.h"
 #include "send/frmZentSend.h"
-#include "core/percent.h"
 #include "send/schedule_check.h"
 
 #include <optional>
@@ -41,7 +41,8 @@ bool check_speech(const Platform& platform, frmZent& form) {
     return false;
 }
 
-bool check_sound_file(const Platform& platform, const frmZent& form) {
+bool check_sound_file(const Platform& platform, frmZent& form) {
+    form.take_machine_path();
     if (core::FILE_EXISTS(platform, form.TTSFileTxt.text())) return true;
     core::warn(platform.desktop, u"첨부할 WAV파일을 선택하여 주십시오.");
     return false;

@@ -40,12 +40,18 @@ bool SoundRecorder::can_record() const {
 }
 
 void SoundRecorder::record() {
-    if (!can_record()) return;
+    if (!can_record() || !may_replace() || !can_record()) return;
     if (!ignore_errors([this] { recorder_.start_recording(); })) {
         return warn(u"마이크를 사용할 수 없습니다. 다른 프로그램이 쓰고 있는지 확인해 주십시오.");
     }
     holds_earlier_ = true;
     become(State::recording, u"녹음하고 있습니다.");
+}
+
+bool SoundRecorder::may_replace() {
+    bool may = true;
+    if (!recording_.empty() && !kept_) Replacing.raise(may);
+    return may;
 }
 
 void SoundRecorder::stop() {
@@ -95,6 +101,7 @@ void SoundRecorder::microphone_changed() {
 void SoundRecorder::heard(SampleView samples) {
     if (state_ != State::recording || samples.empty()) return;
     if (std::exchange(holds_earlier_, false)) recording_.clear();
+    kept_ = false;
     const SampleView fitting = samples.first(std::min(samples.size(), LIMIT - recording_.size()));
     recording_.insert(recording_.end(), fitting.begin(), fitting.end());
     level_ = loudness(samples);

@@ -22,6 +22,11 @@ class SoundRecorder : public Control, private Recorder::Listener {
     /// Looks for the microphone. Before the user first sees the control nothing is asked of the machine.
     void open();
 
+    /// A recording that is nowhere else is about to be replaced, unless a handler sets the flag to false.
+    Event<bool&> Replacing;
+    /// The user has the recording, or its recipients do: the next one may replace it.
+    void set_kept() { kept_ = true; }
+
     // The buttons; one that cannot be pressed now does nothing.
     void record();
     /// Ends the recording or the playing.
@@ -54,6 +59,7 @@ class SoundRecorder : public Control, private Recorder::Listener {
     void played(std::size_t samples) override;
     void playing_ended() override;
 
+    bool may_replace();
     void become(State state, Text message);
     void become_idle();
     void inform(Text message);
@@ -65,6 +71,7 @@ class SoundRecorder : public Control, private Recorder::Listener {
     bool open_ = false;
     State state_ = State::idle;
     Samples recording_;
+    bool kept_ = true;
     /// The recording is still that of before: nothing of the new one has been heard.
     bool holds_earlier_ = false;
     std::size_t played_ = 0;

@@ -4,6 +4,8 @@
 #include "platform/qt/text_conversion.h"
 #include "ui_RecorderPanel.h"
 
+#include <QAccessible>
+
 namespace platform::qt {
 
 RecorderPanel::RecorderPanel(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::RecorderPanel>()) {
@@ -22,7 +24,12 @@ void RecorderPanel::show_recorder(const SoundRecorder& recorder) {
                   {ui_->_record, recorder.can_record()}});
     ui_->_recordTime->setText(to_qstring(recorder.time()));
     ui_->_recordLevel->setValue(recorder.level());
-    ui_->_recordMessage->setText(to_qstring(recorder.message()));
+    if (const QString message = to_qstring(recorder.message()); message != ui_->_recordMessage->text()) {
+        ui_->_recordMessage->setText(message);
+        // A screen reader says it: who records does not look for it.
+        QAccessibleEvent said(ui_->_recordMessage, QAccessible::Alert);
+        QAccessible::updateAccessibility(&said);
+    }
     ui_->_recordWarning->setVisible(recorder.message_warns());
 }
 

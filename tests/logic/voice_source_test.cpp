@@ -98,4 +98,31 @@ TEST_F(VoiceSource, ASoundFileIsPlayedByTheMachineAndAMissingOneIsNamed) {
     EXPECT_EQ(form.TTSFileTxt.text(), NAME);
 }
 
+TEST_F(VoiceSource, IsNotRecordedOverUnlessItIsKeptSomewhereOrTheUserAgrees) {
+    const Text question = u"새로 녹음하시겠습니까?";
+    const auto record_again = [&] {
+        form.RFK1.record();
+        if (recorder.recording) recorder.speak(Samples(5, 2));
+        form.RFK1.stop();
+        return form.RFK1.recording().size();
+    };
+    form.RFK1.stop();
+    desktop.expect_box(question, BoxAnswer::no);
+    EXPECT_EQ(record_again(), 10u);
+    EXPECT_EQ(desktop.boxes.back().default_answer, BoxAnswer::no);
+    desktop.expect_file_dialog(SAVE_TITLE, std::nullopt);
+    save();
+    desktop.expect_box(question, BoxAnswer::yes);
+    EXPECT_EQ(record_again(), 5u) << "the trial is no saving";
+    desktop.expect_file_dialog(SAVE_TITLE, u"z:\\home\\a.wav");
+    save();
+    EXPECT_EQ(record_again(), 5u) << "nobody is asked";
+    form.TabStrip1.select(compose::VOICE_MESSAGE);
+    form.TabStrip2.select(2);
+    add(u"a", u"01011112222");
+    send();
+    EXPECT_EQ(record_again(), 5u) << "nobody is asked about what is sent";
+    EXPECT_EQ(desktop.boxes.size(), 2u);
+}
+
 }  // namespace

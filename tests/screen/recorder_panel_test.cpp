@@ -74,6 +74,7 @@ TEST_F(RecorderPanel, RecordsStopsAndPlaysByOneKey) {
     form.subjectText.set_focus();
     machine.recorder.end_playing();
     EXPECT_TRUE(form.subjectText.has_focus()) << "only the panel's own focus goes on";
+    form.RFK1.set_kept();
     press_key(Qt::Key_R, Qt::ControlModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return machine.recorder.recording; }));
     EXPECT_TRUE(form.RFK1.has_focus()) << "the field has seen its loss";
@@ -113,6 +114,7 @@ TEST_F(RecorderPanel, ShowsEveryMessageWholeInTheSmallestWindow) {
     expect_whole("마이크를 찾을 수 없습니다");
     machine.recorder.plug_in(true);
     machine.recorder.busy = false;
+    form.RFK1.set_kept();
     form.RFK1.record();
     machine.recorder.speak(Samples(1));
     machine.recorder.break_recording();
