@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QLocale>
 
 namespace {
 
@@ -42,6 +43,8 @@ int main(int argc, char** argv) {
     platform::qt::use_font_with_hangul();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.svg")));
     QApplication::setQuitOnLastWindowClosed(false);
+    // Days and months in the language of everything else, whatever the machine's is.
+    QLocale::setDefault(QLocale(QLocale::Korean, QLocale::SouthKorea));
     platform::qt::KoreanTranslator korean;
     QApplication::installTranslator(&korean);
 

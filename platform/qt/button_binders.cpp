@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QRadioButton>
 
@@ -73,6 +74,21 @@ OptionButtonBinder::OptionButtonBinder(BoundForm& bound, OptionButton& control, 
         act([this] { control_.set_chosen(true); });
         button_.setChecked(!is_bound_live() || control_.chosen());
     });
+}
+
+/// The arrow keys choose the next of the group, as everywhere; the toolkit does it only where it keeps the
+/// others off itself.
+bool OptionButtonBinder::filter(QObject& object, QEvent& event) {
+    if (event.type() != QEvent::KeyPress || &object != &button_) return ButtonBinder::filter(object, event);
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    const bool on = key == Qt::Key_Down || key == Qt::Key_Right;
+    if (!on && key != Qt::Key_Up && key != Qt::Key_Left) return ButtonBinder::filter(object, event);
+    const auto group = button_.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly);
+    const qsizetype next = group.indexOf(&button_) + (on ? 1 : group.size() - 1);
+    QRadioButton& chosen = *group[next % group.size()];
+    chosen.setFocus(Qt::TabFocusReason);
+    chosen.click();
+    return true;
 }
 
 void OptionButtonBinder::refresh(Aspect aspect) {

@@ -54,6 +54,8 @@ class OptionButtonBinder : public ButtonBinder {
     void refresh(Aspect aspect) override;
 
   private:
+    bool filter(QObject& object, QEvent& event) override;
+
     OptionButton& control_;
     QRadioButton& button_;
 };

@@ -1,6 +1,8 @@
 #include "platform/qt/icon_label.h"
 
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
 
 namespace platform::qt {
 
@@ -14,6 +16,10 @@ void IconLabel::paintEvent(QPaintEvent* event) {
     QLabel::paintEvent(event);
     QPainter painter(this);
     icon_.paint(&painter, contentsRect(), alignment(), isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    if (!hasFocus()) return;
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
 }
 
 }  // namespace platform::qt

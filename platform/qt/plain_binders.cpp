@@ -6,6 +6,7 @@
 
 #include <QDateEdit>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -15,7 +16,12 @@ namespace platform::qt {
 
 namespace {
 
+/// Also a key, where the widget is a link that takes the focus.
 bool is_click(const QWidget& widget, const QEvent& event) {
+    if (event.type() == QEvent::KeyPress) {
+        const int key = static_cast<const QKeyEvent&>(event).key();
+        return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
+    }
     if (event.type() != QEvent::MouseButtonRelease) return false;
     const auto& mouse = static_cast<const QMouseEvent&>(event);
     return mouse.button() == Qt::LeftButton && widget.rect().contains(mouse.position().toPoint());
@@ -37,8 +43,9 @@ void LabelBinder::refresh(Aspect aspect) {
 }
 
 bool LabelBinder::filter(QObject&, QEvent& event) {
-    if (is_click(label_, event)) act([this] { control_.Click.raise(); });
-    return false;
+    if (!is_click(label_, event)) return false;
+    act([this] { control_.Click.raise(); });
+    return event.type() == QEvent::KeyPress;
 }
 
 ImageBinder::ImageBinder(BoundForm& bound, Image& control, QLabel& label)
@@ -59,8 +66,9 @@ void ImageBinder::show_picture() {
 }
 
 bool ImageBinder::filter(QObject& object, QEvent& event) {
-    if (is_click(static_cast<QWidget&>(object), event)) act([this] { control_.Click.raise(); });
-    return false;
+    if (!is_click(static_cast<QWidget&>(object), event)) return false;
+    act([this] { control_.Click.raise(); });
+    return event.type() == QEvent::KeyPress;
 }
 
 FrameBinder::FrameBinder(BoundForm& bound, Frame& control, QWidget& widget)

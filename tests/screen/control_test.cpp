@@ -51,8 +51,14 @@ TEST_F(ControlTest, checks_and_options_are_what_their_handlers_leave_them) {
     find<QRadioButton>("Option1").click();
     find<QRadioButton>("Option2").click();
     find<QRadioButton>("Option2").click();
+    find("Option2").setFocus();
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Right}) QTest::keyClick(QApplication::focusWidget(), key);
+    EXPECT_TRUE(find("Option2").hasFocus());
     form.Check1.set_checked(false);
-    EXPECT_EQ(events, (std::vector<std::string>{"on", "1", "2", "off"}));
+    form.mHLen1.Click.connect([&] { events.push_back("link"); });
+    for (const Qt::Key key : {Qt::Key_A, Qt::Key_Return, Qt::Key_Space})
+        QTest::keyClick(&find("mHLen1"), key);
+    EXPECT_EQ(events, (std::vector<std::string>{"on", "1", "2", "1", "2", "off", "link", "link"}));
     EXPECT_TRUE(find<QRadioButton>("Option2").isChecked());
     EXPECT_FALSE(find<QRadioButton>("Option1").isChecked());
     EXPECT_FALSE(find<QCheckBox>("Check1").isChecked());
