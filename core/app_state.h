@@ -7,6 +7,10 @@
 #include <cstdint>
 #include <memory>
 
+namespace gateway {
+class frmWeb;
+}
+
 namespace core {
 
 /// What the user sees as the program's name.
@@ -76,6 +80,8 @@ struct AppState {
     // Flags between forms.
     platform::BooleanWord gSendFormOpen;
     platform::BooleanWord gWebFormOpen;
+    /// The form of the service's pages that is open, or none: there is never a second one.
+    gateway::frmWeb* frmWeb = nullptr;
     platform::BooleanWord gUpdateFormOpen;
     /// The answer of the last dialog that asks yes or no.
     platform::BooleanWord gDialogConfirmed;

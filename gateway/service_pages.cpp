@@ -42,12 +42,18 @@ PageLink link_of(int page) {
     }
 }
 
-void show_page(Platform& platform, AppState& state, const Text& address, const std::string& body,
-               TextView caption) {
-    frmWeb web(platform, state);
-    ignore_errors([&] { web.load(); });
+void go(frmWeb& web, const Text& address, const std::string& body, TextView caption) {
     ignore_errors([&] { web.WebBrowser.Navigate(address, body, Text(HEADER)); });
     ignore_errors([&] { web.set_caption(Text(caption)); });
+}
+
+/// A form that is open goes on to the page: the card manager may ask for one while the user looks at another.
+void show_page(Platform& platform, AppState& state, const Text& address, const std::string& body,
+               TextView caption) {
+    if (state.frmWeb != nullptr) return go(*state.frmWeb, address, body, caption);
+    frmWeb web(platform, state);
+    ignore_errors([&] { web.load(); });
+    go(web, address, body, caption);
     ignore_errors([&] { web.show_modal(); });
 }
 

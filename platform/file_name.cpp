@@ -32,6 +32,14 @@ bool is_forbidden(char16_t unit) {
     return unit < u' ' || TextView(u"\\/:*?\"<>|").find(unit) != TextView::npos;
 }
 
+/// Control characters, and those that turn the direction of a text round or take no room.
+bool is_invisible(char16_t unit) {
+    constexpr std::pair<char16_t, char16_t> RANGES[] = {{0x7F, 0x9F},     {0xAD, 0xAD},     {0x200B, 0x200F},
+                                                        {0x2028, 0x202E}, {0x2060, 0x206F}, {0xFEFF, 0xFEFF}};
+    return std::any_of(std::begin(RANGES), std::end(RANGES),
+                       [&](const auto& range) { return unit >= range.first && unit <= range.second; });
+}
+
 [[noreturn]] void refuse(Text why) { throw RuntimeError(ErrorNumber::bad_file_name, std::move(why)); }
 
 }  // namespace
@@ -44,6 +52,22 @@ void check_file_name(TextView name) {
     if (name.back() == u'.' || name.back() == u' ') refuse(u"이름은 마침표나 빈칸으로 끝날 수 없습니다.");
     if (is_device(name)) refuse(u"시스템에서 사용하는 이름이므로 사용할 수 없습니다.");
     if (to_utf8(name).size() > MOST_BYTES) refuse(u"이름이 너무 깁니다. 더 짧은 이름을 입력하세요.");
+}
+
+Text clean_file_name(TextView proposal) {
+    constexpr std::size_t LONGEST = 70;
+    proposal.remove_prefix(proposal.find_last_of(u"\\/") + 1);
+    Text name;
+    for (const char16_t unit : proposal) {
+        if (!is_forbidden(unit) && !is_invisible(unit)) name.push_back(unit);
+    }
+    name.erase(0, name.find_first_not_of(u". "));
+    while (name.ends_with(u'.') || name.ends_with(u' ')) name.pop_back();
+    if (name.size() > LONGEST) {
+        const std::size_t ending = std::max(name.rfind(u'.') + 1, name.size() - 8) - 1;
+        name.erase(LONGEST - (name.size() - ending), name.size() - LONGEST);
+    }
+    return is_device(name) ? u"_" + name : name;
 }
 
 bool matches_pattern(TextView name, TextView pattern) {

@@ -9,6 +9,11 @@ namespace platform {
 /// Files that are there already open under any name.
 void check_file_name(TextView name);
 
+/// The nearest to a name that a stranger proposes which `check_file_name` lets pass: without folders, without
+/// what no name may have and without marks that would show it otherwise than it is. Short enough for an
+/// ending behind it; empty when nothing is left.
+Text clean_file_name(TextView proposal);
+
 /// Whether the name is one of the pattern's: `*` is any run of characters and `?` any one, letters in either
 /// case. `*.*` means every name, as it always did, also those without a dot.
 bool matches_pattern(TextView name, TextView pattern);

@@ -3,6 +3,10 @@
 #include "carrier/cp949.h"
 #include "carrier/site/pages.h"
 
+#include <cmath>
+#include <cstdint>
+#include <numbers>
+
 namespace carrier::site {
 namespace {
 
@@ -23,6 +27,49 @@ Html row(std::string_view name, std::string_view text) {
     Html html;
     html << "<tr><th>" << name << "</th><td>" << text << "</td></tr>\n";
     return html;
+}
+
+constexpr std::string_view voice = "음성";
+
+void append(std::string& bytes, std::uint32_t number, int size) {
+    for (int i = 0; i < size; ++i) {
+        bytes.push_back(static_cast<char>(number >> (8 * i)));
+    }
+}
+
+/// A second of the tone after which one speaks, as the telephone records it: 8000 samples of 16 bits.
+std::string tone() {
+    constexpr std::uint32_t rate = 8000;
+    constexpr std::uint32_t bytes_a_second = 2 * rate;
+    std::string wav = "RIFF";
+    append(wav, 36 + bytes_a_second, 4);
+    wav += "WAVEfmt ";
+    append(wav, 16, 4);
+    append(wav, 1, 2);
+    append(wav, 1, 2);
+    append(wav, rate, 4);
+    append(wav, bytes_a_second, 4);
+    append(wav, 2, 2);
+    append(wav, 16, 2);
+    wav += "data";
+    append(wav, bytes_a_second, 4);
+    for (std::uint32_t i = 0; i < rate; ++i) {
+        const double sample = 9000 * std::sin(i * 2 * std::numbers::pi * 440 / rate);
+        append(wav, static_cast<std::uint32_t>(static_cast<std::int32_t>(sample)), 2);
+    }
+    return wav;
+}
+
+/// What stands for a voice's title: the way to its sound.
+Html title_of(const Received& received, const Visitor& visitor) {
+    Html title;
+    if (received.kind != voice) {
+        title << received.title;
+        return title;
+    }
+    title << "<a href=\"" << link("/inbox/voice", visitor, {{"time", received.time}}) << "\">"
+          << received.title << "</a>";
+    return title;
 }
 
 }  // namespace
@@ -61,13 +108,25 @@ Answer inbox_page(const Request& request, const Sources& sources) {
                    "</thead><tbody>\n";
             for (const Received& received : subscriber.inbox) {
                 content << "<tr><td>" << received.time << "</td><td>" << received.kind << "</td><td>"
-                        << received.sender << "</td><td>" << received.title << "</td><td>" << received.size
-                        << "</td></tr>\n";
+                        << received.sender << "</td><td>" << title_of(received, subscriber.visitor)
+                        << "</td><td>" << received.size << "</td></tr>\n";
             }
             content << "</tbody></table>";
         }
         content << "</div>\n";
         return subscriber_page("팩스수신", subscriber, "/inbox", content);
+    });
+}
+
+Answer received_voice(const Request& request, const Sources& sources) {
+    return for_subscriber(request, sources, [&](const Subscriber& subscriber) {
+        const std::string time = query_field(request.query, "time");
+        for (const Received& received : subscriber.inbox) {
+            if (received.kind == voice && received.time == time) {
+                return Answer{.body = tone(), .type = "audio/wav", .file_name = received.title + ".wav"};
+            }
+        }
+        return refusal(404, "음성이 없습니다", "주소를 확인하여 주십시오.");
     });
 }
 

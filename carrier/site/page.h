@@ -32,6 +32,7 @@ struct Answer {
     int status = 200;
     std::string body;
     std::string type = "text/html; charset=utf-8";
+    std::string file_name{};  ///< in UTF-8: the browser keeps the body as a file of this name
 };
 
 /// A subscriber and what his pages show. The visitor's id is UTF-8 here, the account has no password.

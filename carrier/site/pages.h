@@ -10,6 +10,7 @@ Answer result_page(const Request& request, const Sources& sources);
 Answer charges_page(const Request& request, const Sources& sources);
 Answer member_page(const Request& request, const Sources& sources);
 Answer inbox_page(const Request& request, const Sources& sources);
+Answer received_voice(const Request& request, const Sources& sources);
 
 // What everybody may see.
 Answer service_page(const Request& request, const Sources& sources);

@@ -24,6 +24,7 @@ constexpr std::array routes = {
     Route{"/money", charges_page},
     Route{"/memedit", member_page},
     Route{"/inbox", inbox_page},
+    Route{"/inbox/voice", received_voice},
     Route{"/", service_page},
     Route{"/company", maker_page},
     Route{"/idpass", find_password_page},

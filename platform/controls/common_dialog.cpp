@@ -6,8 +6,8 @@
 
 namespace platform {
 
-void CommonDialog::set_up(Text title, Text filter) {
-    question_ = {.title = std::move(title), .filter = std::move(filter)};
+void CommonDialog::set_up(Text title, Text filter, Text proposal) {
+    question_ = {.title = std::move(title), .filter = std::move(filter), .file_name = std::move(proposal)};
 }
 
 void CommonDialog::show(FileQuestion::Purpose purpose) {

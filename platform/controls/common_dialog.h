@@ -11,8 +11,9 @@ class CommonDialog {
   public:
     explicit CommonDialog(Desktop& desktop) : desktop_(desktop) {}
 
-    /// Title and filter ("name|pattern|…") for a new use; no file is chosen.
-    void set_up(Text title, Text filter);
+    /// Title and filter ("name|pattern|…") for a new use; no file is chosen, but one may be proposed by its
+    /// name.
+    void set_up(Text title, Text filter, Text proposal = {});
 
     /// Each raises RuntimeError 32755 when the user cancels, and keeps the file name then.
     void show_open() { show(FileQuestion::Purpose::open); }

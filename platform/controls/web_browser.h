@@ -1,7 +1,10 @@
 #pragma once
 
 #include "platform/controls/control.h"
+#include "platform/controls/event.h"
+#include "platform/controls/page_file.h"
 
+#include <cstdint>
 #include <string>
 #include <utility>
 
@@ -30,6 +33,16 @@ class WebBrowser : public Control {
 
     /// The last navigation that a handler asked for; where the user has gone from there, nobody knows.
     const Navigation& navigation() const { return navigation_; }
+
+    /// A file that grows beyond it is given up, in bytes.
+    static constexpr std::int64_t LARGEST_FILE = 100 * 1024 * 1024;
+
+    // One file at a time, and none that the user has not clicked for. Without a handler there is none.
+    Event<PageFile&> FileOffered;
+    /// So much of it has come, of how much, in bytes; 0 as long as the server has not told.
+    Event<std::int64_t, std::int64_t> FileReceived;
+    /// Its path is there only when it is whole.
+    Event<FileEnd> FileEnded;
 
   private:
     Navigation navigation_;

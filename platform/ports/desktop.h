@@ -32,7 +32,7 @@ struct FileQuestion {
     Text title{};
     /// Names and patterns in turn, as "Wav files|*.wav|All files|*.*"; several patterns are joined by ";".
     Text filter{};
-    /// What stands in the dialog's field at first.
+    /// What stands in the dialog's field at first: a path, or a name for the folder where the user was last.
     Text file_name{};
 };
 

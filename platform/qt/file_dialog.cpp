@@ -85,8 +85,11 @@ std::optional<Text> FileDialog::ask(const FileQuestion& question, QWidget* paren
     } else {
         dialog.setFileMode(QFileDialog::ExistingFile);
     }
-    if (!question.file_name.empty())
+    if (question.file_name.find(u'\\') != Text::npos) {
         dialog.selectFile(QString::fromStdString(files_.machine_path(question.file_name)));
+    } else if (!question.file_name.empty()) {
+        dialog.selectFile(to_qstring(question.file_name));
+    }
 
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     const QFileInfo chosen(dialog.selectedFiles().front());

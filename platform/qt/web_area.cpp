@@ -40,6 +40,10 @@ WebArea::~WebArea() = default;
 
 void WebArea::show_page(PageRequest request) {
     waiting_.reset();
+    if (asking_) {
+        waiting_ = std::move(request);
+        return;
+    }
     if (request.address.isEmpty()) {
         page_.reset();
         notice_.hide();
@@ -84,11 +88,27 @@ bool WebArea::make_page() {
     }
     const bool focus = hasFocus();
     page_ = engine->open(*this, {.progress = [this](int percent) { show_progress(percent); },
-                                 .died = [this] { show_death(); }});
+                                 .died = [this] { show_death(); },
+                                 .files = guarded_files()});
     setFocusProxy(&page_->widget());
     if (focus) setFocus();
     lay_out();
     return true;
+}
+
+PageFiles WebArea::guarded_files() {
+    PageFiles files = files_;
+    files.place = [this, ask = files_.place](const QString& name) {
+        asking_ = true;
+        const QString place = ask(name);
+        asking_ = false;
+        if (auto next = std::exchange(waiting_, std::nullopt)) {
+            QMetaObject::invokeMethod(
+                this, [this, next = std::move(*next)] { show_page(next); }, Qt::QueuedConnection);
+        }
+        return place;
+    };
+    return files;
 }
 
 void WebArea::show_view() {

@@ -20,6 +20,9 @@ class WebArea : public QWidget {
     explicit WebArea(QWidget* parent = nullptr);
     ~WebArea() override;
 
+    /// For the files of pages that are made from now on.
+    void set_files(PageFiles files) { files_ = std::move(files); }
+
     /// Goes to the page once the area is on the screen; an empty address shows nothing.
     void show_page(PageRequest request);
 
@@ -30,6 +33,7 @@ class WebArea : public QWidget {
   private:
     void open_waiting_page();
     bool make_page();
+    PageFiles guarded_files();
     void show_view();
     void show_progress(int percent);
     void show_death();
@@ -40,6 +44,9 @@ class WebArea : public QWidget {
     QProgressBar& progress_;
     std::unique_ptr<WebPage> page_;
     std::optional<PageRequest> waiting_;
+    PageFiles files_;
+    /// The user is asked where a file goes, and the page that waits for it must not go meanwhile.
+    bool asking_ = false;
 };
 
 }  // namespace platform::qt

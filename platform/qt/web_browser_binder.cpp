@@ -1,5 +1,6 @@
 #include "platform/qt/web_browser_binder.h"
 
+#include "platform/error.h"
 #include "platform/qt/text_conversion.h"
 #include "platform/qt/web_area.h"
 
@@ -7,12 +8,33 @@ namespace platform::qt {
 
 WebBrowserBinder::WebBrowserBinder(BoundForm& bound, WebBrowser& control, WebArea& area)
     : WidgetBinder(bound, control, area), control_(control), area_(area) {
+    area.set_files({.largest = WebBrowser::LARGEST_FILE,
+                    .place = [this](const QString& name) { return place(name); },
+                    .received =
+                        [this](qint64 bytes, qint64 size) {
+                            if (is_bound_live()) control_.FileReceived.raise(bytes, size);
+                        },
+                    .ended =
+                        [this](FileEnd end) {
+                            if (is_bound_live()) control_.FileEnded.raise(end);
+                        }});
     if (!control.navigation().address.empty()) navigate();
 }
 
 void WebBrowserBinder::refresh(Aspect aspect) {
     if (aspect == Aspect::value) return navigate();
     WidgetBinder::refresh(aspect);
+}
+
+QString WebBrowserBinder::place(const QString& name) {
+    if (!is_bound_live()) return {};
+    PageFile file{.name = to_text(name), .path = {}};
+    control_.FileOffered.raise(file);
+    QString path;
+    if (!file.path.empty()) {
+        ignore_errors([&] { path = QString::fromStdString(bound().files.machine_path(file.path)); });
+    }
+    return path;
 }
 
 void WebBrowserBinder::navigate() {

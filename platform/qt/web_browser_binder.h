@@ -14,6 +14,7 @@ class WebBrowserBinder : public WidgetBinder {
 
   private:
     void navigate();
+    QString place(const QString& name);
 
     WebBrowser& control_;
     WebArea& area_;

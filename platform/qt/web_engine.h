@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/controls/page_file.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QWidget>
@@ -17,12 +19,25 @@ struct PageRequest {
     QByteArray header;
 };
 
+/// The files that the user clicks for, one at a time.
+struct PageFiles {
+    /// In bytes; a file that grows beyond is given up.
+    qint64 largest = 0;
+    /// The machine's path for a file that the page proposes by this name; an empty one refuses it. The user
+    /// may be asked meanwhile.
+    std::function<QString(const QString& name)> place;
+    /// So much of the file has come, in bytes; the size is 0 as long as the server has not told it.
+    std::function<void(qint64 bytes, qint64 size)> received;
+    std::function<void(FileEnd end)> ended;
+};
+
 /// What becomes of a page.
 struct PageEvents {
     /// Percent of the load that is done; 100 is the end of it, also of one that failed.
     std::function<void(int)> progress;
     /// The page's process has died; nothing is shown any more.
     std::function<void()> died;
+    PageFiles files{};
 };
 
 /// A page on the screen, for the time of one form.

@@ -97,6 +97,69 @@ TEST_F(ServicePages, AreToldHowTheBodyIsWrittenAndHoldHandOversOffWhileTheyAreOp
     EXPECT_FALSE(state.gWebFormOpen);
 }
 
+TEST_F(ServicePages, FollowEachOtherInOneForm) {
+    write_links();
+    log_in_as(u"demo");
+    desktop.in_form<gateway::frmWeb>(u"frmWeb", [&](gateway::frmWeb& web) {
+        form.KTSMS_LINK(gateway::CARD_MANAGER_INBOX);
+        EXPECT_TRUE(web.loaded() && state.gWebFormOpen);
+        EXPECT_EQ(utf8(web.caption()), "팩스수신");
+        EXPECT_EQ(utf8(web.WebBrowser.navigation().address), "http://s/inbox");
+        EXPECT_EQ(web.WebBrowser.navigation().body, gateway::post_body(state));
+        web.escape_pressed();
+    });
+    form.KTSMS_LINK(0);
+    EXPECT_EQ(desktop.forms, std::vector<Text>{u"frmWeb"});
+    EXPECT_EQ(open(1).substr(0, 12), "요금조회");
+}
+
+TEST_F(ServicePages, HandOutDataOfAHarmlessNameWhereTheUserWantsIt) {
+    const struct {
+        const char16_t* proposal;
+        const char* asked;
+    } rows[] = {
+        {u"안내문.wav", "안내문.wav|wav 파일|*.wav"},
+        {u"..\\..\\etc/.견적:서*.PDF ", "견적서.PDF|pdf 파일|*.pdf"},
+        {u"con.txt", "_con.txt|txt 파일|*.txt"},
+        {u"voice\u202Evaw.exe", nullptr},
+        {u"voice.wav.desktop", nullptr},
+        {u"wav", nullptr},
+        {u".wav", nullptr},
+        {u"", nullptr},
+    };
+    const Text place = u"z:\\home\\x.wav";
+    log_in_as(u"demo");
+    desktop.in_form<gateway::frmWeb>(u"frmWeb", [&](gateway::frmWeb& web) {
+        const auto said = [&] { return utf8(web.Label1.caption()); };
+        for (const auto& row : rows) {
+            desktop.file_questions.clear();
+            if (row.asked != nullptr) desktop.expect_file_dialog(u"파일 저장", place);
+            platform::PageFile file{.name = row.proposal, .path = {}};
+            web.WebBrowser.FileOffered.raise(file);
+            if (row.asked == nullptr) {
+                EXPECT_TRUE(file.path.empty() && desktop.file_questions.empty()) << utf8(row.proposal);
+                EXPECT_NE(said().find("받을 수 없는 종류"), std::string::npos);
+                continue;
+            }
+            EXPECT_EQ(file.path, place);
+            const auto& question = desktop.file_questions.at(0);
+            EXPECT_EQ(utf8(question.file_name + u"|" + question.filter), row.asked);
+        }
+        files.files[place] = "old";
+        desktop.expect_file_dialog(u"파일 저장", place);
+        desktop.expect_box(u"덮어쓰시겠습니까", platform::BoxAnswer::cancel);
+        platform::PageFile file{.name = u"a.wav", .path = {}};
+        web.WebBrowser.FileOffered.raise(file);
+        EXPECT_TRUE(file.path.empty());
+        web.WebBrowser.FileReceived.raise(50, 200);
+        EXPECT_EQ(said(), "파일을 받고 있습니다. x.wav 25%");
+        web.WebBrowser.FileEnded.raise(platform::FileEnd::broken);
+        EXPECT_EQ(said(), "파일을 저장하지 못하였습니다. 다시 받아 주십시오. x.wav");
+        web.escape_pressed();
+    });
+    form.KTSMS_LINK(0);
+}
+
 TEST_F(ServicePages, AskTheUserToLogInFirstAndStayAwayWhenHeGivesUp) {
     write_links();
     in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });

@@ -90,7 +90,7 @@ class CarrierSite : public CarrierTest {
     CarrierSite() {
         configure(
             "[account 홍길동]\npassword=hong1234\n[inbox demo]\n2026-01-05 "
-            "11:30=팩스|02-1|3쪽|<i>견적</i>\n");
+            "11:30=팩스|02-1|3쪽|<i>견적</i>\n2026-01-04 18:05=음성|010-1|42초|안내문\n");
         carrier::Ledger make("carrier-ledger.db");
     }
 
@@ -187,6 +187,13 @@ TEST_F(CarrierSite, KnowsASubscriberByHisPostInCp949AndByItsOwnLinks) {
     EXPECT_TRUE(holds(page, "charset=utf-8"));
     EXPECT_TRUE(holds(page, "(홍길동)"));
     EXPECT_TRUE(holds(site.get(link_called(page, "가입자 정보")), "<td>홍길동</td>"));
+    const std::string inbox = site.post("/inbox", posted_demo);
+    EXPECT_EQ(link_called(inbox, "견적"), "") << "a fax is no sound";
+    const std::string sound = site.get(link_called(inbox, "안내문"));
+    EXPECT_TRUE(holds(sound, "Content-Disposition: attachment; filename*=UTF-8''%EC%95%88"));
+    EXPECT_TRUE(holds(sound, "RIFF") && holds(sound, "WAVEfmt "));
+    EXPECT_TRUE(site.get("/inbox/voice" + std::string(demo) + "&time=2026-01-05%2011:30")
+                    .starts_with("HTTP/1.1 404 "));
     EXPECT_TRUE(site.post("/result", "code=1&userid=who&domain=d").starts_with("HTTP/1.1 403 "));
     EXPECT_TRUE(site.get("/result").starts_with("HTTP/1.1 400 "));
 }

@@ -61,13 +61,9 @@ struct Attempt {
 };
 /// In the order of the page.
 constexpr Attempt ATTEMPTS[] = {
-    {"a window", "object"},
-    {"a window by a link", "clicked"},
-    {"a window by a form", "sent"},
     {"a download by a link", "clicked"},
     {"a download of its own making", "clicked"},
     {"a download by going there", "gone"},
-    {"a document of another program", "gone"},
     {"the microphone", "NotAllowedError"},
     {"the camera", "NotAllowedError"},
     {"the screen", "NotAllowedError"},
@@ -102,9 +98,7 @@ TEST(HostilePage, IsRefusedWhateverItTries) {
     LoopbackServer closed(server_with_own_certificate());
     LoopbackServer server;
     server.serve("/", bytes_of("hostile.html").replace("https:HTTPS", "https:" + closed.address("/")), HTML);
-    server.serve("/popup", "<p>evil", HTML);
     server.serve("/attachment", "evil", "Content-Disposition: attachment; filename=evil.desktop\r\n");
-    server.serve("/document.pdf", "%PDF-1.4 evil", "Content-Type: application/pdf\r\n");
     server.serve("/locked", "", "WWW-Authenticate: Basic realm=\"x\"\r\n", "401 Unauthorized");
     server.serve("/redirect", "", "Location: mailto:a@b.example\r\n", "302 Found");
     server.serve("/did", "");
@@ -121,7 +115,6 @@ TEST(HostilePage, IsRefusedWhateverItTries) {
                   std::string(attempt.what) + " = " + attempt.outcome);
         EXPECT_EQ(windows_shown(), 1) << attempt.what;
     }
-    EXPECT_EQ(server.request("/popup"), nullptr);
     EXPECT_EQ(server.request("/socket"), nullptr);
     EXPECT_TRUE(closed.requests().isEmpty());
     EXPECT_EQ(files_at_home(), "");

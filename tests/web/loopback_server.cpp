@@ -20,9 +20,10 @@ LoopbackServer::LoopbackServer(std::unique_ptr<QTcpServer> server) : server_(std
 }
 
 void LoopbackServer::serve(const QByteArray& path, const QByteArray& body, const QByteArray& head,
-                           const QByteArray& status) {
-    answers_[path] = "HTTP/1.1 " + status + "\r\nContent-Length: " + QByteArray::number(body.size()) +
-                     "\r\n" + head + "\r\n" + body;
+                           const QByteArray& status, qsizetype missing) {
+    answers_[path] = "HTTP/1.1 " + status +
+                     "\r\nContent-Length: " + QByteArray::number(body.size() + missing) + "\r\n" + head +
+                     "\r\n" + body;
 }
 
 QByteArray LoopbackServer::address(const QByteArray& path) const {

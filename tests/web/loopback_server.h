@@ -23,9 +23,10 @@ class LoopbackServer {
     /// Takes over a server that does not listen yet, one with certificates or a plain one.
     explicit LoopbackServer(std::unique_ptr<QTcpServer> server = std::make_unique<QTcpServer>());
 
-    /// Answers the path with this; `head` is further lines of the answer's head.
+    /// Answers the path with this; `head` is further lines of the answer's head. More bytes than there are
+    /// may be `missing`, for which the client then waits.
     void serve(const QByteArray& path, const QByteArray& body, const QByteArray& head = "",
-               const QByteArray& status = "200 OK");
+               const QByteArray& status = "200 OK", qsizetype missing = 0);
     /// The address of the path without its scheme, as "//127.0.0.1:1234/path".
     QByteArray address(const QByteArray& path) const;
 

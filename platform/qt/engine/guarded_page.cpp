@@ -6,6 +6,7 @@
 #include <QWebEngineCertificateError>
 #include <QWebEngineFileSystemAccessRequest>
 #include <QWebEngineFullScreenRequest>
+#include <QWebEngineNewWindowRequest>
 #include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineView>
@@ -29,6 +30,12 @@ GuardedPage::GuardedPage(QWebEngineProfile& profile) : QWebEnginePage(&profile) 
             [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
     connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
             [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
+    // In place of this page. What no click of the user began is not even asked about.
+    connect(this, &QWebEnginePage::newWindowRequested, this,
+            [this](const QWebEngineNewWindowRequest& window) {
+                if (window.isUserInitiated() && is_web_address(window.requestedUrl()))
+                    load(window.requestedUrl());
+            });
     // An authenticator without anything in it gives up.
     connect(this, &QWebEnginePage::authenticationRequired, this,
             [](const QUrl&, QAuthenticator* authenticator) { *authenticator = QAuthenticator(); });

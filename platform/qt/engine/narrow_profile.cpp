@@ -1,6 +1,5 @@
 #include "platform/qt/engine/narrow_profile.h"
 
-#include <QWebEngineDownloadRequest>
 #include <QWebEngineSettings>
 
 namespace platform::qt {
@@ -21,8 +20,6 @@ void WebOnly::interceptRequest(QWebEngineUrlRequestInfo& request) {
 NarrowProfile::NarrowProfile() {
     setHttpAcceptLanguage(QStringLiteral("ko-KR,ko;q=0.9"));
     setUrlRequestInterceptor(&web_only_);
-    connect(this, &QWebEngineProfile::downloadRequested, this,
-            [](QWebEngineDownloadRequest* download) { download->cancel(); });
 
     // Pages that do not name their code page are in the one of Korean desktops.
     settings()->setDefaultTextEncoding(QStringLiteral("EUC-KR"));

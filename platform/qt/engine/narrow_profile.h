@@ -15,7 +15,7 @@ class WebOnly : public QWebEngineUrlRequestInterceptor {
 };
 
 /// What a page may know and do: it is Korean, runs its scripts and keeps its cookies as long as it is shown.
-/// It leaves nothing on the disk, downloads nothing, and the next page knows nothing of it.
+/// It leaves nothing on the disk of itself, and the next page knows nothing of it.
 class NarrowProfile : public QWebEngineProfile {
     Q_OBJECT
 

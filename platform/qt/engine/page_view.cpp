@@ -53,7 +53,9 @@ QWebEngineHttpRequest engine_request(const QUrl& address, const PageRequest& req
 }  // namespace
 
 PageView::PageView(QWidget& parent, PageEvents events)
-    : progress_(std::move(events.progress)), view_(std::make_unique<View>(&parent)) {
+    : progress_(std::move(events.progress)),
+      downloads_(profile_, std::move(events.files)),
+      view_(std::make_unique<View>(&parent)) {
     view_->setPage(&page_);
     // A file that is dropped on a page would be given to it.
     view_->setAcceptDrops(false);
@@ -76,13 +78,26 @@ void PageView::load(const PageRequest& request) {
     }
 }
 
-/// A page could keep Escape for itself, but the way out of the form is the user's.
 bool PageView::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
-        return false;
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::MouseButtonRelease) return false;
     const auto* widget = qobject_cast<QWidget*>(object);
     if (widget == nullptr || (widget != view_.get() && !view_->isAncestorOf(widget))) return false;
-    return QCoreApplication::sendEvent(view_->window(), event);
+    if (event->type() == QEvent::MouseButtonRelease) {
+        downloads_.user_acted();
+        return false;
+    }
+    switch (static_cast<QKeyEvent*>(event)->key()) {
+        case Qt::Key_Escape:
+            // A page could keep it for itself, but the way out of the form is the user's.
+            return QCoreApplication::sendEvent(view_->window(), event);
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+            downloads_.user_acted();
+            return false;
+        default:
+            return false;
+    }
 }
 
 }  // namespace platform::qt

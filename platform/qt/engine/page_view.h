@@ -2,6 +2,7 @@
 
 #include "platform/qt/engine/guarded_page.h"
 #include "platform/qt/engine/narrow_profile.h"
+#include "platform/qt/engine/page_downloads.h"
 #include "platform/qt/web_engine.h"
 
 #include <QObject>
@@ -25,6 +26,7 @@ class PageView : public QObject, public WebPage {
   private:
     std::function<void(int)> progress_;
     NarrowProfile profile_;
+    PageDownloads downloads_;
     // In this order: the page goes before its profile, and the view before its page.
     GuardedPage page_{profile_};
     std::unique_ptr<QWebEngineView> view_;
