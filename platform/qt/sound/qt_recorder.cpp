@@ -52,7 +52,8 @@ QtRecorder::QtRecorder() {
 /// The devices' ends run the event loop, and what it brings must find a whole recorder.
 QtRecorder::~QtRecorder() {
     close();
-    qDeleteAll(findChildren<QObject*>(Qt::FindDirectChildrenOnly));
+    // One by one: a device's end takes others with it.
+    while (QObject* device = findChild<QObject*>(QString(), Qt::FindDirectChildrenOnly)) delete device;
 }
 
 void QtRecorder::open(Listener& listener) {
