@@ -22,7 +22,11 @@ bool ButtonBinder::filter(QObject&, QEvent& event) {
             // Its key brings the focus with it, as a click of the mouse does; the field that had it sees its
             // loss first.
             button_.setFocus(Qt::ShortcutFocusReason);
-            return !is_bound_live();
+            if (static_cast<const QShortcutEvent&>(event).isAmbiguous()) return !is_bound_live();
+            // The toolkit would show it pressed for a tenth of a second first, and swallow an Escape
+            // meanwhile.
+            if (is_bound_live()) button_.click();
+            return true;
         case QEvent::MouseButtonPress:
             QMetaObject::invokeMethod(this, &ButtonBinder::let_out_if_released, Qt::QueuedConnection);
             return false;

@@ -149,6 +149,16 @@ TEST_F(PickerWindow, enter_searches_in_the_search_line_and_confirms_elsewhere) {
     });
 }
 
+TEST_F(PickerWindow, a_buttons_key_presses_it_at_once_and_swallows_no_escape) {
+    show([this] {
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row(0));
+        QTest::keyClick(&list(), Qt::Key_A, Qt::AltModifier);
+        EXPECT_EQ(picking.recipients(), std::vector<std::string>{"홍길동|01011112222|"});
+        QTest::keyClick(window().focusWidget(), Qt::Key_Escape);
+        EXPECT_FALSE(picker.loaded());
+    });
+}
+
 TEST_F(PickerWindow, a_double_click_adds_and_stays_and_escape_leaves) {
     show([this] {
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row(1));
