@@ -5,10 +5,10 @@
 #include "platform/qt/desk_style.h"
 #include "platform/qt/korean_font.h"
 #include "platform/qt/korean_translator.h"
+#include "platform/qt/late_icon.h"
 #include "platform/qt/qt_clock.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QLocale>
 
 namespace {
@@ -41,7 +41,7 @@ int main(int argc, char** argv) {
     Toolkit qt(argc, argv);
     QApplication::setStyle(new platform::qt::DeskStyle);
     platform::qt::use_font_with_hangul();
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.svg")));
+    QApplication::setWindowIcon(platform::qt::late_icon(QStringLiteral("app")));
     QApplication::setQuitOnLastWindowClosed(false);
     // Days and months in the language of everything else, whatever the machine's is.
     QLocale::setDefault(QLocale(QLocale::Korean, QLocale::SouthKorea));

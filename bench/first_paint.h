@@ -5,11 +5,11 @@
 #include "platform/qt/desk_style.h"
 #include "platform/qt/korean_font.h"
 #include "platform/qt/korean_translator.h"
+#include "platform/qt/late_icon.h"
 #include "platform/qt/qt_clock.h"
 
 #include <QApplication>
 #include <QEvent>
-#include <QIcon>
 #include <algorithm>
 #include <chrono>
 #include <csignal>
@@ -49,7 +49,7 @@ class FirstPaint : public QObject {
 inline void show_program(const std::string& folder) {
     QApplication::setStyle(new platform::qt::DeskStyle);
     platform::qt::use_font_with_hangul();
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.svg")));
+    QApplication::setWindowIcon(platform::qt::late_icon(QStringLiteral("app")));
     QApplication::setQuitOnLastWindowClosed(false);
     platform::qt::KoreanTranslator korean;
     QApplication::installTranslator(&korean);

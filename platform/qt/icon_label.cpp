@@ -1,5 +1,7 @@
 #include "platform/qt/icon_label.h"
 
+#include "platform/qt/late_icon.h"
+
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
@@ -8,7 +10,7 @@ namespace platform::qt {
 
 void IconLabel::set_icon(const QString& name) {
     name_ = name;
-    icon_ = QIcon(QStringLiteral(":/icons/%1.svg").arg(name));
+    icon_ = late_icon(name);
     update();
 }
 

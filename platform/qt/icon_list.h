@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/qt/late_icon.h"
+
 #include <QIcon>
 #include <QObject>
 #include <QVariant>
@@ -10,7 +12,7 @@ namespace platform::qt {
 /// property. No picture for 0, for an empty name and behind the end.
 inline QIcon icon_of_list(const QObject& bar, const char* property, int number) {
     const QString name = bar.property(property).toStringList().value(number - 1);
-    return name.isEmpty() ? QIcon() : QIcon(QStringLiteral(":/icons/%1.svg").arg(name));
+    return name.isEmpty() ? QIcon() : late_icon(name);
 }
 
 }  // namespace platform::qt

@@ -1,5 +1,6 @@
 #include "platform/qt/list_view_model.h"
 
+#include "platform/qt/late_icon.h"
 #include "platform/qt/text_conversion.h"
 
 namespace platform::qt {
@@ -43,8 +44,7 @@ QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int
     const ListView::Column& column = list_->column(section + 1);
     if (role == Qt::DisplayRole) return to_qstring(column.caption);
     if (role == Qt::DecorationRole && column.picture) {
-        return QIcon(*column.picture == 0 ? QStringLiteral(":/icons/sort_up.svg")
-                                          : QStringLiteral(":/icons/sort_down.svg"));
+        return late_icon(*column.picture == 0 ? QStringLiteral("sort_up") : QStringLiteral("sort_down"));
     }
     return QVariant();
 }

@@ -1,6 +1,7 @@
 #include "platform/qt/menu_binder.h"
 
 #include "platform/qt/composition.h"
+#include "platform/qt/late_icon.h"
 #include "platform/qt/text_conversion.h"
 
 #include <QAction>
@@ -11,6 +12,8 @@ namespace platform::qt {
 MenuBinder::MenuBinder(BoundForm& bound, Menu& control, QAction& action)
     : Binder(bound, control), control_(control), action_(action) {
     action.setText(to_qstring(control.caption()));
+    if (const QString picture = action.property("picture").toString(); !picture.isEmpty())
+        action.setIcon(late_icon(picture));
     action.setSeparator(control.caption() == u"-");
     for (const Aspect aspect : {Aspect::enabled, Aspect::visible, Aspect::value}) refresh(aspect);
     if (action.menu() == nullptr) {

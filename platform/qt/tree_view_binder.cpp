@@ -1,5 +1,7 @@
 #include "platform/qt/tree_view_binder.h"
 
+#include "platform/qt/late_icon.h"
+
 #include <QContextMenuEvent>
 #include <QScopeGuard>
 #include <QScopedValueRollback>
@@ -11,8 +13,7 @@ namespace {
 
 QList<QIcon> pictures_of(const QTreeView& view) {
     QList<QIcon> pictures;
-    for (const QString& name : view.property("pictures").toStringList())
-        pictures.append(QIcon(QStringLiteral(":/icons/%1.svg").arg(name)));
+    for (const QString& name : view.property("pictures").toStringList()) pictures.append(late_icon(name));
     return pictures;
 }
 

@@ -19,6 +19,7 @@
 #include "update/frmUpdateStart.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
@@ -143,6 +144,16 @@ void expect_good_screen(QWidget& window) {
     expect_tab_order_of_a_reader(window);
 }
 
+/// A misspelt picture would leave a blank place.
+void expect_pictures(const QWidget& window) {
+    const auto expect_picture = [](const QObject& object, const QIcon& icon) {
+        EXPECT_TRUE(icon.isNull() || !icon.pixmap(16).isNull()) << object.objectName().toStdString();
+    };
+    for (const auto* button : window.findChildren<QAbstractButton*>())
+        expect_picture(*button, button->icon());
+    for (const auto* action : window.findChildren<QAction*>()) expect_picture(*action, action->icon());
+}
+
 TEST(AllScreens, have_a_widget_for_every_control_and_a_control_for_every_widget) {
     System system;
     auto forms = system.dialogs();
@@ -152,6 +163,7 @@ TEST(AllScreens, have_a_widget_for_every_control_and_a_control_for_every_widget)
         const auto window = system.screens.build(form->name());
         for (const QString& fault : platform::qt::screen_faults(*form, *window, system.machine.files))
             ADD_FAILURE() << platform::to_utf8(form->name()) << ": " << fault.toStdString();
+        expect_pictures(*window);
     }
 }
 
