@@ -1,5 +1,7 @@
 #include "platform/qt/desk_style.h"
 
+#include "platform/qt/late_icon.h"
+
 #include <QPainter>
 #include <QStyleOption>
 #include <QWidget>
@@ -61,6 +63,14 @@ int DeskStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
                          QStyleHintReturn* returned) const {
     if (hint == SH_TabBar_AllowWheelScrolling || hint == SH_ComboBox_AllowWheelScrolling) return 0;
     return QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+/// Every bar asks for the arrow behind which it puts what has no room, though it seldom shows it. Making that
+/// icon loads every picture format that the toolkit has.
+QIcon DeskStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
+    if (icon != SP_ToolBarHorizontalExtensionButton && icon != SP_ToolBarVerticalExtensionButton)
+        return QProxyStyle::standardIcon(icon, option, widget);
+    return late_icon([this, icon] { return QProxyStyle::standardIcon(icon); });
 }
 
 }  // namespace platform::qt
