@@ -13,7 +13,7 @@ void use_font_with_hangul() {
     };
     if (has_hangul(QFontInfo(font).family())) return;
     for (const char* family : {"Noto Sans CJK KR", "Noto Sans KR", "NanumGothic"}) {
-        if (!QFontDatabase::hasFamily(QLatin1String(family))) continue;
+        if (!has_hangul(QLatin1String(family))) continue;
         font.setFamily(QLatin1String(family));
         QApplication::setFont(font);
         return;
