@@ -36,7 +36,11 @@
 namespace platform::qt {
 
 FormBinder::FormBinder(BoundForm& bound, QObject& owner) : bound_(bound), owner_(owner) {
+    for (QObject* object : bound.window.findChildren<QObject*>()) {
+        if (const QString name = object->objectName(); !name.isEmpty()) named_.insert(name, object);
+    }
     for (Control* control : bound.form.controls()) control->accept(*this);
+    named_.clear();
 }
 
 void FormBinder::release() {
@@ -69,16 +73,24 @@ void FormBinder::visit(TextBox& control) {
 
 void FormBinder::visit(Menu& control) {
     const QString name = to_qstring(control.name());
-    auto* action = bound_.window.findChild<QAction*>(name);
-    if (const auto* menu = bound_.window.findChild<QMenu*>(name)) action = menu->menuAction();
+    auto* action = find<QAction>(name);
+    if (const auto* menu = find<QMenu>(name)) action = menu->menuAction();
     if (action == nullptr) return add_fault(control);
     binders_.push_back(new MenuBinder(bound_, control, *action));
     binders_.back()->setParent(&owner_);
 }
 
+template <class Kind>
+Kind* FormBinder::find(const QString& name) const {
+    for (auto [object, end] = named_.equal_range(name); object != end; ++object) {
+        if (auto* found = qobject_cast<Kind*>(*object)) return found;
+    }
+    return nullptr;
+}
+
 template <class BinderType, class Widget, class ControlType>
 bool FormBinder::try_bind(ControlType& control) {
-    auto* widget = bound_.window.findChild<Widget*>(to_qstring(control.name()));
+    auto* widget = find<Widget>(to_qstring(control.name()));
     if (widget == nullptr) return false;
     binders_.push_back(new BinderType(bound_, control, *widget));
     binders_.back()->setParent(&owner_);
@@ -92,7 +104,7 @@ void FormBinder::bind(ControlType& control) {
 
 void FormBinder::add_fault(const Control& control) {
     const QString name = to_qstring(control.name());
-    const QObject* other = bound_.window.findChild<QObject*>(name);
+    const QObject* other = find<QObject>(name);
     faults_.push_back(other == nullptr
                           ? QStringLiteral("%1: no widget for it").arg(name)
                           : QStringLiteral("%1: a %2 cannot show it")

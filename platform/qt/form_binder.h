@@ -3,6 +3,7 @@
 #include "platform/controls/control_visitor.h"
 #include "platform/qt/binder.h"
 
+#include <QMultiHash>
 #include <QString>
 #include <vector>
 
@@ -42,6 +43,8 @@ class FormBinder : private ControlVisitor {
     void visit(TreeView& control) override;
     void visit(WebBrowser& control) override;
 
+    template <class Kind>
+    Kind* find(const QString& name) const;
     template <class BinderType, class Widget, class ControlType>
     bool try_bind(ControlType& control);
     template <class BinderType, class Widget, class ControlType>
@@ -50,6 +53,8 @@ class FormBinder : private ControlVisitor {
 
     BoundForm& bound_;
     QObject& owner_;
+    /// What the window holds, by name; while the controls are joined only.
+    QMultiHash<QString, QObject*> named_;
     std::vector<Binder*> binders_;
     std::vector<QString> faults_;
 };
