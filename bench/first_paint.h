@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QLocale>
 #include <algorithm>
 #include <chrono>
 #include <csignal>
@@ -51,6 +52,7 @@ inline void show_program(const std::string& folder) {
     platform::qt::use_font_with_hangul();
     QApplication::setWindowIcon(platform::qt::late_icon(QStringLiteral("app")));
     QApplication::setQuitOnLastWindowClosed(false);
+    QLocale::setDefault(QLocale(QLocale::Korean, QLocale::SouthKorea));
     platform::qt::KoreanTranslator korean;
     QApplication::installTranslator(&korean);
 
