@@ -7,13 +7,13 @@
 #include "platform/qt/korean_translator.h"
 #include "platform/qt/late_icon.h"
 #include "platform/qt/qt_clock.h"
+#include "tests/support/virtual_display.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QLocale>
 #include <algorithm>
 #include <chrono>
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
@@ -76,39 +76,6 @@ inline double milliseconds_to_first_paint(std::string what, std::string folder) 
     }
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
-
-/// An X server without a screen for as long as it lives, unless the user has one.
-class Display {
-  public:
-    Display() {
-        setenv("QT_QPA_PLATFORM", "xcb", 1);
-        if (std::getenv("DISPLAY") != nullptr) return;
-        int ends[2];
-        if (pipe(ends) != 0) throw std::runtime_error("no pipe");
-        server_ = fork();
-        if (server_ == 0) {
-            const std::string end = std::to_string(ends[1]);
-            execlp("Xvfb", "Xvfb", "-displayfd", end.c_str(), "-screen", "0", "1280x900x24", nullptr);
-            _exit(1);
-        }
-        close(ends[1]);
-        // The number comes with the end of its line once the server takes clients.
-        std::string number = ":";
-        for (char digit = 0; read(ends[0], &digit, 1) == 1 && digit != '\n';) number += digit;
-        close(ends[0]);
-        if (number == ":") throw std::runtime_error("no display, and Xvfb does not start");
-        setenv("DISPLAY", number.c_str(), 1);
-    }
-
-    ~Display() {
-        if (server_ <= 0) return;
-        kill(server_, SIGTERM);
-        waitpid(server_, nullptr, 0);
-    }
-
-  private:
-    pid_t server_ = 0;
-};
 
 inline double median(std::vector<double> values) {
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);

@@ -54,7 +54,7 @@ struct Times {
 
 Times measure(const std::string& folder) {
     using bench::milliseconds_to_first_paint;
-    const bench::Display display;
+    const tests::VirtualDisplay display;
     Times times;
     for (int run = 0; run < RUNS; ++run) {
         times.program.push_back(milliseconds_to_first_paint("program", folder));

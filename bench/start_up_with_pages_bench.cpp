@@ -41,7 +41,7 @@ double milliseconds_with_engine_linked(const std::string& folder) {
 
 int measure() {
     const bench::ScratchFolder folder;
-    const bench::Display display;
+    const tests::VirtualDisplay display;
     std::vector<double> with;
     std::vector<double> without;
     std::vector<double> linked;

@@ -1,0 +1,43 @@
+// What the user types while the program is busy, on an X server of its own.
+
+#include "platform/qt/keep_painted.h"
+#include "tests/support/virtual_display.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QProcess>
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(KeptInput, ArrivesAfterTheWorkWithoutAnotherKeyOrTheMouse) {
+    // No caret blinks in it, which would make the server send something.
+    QPushButton button;
+    bool clicked = false;
+    QObject::connect(&button, &QPushButton::clicked, [&] { clicked = true; });
+    button.show();
+    button.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&button));
+
+    ASSERT_EQ(QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("key"), QStringLiteral("space")}),
+              0);
+    for (int step = 0; step < 5000; ++step) {
+        // A question to the server, behind whose answer the key stands.
+        QCursor::pos();
+        platform::qt::keep_painted();
+    }
+    EXPECT_FALSE(clicked) << "it waits for the end of the work";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return clicked; }));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    unsetenv("DISPLAY");
+    const tests::VirtualDisplay display;
+    const QApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
