@@ -9,5 +9,11 @@ def play(desk):
     desk.find(subject, "link", page)
     desk.find("등록성공", "label", page)
     desk.picture("results")
+    # The first Escape is for the open list, the second for the form.
+    desk.click(desk.find("상태", "combo box", page))
+    desk.picture("results-list")
+    desk.keys("Escape")
+    desk.picture("results-again")
+    desk.window_called("발송결과")
     desk.keys("Escape")
     desk.gone("발송결과")

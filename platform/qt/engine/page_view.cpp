@@ -88,6 +88,8 @@ bool PageView::eventFilter(QObject* object, QEvent* event) {
     }
     switch (static_cast<QKeyEvent*>(event)->key()) {
         case Qt::Key_Escape:
+            // A list that was open in the page has had this one, and hands it on.
+            if (widget == view_.get()) return true;
             // A page could keep it for itself, but the way out of the form is the user's.
             return QCoreApplication::sendEvent(view_->window(), event);
         case Qt::Key_Return:
