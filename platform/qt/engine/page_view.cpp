@@ -38,6 +38,10 @@ class View : public QWebEngineView {
     }
 };
 
+bool is_escape(const QEvent& event) {
+    return event.type() == QEvent::KeyPress && static_cast<const QKeyEvent&>(event).key() == Qt::Key_Escape;
+}
+
 QWebEngineHttpRequest engine_request(const QUrl& address, const PageRequest& request) {
     const auto method = request.body.isEmpty() ? QWebEngineHttpRequest::Get : QWebEngineHttpRequest::Post;
     QWebEngineHttpRequest posted(address, method);
@@ -81,6 +85,8 @@ void PageView::load(const PageRequest& request) {
 bool PageView::eventFilter(QObject* object, QEvent* event) {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::MouseButtonRelease) return false;
     const auto* widget = qobject_cast<QWidget*>(object);
+    // A list that is open in the page closes with its Escape, which the engine hands on all the same.
+    if (widget == view_->parentWidget() && !event->spontaneous()) return is_escape(*event);
     if (widget == nullptr || (widget != view_.get() && !view_->isAncestorOf(widget))) return false;
     if (event->type() == QEvent::MouseButtonRelease) {
         downloads_.user_acted();
@@ -88,8 +94,6 @@ bool PageView::eventFilter(QObject* object, QEvent* event) {
     }
     switch (static_cast<QKeyEvent*>(event)->key()) {
         case Qt::Key_Escape:
-            // A list that was open in the page has had this one, and hands it on.
-            if (widget == view_.get()) return true;
             // A page could keep it for itself, but the way out of the form is the user's.
             return QCoreApplication::sendEvent(view_->window(), event);
         case Qt::Key_Return:
