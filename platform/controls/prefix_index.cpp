@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-constexpr std::size_t CHUNK_SIZE = 256;
+constexpr std::size_t CHUNK_SIZE = 128;
 
 }  // namespace
 
@@ -80,25 +80,29 @@ const ListItem* PrefixIndex::first_row(TextView prefix) {
 void PrefixIndex::Bucket::remove(const Entry& entry) {
     sort_waiting();
     const std::size_t place = chunk_for(entry);
-    Entries& chunk = chunks_[place];
-    chunk.erase(std::lower_bound(chunk.begin(), chunk.end(), entry));
-    if (chunk.empty()) chunks_.erase(chunks_.begin() + static_cast<std::ptrdiff_t>(place));
+    Entries& entries = chunks_[place].entries;
+    entries.erase(std::lower_bound(entries.begin(), entries.end(), entry));
+    if (entries.empty()) {
+        chunks_.erase(chunks_.begin() + static_cast<std::ptrdiff_t>(place));
+    } else {
+        chunks_[place].first = entries.front();
+    }
 }
 
 const ListItem* PrefixIndex::Bucket::first_row(const Prefix& prefix) {
     sort_waiting();
     if (chunks_.empty()) return nullptr;
     const auto before = [&](const Entry& entry) { return entry.begins_before(prefix); };
-    auto chunk = std::partition_point(chunks_.begin(), chunks_.end(),
-                                      [&](const Entries& c) { return before(c.front()); });
+    auto chunk =
+        std::partition_point(chunks_.begin(), chunks_.end(), [&](const Chunk& c) { return before(c.first); });
     if (chunk != chunks_.begin()) --chunk;
 
     const ListItem* first = nullptr;
-    auto entry = std::partition_point(chunk->begin(), chunk->end(), before);
+    auto entry = std::partition_point(chunk->entries.begin(), chunk->entries.end(), before);
     while (true) {
-        if (entry == chunk->end()) {
+        if (entry == chunk->entries.end()) {
             if (++chunk == chunks_.end()) break;
-            entry = chunk->begin();
+            entry = chunk->entries.begin();
         }
         if (!entry->begins_with(prefix)) break;
         if (first == nullptr || entry->row->position() < first->position()) first = entry->row;
@@ -115,24 +119,25 @@ void PrefixIndex::Bucket::sort_waiting() {
 
 void PrefixIndex::Bucket::insert(const Entry& entry) {
     if (chunks_.empty()) {
-        chunks_.push_back({entry});
+        chunks_.push_back({entry, {entry}});
         return;
     }
     const std::size_t place = chunk_for(entry);
-    Entries& chunk = chunks_[place];
-    chunk.insert(std::upper_bound(chunk.begin(), chunk.end(), entry), entry);
-    if (chunk.size() < CHUNK_SIZE) return;
+    Entries& entries = chunks_[place].entries;
+    entries.insert(std::upper_bound(entries.begin(), entries.end(), entry), entry);
+    chunks_[place].first = entries.front();
+    if (entries.size() < CHUNK_SIZE) return;
 
-    const auto middle = chunk.begin() + static_cast<std::ptrdiff_t>(CHUNK_SIZE / 2);
-    Entries upper(middle, chunk.end());
-    chunk.erase(middle, chunk.end());
+    const auto middle = entries.begin() + static_cast<std::ptrdiff_t>(CHUNK_SIZE / 2);
+    Chunk upper{*middle, Entries(middle, entries.end())};
+    entries.erase(middle, entries.end());
     chunks_.insert(chunks_.begin() + static_cast<std::ptrdiff_t>(place) + 1, std::move(upper));
 }
 
 /// The last chunk that begins at or before the entry; the first one when all begin behind it.
 std::size_t PrefixIndex::Bucket::chunk_for(const Entry& entry) const {
     const auto behind = std::partition_point(chunks_.begin(), chunks_.end(),
-                                             [&](const Entries& chunk) { return !(entry < chunk.front()); });
+                                             [&](const Chunk& chunk) { return !(entry < chunk.first); });
     return behind == chunks_.begin() ? 0 : static_cast<std::size_t>(behind - chunks_.begin()) - 1;
 }
 

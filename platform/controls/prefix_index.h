@@ -61,6 +61,13 @@ class PrefixIndex {
     };
     using Entries = std::vector<Entry>;
 
+    /// A run of the entries in their order. Its first stands beside those of the other chunks: a search for
+    /// the chunk would otherwise go to far places of memory at every step.
+    struct Chunk {
+        Entry first;
+        Entries entries;
+    };
+
     /// The texts with one first character.
     class Bucket {
       public:
@@ -74,7 +81,7 @@ class PrefixIndex {
         std::size_t chunk_for(const Entry& entry) const;
 
         Entries waiting_;
-        std::vector<Entries> chunks_;
+        std::vector<Chunk> chunks_;
     };
 
     static Key key_of(TextView text);
