@@ -7,6 +7,7 @@
 #include "tests/network/secure_server.h"
 #include "tests/support/http_server.h"
 #include "tests/support/memory_files.h"
+#include "tests/support/other_ports.h"
 #include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
 
@@ -51,15 +52,7 @@ struct DownloadBench : TestPlatform {
 
     tests::EventClock event_clock;
     qt::QtInternet network;
-    Platform machine{.desktop = desktop,
-                     .clock = event_clock,
-                     .files = files,
-                     .settings = settings,
-                     .shell = shell,
-                     .carrier = carrier,
-                     .cards = cards,
-                     .recorder = recorder,
-                     .internet = network};
+    Platform machine = tests::with(platform, {.clock = &event_clock, .internet = &network});
     Download control{machine};
     std::string log;
 };
