@@ -17,5 +17,5 @@ def play(desk):
     desk.click(desk.find("파일첨부", "page tab", main))
     desk.click(desk.find("음성파일 찾아보기", "push button", main))
     desk.choose_file("음성파일 선택", "0303 번호로 녹음한 안내문.wav", "sound-to-attach")
-    desk.add_recipient(main, "정수진", "02-567-8901")
+    desk.add_recipient(main, "오세라", "02-987-6543")
     desk.send(main)
