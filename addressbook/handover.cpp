@@ -45,7 +45,7 @@ void HandOver::NEW_SENDMAN_LOAD() {
 }
 
 void HandOver::take_in() {
-    const int value = value_of_signal(handed_over_text(files().signal));
+    const int value = value_of_signal(handed_over_text(bytes_of(compose::isend_text(platform_))));
     if (is_page(value)) return open_page(value);
     delete_quietly(compose::isend_text(platform_));
     // Deliberately thrown away while a page is open: the user has turned to something else.
@@ -66,7 +66,7 @@ void HandOver::open_page(int page) {
 }
 
 void HandOver::take_in_recipients(int tab) {
-    const Text text = handed_over_text(files().recipients);
+    const Text text = handed_over_text(bytes_of(compose::tmpman_txt(platform_)));
     if (text.empty()) return;
     const std::vector<TextView> lines = split(text, u'\n');
     form_.PBar1.set_value(0);
@@ -84,10 +84,13 @@ void HandOver::take_in_recipients(int tab) {
 }
 
 HandOver::Files HandOver::files() const {
-    Files files;
-    platform::ignore_errors([&] { files.signal = platform_.files.read(compose::isend_text(platform_)); });
-    platform::ignore_errors([&] { files.recipients = platform_.files.read(compose::tmpman_txt(platform_)); });
-    return files;
+    return {bytes_of(compose::isend_text(platform_)), bytes_of(compose::tmpman_txt(platform_))};
+}
+
+std::string HandOver::bytes_of(const Text& path) const {
+    std::string bytes;
+    platform::ignore_errors([&] { bytes = platform_.files.read(path); });
+    return bytes;
 }
 
 void HandOver::delete_quietly(const Text& path) {

@@ -19,7 +19,6 @@ class HandOver {
     void NEW_SENDMAN_LOAD();
 
   private:
-    /// The bytes of the two files; of one that cannot be read none.
     struct Files {
         std::string signal, recipients;
 
@@ -30,6 +29,8 @@ class HandOver {
     void open_page(int page);
     void take_in_recipients(int tab);
     Files files() const;
+    /// None of a file that cannot be read.
+    std::string bytes_of(const platform::Text& path) const;
     void delete_quietly(const platform::Text& path);
 
     platform::Platform& platform_;

@@ -1,5 +1,7 @@
 #include "platform/qt/input_watch.h"
 
+#include "platform/qt/x_server.h"
+
 #include <QCursor>
 #include <QGuiApplication>
 #include <QWindow>
@@ -36,10 +38,7 @@ void read_keys_and_buttons(xcb_connection_t& server, InputState& state) {
 InputState read_input_state() {
     InputState state;
     state.mouse = QCursor::pos();
-    // The offscreen platform has the interface, too, but no server behind it.
-    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 != nullptr && QGuiApplication::platformName() == QStringLiteral("xcb"))
-        read_keys_and_buttons(*x11->connection(), state);
+    if (xcb_connection_t* server = x_server()) read_keys_and_buttons(*server, state);
     return state;
 }
 

@@ -1,5 +1,7 @@
 #include "platform/qt/keep_painted.h"
 
+#include "platform/qt/x_server.h"
+
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QScopedValueRollback>
@@ -18,16 +20,14 @@ bool will_let_input_in = false;
 /// Has the X server send something. The toolkit lays the input of the meantime aside and looks there only
 /// when the next event comes, which may be the user's next key.
 void let_input_in() {
-    // The offscreen platform has the interface, too, but no server behind it.
-    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 == nullptr || QGuiApplication::platformName() != QStringLiteral("xcb")) return;
+    xcb_connection_t* server = x_server();
+    if (server == nullptr) return;
     for (QWindow* window : QGuiApplication::topLevelWindows()) {
         if (window->handle() == nullptr) continue;
         // Nothing put behind a property changes nothing, and its windows are told so.
-        xcb_change_property(x11->connection(), XCB_PROP_MODE_APPEND,
-                            static_cast<xcb_window_t>(window->winId()), XCB_ATOM_WM_CLIENT_MACHINE,
-                            XCB_ATOM_STRING, 8, 0, nullptr);
-        xcb_flush(x11->connection());
+        xcb_change_property(server, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window->winId()),
+                            XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING, 8, 0, nullptr);
+        xcb_flush(server);
         return;
     }
 }
