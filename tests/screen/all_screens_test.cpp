@@ -230,10 +230,7 @@ TEST(AllScreens, have_the_emoticons_as_one_stop_in_which_arrows_move) {
     EXPECT_EQ(window.focusWidget()->objectName(), "mBttn1_24");
     QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(window.focusWidget()->objectName(), "MySave");
-    for (int panel = 1; panel <= 3; ++panel) {
-        const auto* status = window.findChild<QWidget*>(QStringLiteral("STBar1_%1").arg(panel));
-        EXPECT_FALSE(status->accessibleName().isEmpty()) << "blank before the first log-in: panel " << panel;
-    }
+    EXPECT_EQ(window.findChild<QWidget*>(QStringLiteral("STBar1_2"))->toolTip(), "가입자 정보변경");
     system.main.unload();
     settle();
 }
