@@ -2,14 +2,12 @@
 
 #include "compose/main_form.h"
 #include "core/app_state.h"
-#include "platform/controls/combo_box.h"
-#include "platform/controls/command_button.h"
+#include "platform/controls/bars.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/displays.h"
+#include "platform/controls/fields.h"
 #include "platform/controls/form.h"
-#include "platform/controls/label.h"
 #include "platform/controls/list_view.h"
-#include "platform/controls/menu.h"
-#include "platform/controls/progress_bar.h"
-#include "platform/controls/text_box.h"
 #include "platform/controls/tree_view.h"
 #include "platform/ports/platform.h"
 

@@ -2,7 +2,7 @@
 
 #include "addressbook/frmSendMan.h"
 #include "core/entry_routine.h"
-#include "msgbox/frmMyMsgBox.h"
+#include "saved_texts/frmMyMsgBox.h"
 #include "send/send_check.h"
 #include "update/update_check.h"
 
@@ -23,7 +23,7 @@ compose::MainDoors Application::doors() {
         picker.ShowEnter(main_.TabStrip1.selected_caption());
     };
     doors.NEW_SENDMAN_LOAD = [this] { hand_over_.NEW_SENDMAN_LOAD(); };
-    doors.message_box = [this] { msgbox::frmMyMsgBox(platform_, main_).show_modal(); };
+    doors.message_box = [this] { saved_texts::frmMyMsgBox(platform_, main_).show_modal(); };
     doors.update_check = [this] { update::mnuUpDate_Click(platform_, state_, main_); };
     doors.update_check_at_start = [this] { return update::check_at_start(platform_, state_, main_); };
     return doors;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "addressbook/handover.h"
 #include "compose/main_form.h"
 #include "core/app_state.h"
+#include "handover/handover.h"
 #include "platform/ports/platform.h"
 
 namespace app {
@@ -24,7 +24,7 @@ class Application {
     platform::Platform& platform_;
     core::AppState state_;
     compose::frmZent main_;
-    addressbook::HandOver hand_over_;
+    handover::HandOver hand_over_;
 };
 
 }  // namespace app

@@ -1,12 +1,12 @@
 #include "app/application.h"
 #include "app/machine.h"
 #include "core/windows.h"
+#include "machine/qt/desktop/qt_clock.h"
+#include "machine/qt/look/desk_style.h"
+#include "machine/qt/look/korean_font.h"
+#include "machine/qt/look/korean_translator.h"
+#include "machine/qt/look/late_icon.h"
 #include "platform/error.h"
-#include "platform/qt/desk_style.h"
-#include "platform/qt/korean_font.h"
-#include "platform/qt/korean_translator.h"
-#include "platform/qt/late_icon.h"
-#include "platform/qt/qt_clock.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -39,18 +39,18 @@ class Toolkit : public QApplication {
 
 int main(int argc, char** argv) {
     Toolkit qt(argc, argv);
-    QApplication::setStyle(new platform::qt::DeskStyle);
-    platform::qt::use_font_with_hangul();
-    QApplication::setWindowIcon(platform::qt::late_icon(QStringLiteral("app")));
+    QApplication::setStyle(new machine::qt::DeskStyle);
+    machine::qt::use_font_with_hangul();
+    QApplication::setWindowIcon(machine::qt::late_icon(QStringLiteral("app")));
     QApplication::setQuitOnLastWindowClosed(false);
     // Days and months in the language of everything else, whatever the machine's is.
     QLocale::setDefault(QLocale(QLocale::Korean, QLocale::SouthKorea));
-    platform::qt::KoreanTranslator korean;
+    machine::qt::KoreanTranslator korean;
     QApplication::installTranslator(&korean);
 
-    const platform::posix::Paths paths;
-    platform::qt::QtClock clock;
-    app::Machine machine(paths, platform::posix::PosixFiles(paths), clock);
+    const machine::posix::Paths paths;
+    machine::qt::QtClock clock;
+    app::Machine machine(paths, machine::posix::PosixFiles(paths), clock);
     qt.show_errors_on(machine.desktop);
 
     app::Application application(machine.platform);

@@ -5,7 +5,7 @@
 
 #include "bench/bare_jet_read.h"
 #include "bench/ratio.h"
-#include "platform/jet/jet_card_source.h"
+#include "machine/jet/jet_card_source.h"
 
 #include <algorithm>
 #include <chrono>
@@ -43,7 +43,7 @@ int fetch(CardConnection& connection, const Text& statement) {
 }
 
 const Text CONNECTION =
-    u"provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + posix::Paths::from_posix(BIG_CARDS) +
+    u"provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + machine::posix::Paths::from_posix(BIG_CARDS) +
     u";Jet OLEDB:Database Password=cardvale070915;Persist Security Info=True;User ID=admin";
 
 void open_picker(CardSource& source) {
@@ -98,7 +98,7 @@ int main() {
             longest = std::max(longest, Milliseconds(now - last).count());
             last = now;
         };
-        jet::JetCardSource source(posix::Paths(APPLICATION_DIRECTORY), beat);
+        machine::jet::JetCardSource source(machine::posix::Paths(APPLICATION_DIRECTORY), beat);
         first = std::min(first, milliseconds([&] { open_picker(source); }));
         beat();
         second = std::min(second, milliseconds([&] { open_picker(source); }));

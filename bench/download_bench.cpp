@@ -3,9 +3,9 @@
 // and the memory that it takes beside that of a file a tenth as long.
 
 #include "bench/ratio.h"
-#include "platform/posix/posix_files.h"
-#include "platform/qt/network/qt_internet.h"
-#include "platform/qt/qt_clock.h"
+#include "machine/posix/posix_files.h"
+#include "machine/qt/desktop/qt_clock.h"
+#include "machine/qt/modules/network/qt_internet.h"
 #include "tests/support/http_server.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_platform.h"
@@ -34,9 +34,9 @@ constexpr int RUNS = 7;
 /// The download as a process: the address, and the folder that "file" is written in.
 int download(int argc, char** argv) {
     QCoreApplication qt(argc, argv);
-    platform::posix::PosixFiles files{platform::posix::Paths(argv[2])};
-    platform::qt::QtClock clock;
-    platform::qt::QtInternet internet(
+    machine::posix::PosixFiles files{machine::posix::Paths(argv[2])};
+    machine::qt::QtClock clock;
+    machine::qt::QtInternet internet(
         {.silence_milliseconds = 60'000, .answer_milliseconds = 600'000, .body_bytes = LARGE});
     TestPlatform doubles;
     platform::Platform machine =

@@ -2,6 +2,7 @@
 // rows.
 
 #include "bench/ratio.h"
+#include "platform/controls/form.h"
 #include "platform/controls/list_view.h"
 #include "tests/support/test_platform.h"
 

@@ -2,11 +2,11 @@
 
 #include "app/application.h"
 #include "app/machine.h"
-#include "platform/qt/desk_style.h"
-#include "platform/qt/korean_font.h"
-#include "platform/qt/korean_translator.h"
-#include "platform/qt/late_icon.h"
-#include "platform/qt/qt_clock.h"
+#include "machine/qt/desktop/qt_clock.h"
+#include "machine/qt/look/desk_style.h"
+#include "machine/qt/look/korean_font.h"
+#include "machine/qt/look/korean_translator.h"
+#include "machine/qt/look/late_icon.h"
 #include "tests/support/virtual_display.h"
 
 #include <QApplication>
@@ -48,17 +48,17 @@ class FirstPaint : public QObject {
 
 /// The program put together as in app/main.cpp, in the folder.
 inline void show_program(const std::string& folder) {
-    QApplication::setStyle(new platform::qt::DeskStyle);
-    platform::qt::use_font_with_hangul();
-    QApplication::setWindowIcon(platform::qt::late_icon(QStringLiteral("app")));
+    QApplication::setStyle(new machine::qt::DeskStyle);
+    machine::qt::use_font_with_hangul();
+    QApplication::setWindowIcon(machine::qt::late_icon(QStringLiteral("app")));
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale(QLocale::Korean, QLocale::SouthKorea));
-    platform::qt::KoreanTranslator korean;
+    machine::qt::KoreanTranslator korean;
     QApplication::installTranslator(&korean);
 
-    const platform::posix::Paths paths(folder);
-    platform::qt::QtClock clock;
-    app::Machine machine(paths, platform::posix::PosixFiles(paths, folder + "/windows"), clock);
+    const machine::posix::Paths paths(folder);
+    machine::qt::QtClock clock;
+    app::Machine machine(paths, machine::posix::PosixFiles(paths, folder + "/windows"), clock);
     app::Application application(machine.platform);
     if (application.start()) machine.desktop.run_until_closed(application.main_form());
 }

@@ -1,9 +1,9 @@
 // A hand-over of 100,000 recipients with the duplicate search that each of them asks for; the alternative
 // reads the same lines and adds the same rows, but searches for nobody, so its list keeps no index.
 
-#include "addressbook/handover.h"
-#include "addressbook/handover_lines.h"
 #include "bench/ratio.h"
+#include "handover/handover.h"
+#include "handover/handover_lines.h"
 #include "tests/support/main_window.h"
 
 #include <optional>
@@ -38,7 +38,7 @@ void hand_over(benchmark::State& state, const std::string& file) {
         main->files.files[u"z:\\app\\temp\\isend.text"] = "1";
         main->files.files[u"z:\\app\\temp\\tmpman.txt"] = file;
         state.ResumeTiming();
-        addressbook::HandOver(main->platform, main->state, main->form).NEW_SENDMAN_LOAD();
+        handover::HandOver(main->platform, main->state, main->form).NEW_SENDMAN_LOAD();
         if (main->form.ListView1.row_count() != LINES) state.SkipWithError("not everybody came in");
     }
 }
@@ -49,9 +49,9 @@ void without_search(benchmark::State& state, const std::string& file) {
         state.PauseTiming();
         main = window();
         state.ResumeTiming();
-        const Text text = addressbook::handed_over_text(file);
-        addressbook::HandedOverRecipient recipient;
-        for (const platform::TextView line : addressbook::split(text, u'\n')) {
+        const Text text = handover::handed_over_text(file);
+        handover::HandedOverRecipient recipient;
+        for (const platform::TextView line : handover::split(text, u'\n')) {
             if (!recipient.read(line)) continue;
             main->form.ListView1.add_row(u"", {recipient.name, recipient.number, u"", recipient.title}, true);
         }

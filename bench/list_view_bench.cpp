@@ -3,9 +3,10 @@
 // picture of them, and the memory that it takes.
 
 #include "bench/ratio.h"
+#include "machine/qt/desktop/qt_desktop.h"
+#include "machine/qt/typing/text_conversion.h"
+#include "platform/controls/form.h"
 #include "platform/controls/list_view.h"
-#include "platform/qt/qt_desktop.h"
-#include "platform/qt/text_conversion.h"
 #include "tests/support/memory_files.h"
 
 #include <QApplication>
@@ -80,7 +81,7 @@ Cost show_copied(const ListView& rows) {
             auto* item = new QTreeWidgetItem;
             item->setCheckState(0, rows.row(row).checked() ? Qt::Checked : Qt::Unchecked);
             for (int column = 1; column <= rows.row(row).sub_item_count(); ++column) {
-                item->setText(column, platform::qt::shown_text(rows.row(row).sub_item(column)));
+                item->setText(column, machine::qt::shown_text(rows.row(row).sub_item(column)));
             }
             items.append(item);
         }
@@ -94,10 +95,10 @@ Cost show_copied(const ListView& rows) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication qt(argc, argv);
-    platform::qt::Screens screens;
+    machine::qt::Screens screens;
     screens.add<ListScreen, QDialog>(u"ListForm");
     MemoryFiles files;
-    platform::qt::QtDesktop desktop(screens, files);
+    machine::qt::QtDesktop desktop(screens, files);
     ListForm form(desktop);
     for (int row = 0; row < ROWS; ++row) {
         const platform::Text number = u"010" + platform::decimal(10'000'000 + row);

@@ -4,9 +4,9 @@
 
 #include "bench/ratio.h"
 #include "core/message_box.h"
-#include "msgbox/frmMyMsgBox.h"
-#include "platform/qt/qt_desktop.h"
+#include "machine/qt/desktop/qt_desktop.h"
 #include "platform/text/cp949.h"
+#include "saved_texts/frmMyMsgBox.h"
 #include "tests/support/files_on_disk.h"
 #include "tests/support/test_platform.h"
 
@@ -28,7 +28,7 @@ constexpr int ROUNDS = 7;
 double milliseconds_of_work() { return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
 
 /// Writes down how long the window waits to be painted.
-class WatchedDesktop : public platform::qt::QtDesktop {
+class WatchedDesktop : public machine::qt::QtDesktop {
   public:
     using QtDesktop::QtDesktop;
 
@@ -88,7 +88,7 @@ int main(int argc, char** argv) {
     const QApplication qt(argc, argv);
     tests::FilesOnDisk disk;
     TestPlatform machine;
-    const auto screens = platform::qt::program_screens();
+    const auto screens = machine::qt::program_screens();
     WatchedDesktop desktop(screens, disk.files);
     platform::Platform platform = tests::with(machine.platform, {.desktop = &desktop, .files = &disk.files});
     core::make_message_box_folders(platform);
@@ -96,7 +96,7 @@ int main(int argc, char** argv) {
     write_messages(category);
 
     compose::frmZent main_form(platform, machine.state, {});
-    msgbox::frmMyMsgBox box(platform, main_form);
+    saved_texts::frmMyMsgBox box(platform, main_form);
     box.show();
     QApplication::processEvents();
 

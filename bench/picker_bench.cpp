@@ -4,12 +4,12 @@
 // while all its cards become recipients, and while 100,000 recipients are handed over.
 
 #include "addressbook/frmSendMan.h"
-#include "addressbook/handover.h"
 #include "app/machine.h"
 #include "bench/bare_jet_read.h"
 #include "bench/ratio.h"
-#include "platform/qt/desk_style.h"
-#include "platform/qt/qt_clock.h"
+#include "handover/handover.h"
+#include "machine/qt/desktop/qt_clock.h"
+#include "machine/qt/look/desk_style.h"
 
 #include <QApplication>
 #include <QTimer>
@@ -101,13 +101,13 @@ struct Times {
 struct Program {
     Program(const Folder& folder, platform::Clock& clock)
         : paths(folder.path()),
-          machine(paths, platform::posix::PosixFiles(paths, folder.path() + "/windows"), clock) {
+          machine(paths, machine::posix::PosixFiles(paths, folder.path() + "/windows"), clock) {
         main.set_tag(u"OK");
         main.show();
     }
     ~Program() { main.unload(); }
 
-    platform::posix::Paths paths;
+    machine::posix::Paths paths;
     app::Machine machine;
     core::AppState state;
     compose::frmZent main{machine.platform, state, {}};
@@ -140,7 +140,7 @@ void hand_over(Program& program) {
     files.make_folder(files.application_directory() + u"\\temp");
     files.write(files.application_directory() + u"\\temp\\tmpman.txt", lines);
     files.write(files.application_directory() + u"\\temp\\isend.text", "1");
-    addressbook::HandOver(program.machine.platform, program.state, program.main).NEW_SENDMAN_LOAD();
+    handover::HandOver(program.machine.platform, program.state, program.main).NEW_SENDMAN_LOAD();
     QCoreApplication::processEvents();
 }
 
@@ -148,7 +148,7 @@ void keep_least(double& least, double time) { least = std::min(least, time); }
 void keep_longest(double& longest, double time) { longest = std::max(longest, time); }
 
 Times measure(const Folder& folder) {
-    platform::qt::QtClock clock;
+    machine::qt::QtClock clock;
     Busy busy;
     Times times;
     for (int run = 0; run < RUNS; ++run) {
@@ -186,7 +186,7 @@ Times measure(const Folder& folder) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication qt(argc, argv);
-    QApplication::setStyle(new platform::qt::DeskStyle);
+    QApplication::setStyle(new machine::qt::DeskStyle);
     QApplication::setQuitOnLastWindowClosed(false);
     try {
         const Folder folder;

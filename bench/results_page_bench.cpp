@@ -2,8 +2,8 @@
 // the refused ones of a day and those in the middle cost what they do with 1,000.
 
 #include "bench/ratio.h"
-#include "carrier/ledger.h"
-#include "carrier/site/routes.h"
+#include "standin/ledger.h"
+#include "standin/site/routes.h"
 #include "tests/support/temporary_folder.h"
 
 #include <fstream>
@@ -20,10 +20,10 @@ std::string ledger_of(int registrations) { return "ledger" + std::to_string(regi
 
 void make_ledger(int registrations) {
     const std::string path = ledger_of(registrations);
-    const carrier::Ledger make(path);
-    carrier::Database ledger(path, carrier::Database::Access::write);
-    carrier::Transaction transaction(ledger);
-    carrier::Statement insert = ledger.prepare(
+    const standin::Ledger make(path);
+    standin::Database ledger(path, standin::Database::Access::write);
+    standin::Transaction transaction(ledger);
+    standin::Statement insert = ledger.prepare(
         "INSERT INTO registration (call, time, operation, result, user_id, data_type, submit_sequence, "
         "subject,"
         " schedule_time, callback, dest_addr_count, recipient_count, dest_addr, sms_content, "
@@ -43,14 +43,14 @@ void make_ledger(int registrations) {
 }
 
 void results(benchmark::State& state, int registrations) {
-    const carrier::site::Sources sources{ledger_of(registrations), "carrier.ini", [] { return "2026-01"; }};
+    const standin::site::Sources sources{ledger_of(registrations), "carrier.ini", [] { return "2026-01"; }};
     const std::string user = "code=1&userid=demo&domain=d";
     const std::string queries[] = {user, user + "&state=refused&day=2026-01-03",
                                    user + "&before=" + std::to_string(registrations / 2)};
     for (auto _ : state) {
         for (const std::string& query : queries) {
             const auto page =
-                carrier::site::answer({.path = "/result", .query = query, .posted = ""}, sources);
+                standin::site::answer({.path = "/result", .query = query, .posted = ""}, sources);
             if (page.status != 200 || page.body.find("홍길동 외 99명") == std::string::npos)
                 state.SkipWithError("no results on the page");
         }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/controls/containers.h"
+#include "platform/controls/displays.h"
 #include "platform/controls/form.h"
-#include "platform/controls/label.h"
+#include "platform/controls/panels.h"
 #include "platform/ports/platform.h"
 
 namespace compose {

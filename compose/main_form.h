@@ -2,24 +2,16 @@
 
 #include "compose/main_doors.h"
 #include "core/app_state.h"
-#include "platform/controls/check_box.h"
-#include "platform/controls/combo_box.h"
-#include "platform/controls/command_button.h"
+#include "platform/controls/bars.h"
+#include "platform/controls/buttons.h"
 #include "platform/controls/common_dialog.h"
-#include "platform/controls/containers.h"
-#include "platform/controls/date_picker.h"
+#include "platform/controls/displays.h"
+#include "platform/controls/fields.h"
 #include "platform/controls/form.h"
-#include "platform/controls/label.h"
 #include "platform/controls/list_view.h"
-#include "platform/controls/menu.h"
-#include "platform/controls/option_button.h"
-#include "platform/controls/progress_bar.h"
+#include "platform/controls/panels.h"
 #include "platform/controls/sound_recorder.h"
-#include "platform/controls/status_bar.h"
-#include "platform/controls/tab_strip.h"
-#include "platform/controls/text_box.h"
 #include "platform/controls/timer.h"
-#include "platform/controls/tool_bar.h"
 #include "platform/ports/platform.h"
 
 #include <array>
@@ -218,7 +210,7 @@ class frmZent : public platform::Form {
     void cmdLogOut_Click();
     void AUTO_LOGIN_START();
     void SET_LOGIN_BUTTONS(bool logged_in);
-    /// Shows a gateway::ServicePage; who is not logged in logs in first or sees none.
+    /// Shows a service::ServicePage; who is not logged in logs in first or sees none.
     void KTSMS_LINK(int index);
 
     // Text entry, for everyone who writes the fields.

@@ -3,8 +3,8 @@
 #include "compose/main_form.h"
 #include "compose/recipient_number.h"
 #include "core/windows.h"
-#include "gateway/frmAbout.h"
-#include "gateway/service_pages.h"
+#include "service/frmAbout.h"
+#include "service/service_pages.h"
 
 namespace compose {
 
@@ -138,11 +138,11 @@ void frmZent::Toolbar1_ButtonClick(int index) {
     if (index >= FIRST_KIND_BUTTON && index <= LAST_KIND_BUTTON) {
         TabStrip1.select(index - 1);
     } else if (index == RESULTS_BUTTON) {
-        KTSMS_LINK(gateway::PAGE_RESULTS);
+        KTSMS_LINK(service::PAGE_RESULTS);
     } else if (index == INBOX_BUTTON) {
-        KTSMS_LINK(gateway::PAGE_INBOX);
+        KTSMS_LINK(service::PAGE_INBOX);
     } else if (index == CHARGES_BUTTON) {
-        KTSMS_LINK(gateway::PAGE_CHARGES);
+        KTSMS_LINK(service::PAGE_CHARGES);
     }
 }
 
@@ -151,16 +151,16 @@ void frmZent::STBar1_PanelClick(int panel) {
     if (panel == 1) {
         state_.gLoggedIn ? cmdLogOut_Click() : cmdLogin_Click();
     } else if (panel == 2 && state_.gLoggedIn) {
-        KTSMS_LINK(gateway::PAGE_MEMBER_DATA);
+        KTSMS_LINK(service::PAGE_MEMBER_DATA);
     } else if (panel == 3 && state_.gLoggedIn) {
-        KTSMS_LINK(gateway::PAGE_INBOX);
+        KTSMS_LINK(service::PAGE_INBOX);
     } else if (panel == 4) {
         mnuAbout_Click();
     }
 }
 
 void frmZent::mnuAbout_Click() {
-    gateway::frmAbout about(platform_);
+    service::frmAbout about(platform_);
     about.show_modal();
 }
 

@@ -6,12 +6,12 @@
 #include "core/ini_file.h"
 #include "core/windows.h"
 #include "gateway/frmAutoLogin.h"
-#include "gateway/frmPondiraReg.h"
 #include "gateway/frmZentLogin.h"
-#include "gateway/open_browser.h"
-#include "gateway/service_pages.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
+#include "service/frmPondiraReg.h"
+#include "service/open_browser.h"
+#include "service/service_pages.h"
 
 namespace compose {
 
@@ -129,16 +129,16 @@ void frmZent::show_logged_out() {
 
 void frmZent::KTSMS_LINK(int index) {
     if (!state_.gLoggedIn) cmdLogin_Click();
-    if (state_.gLoggedIn) gateway::show_service_page(platform_, state_, index);
+    if (state_.gLoggedIn) service::show_service_page(platform_, state_, index);
 }
 
 void frmZent::cmdRegister_Click() {
-    gateway::frmPondiraReg guidance(platform_);
+    service::frmPondiraReg guidance(platform_);
     guidance.show_modal();
 }
 
 void frmZent::open_in_browser(platform::TextView key) {
-    gateway::OPEN_BROWSER(platform_, gateway::page_address(platform_, key));
+    service::OPEN_BROWSER(platform_, service::page_address(platform_, key));
 }
 
 void frmZent::cmdLogOut_Click() {

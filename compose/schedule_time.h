@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/controls/combo_box.h"
-#include "platform/controls/date_picker.h"
+#include "platform/controls/fields.h"
 #include "platform/ports/platform.h"
 
 namespace compose {

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <memory>
 
-namespace gateway {
+namespace service {
 class frmWeb;
 }
 
@@ -81,7 +81,7 @@ struct AppState {
     platform::BooleanWord gSendFormOpen;
     platform::BooleanWord gWebFormOpen;
     /// The form of the service's pages that is open, or none: there is never a second one.
-    gateway::frmWeb* frmWeb = nullptr;
+    service::frmWeb* frmWeb = nullptr;
     platform::BooleanWord gUpdateFormOpen;
     /// The answer of the last dialog that asks yes or no.
     platform::BooleanWord gDialogConfirmed;

@@ -46,9 +46,7 @@ Text DIGITS_ONLY(TextView value) {
     return platform::leading_number(digits) != 0 ? digits : trimmed;
 }
 
-Text CLEAN_FIXED_TEXT(TextView text) {
-    return platform::right_trim(platform::blanks_for_nul(Text(text)));
-}
+Text CLEAN_FIXED_TEXT(TextView text) { return platform::right_trim(platform::blanks_for_nul(Text(text))); }
 
 bool TEXT_NUMBER_OK(TextView number) {
     const Text digits = usable_digits(number);

@@ -1,10 +1,10 @@
 // The statement as it is, and its first line as a LIKE pattern for the rest.
 
 #include "fuzz/check.h"
+#include "machine/jet/file/connection_string.h"
+#include "machine/jet/sql/like_pattern.h"
+#include "machine/jet/sql/statement.h"
 #include "platform/error.h"
-#include "platform/jet/connection_string.h"
-#include "platform/jet/like_pattern.h"
-#include "platform/jet/statement.h"
 
 #include <algorithm>
 #include <vector>
@@ -42,16 +42,16 @@ bool is_simple(TextView text) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const Text input = fuzz::as_text(data, std::min<std::size_t>(size, 2000));
     try {
-        const Text statement = platform::jet::sqlite_statement(input);
-        fuzz::check(platform::jet::sqlite_statement(statement) == statement, "a rewritten statement stays");
+        const Text statement = machine::jet::sqlite_statement(input);
+        fuzz::check(machine::jet::sqlite_statement(statement) == statement, "a rewritten statement stays");
     } catch (const platform::RuntimeError&) {
         // Broken, and said so.
     }
-    platform::jet::ConnectionString::parse(input);
+    machine::jet::ConnectionString::parse(input);
 
     const auto end = std::min(input.find(u'\n'), input.size());
     const TextView pattern = TextView(input).substr(0, end), text = TextView(input).substr(end);
-    const auto parsed = platform::jet::LikePattern::parse(pattern);
+    const auto parsed = machine::jet::LikePattern::parse(pattern);
     const bool matches = parsed && parsed->matches(text);
     if (is_simple(pattern) && is_simple(text))
         fuzz::check(matches == matches_plainly(pattern, text), "it matches as the plain way does");

@@ -1,12 +1,12 @@
 #include "fuzz/check.h"
-#include "platform/jet/card_stream.h"
+#include "machine/jet/reader/card_stream.h"
 
 #include <string>
 #include <string_view>
 
 namespace {
 
-using namespace platform::jet;
+using namespace machine::jet;
 
 struct Taken {
     std::string rows;

@@ -1,18 +1,18 @@
 // The input is the file of recipients as the card manager writes it, in cp949.
 
-#include "addressbook/handover_lines.h"
 #include "fuzz/check.h"
+#include "handover/handover_lines.h"
 
 #include <string_view>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const platform::Text text =
-        addressbook::handed_over_text(std::string_view(reinterpret_cast<const char*>(data), size));
+        handover::handed_over_text(std::string_view(reinterpret_cast<const char*>(data), size));
     fuzz::check(text.find_first_of(platform::TextView(u"\r\0", 2)) == platform::Text::npos,
                 "no line end but a line feed, and no NUL");
-    addressbook::HandedOverRecipient recipient;
+    handover::HandedOverRecipient recipient;
     std::size_t characters = 0;
-    for (const platform::TextView line : addressbook::split(text, u'\n')) {
+    for (const platform::TextView line : handover::split(text, u'\n')) {
         characters += line.size() + 1;
         if (!recipient.read(line)) continue;
         fuzz::check(!recipient.name.empty(), "everybody has a name");
@@ -22,7 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
     }
     fuzz::check(characters == text.size() + 1, "no line is lost");
-    const int value = addressbook::value_of_signal(text);
+    const int value = handover::value_of_signal(text);
     fuzz::check(value != 0 && value >= -32768 && value <= 32767,
                 "a signal of 16 bits that chooses something");
     return 0;

@@ -1,7 +1,7 @@
 // The first three lines are section, key and value, the rest is the document.
 
 #include "fuzz/check.h"
-#include "platform/ini/ini_document.h"
+#include "platform/formats/ini_document.h"
 
 #include <string>
 #include <string_view>

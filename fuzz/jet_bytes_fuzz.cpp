@@ -1,13 +1,13 @@
 #include "fuzz/check.h"
-#include "platform/jet/jet_header.h"
-#include "platform/jet/jet_text.h"
+#include "machine/jet/file/jet_header.h"
+#include "machine/jet/file/jet_text.h"
 
 #include <string>
 #include <string_view>
 
 /// Header pages and field texts of any bytes.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace platform::jet;
+    using namespace machine::jet;
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
 
     if (const auto text = decode_jet_text(bytes)) fuzz::check(text->size() <= size, "no text out of nothing");

@@ -1,8 +1,8 @@
-#include "carrier/site/fields.h"
 #include "fuzz/check.h"
+#include "standin/site/fields.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace carrier::site;
+    using namespace standin::site;
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     if (const auto visitor = posted_visitor(bytes)) {
         fuzz::check(

@@ -3,7 +3,7 @@
 #include "core/files.h"
 #include "core/ini_file.h"
 #include "core/windows.h"
-#include "gateway/service_pages.h"
+#include "service/service_pages.h"
 
 namespace gateway {
 
@@ -63,7 +63,7 @@ void frmAutoLogin::judge() {
         u"KT 폰디라 통합 메시징 서비스(UMS) 연동 기능을 이용하기 위해서는 KT 폰디라 회원등록 및 결제방법을 "
         u"'전화요금합산청구'로 신청을 하셔야 합니다.\r\n\r\n지금 KT 폰디라에 등록하시겠습니까?",
         u"KT 폰디라 등록 안내", platform::BoxIcon::exclamation);
-    if (register_now) show_sign_up_page(platform_, state_);
+    if (register_now) service::show_sign_up_page(platform_, state_);
 }
 
 }  // namespace gateway

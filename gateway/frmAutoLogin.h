@@ -2,10 +2,9 @@
 
 #include "core/app_state.h"
 #include "gateway/login.h"
-#include "platform/controls/animation.h"
+#include "platform/controls/displays.h"
+#include "platform/controls/fields.h"
 #include "platform/controls/form.h"
-#include "platform/controls/label.h"
-#include "platform/controls/text_box.h"
 #include "platform/controls/timer.h"
 #include "platform/ports/platform.h"
 

@@ -3,8 +3,8 @@
 #include "core/files.h"
 #include "core/ini_file.h"
 #include "core/windows.h"
-#include "gateway/frmPondiraReg.h"
-#include "gateway/service_pages.h"
+#include "service/frmPondiraReg.h"
+#include "service/service_pages.h"
 
 namespace gateway {
 
@@ -30,8 +30,9 @@ frmZentLogin::frmZentLogin(platform::Platform& platform, core::AppState& state, 
     Command1.Click.connect([this] { Command1_Click(); });
     Command2.Click.connect([this] { unload(); });
     Command3.Click.connect([this] { Command3_Click(); });
-    Command4.Click.connect([this] { show_find_page(platform_, state_); });
-    Command5.Click.connect([this] { platform_.shell.open_page(page_address(platform_, u"KTPONDIRA")); });
+    Command4.Click.connect([this] { service::show_find_page(platform_, state_); });
+    Command5.Click.connect(
+        [this] { platform_.shell.open_page(service::page_address(platform_, u"KTPONDIRA")); });
     Timer1.Tick.connect([this] { Timer1_Timer(); });
 }
 
@@ -112,7 +113,7 @@ void frmZentLogin::Command1_Click() {
 }
 
 void frmZentLogin::Command3_Click() {
-    frmPondiraReg guidance(platform_);
+    service::frmPondiraReg guidance(platform_);
     guidance.show_modal();
 }
 

@@ -2,13 +2,11 @@
 
 #include "core/app_state.h"
 #include "gateway/login.h"
-#include "platform/controls/animation.h"
-#include "platform/controls/check_box.h"
-#include "platform/controls/command_button.h"
-#include "platform/controls/containers.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/displays.h"
+#include "platform/controls/fields.h"
 #include "platform/controls/form.h"
-#include "platform/controls/label.h"
-#include "platform/controls/text_box.h"
+#include "platform/controls/panels.h"
 #include "platform/controls/timer.h"
 #include "platform/ports/platform.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "compose/main_form.h"
-#include "platform/controls/command_button.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/fields.h"
 #include "platform/controls/form.h"
-#include "platform/controls/text_box.h"
 #include "platform/ports/platform.h"
 
 namespace send {

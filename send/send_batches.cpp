@@ -1,9 +1,9 @@
 // SEND_BATCHES: the whole text to up to 100 recipients a submit, one pass over the rows.
 
 #include "core/common.h"
+#include "core/percent.h"
 #include "platform/text/format.h"
 #include "send/frmZentSend.h"
-#include "core/percent.h"
 #include "send/recipient_text.h"
 
 namespace send {

@@ -1,9 +1,9 @@
 // SEND_LONG_BATCHES: a text too long for one message, a pass over the rows for each piece.
 
 #include "core/common.h"
+#include "core/percent.h"
 #include "platform/text/number.h"
 #include "send/frmZentSend.h"
-#include "core/percent.h"
 
 namespace send {
 

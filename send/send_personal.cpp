@@ -2,8 +2,8 @@
 // with the other routine that goes recipient by recipient.
 
 #include "core/list_columns.h"
-#include "send/frmZentSend.h"
 #include "core/percent.h"
+#include "send/frmZentSend.h"
 #include "send/recipient_text.h"
 
 namespace send {

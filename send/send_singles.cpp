@@ -2,8 +2,8 @@
 // being cut.
 
 #include "core/common.h"
-#include "send/frmZentSend.h"
 #include "core/percent.h"
+#include "send/frmZentSend.h"
 #include "send/recipient_text.h"
 
 namespace send {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/app_state.h"
-#include "platform/controls/containers.h"
+#include "platform/controls/displays.h"
 #include "platform/controls/form.h"
-#include "platform/controls/label.h"
 #include "platform/controls/list_view.h"
+#include "platform/controls/panels.h"
 #include "platform/controls/timer.h"
 #include "platform/ports/platform.h"
 #include "update/download.h"

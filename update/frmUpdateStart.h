@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/app_state.h"
-#include "platform/controls/command_button.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/displays.h"
+#include "platform/controls/fields.h"
 #include "platform/controls/form.h"
-#include "platform/controls/label.h"
-#include "platform/controls/text_box.h"
 #include "platform/controls/web_browser.h"
 #include "platform/ports/platform.h"
 

@@ -1,12 +1,8 @@
-#include "platform/controls/control_visitor.h"
-#include "platform/controls/status_bar.h"
-#include "platform/controls/tab_strip.h"
-#include "platform/controls/tool_bar.h"
+#include "platform/controls/bars.h"
+
 #include "platform/error.h"
 
 namespace platform {
-
-void TabStrip::accept(ControlVisitor& visitor) { visitor.visit(*this); }
 
 void TabStrip::select(int index) {
     if (index < 1 || static_cast<std::size_t>(index) > captions_.size()) {
@@ -16,8 +12,6 @@ void TabStrip::select(int index) {
     refresh(Aspect::value);
     Click.raise();
 }
-
-void ToolBar::accept(ControlVisitor& visitor) { visitor.visit(*this); }
 
 void ToolBar::press(int index) {
     for (Button& button : buttons_) {
@@ -31,8 +25,6 @@ void ToolBar::set_button_enabled(int index, bool enabled) {
     buttons_[static_cast<std::size_t>(index - 1)].enabled = enabled;
     refresh(Aspect::value);
 }
-
-void StatusBar::accept(ControlVisitor& visitor) { visitor.visit(*this); }
 
 void StatusBar::set_panel_text(int index, Text text) {
     assign(panels_[static_cast<std::size_t>(index - 1)].text, std::move(text), Aspect::text);

@@ -1,7 +1,5 @@
 #include "platform/controls/list_view.h"
 
-#include "platform/controls/control_visitor.h"
-
 #include <algorithm>
 
 namespace platform {
@@ -11,8 +9,6 @@ const Text& ListItem::sub_item(int index) const {
     if (index == 0) return text_;
     return index <= sub_item_count() ? sub_items_[static_cast<std::size_t>(index - 1)] : none;
 }
-
-void ListView::accept(ControlVisitor& visitor) { visitor.visit(*this); }
 
 void ListView::set_columns(std::vector<Column> columns) {
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "platform/controls/control.h"
+#include "platform/controls/input.h"
 #include "platform/controls/prefix_index.h"
-#include "platform/controls/status_bar.h"
-#include "platform/controls/text_box.h"
 
 #include <cstddef>
 #include <memory>

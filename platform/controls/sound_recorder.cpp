@@ -1,9 +1,8 @@
 #include "platform/controls/sound_recorder.h"
 
-#include "platform/controls/control_visitor.h"
 #include "platform/error.h"
-#include "platform/sound/loudness.h"
-#include "platform/sound/wav_file.h"
+#include "platform/formats/loudness.h"
+#include "platform/formats/wav_file.h"
 #include "platform/text/format.h"
 
 #include <algorithm>
@@ -23,8 +22,6 @@ Text minutes_and_seconds(std::size_t samples) {
 SoundRecorder::~SoundRecorder() {
     if (open_) recorder_.close();
 }
-
-void SoundRecorder::accept(ControlVisitor& visitor) { visitor.visit(*this); }
 
 void SoundRecorder::open() {
     if (open_) return;

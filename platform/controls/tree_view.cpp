@@ -1,7 +1,5 @@
 #include "platform/controls/tree_view.h"
 
-#include "platform/controls/control_visitor.h"
-
 #include <set>
 
 namespace platform {
@@ -13,8 +11,6 @@ Text TreeNode::full_path() const {
     }
     return path;
 }
-
-void TreeView::accept(ControlVisitor& visitor) { visitor.visit(*this); }
 
 TreeNode& TreeView::add_node(Text key, Text text, int picture, Text tag) {
     return insert(nullptr, std::move(key), std::move(text), picture, std::move(tag));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/controls/control.h"
-#include "platform/controls/status_bar.h"
+#include "platform/controls/input.h"
 
 #include <cstddef>
 #include <memory>

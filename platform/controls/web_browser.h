@@ -2,13 +2,24 @@
 
 #include "platform/controls/control.h"
 #include "platform/controls/event.h"
-#include "platform/controls/page_file.h"
+#include "platform/text/text.h"
 
 #include <cstdint>
 #include <string>
 #include <utility>
 
 namespace platform {
+
+/// A file that a page hands out upon the user's click.
+struct PageFile {
+    /// As the page proposes it: any text.
+    Text name;
+    /// Where it goes, for the handler to fill; an empty path refuses the file.
+    Text path;
+};
+
+/// How the taking of a file ended.
+enum class FileEnd { whole, broken, too_large };
 
 /// Where a browser is to go, and what it sends there.
 struct Navigation {

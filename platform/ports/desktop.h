@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/controls/form.h"
 #include "platform/text/text.h"
 
 #include <memory>
@@ -8,6 +7,8 @@
 
 namespace platform {
 
+class Control;
+class Form;
 class Menu;
 
 enum class BoxIcon { none, information, question, exclamation, critical };

@@ -1,4 +1,4 @@
-#include "platform/avi/avi_file.h"
+#include "platform/formats/avi_file.h"
 
 #include <cstdint>
 #include <fstream>

@@ -1,4 +1,4 @@
-#include "addressbook/handover.h"
+#include "handover/handover.h"
 
 #include "platform/text/cp949.h"
 #include "tests/support/main_window.h"
@@ -26,7 +26,7 @@ struct HandOver : testing::Test, tests::MainWindow {
     }
     void take_in() { hand_over.NEW_SENDMAN_LOAD(); }
 
-    addressbook::HandOver hand_over{platform, state, form};
+    handover::HandOver hand_over{platform, state, form};
 
     Rows rows() const {
         Rows all;
@@ -87,7 +87,7 @@ TEST_F(HandOver, LinesAreTakenAsFarAsTheyMakeSense) {
         window.form.load();
         window.files.files[SIGNAL] = "1";
         window.files.files[RECIPIENTS] = platform::encode_cp949(file.file);
-        addressbook::HandOver(window.platform, window.state, window.form).NEW_SENDMAN_LOAD();
+        handover::HandOver(window.platform, window.state, window.form).NEW_SENDMAN_LOAD();
         Rows rows;
         for (std::size_t row = 0; row < window.form.ListView1.row_count(); ++row) {
             const platform::ListItem& item = window.form.ListView1.row(row);

@@ -1,4 +1,4 @@
-#include "platform/ini/ini_document.h"
+#include "platform/formats/ini_document.h"
 
 #include "platform/text/cp949.h"
 #include "tests/support/tsv.h"

@@ -1,4 +1,4 @@
-#include "gateway/frmAbout.h"
+#include "service/frmAbout.h"
 #include "tests/support/main_window.h"
 #include "tests/support/page_reader.h"
 
@@ -190,7 +190,7 @@ TEST_F(Bars, StatusBarPanelsAnswerTheLeftButtonByTheLoginState) {
     click(1);
     EXPECT_FALSE(state.gLoggedIn);
 
-    desktop.in_form<gateway::frmAbout>(u"frmAbout", [](gateway::frmAbout& about) { about.escape_pressed(); });
+    desktop.in_form<service::frmAbout>(u"frmAbout", [](service::frmAbout& about) { about.escape_pressed(); });
     click(4);
     EXPECT_EQ(desktop.forms.back(), u"frmAbout");
 }

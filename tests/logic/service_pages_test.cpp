@@ -1,9 +1,9 @@
-#include "gateway/service_pages.h"
+#include "service/service_pages.h"
 
 #include "core/deployment.h"
 #include "core/entry_routine.h"
-#include "gateway/frmAbout.h"
-#include "gateway/frmPondiraReg.h"
+#include "service/frmAbout.h"
+#include "service/frmPondiraReg.h"
 #include "tests/support/main_window.h"
 #include "tests/support/page_reader.h"
 
@@ -78,7 +78,7 @@ TEST_F(ServicePages, ArePostedTheUserInRawBytesOfCp949AndNeverAPassword) {
     };
     for (const auto& row : rows) {
         log_in_as(row.user_id);
-        const std::string body = gateway::post_body(state);
+        const std::string body = service::post_body(state);
         EXPECT_EQ(body, "code=07190533026&userid=" + row.bytes + "&domain=pondira.example");
         EXPECT_EQ(body.find("geheim"), std::string::npos);
     }
@@ -86,7 +86,7 @@ TEST_F(ServicePages, ArePostedTheUserInRawBytesOfCp949AndNeverAPassword) {
 
 TEST_F(ServicePages, AreToldHowTheBodyIsWrittenAndHoldHandOversOffWhileTheyAreOpen) {
     log_in_as(u"demo");
-    desktop.in_form<gateway::frmWeb>(u"frmWeb", [&](gateway::frmWeb& web) {
+    desktop.in_form<service::frmWeb>(u"frmWeb", [&](service::frmWeb& web) {
         EXPECT_EQ(utf8(web.WebBrowser.navigation().header),
                   "Content-Type: application/x-www-form-urlencoded\r\n");
         EXPECT_EQ(utf8(web.WebBrowser.navigation().address), "") << "there is no urllink.ini";
@@ -100,12 +100,12 @@ TEST_F(ServicePages, AreToldHowTheBodyIsWrittenAndHoldHandOversOffWhileTheyAreOp
 TEST_F(ServicePages, FollowEachOtherInOneForm) {
     write_links();
     log_in_as(u"demo");
-    desktop.in_form<gateway::frmWeb>(u"frmWeb", [&](gateway::frmWeb& web) {
-        form.KTSMS_LINK(gateway::CARD_MANAGER_INBOX);
+    desktop.in_form<service::frmWeb>(u"frmWeb", [&](service::frmWeb& web) {
+        form.KTSMS_LINK(service::CARD_MANAGER_INBOX);
         EXPECT_TRUE(web.loaded() && state.gWebFormOpen);
         EXPECT_EQ(utf8(web.caption()), "팩스수신");
         EXPECT_EQ(utf8(web.WebBrowser.navigation().address), "http://s/inbox");
-        EXPECT_EQ(web.WebBrowser.navigation().body, gateway::post_body(state));
+        EXPECT_EQ(web.WebBrowser.navigation().body, service::post_body(state));
         web.escape_pressed();
     });
     form.KTSMS_LINK(0);
@@ -129,7 +129,7 @@ TEST_F(ServicePages, HandOutDataOfAHarmlessNameWhereTheUserWantsIt) {
     };
     const Text place = u"z:\\home\\x.wav";
     log_in_as(u"demo");
-    desktop.in_form<gateway::frmWeb>(u"frmWeb", [&](gateway::frmWeb& web) {
+    desktop.in_form<service::frmWeb>(u"frmWeb", [&](service::frmWeb& web) {
         const auto said = [&] { return utf8(web.Label1.caption()); };
         for (const auto& row : rows) {
             desktop.file_questions.clear();
@@ -171,7 +171,7 @@ TEST_F(ServicePages, AskTheUserToLogInFirstAndStayAwayWhenHeGivesUp) {
 }
 
 TEST_F(ServicePages, EachLinkReadsItsAddressAtTheClickAndGoesItsWay) {
-    desktop.in_form<gateway::frmAbout>(u"frmAbout", [](gateway::frmAbout& about) {
+    desktop.in_form<service::frmAbout>(u"frmAbout", [](service::frmAbout& about) {
         about.Label1_3.Click.raise();
         EXPECT_TRUE(about.loaded());
         about.Command1.Click.raise();
@@ -199,7 +199,7 @@ TEST_F(ServicePages, EachLinkReadsItsAddressAtTheClickAndGoesItsWay) {
 }
 
 TEST_F(ServicePages, TheGuidanceHandsOutTheApplicationAndOpensNoPageBehindIt) {
-    const auto guide = [&](gateway::frmPondiraReg& guidance) {
+    const auto guide = [&](service::frmPondiraReg& guidance) {
         EXPECT_EQ(utf8(guidance.caption()), "폰디라-프로(인사이드) 신규회원 가입");
         EXPECT_EQ(utf8(guidance.Label3.caption()), utf8(core::deployment::contact_phone()));
         desktop.popups.clear(), shell.pages.clear();
@@ -220,9 +220,9 @@ TEST_F(ServicePages, TheGuidanceHandsOutTheApplicationAndOpensNoPageBehindIt) {
         EXPECT_TRUE(guidance.loaded());
         guidance.Command2.Click.raise();
     };
-    desktop.in_form<gateway::frmPondiraReg>(u"frmPondiraReg", guide);
+    desktop.in_form<service::frmPondiraReg>(u"frmPondiraReg", guide);
     form.cmdRegister.Click.raise();
-    desktop.in_form<gateway::frmPondiraReg>(u"frmPondiraReg", guide);
+    desktop.in_form<service::frmPondiraReg>(u"frmPondiraReg", guide);
     in_login([](gateway::frmZentLogin& login) {
         login.Command3.Click.raise();
         login.escape_pressed();

@@ -1,8 +1,8 @@
 #include "platform/controls/sound_recorder.h"
 
 #include "platform/controls/form.h"
-#include "platform/sound/loudness.h"
-#include "platform/sound/wav_file.h"
+#include "platform/formats/loudness.h"
+#include "platform/formats/wav_file.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/scripted_desktop.h"
 #include "tests/support/scripted_recorder.h"

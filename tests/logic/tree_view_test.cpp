@@ -1,5 +1,6 @@
 #include "platform/controls/tree_view.h"
 
+#include "platform/controls/form.h"
 #include "tests/support/scripted_desktop.h"
 #include "tests/support/utf8.h"
 

@@ -1,4 +1,4 @@
-#include "platform/sound/wav_file.h"
+#include "platform/formats/wav_file.h"
 #include "tests/support/sending.h"
 
 #include <gtest/gtest.h>

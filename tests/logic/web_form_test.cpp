@@ -1,5 +1,5 @@
-#include "gateway/frmWeb.h"
-#include "gateway/open_browser.h"
+#include "service/frmWeb.h"
+#include "service/open_browser.h"
 #include "tests/support/test_platform.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@ namespace {
 
 TEST(WebForm, IsKnownToBeOpenAsLongAsItIs) {
     TestPlatform machine;
-    gateway::frmWeb form(machine.platform, machine.state);
+    service::frmWeb form(machine.platform, machine.state);
     EXPECT_FALSE(machine.state.gWebFormOpen);
     form.load();
     EXPECT_TRUE(machine.state.gWebFormOpen);
@@ -24,8 +24,8 @@ TEST(WebForm, IsKnownToBeOpenAsLongAsItIs) {
 
 TEST(OpenBrowser, OpensThePageOrAnEmptyBrowser) {
     TestPlatform machine;
-    gateway::OPEN_BROWSER(machine.platform, u"http://pondira.example");
-    gateway::OPEN_BROWSER(machine.platform, u"");
+    service::OPEN_BROWSER(machine.platform, u"http://pondira.example");
+    service::OPEN_BROWSER(machine.platform, u"");
     const std::vector<platform::Text> pages{u"http://pondira.example", u"about:blank"};
     EXPECT_EQ(machine.shell.pages, pages);
 }

@@ -2,7 +2,7 @@
 
 #include "update/download.h"
 
-#include "platform/qt/network/qt_internet.h"
+#include "machine/qt/modules/network/qt_internet.h"
 #include "tests/network/event_clock.h"
 #include "tests/network/secure_server.h"
 #include "tests/support/http_server.h"
@@ -26,7 +26,7 @@ constexpr const char16_t* PLACE = u"z:\\app\\update_temp\\update.ini";
 
 /// The control on a clock that stands one second behind its start, so that rates are sums.
 struct DownloadBench : TestPlatform {
-    explicit DownloadBench(const qt::TransferLimits& limits = {}) : network(limits) {
+    explicit DownloadBench(const machine::qt::TransferLimits& limits = {}) : network(limits) {
         control.set_save_location(PLACE);
         control.DLComplete.connect([this] { write("DLComplete"); });
         control.DLError.connect([this](const Text& text) { write("DLError " + utf8(text)); });
@@ -51,7 +51,7 @@ struct DownloadBench : TestPlatform {
     }
 
     tests::EventClock event_clock;
-    qt::QtInternet network;
+    machine::qt::QtInternet network;
     Platform machine = tests::with(platform, {.clock = &event_clock, .internet = &network});
     Download control{machine};
     std::string log;
@@ -138,7 +138,7 @@ TEST(DownloadEvents, AServerThatPlaysForTimeOrSizeFailsLikeOneThatIsNotThere) {
         ASKED + std::string(FOUND) + RECEIVING + progress("1 KB", "1 초", 1024, 50);
     const struct {
         const char* name;
-        qt::TransferLimits limits;
+        machine::qt::TransferLimits limits;
         std::string sent;
         std::string events;
     } rows[] = {

@@ -1,5 +1,5 @@
+#include "machine/qt/modules/network/qt_internet.h"
 #include "platform/error.h"
-#include "platform/qt/network/qt_internet.h"
 #include "tests/network/event_clock.h"
 #include "tests/network/secure_server.h"
 #include "tests/support/http_server.h"
@@ -38,7 +38,7 @@ constexpr int TIMED_OUT = static_cast<int>(ErrorNumber::request_timed_out);
 constexpr int GIVEN_UP = static_cast<int>(ErrorNumber::dialog_cancelled);
 
 struct Transfers : testing::Test {
-    qt::QtInternet internet{qt::TransferLimits{}};
+    machine::qt::QtInternet internet{machine::qt::TransferLimits{}};
     std::unique_ptr<Transfer> transfer = internet.make_transfer();
     tests::EventClock clock;
 
@@ -135,13 +135,13 @@ TEST_F(Transfers, ALengthThatIsTooShortEndsTheBodyAndOneThatIsMissingTheConnecti
 }
 
 TEST_F(Transfers, EndWhenTheyTakeTooLong) {
-    constexpr qt::TransferLimits SILENCE{
+    constexpr machine::qt::TransferLimits SILENCE{
         .silence_milliseconds = SOON, .answer_milliseconds = NEVER, .body_bytes = ANY_SIZE};
-    constexpr qt::TransferLimits WHOLE{
+    constexpr machine::qt::TransferLimits WHOLE{
         .silence_milliseconds = NEVER, .answer_milliseconds = SOON, .body_bytes = ANY_SIZE};
     const struct {
         const char* name;
-        qt::TransferLimits limits;
+        machine::qt::TransferLimits limits;
         std::string sent;
         /// What comes again and again.
         std::string endless;
@@ -166,7 +166,7 @@ TEST_F(Transfers, EndWhenTheyTakeTooLong) {
             client.wait_until_gone();
             gone.set_value();
         });
-        qt::QtInternet impatient(row.limits);
+        machine::qt::QtInternet impatient(row.limits);
         const auto bounded = impatient.make_transfer();
         EXPECT_EQ(error_of([&] { bounded->open_url(server.url(), ANY_SIZE); }), TIMED_OUT) << row.name;
         EXPECT_EQ(error_of([&] { bounded->chunk(1); }), TIMED_OUT) << "nobody waits twice";
@@ -176,7 +176,8 @@ TEST_F(Transfers, EndWhenTheyTakeTooLong) {
 }
 
 TEST_F(Transfers, EndWhenTheBodyIsTooLargeAndAGetMayBeCut) {
-    qt::QtInternet narrow({.silence_milliseconds = NEVER, .answer_milliseconds = NEVER, .body_bytes = 5000});
+    machine::qt::QtInternet narrow(
+        {.silence_milliseconds = NEVER, .answer_milliseconds = NEVER, .body_bytes = 5000});
     HttpServer endless([](HttpClient& client) {
         client.send("HTTP/1.1 200 OK\r\n\r\n");
         while (client.send(std::string(1000, 'x'))) {
@@ -221,7 +222,7 @@ TEST_F(Transfers, AreSecureWhereTheAddressSaysSoAndTheCertificateHolds) {
     QSslConfiguration trusting = before;
     trusting.addCaCertificate(server.certificate);
     QSslConfiguration::setDefaultConfiguration(trusting);
-    qt::QtInternet trusting_internet{qt::TransferLimits{}};
+    machine::qt::QtInternet trusting_internet{machine::qt::TransferLimits{}};
     EXPECT_EQ(trusting_internet.make_transfer()->open_url(server.url(), 100), "secret");
     QSslConfiguration::setDefaultConfiguration(before);
 }

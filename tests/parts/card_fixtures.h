@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/jet/jet_card_source.h"
+#include "machine/jet/jet_card_source.h"
 #include "tests/support/files_on_disk.h"
 
 #include <filesystem>
@@ -72,7 +72,7 @@ class CardTable {
 class CardsOnDisk {
   public:
     explicit CardsOnDisk(std::chrono::milliseconds longest_reading = std::chrono::seconds(30))
-        : source(platform::posix::Paths(folder.path().string()), {}, longest_reading) {
+        : source(machine::posix::Paths(folder.path().string()), {}, longest_reading) {
         std::filesystem::create_symlink(CARD_READER, reader);
     }
 
@@ -96,7 +96,7 @@ class CardsOnDisk {
 
     std::unique_ptr<platform::CardConnection> connect(const platform::Text& password = u"cardvale070915") {
         return source.connect(u"provider=Microsoft.Jet.OLEDB.4.0;Data Source=" +
-                              platform::posix::Paths::from_posix(database.string()) +
+                              machine::posix::Paths::from_posix(database.string()) +
                               u";Jet OLEDB:Database Password=" + password +
                               u";Persist Security Info=True;User ID=admin");
     }
@@ -107,7 +107,7 @@ class CardsOnDisk {
     TemporaryFolder folder;
     std::filesystem::path database = folder.path() / "CardvaleDB.vdb";
     std::filesystem::path reader = folder.path() / "card-reader";
-    platform::jet::JetCardSource source;
+    machine::jet::JetCardSource source;
 
   private:
     int puts_ = 0;

@@ -253,12 +253,12 @@ TEST(CardStatements, TakeAFilterOfTenThousandFolders) {
 }
 
 TEST(CardStatements, KeepTheFilesOrderAmongCardsOfOnePlace) {
-    jet::CardDatabase cards(std::make_shared<jet::Heartbeat>(nullptr));
-    cards.add(jet::Table::folder, {1, 0, TextView(u"전체")});
+    machine::jet::CardDatabase cards(std::make_shared<machine::jet::Heartbeat>(nullptr));
+    cards.add(machine::jet::Table::folder, {1, 0, TextView(u"전체")});
     Text every_second, all;
     for (int i = 0; i < 1000; ++i) {
         const Text name = decimal(i);
-        cards.add(jet::Table::card, {i % 2 == 0 ? 9 : 8 - i % 5, 0, 7, TextView(name)});
+        cards.add(machine::jet::Table::card, {i % 2 == 0 ? 9 : 8 - i % 5, 0, 7, TextView(name)});
         all += name + u" ";
         if (i % 2 == 0) every_second += name + u" ";
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "carrier/database.h"
+#include "standin/database.h"
 
 #include <cstdint>
 #include <cstring>
@@ -103,8 +103,8 @@ class CarrierTest : public testing::Test {
 
     /// The rows of a query on the ledger, their columns joined by "|".
     static Rows ledger(const char* sql) {
-        const carrier::Database database("carrier-ledger.db", carrier::Database::Access::read);
-        carrier::Statement query = database.prepare(sql);
+        const standin::Database database("carrier-ledger.db", standin::Database::Access::read);
+        standin::Statement query = database.prepare(sql);
         Rows rows;
         while (query.step()) {
             std::string row = query.bytes(0);

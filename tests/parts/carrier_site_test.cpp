@@ -1,7 +1,7 @@
 // The service's web site as a browser meets it: the real program over a real socket.
 
-#include "carrier/ledger.h"
-#include "carrier/site/fields.h"
+#include "standin/ledger.h"
+#include "standin/site/fields.h"
 #include "tests/parts/carrier_client.h"
 #include "tests/support/child_process.h"
 
@@ -91,7 +91,7 @@ class CarrierSite : public CarrierTest {
         configure(
             "[account 홍길동]\npassword=hong1234\n[inbox demo]\n2026-01-05 "
             "11:30=팩스|02-1|3쪽|<i>견적</i>\n2026-01-04 18:05=음성|010-1|42초|안내문\n");
-        carrier::Ledger make("carrier-ledger.db");
+        standin::Ledger make("carrier-ledger.db");
     }
 
     struct Row {
@@ -104,8 +104,8 @@ class CarrierSite : public CarrierTest {
         std::string content = "t";
     };
     static void enter(const std::vector<Row>& rows) {
-        carrier::Database ledger("carrier-ledger.db", carrier::Database::Access::write);
-        carrier::Statement insert = ledger.prepare(
+        standin::Database ledger("carrier-ledger.db", standin::Database::Access::write);
+        standin::Statement insert = ledger.prepare(
             "INSERT INTO registration (call, time, operation, result, user_id, data_type, submit_sequence,"
             " subject, schedule_time, callback, dest_addr_count, recipient_count, dest_addr, sms_content,"
             " attach_file_count, attach_file) VALUES ((SELECT count(*) FROM registration), ?, 'fn_x_submit', "
@@ -172,7 +172,7 @@ TEST_F(CarrierSite, ReadsAPostOfRawBytesAndNothingElse) {
         {"", "none"},
     };
     for (const auto& post : posts) {
-        const auto visitor = carrier::site::posted_visitor(post.body);
+        const auto visitor = standin::site::posted_visitor(post.body);
         EXPECT_EQ(visitor ? visitor->code + "|" + visitor->user_id + "|" + visitor->domain : "none",
                   post.read)
             << post.body;

@@ -1,4 +1,4 @@
-#include "platform/ini/ini_settings.h"
+#include "platform/formats/ini_settings.h"
 
 #include "tests/support/child_process.h"
 #include "tests/support/files_on_disk.h"

@@ -80,7 +80,7 @@ TEST(JetCardSource, GivesAllCardsOrNoneOfAFileWithAFlippedByteOnAnyPage) {
     // The first bytes of a page say what it is and where its rows are.
     constexpr std::size_t OFFSETS[] = {0, 2, 4, 8, 12, 13, 16, 25, 40, 45, 63, 900, 2500, 4000, 4090};
     int n = 0;
-    for (std::size_t page = 0; page < sound.size(); page += jet::PAGE_BYTES) {
+    for (std::size_t page = 0; page < sound.size(); page += machine::jet::PAGE_BYTES) {
         for (const std::size_t offset : OFFSETS) {
             std::string flipped = sound;
             flipped[page + offset] = static_cast<char>(flipped[page + offset] ^ (1 << n++ % 8));
@@ -93,8 +93,8 @@ TEST(JetCardSource, GivesAllCardsOrNoneOfAFileWithAFlippedByteOnAnyPage) {
 TEST(JetCardSource, GivesAllCardsOrNoneOfAFileCutOrOverwrittenByPages) {
     CardsOnDisk disk;
     const std::string sound = tests::bytes_of(CardsOnDisk::fixture("edge"));
-    const std::string blank(jet::PAGE_BYTES, '\0');
-    for (std::size_t page = 0; page < sound.size(); page += jet::PAGE_BYTES) {
+    const std::string blank(machine::jet::PAGE_BYTES, '\0');
+    for (std::size_t page = 0; page < sound.size(); page += machine::jet::PAGE_BYTES) {
         disk.put_bytes(sound.substr(0, page));
         expect_all_or_nothing(disk, "cut at " + std::to_string(page));
         disk.put_bytes(std::string(sound).replace(page, blank.size(), blank));
@@ -107,7 +107,7 @@ TEST(JetCardSource, GivesAllCardsOrNoneOfAFileCutOrOverwrittenByPages) {
 TEST(JetCardSource, AColumnThatNothingUsesMayBeOfAnyType) {
     CardsOnDisk disk;
     // Where the definition of the cards' table tells the types of its columns, which it has in our order.
-    constexpr std::size_t TYPES = 27 * jet::PAGE_BYTES + 63 + 12, NEXT_TYPE = 25;
+    constexpr std::size_t TYPES = 27 * machine::jet::PAGE_BYTES + 63 + 12, NEXT_TYPE = 25;
     constexpr char TEXT = 10, MEMO = 12;
     const auto with_memo = [&](std::size_t column) {
         std::string changed = tests::bytes_of(CardsOnDisk::fixture("demo"));
@@ -186,8 +186,8 @@ TEST(JetCardSource, SurvivesAReaderThatAnythingHappensTo) {
 TEST(JetCardSource, WaitsForAReaderThatHangsNoLongerThanAllowedAndKeepsTheWindowAlive) {
     tests::TemporaryFolder folder;
     int beats = 0;
-    jet::JetCardSource source(
-        posix::Paths(folder.path().string()), [&] { ++beats; }, std::chrono::milliseconds(100));
+    machine::jet::JetCardSource source(
+        machine::posix::Paths(folder.path().string()), [&] { ++beats; }, std::chrono::milliseconds(100));
     const auto reader = folder.path() / "card-reader";
     tests::put(reader, "#!/bin/sh\nexec tail -f /dev/null\n");
     std::filesystem::permissions(reader, std::filesystem::perms::owner_all);

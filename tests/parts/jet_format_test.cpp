@@ -1,9 +1,9 @@
+#include "machine/jet/file/connection_string.h"
+#include "machine/jet/file/jet_text.h"
+#include "machine/jet/reader/card_stream.h"
+#include "machine/jet/sql/like_pattern.h"
+#include "machine/jet/sql/statement.h"
 #include "platform/error.h"
-#include "platform/jet/card_stream.h"
-#include "platform/jet/connection_string.h"
-#include "platform/jet/jet_text.h"
-#include "platform/jet/like_pattern.h"
-#include "platform/jet/statement.h"
 #include "tests/support/files_on_disk.h"
 #include "tests/support/utf8.h"
 
@@ -12,7 +12,7 @@
 namespace {
 
 using namespace platform;
-using namespace platform::jet;
+using namespace machine::jet;
 using tests::utf8;
 using namespace std::string_view_literals;
 

@@ -2,8 +2,8 @@
 
 #include "core/message_box.h"
 
-#include "msgbox/frmMyMsgBox.h"
 #include "platform/text/hangul.h"
+#include "saved_texts/frmMyMsgBox.h"
 #include "tests/support/child_process.h"
 #include "tests/support/files_on_disk.h"
 #include "tests/support/lists.h"
@@ -32,7 +32,7 @@ class MessageBoxOnDisk : public testing::Test, protected tests::FilesOnDisk {
     ScriptedDesktop& desktop = machine.desktop;
     platform::Platform platform = tests::with(machine.platform, {.files = &files});
     compose::frmZent main{platform, machine.state, {}};
-    msgbox::frmMyMsgBox box{platform, main};
+    saved_texts::frmMyMsgBox box{platform, main};
     const fs::path root = application / "내모음함";
     const fs::path first = root / "내모음함";
 };

@@ -1,7 +1,7 @@
 // The picker over real card databases: what it shows is what an independent reader wrote down of them.
 
 #include "addressbook/frmSendMan.h"
-#include "platform/posix/posix_files.h"
+#include "machine/posix/posix_files.h"
 #include "platform/text/format.h"
 #include "tests/parts/card_fixtures.h"
 #include "tests/support/main_window.h"
@@ -22,7 +22,7 @@ using Rows = std::vector<std::string>;
 struct PickerCards : testing::Test, TestPlatform {
     tests::CardsOnDisk disk;
     const std::string folder = disk.folder.path().string();
-    platform::posix::PosixFiles files_on_disk{platform::posix::Paths(folder), folder + "/windows"};
+    machine::posix::PosixFiles files_on_disk{machine::posix::Paths(folder), folder + "/windows"};
     platform::Platform machine = tests::with(platform, {.files = &files_on_disk, .cards = &disk.source});
     compose::frmZent form{machine, state, {}};
 

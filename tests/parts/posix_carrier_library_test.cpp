@@ -1,4 +1,4 @@
-#include "platform/posix/posix_carrier_library.h"
+#include "machine/posix/posix_carrier_library.h"
 
 #include "platform/error.h"
 #include "tests/parts/carrier_client.h"
@@ -11,7 +11,7 @@
 namespace {
 
 using namespace platform;
-using platform::posix::PosixCarrierLibrary;
+using machine::posix::PosixCarrierLibrary;
 namespace fs = std::filesystem;
 
 constexpr const char* LIBRARY = "x_msggate_d.so";

@@ -1,4 +1,4 @@
-#include "platform/posix/posix_files.h"
+#include "machine/posix/posix_files.h"
 
 #include "platform/text/hangul.h"
 #include "tests/support/child_process.h"
@@ -14,7 +14,7 @@
 namespace {
 
 using namespace platform;
-using namespace platform::posix;
+using namespace machine::posix;
 using tests::bytes_of;
 using tests::error_number;
 using tests::names_in;

@@ -1,4 +1,4 @@
-#include "platform/posix/posix_shell.h"
+#include "machine/posix/posix_shell.h"
 
 #include "tests/support/child_process.h"
 #include "tests/support/files_on_disk.h"
@@ -10,7 +10,7 @@
 namespace {
 
 using namespace platform;
-using namespace platform::posix;
+using namespace machine::posix;
 namespace fs = std::filesystem;
 
 TEST(PosixShell, ASecondInstanceSeesTheFirstUntilItIsKilled) {

@@ -2,18 +2,18 @@
 #include "compose/frmSet1.h"
 #include "compose/frmXTip.h"
 #include "compose/main_form.h"
-#include "gateway/frmAbout.h"
 #include "gateway/frmAutoLogin.h"
-#include "gateway/frmPondiraReg.h"
-#include "gateway/frmWeb.h"
 #include "gateway/frmZentLogin.h"
-#include "msgbox/frmMyMsgBox.h"
-#include "platform/qt/qt_desktop.h"
-#include "platform/qt/screen_faults.h"
-#include "platform/qt/text_conversion.h"
+#include "machine/qt/binders/screen_faults.h"
+#include "machine/qt/desktop/qt_desktop.h"
+#include "machine/qt/typing/text_conversion.h"
+#include "saved_texts/frmMyMsgBox.h"
 #include "send/frmSBox.h"
 #include "send/frmSendEndBox.h"
 #include "send/frmZentSend.h"
+#include "service/frmAbout.h"
+#include "service/frmPondiraReg.h"
+#include "service/frmWeb.h"
 #include "tests/support/test_platform.h"
 #include "update/frmUpdate.h"
 #include "update/frmUpdateStart.h"
@@ -37,8 +37,8 @@ using platform::Form;
 /// The whole system over doubles, but with real windows.
 struct System {
     TestPlatform machine;
-    platform::qt::Screens screens = platform::qt::program_screens();
-    platform::qt::QtDesktop desktop{screens, machine.files};
+    machine::qt::Screens screens = machine::qt::program_screens();
+    machine::qt::QtDesktop desktop{screens, machine.files};
     platform::Platform platform = machine.on(desktop);
     compose::frmZent main{platform, machine.state, compose::MainDoors{}};
 
@@ -46,16 +46,16 @@ struct System {
         std::vector<std::unique_ptr<Form>> forms;
         forms.push_back(std::make_unique<gateway::frmZentLogin>(platform, machine.state, main.Timer1));
         forms.push_back(std::make_unique<gateway::frmAutoLogin>(platform, machine.state));
-        forms.push_back(std::make_unique<gateway::frmAbout>(platform));
-        forms.push_back(std::make_unique<gateway::frmPondiraReg>(platform));
-        forms.push_back(std::make_unique<gateway::frmWeb>(platform, machine.state));
+        forms.push_back(std::make_unique<service::frmAbout>(platform));
+        forms.push_back(std::make_unique<service::frmPondiraReg>(platform));
+        forms.push_back(std::make_unique<service::frmWeb>(platform, machine.state));
         forms.push_back(std::make_unique<compose::frmSet1>(platform));
         forms.push_back(std::make_unique<compose::frmXTip>(platform));
         forms.push_back(std::make_unique<send::frmSBox>(platform, machine.state));
         forms.push_back(std::make_unique<send::frmZentSend>(platform, machine.state, main));
         forms.push_back(std::make_unique<send::frmSendEndBox>(platform, main));
         forms.push_back(std::make_unique<addressbook::frmSendMan>(platform, machine.state, main));
-        forms.push_back(std::make_unique<msgbox::frmMyMsgBox>(platform, main));
+        forms.push_back(std::make_unique<saved_texts::frmMyMsgBox>(platform, main));
         forms.push_back(std::make_unique<update::frmUpdate>(platform, machine.state));
         forms.push_back(std::make_unique<update::frmUpdateStart>(platform, machine.state));
         return forms;
@@ -70,7 +70,7 @@ void settle() {
 
 QWidget& window_of(const Form& form) {
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window->windowTitle() == platform::qt::to_qstring(form.caption()))
+        if (window->isVisible() && window->windowTitle() == machine::qt::to_qstring(form.caption()))
             return *window;
     }
     throw std::logic_error("no window of " + platform::to_utf8(form.name()));
@@ -161,7 +161,7 @@ TEST(AllScreens, have_a_widget_for_every_control_and_a_control_for_every_widget)
     for (const auto& form : forms) all.push_back(form.get());
     for (Form* form : all) {
         const auto window = system.screens.build(form->name());
-        for (const QString& fault : platform::qt::screen_faults(*form, *window, system.machine.files))
+        for (const QString& fault : machine::qt::screen_faults(*form, *window, system.machine.files))
             ADD_FAILURE() << platform::to_utf8(form->name()) << ": " << fault.toStdString();
         expect_pictures(*window);
     }

@@ -1,5 +1,5 @@
-#include "platform/qt/korean_translator.h"
-#include "platform/qt/qt_clock.h"
+#include "machine/qt/desktop/qt_clock.h"
+#include "machine/qt/look/korean_translator.h"
 #include "platform/text/calendar.h"
 #include "tests/screen/screen_fixture.h"
 
@@ -173,7 +173,7 @@ TEST_F(ControlTest, a_caption_leaves_the_shortcut_that_the_screen_gives) {
 }
 
 TEST(ClockTest, a_tick_is_not_run_inside_itself_and_may_end_its_ticker) {
-    platform::qt::QtClock clock;
+    machine::qt::QtClock clock;
     int depth = 0, deepest = 0, ticks = 0;
     std::unique_ptr<platform::Ticker> ticker = clock.every(1, [&] {
         deepest = std::max(deepest, ++depth);
@@ -188,7 +188,7 @@ TEST(ClockTest, a_tick_is_not_run_inside_itself_and_may_end_its_ticker) {
 }
 
 TEST(KoreanTranslatorTest, the_menus_of_text_fields_are_korean) {
-    platform::qt::KoreanTranslator translator;
+    machine::qt::KoreanTranslator translator;
     QCoreApplication::installTranslator(&translator);
     QLineEdit field;
     const std::unique_ptr<QMenu> menu(field.createStandardContextMenu());

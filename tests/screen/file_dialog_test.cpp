@@ -1,5 +1,5 @@
-#include "platform/posix/posix_files.h"
-#include "platform/qt/korean_translator.h"
+#include "machine/posix/posix_files.h"
+#include "machine/qt/look/korean_translator.h"
 #include "tests/screen/screen_fixture.h"
 #include "tests/support/files_on_disk.h"
 #include "tests/support/utf8.h"
@@ -48,9 +48,9 @@ class FileDialogs : public DeskTest {
 
     FilesOnDisk disk;
     std::filesystem::path documents = disk.folder.path() / "문서 'a;b'";
-    std::string in_documents = utf8(platform::posix::Paths::from_posix(documents)) + "\\";
-    platform::qt::Screens screens = sample_screens();
-    platform::qt::QtDesktop desktop{screens, disk.files};
+    std::string in_documents = utf8(machine::posix::Paths::from_posix(documents)) + "\\";
+    machine::qt::Screens screens = sample_screens();
+    machine::qt::QtDesktop desktop{screens, disk.files};
 
     const FileQuestion open{.purpose = Purpose::open,
                             .title = u"열기",
@@ -82,7 +82,7 @@ TEST_F(FileDialogs, ShowTheFilesOfTheFilterAndTheNameThatWasChosenBefore) {
         cancel(dialog);
     });
     FileQuestion again = save;
-    again.file_name = platform::posix::Paths::from_posix(documents / "소리.WAV");
+    again.file_name = machine::posix::Paths::from_posix(documents / "소리.WAV");
     EXPECT_EQ(
         ask(again,
             [](QFileDialog& dialog) {
@@ -93,7 +93,7 @@ TEST_F(FileDialogs, ShowTheFilesOfTheFilterAndTheNameThatWasChosenBefore) {
 }
 
 TEST_F(FileDialogs, SpeakKorean) {
-    platform::qt::KoreanTranslator korean;
+    machine::qt::KoreanTranslator korean;
     QApplication::installTranslator(&korean);
     for (const FileQuestion* question : {&open, &save}) {
         ask(*question, [&](QFileDialog& dialog) {

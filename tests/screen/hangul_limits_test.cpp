@@ -2,8 +2,8 @@
 
 #include "compose/main_form.h"
 #include "core/common.h"
-#include "platform/qt/message_edit.h"
-#include "platform/qt/text_conversion.h"
+#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/widgets/message_edit.h"
 #include "send/send_check.h"
 #include "tests/screen/program_fixture.h"
 #include "tests/screen/screen_fixture.h"
@@ -127,10 +127,10 @@ struct Draft {
     }
 
     BoxPlayer boxes;
-    platform::qt::Screens screens = platform::qt::program_screens();
+    machine::qt::Screens screens = machine::qt::program_screens();
     HastyClock clock;
     TestPlatform machine;
-    platform::qt::QtDesktop desktop{screens, machine.files};
+    machine::qt::QtDesktop desktop{screens, machine.files};
     platform::Platform platform = with(machine.platform, {.desktop = &desktop, .clock = &clock});
     core::AppState& state = machine.state;
     InputMethod method;
@@ -200,13 +200,13 @@ class HangulLimits : public DeskTest {
 
     static void check(Draft& draft, const Case& c) {
         const platform::TextBox& field = draft.field();
-        const auto& edit = find<platform::qt::MessageEdit>(draft.field_name());
+        const auto& edit = find<machine::qt::MessageEdit>(draft.field_name());
         EXPECT_EQ(utf8(field.text()), utf8(c.after));
-        EXPECT_EQ(edit.committed_text().toStdString(), platform::qt::shown_text(c.after).toStdString());
+        EXPECT_EQ(edit.committed_text().toStdString(), machine::qt::shown_text(c.after).toStdString());
         const std::size_t caret = c.caret.value_or(c.after.size());
         EXPECT_EQ(field.selection_start(), caret);
         EXPECT_EQ(field.selection_length(), 0U);
-        EXPECT_EQ(edit.textCursor().position(), platform::qt::shown_position(c.after, caret));
+        EXPECT_EQ(edit.textCursor().position(), machine::qt::shown_position(c.after, caret));
 
         const auto bytes = core::BYTE_LEN(c.after);
         if (draft.kind == TEXT_MESSAGE) {
@@ -377,7 +377,7 @@ TEST_F(HangulLimits, a_click_into_the_subject_ends_the_syllable_first) {
 
 TEST_F(HangulLimits, a_key_that_comes_while_the_question_is_open_opens_no_second_box) {
     const auto end_by_period = [](Draft& draft) {
-        auto& edit = find<platform::qt::MessageEdit>("mText1");
+        auto& edit = find<machine::qt::MessageEdit>("mText1");
         draft.boxes.meanwhile = [&] {
             if (draft.boxes.asked.size() == 1) QTest::keyClick(&edit, Qt::Key_Period);
         };
@@ -425,14 +425,14 @@ TEST_F(HangulLimits, another_kind_begins_its_text_whatever_was_unfinished) {
             draft.kind = TEXT_PLUS;
             const Text plus = u"[홍]\r\n\r\n\r\n\r\n☎통화를눌러확인하세요";
             EXPECT_EQ(draft.form.mText2.text(), plus);
-            EXPECT_EQ(find<platform::qt::MessageEdit>("mText2").committed_text(),
-                      platform::qt::shown_text(plus));
+            EXPECT_EQ(find<machine::qt::MessageEdit>("mText2").committed_text(),
+                      machine::qt::shown_text(plus));
             draft.field().set_focus();
             draft.leave_han_unfinished();
             click_tab(TEXT_MESSAGE);
             EXPECT_EQ(draft.form.mText2.text(), u"한" + plus);
             EXPECT_EQ(draft.form.mText1.text(), u"[홍]");
-            EXPECT_EQ(find<platform::qt::MessageEdit>("mText1").committed_text(), "[홍]");
+            EXPECT_EQ(find<machine::qt::MessageEdit>("mText1").committed_text(), "[홍]");
         }
     }
 }

@@ -1,5 +1,5 @@
-#include "platform/qt/message_edit.h"
-#include "platform/qt/text_conversion.h"
+#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/widgets/message_edit.h"
 #include "platform/text/cp949.h"
 #include "tests/screen/screen_fixture.h"
 
@@ -48,7 +48,7 @@ class HangulTest : public ScreenTest {
     }
 
     QString shown() { return edit().committed_text(); }
-    platform::qt::MessageEdit& edit() { return find<platform::qt::MessageEdit>("mText1"); }
+    machine::qt::MessageEdit& edit() { return find<machine::qt::MessageEdit>("mText1"); }
 
     std::vector<Text> changes;
     std::function<void()> on_change = [] {};
@@ -96,7 +96,7 @@ TEST_F(HangulTest, a_cut_in_the_change_handler_takes_the_excess_alone) {
         compose(c.commit, c.unfinished);
         settle();
         EXPECT_EQ(form.mText1.text(), c.after);
-        EXPECT_EQ(shown(), platform::qt::to_qstring(c.after));
+        EXPECT_EQ(shown(), machine::qt::to_qstring(c.after));
         EXPECT_EQ(form.mText1.selection_start(), c.after.size());
         EXPECT_EQ(QApplication::focusWidget(), &edit());
         compose("", "");
@@ -145,7 +145,7 @@ TEST_F(HangulTest, the_question_about_a_long_text_neither_loses_nor_doubles_a_sy
         settle();
         EXPECT_EQ(boxes.asked.size(), 1u);
         EXPECT_EQ(form.mText1.text(), c.after);
-        EXPECT_EQ(shown(), platform::qt::to_qstring(c.after));
+        EXPECT_EQ(shown(), machine::qt::to_qstring(c.after));
         EXPECT_EQ(form.mText1.selection_start(), c.after.size());
         EXPECT_EQ(QApplication::focusWidget(), &edit());
         form.mText1.set_focus();

@@ -46,10 +46,10 @@ class KindsTest : public ProgramTest {
 
     /// As the program names the file, and as it reaches the carrier.
     static std::string program_path(const std::filesystem::path& file) {
-        return utf8(platform::posix::Paths::from_posix(file));
+        return utf8(machine::posix::Paths::from_posix(file));
     }
     static std::string carrier_path(const std::filesystem::path& file) {
-        return utf8(platform::lower_case(platform::posix::Paths::from_posix(file)));
+        return utf8(platform::lower_case(machine::posix::Paths::from_posix(file)));
     }
 
     /// What the last message box said.

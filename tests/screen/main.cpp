@@ -1,4 +1,4 @@
-#include "platform/qt/desk_style.h"
+#include "machine/qt/look/desk_style.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@ int main(int argc, char** argv) {
     qputenv("no_proxy", "127.0.0.1");
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setStyle(new platform::qt::DeskStyle);
+    QApplication::setStyle(new machine::qt::DeskStyle);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

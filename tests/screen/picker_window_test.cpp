@@ -22,8 +22,8 @@ using platform::Text;
 /// The picker in its real window, over a card database of the test's.
 struct PickerWindow : DeskTest {
     Picking picking;
-    platform::qt::Screens screens = platform::qt::program_screens();
-    platform::qt::QtDesktop desktop{screens, picking.files};
+    machine::qt::Screens screens = machine::qt::program_screens();
+    machine::qt::QtDesktop desktop{screens, picking.files};
     platform::Platform platform = picking.on(desktop);
     frmSendMan picker{platform, picking.state, picking.form};
 

@@ -81,8 +81,8 @@ void ProgramTest::order(const std::string& lines) {
 std::vector<std::string> ProgramTest::ledger(const std::string& field) const {
     const std::string file = folder.path() / "carrier-ledger.db";
     if (!std::filesystem::exists(file)) return {};
-    const carrier::Database database(file, carrier::Database::Access::read);
-    carrier::Statement rows = database.prepare("SELECT " + field + " FROM registration ORDER BY id");
+    const standin::Database database(file, standin::Database::Access::read);
+    standin::Statement rows = database.prepare("SELECT " + field + " FROM registration ORDER BY id");
     std::vector<std::string> values;
     while (rows.step()) values.push_back(rows.bytes(0));
     return values;

@@ -2,8 +2,8 @@
 
 #include "app/application.h"
 #include "app/machine.h"
-#include "carrier/database.h"
-#include "platform/qt/qt_clock.h"
+#include "machine/qt/desktop/qt_clock.h"
+#include "standin/database.h"
 #include "tests/support/temporary_folder.h"
 
 #include <QTimer>
@@ -15,7 +15,7 @@
 namespace tests {
 
 /// The machine's clock on which nobody waits and which stands: what a pause is for still happens in it.
-class HastyClock : public platform::qt::QtClock {
+class HastyClock : public machine::qt::QtClock {
   public:
     platform::LocalTime now() override { return platform::make_time(2026, 11, 23, 10, 5); }
     void pause(int milliseconds) override;
@@ -84,9 +84,9 @@ class ProgramTest : public testing::Test {
     TemporaryFolder folder;
     WindowPlayer user;
     QString report;
-    platform::posix::Paths paths{folder.path().string()};
+    machine::posix::Paths paths{folder.path().string()};
     HastyClock clock;
-    app::Machine machine{paths, platform::posix::PosixFiles(paths, (folder.path() / "windows").string()),
+    app::Machine machine{paths, machine::posix::PosixFiles(paths, (folder.path() / "windows").string()),
                          clock};
     platform::Platform platform;
     app::Application application{platform};

@@ -1,7 +1,7 @@
 // The recorder at a real sound server: what is spoken into the microphone is what the carrier gets.
 
 #include "platform/error.h"
-#include "platform/sound/wav_file.h"
+#include "platform/formats/wav_file.h"
 #include "tests/screen/program_fixture.h"
 #include "tests/screen/sound_server.h"
 

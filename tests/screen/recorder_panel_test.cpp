@@ -36,8 +36,8 @@ struct RecorderPanel : tests::DeskTest {
     }
 
     TestPlatform machine;
-    platform::qt::Screens screens = platform::qt::program_screens();
-    platform::qt::QtDesktop desktop{screens, machine.files};
+    machine::qt::Screens screens = machine::qt::program_screens();
+    machine::qt::QtDesktop desktop{screens, machine.files};
     platform::Platform platform = machine.on(desktop);
     compose::frmZent form{platform, machine.state, compose::MainDoors{}};
 };

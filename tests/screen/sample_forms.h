@@ -1,20 +1,12 @@
 #pragma once
 
-#include "platform/controls/check_box.h"
-#include "platform/controls/combo_box.h"
-#include "platform/controls/command_button.h"
-#include "platform/controls/containers.h"
-#include "platform/controls/date_picker.h"
+#include "platform/controls/bars.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/displays.h"
+#include "platform/controls/fields.h"
 #include "platform/controls/form.h"
-#include "platform/controls/label.h"
 #include "platform/controls/list_view.h"
-#include "platform/controls/menu.h"
-#include "platform/controls/option_button.h"
-#include "platform/controls/progress_bar.h"
-#include "platform/controls/status_bar.h"
-#include "platform/controls/tab_strip.h"
-#include "platform/controls/text_box.h"
-#include "platform/controls/tool_bar.h"
+#include "platform/controls/panels.h"
 
 #include <functional>
 

@@ -9,8 +9,8 @@
 
 namespace tests {
 
-platform::qt::Screens sample_screens() {
-    platform::qt::Screens screens;
+machine::qt::Screens sample_screens() {
+    machine::qt::Screens screens;
     screens.add<Ui::frmSample, QMainWindow>(u"frmSample");
     screens.add<Ui::frmAsk, QDialog>(u"frmAsk");
     return screens;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/qt_desktop.h"
+#include "machine/qt/desktop/qt_desktop.h"
 #include "tests/screen/sample_forms.h"
 #include "tests/support/memory_files.h"
 
@@ -17,7 +17,7 @@
 namespace tests {
 
 /// The screens of the sample forms.
-platform::qt::Screens sample_screens();
+machine::qt::Screens sample_screens();
 
 /// Plays the user in front of message boxes.
 class BoxPlayer : public QObject {
@@ -78,9 +78,9 @@ class ScreenTest : public DeskTest {
     }
 
     BoxPlayer boxes;
-    platform::qt::Screens screens = sample_screens();
+    machine::qt::Screens screens = sample_screens();
     MemoryFiles files;
-    platform::qt::QtDesktop desktop{screens, files};
+    machine::qt::QtDesktop desktop{screens, files};
     frmSample form{desktop};
 };
 

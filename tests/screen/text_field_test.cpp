@@ -1,5 +1,5 @@
-#include "platform/qt/message_edit.h"
-#include "platform/qt/text_conversion.h"
+#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/widgets/message_edit.h"
 #include "tests/screen/screen_fixture.h"
 
 #include <QClipboard>
@@ -27,14 +27,14 @@ TEST(TextConversionTest, places_are_the_same_on_both_sides_of_every_kind_of_line
              {u"\U0001F600\r\n", "\U0001F600\n", {{2, 2}, {4, 3}}},
          }) {
         SCOPED_TRACE(c.shown.toStdString());
-        EXPECT_EQ(platform::qt::shown_text(c.program), c.shown);
+        EXPECT_EQ(machine::qt::shown_text(c.program), c.shown);
         for (const auto& [program, shown] : c.places) {
-            EXPECT_EQ(platform::qt::shown_position(c.program, program), shown);
-            EXPECT_EQ(platform::qt::program_position(c.program, shown), program);
+            EXPECT_EQ(machine::qt::shown_position(c.program, program), shown);
+            EXPECT_EQ(machine::qt::program_position(c.program, shown), program);
         }
     }
-    EXPECT_EQ(platform::qt::shown_position(u"가\r\n나", 2), 1) << "between CR and LF is before the line end";
-    EXPECT_EQ(platform::qt::program_text(QString("a\u2029b\rc\r\nd") + QChar(u'\0')), u"a\r\nb\r\nc\r\nd");
+    EXPECT_EQ(machine::qt::shown_position(u"가\r\n나", 2), 1) << "between CR and LF is before the line end";
+    EXPECT_EQ(machine::qt::program_text(QString("a\u2029b\rc\r\nd") + QChar(u'\0')), u"a\r\nb\r\nc\r\nd");
 }
 
 class TextFieldTest : public ScreenTest {
@@ -49,7 +49,7 @@ class TextFieldTest : public ScreenTest {
         });
     }
 
-    platform::qt::MessageEdit& edit() { return find<platform::qt::MessageEdit>("mText1"); }
+    machine::qt::MessageEdit& edit() { return find<machine::qt::MessageEdit>("mText1"); }
 
     std::vector<Text> changes;
     std::vector<int> codes;

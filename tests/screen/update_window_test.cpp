@@ -135,8 +135,8 @@ class UpdateQuestion : public DeskTest {};
 
 TEST_F(UpdateQuestion, OpensByItselfAndSoEnterAnswersNothing) {
     TestPlatform machine;
-    const platform::qt::Screens screens = platform::qt::program_screens();
-    platform::qt::QtDesktop desktop(screens, machine.files);
+    const machine::qt::Screens screens = machine::qt::program_screens();
+    machine::qt::QtDesktop desktop(screens, machine.files);
     platform::Platform platform = machine.on(desktop);
     update::frmUpdateStart form(platform, machine.state);
     form.show();

@@ -1,6 +1,6 @@
 // The browser form where the module with the pages' engine is missing, as it is in this program.
 
-#include "gateway/frmWeb.h"
+#include "service/frmWeb.h"
 #include "tests/screen/screen_fixture.h"
 #include "tests/support/test_platform.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 struct WebForm : tests::DeskTest {
     void open(const platform::Text& address) {
-        form = std::make_unique<gateway::frmWeb>(platform, machine.state);
+        form = std::make_unique<service::frmWeb>(platform, machine.state);
         form->load();
         form->WebBrowser.Navigate(address, "code=1", u"Content-Type: text/plain\r\n");
         form->show();
@@ -22,10 +22,10 @@ struct WebForm : tests::DeskTest {
     const QLabel& notice() const { return *find("WebBrowser").findChild<QLabel*>(); }
 
     TestPlatform machine;
-    platform::qt::Screens screens = platform::qt::program_screens();
-    platform::qt::QtDesktop desktop{screens, machine.files};
+    machine::qt::Screens screens = machine::qt::program_screens();
+    machine::qt::QtDesktop desktop{screens, machine.files};
     platform::Platform platform = machine.on(desktop);
-    std::unique_ptr<gateway::frmWeb> form;
+    std::unique_ptr<service::frmWeb> form;
 };
 
 TEST_F(WebForm, SaysThatTheEngineIsMissingAndCloses) {

@@ -1,6 +1,6 @@
-#include "platform/qt/keep_painted.h"
-#include "platform/qt/qt_clock.h"
-#include "platform/qt/screen_faults.h"
+#include "machine/qt/binders/screen_faults.h"
+#include "machine/qt/desktop/keep_painted.h"
+#include "machine/qt/desktop/qt_clock.h"
 #include "tests/screen/screen_fixture.h"
 
 #include <QLabel>
@@ -183,7 +183,7 @@ TEST_F(WindowTest, the_hourglass_is_a_state) {
 
 std::vector<QString> faults_of(platform::Form& form, QWidget& window) {
     MemoryFiles files;
-    return platform::qt::screen_faults(form, window, files);
+    return machine::qt::screen_faults(form, window, files);
 }
 
 TEST_F(WindowTest, long_work_leaves_it_painted_and_nothing_else_happens) {
@@ -197,11 +197,11 @@ TEST_F(WindowTest, long_work_leaves_it_painted_and_nothing_else_happens) {
     QWidget& widget = find("_centre");
     widget.installEventFilter(&painted);
     int ticks = 0;
-    platform::qt::QtClock clock;
+    machine::qt::QtClock clock;
     const auto ticker = clock.every(0, [&] { ++ticks; });
 
     widget.update();
-    platform::qt::keep_painted();
+    machine::qt::keep_painted();
     EXPECT_EQ(painted.paintings, 1);
     EXPECT_EQ(ticks, 0);
     QCoreApplication::processEvents();

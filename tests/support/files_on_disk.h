@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/posix/posix_files.h"
+#include "machine/posix/posix_files.h"
 #include "tests/support/error_number.h"
 #include "tests/support/temporary_folder.h"
 
@@ -18,7 +18,7 @@ struct FilesOnDisk {
     TemporaryFolder folder;
     std::filesystem::path application = folder.path() / "앱";
     std::filesystem::path windows = folder.path() / "home/.config/cardvale";
-    platform::posix::PosixFiles files{platform::posix::Paths(application), windows};
+    machine::posix::PosixFiles files{machine::posix::Paths(application), windows};
 };
 
 /// Puts a file there behind the program's back.

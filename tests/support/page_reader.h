@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gateway/frmWeb.h"
+#include "service/frmWeb.h"
 #include "tests/support/scripted_desktop.h"
 #include "tests/support/utf8.h"
 
@@ -12,7 +12,7 @@ namespace tests {
 /// The user looks at the next page of the service that opens and closes it: "caption|address|body" goes into
 /// `seen`, the body as its bytes.
 inline void read_next_page(ScriptedDesktop& desktop, std::vector<std::string>& seen) {
-    desktop.in_form<gateway::frmWeb>(u"frmWeb", [&seen](gateway::frmWeb& web) {
+    desktop.in_form<service::frmWeb>(u"frmWeb", [&seen](service::frmWeb& web) {
         const platform::Navigation& navigation = web.WebBrowser.navigation();
         seen.push_back(utf8(web.caption()) + "|" + utf8(navigation.address) + "|" + navigation.body);
         web.escape_pressed();

@@ -1,5 +1,7 @@
 #include "tests/support/scripted_desktop.h"
 
+#include "platform/controls/form.h"
+
 #include <gtest/gtest.h>
 
 using platform::BoxAnswer;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/app_state.h"
-#include "platform/ini/ini_settings.h"
+#include "platform/formats/ini_settings.h"
 #include "platform/ports/platform.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/other_ports.h"

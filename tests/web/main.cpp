@@ -1,4 +1,4 @@
-#include "platform/qt/desk_style.h"
+#include "machine/qt/look/desk_style.h"
 #include "tests/support/temporary_folder.h"
 
 #include <QApplication>
@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--use-fake-device-for-media-stream");
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setStyle(new platform::qt::DeskStyle);
+    QApplication::setStyle(new machine::qt::DeskStyle);
     QCoreApplication::addLibraryPath(QStringLiteral(WEB_MODULE_FOLDER));
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "gateway/frmWeb.h"
-#include "platform/qt/qt_desktop.h"
+#include "machine/qt/desktop/qt_desktop.h"
+#include "service/frmWeb.h"
 #include "tests/support/test_platform.h"
 #include "tests/web/loopback_server.h"
 
@@ -21,10 +21,10 @@ template <class Condition>
 /// The program's browser form with the real engine, on a machine of doubles.
 struct WebForm {
     TestPlatform machine;
-    platform::qt::Screens screens = platform::qt::program_screens();
-    platform::qt::QtDesktop desktop{screens, machine.files};
+    machine::qt::Screens screens = machine::qt::program_screens();
+    machine::qt::QtDesktop desktop{screens, machine.files};
     platform::Platform platform = machine.on(desktop);
-    gateway::frmWeb form{platform, machine.state};
+    service::frmWeb form{platform, machine.state};
 
     ~WebForm();
 

@@ -1,6 +1,6 @@
 // What the user types while the program is busy, on an X server of its own.
 
-#include "platform/qt/keep_painted.h"
+#include "machine/qt/desktop/keep_painted.h"
 #include "tests/support/virtual_display.h"
 
 #include <QApplication>
@@ -26,7 +26,7 @@ TEST(KeptInput, ArrivesAfterTheWorkWithoutAnotherKeyOrTheMouse) {
     for (int step = 0; step < 5000; ++step) {
         // A question to the server, behind whose answer the key stands.
         QCursor::pos();
-        platform::qt::keep_painted();
+        machine::qt::keep_painted();
     }
     EXPECT_FALSE(clicked) << "it waits for the end of the work";
     EXPECT_TRUE(QTest::qWaitFor([&] { return clicked; }));

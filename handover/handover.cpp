@@ -1,0 +1,100 @@
+#include "handover/handover.h"
+
+#include "compose/handover_files.h"
+#include "core/files.h"
+#include "core/percent.h"
+#include "handover/handover_lines.h"
+#include "platform/error.h"
+#include "service/service_pages.h"
+
+namespace handover {
+
+using platform::Text;
+using platform::TextView;
+
+namespace {
+
+bool is_page(int value) {
+    return value >= service::CARD_MANAGER_RESULTS && value <= service::CARD_MANAGER_MEMBER_DATA;
+}
+
+void add_recipient(platform::ListView& list, const HandedOverRecipient& recipient) {
+    if (recipient.number.empty() || list.find_in_sub_items(recipient.number)) return;
+    list.deselect_item();
+    const std::size_t row = list.add_row(u"", {recipient.name, recipient.number, u"", recipient.title}, true);
+    list.make_visible(row);
+    list.select_item(row);
+}
+
+}  // namespace
+
+HandOver::HandOver(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form)
+    : platform_(platform), state_(state), form_(main_form) {}
+
+void HandOver::NEW_SENDMAN_LOAD() {
+    if (state_.gSendFormOpen) return;
+    if (!core::FILE_EXISTS(platform_, compose::isend_text(platform_))) return left_over_.reset();
+    form_.Timer1.set_enabled(false);
+    // Choosing the tab anew every half second would empty the draft each time, and a page could not be left.
+    if (!left_over_ || *left_over_ != files()) take_in();
+    delete_quietly(compose::isend_text(platform_));
+    delete_quietly(compose::tmpman_txt(platform_));
+    left_over_.reset();
+    if (core::FILE_EXISTS(platform_, compose::isend_text(platform_))) left_over_ = files();
+    form_.Timer1.set_enabled(true);
+}
+
+void HandOver::take_in() {
+    const int value = value_of_signal(handed_over_text(bytes_of(compose::isend_text(platform_))));
+    if (is_page(value)) return open_page(value);
+    delete_quietly(compose::isend_text(platform_));
+    // Deliberately thrown away while a page is open: the user has turned to something else.
+    if (!state_.gWebFormOpen && core::FILE_EXISTS(platform_, compose::tmpman_txt(platform_)))
+        take_in_recipients(value);
+}
+
+void HandOver::open_page(int page) {
+    form_.Timer2.set_tag(u"OK");
+    if (!state_.gLoggedIn) {
+        platform::ignore_errors(
+            [&] { form_.mnuAutoLogin.checked() ? form_.AUTO_LOGIN_START() : form_.cmdLogin_Click(); });
+        // The login form has started the polling again, which would find the signal still there.
+        form_.Timer1.set_enabled(false);
+    }
+    if (!state_.gLoginResult || !state_.gLoggedIn) return form_.SET_LOGIN_BUTTONS(false);
+    service::show_service_page(platform_, state_, page);
+}
+
+void HandOver::take_in_recipients(int tab) {
+    const Text text = handed_over_text(bytes_of(compose::tmpman_txt(platform_)));
+    if (text.empty()) return;
+    const std::vector<TextView> lines = split(text, u'\n');
+    form_.PBar1.set_value(0);
+    form_.PBar1.show();
+    HandedOverRecipient recipient;
+    for (std::size_t line = 0; line < lines.size(); ++line) {
+        if (recipient.read(lines[line])) add_recipient(form_.ListView1, recipient);
+        if (line > 0) form_.PBar1.set_value(core::percent(line, lines.size() - 1));
+        platform_.desktop.paint();
+    }
+    form_.PBar1.hide();
+    form_.RECIPIENT_COUNT_CAPTION();
+    // There may be no such tab.
+    platform::ignore_errors([&] { form_.TabStrip1.select(tab); });
+}
+
+HandOver::Files HandOver::files() const {
+    return {bytes_of(compose::isend_text(platform_)), bytes_of(compose::tmpman_txt(platform_))};
+}
+
+std::string HandOver::bytes_of(const Text& path) const {
+    std::string bytes;
+    platform::ignore_errors([&] { bytes = platform_.files.read(path); });
+    return bytes;
+}
+
+void HandOver::delete_quietly(const Text& path) {
+    platform::ignore_errors([&] { core::DELETE_FILE(platform_, path); });
+}
+
+}  // namespace handover

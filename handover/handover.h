@@ -1,0 +1,43 @@
+#pragma once
+
+#include "compose/main_form.h"
+#include "core/app_state.h"
+#include "platform/ports/platform.h"
+
+#include <optional>
+#include <string>
+
+namespace handover {
+
+/// Takes in what the card manager hands over in files.
+class HandOver {
+  public:
+    HandOver(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form);
+
+    /// Takes in what is there, if anything is: recipients and the kind to send to them, or a page of the
+    /// service to open. While it works the main window's polling stands still.
+    void NEW_SENDMAN_LOAD();
+
+  private:
+    struct Files {
+        std::string signal, recipients;
+
+        bool operator==(const Files&) const = default;
+    };
+
+    void take_in();
+    void open_page(int page);
+    void take_in_recipients(int tab);
+    Files files() const;
+    /// None of a file that cannot be read.
+    std::string bytes_of(const platform::Text& path) const;
+    void delete_quietly(const platform::Text& path);
+
+    platform::Platform& platform_;
+    core::AppState& state_;
+    compose::frmZent& form_;
+    /// What was taken in and could not be deleted: no new hand-over until it changes.
+    std::optional<Files> left_over_;
+};
+
+}  // namespace handover

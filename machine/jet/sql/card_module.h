@@ -1,0 +1,13 @@
+#pragma once
+
+#include "machine/jet/sql/card_table.h"
+
+struct sqlite3;
+
+namespace machine::jet {
+
+/// Lets statements of the database read the table under its name. The table has to outlive the database, and
+/// all its rows are there. Returns whether that succeeded.
+bool attach(sqlite3* database, const CardTable& table);
+
+}  // namespace machine::jet

@@ -1,0 +1,99 @@
+#include "machine/jet/sql/like_pattern.h"
+
+#include <algorithm>
+
+namespace machine::jet {
+
+using platform::TextView;
+
+namespace {
+
+/// The small letter of a capital one of the Latin, Greek and Cyrillic alphabets and of the wide Latin one;
+/// every other character as it is.
+char16_t fold(char16_t unit) {
+    if (unit < 0x80) return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
+    const bool plus_32 = (unit >= 0x00C0 && unit <= 0x00DE && unit != 0x00D7) ||
+                         (unit >= 0x0391 && unit <= 0x03A9) || (unit >= 0x0410 && unit <= 0x042F) ||
+                         (unit >= 0xFF21 && unit <= 0xFF3A);
+    if (plus_32) return static_cast<char16_t>(unit + 32);
+    if (unit >= 0x0400 && unit <= 0x040F) return static_cast<char16_t>(unit + 80);
+    return unit;
+}
+
+}  // namespace
+
+bool LikePattern::Element::matches(char16_t folded) const {
+    if (kind == Kind::any_unit) return true;
+    const bool inside = std::ranges::any_of(
+        set, [&](const Range& range) { return folded >= range.first && folded <= range.last; });
+    return inside != outside;
+}
+
+std::optional<LikePattern::Element> LikePattern::parse_set(TextView set) {
+    Element element{.kind = Element::Kind::set};
+    if (set.size() > 1 && (set.front() == u'!' || set.front() == u'^')) {
+        element.outside = true;
+        set.remove_prefix(1);
+    }
+    while (!set.empty()) {
+        const bool is_range = set.size() >= 3 && set[1] == u'-';
+        const Range range{fold(set[0]), fold(is_range ? set[2] : set[0])};
+        if (range.first > range.last) return std::nullopt;
+        element.set.push_back(range);
+        set.remove_prefix(is_range ? 3 : 1);
+    }
+    return element;
+}
+
+std::optional<LikePattern> LikePattern::parse(TextView pattern) {
+    LikePattern parsed;
+    while (!pattern.empty()) {
+        const char16_t unit = pattern.front();
+        pattern.remove_prefix(1);
+        if (unit == u'%') {
+            parsed.elements_.push_back({.kind = Element::Kind::any_text});
+        } else if (unit == u'_') {
+            parsed.elements_.push_back({.kind = Element::Kind::any_unit});
+        } else if (unit == u'[') {
+            const auto end = pattern.find(u']');
+            if (end == TextView::npos) return std::nullopt;
+            // An empty set stands for an empty text.
+            if (end > 0) {
+                auto element = parse_set(pattern.substr(0, end));
+                if (!element) return std::nullopt;
+                parsed.elements_.push_back(std::move(*element));
+            }
+            pattern.remove_prefix(end + 1);
+        } else {
+            const char16_t folded = fold(unit);
+            parsed.elements_.push_back({.kind = Element::Kind::set, .set = {{folded, folded}}});
+        }
+    }
+    return parsed;
+}
+
+bool LikePattern::matches(TextView text) const {
+    std::size_t element = 0, at = 0;
+    // Behind the last `%` passed, and where the text that it stands for ends by now: only that one may have
+    // to take in more, since whatever those before it took leaves the rest the same.
+    std::optional<std::size_t> behind_any;
+    std::size_t any_end = 0;
+    while (at < text.size()) {
+        if (element < elements_.size() && elements_[element].kind == Element::Kind::any_text) {
+            behind_any = ++element;
+            any_end = at;
+        } else if (element < elements_.size() && elements_[element].matches(fold(text[at]))) {
+            ++element;
+            ++at;
+        } else if (behind_any) {
+            element = *behind_any;
+            at = ++any_end;
+        } else {
+            return false;
+        }
+    }
+    return std::all_of(elements_.begin() + static_cast<std::ptrdiff_t>(element), elements_.end(),
+                       [](const Element& left) { return left.kind == Element::Kind::any_text; });
+}
+
+}  // namespace machine::jet

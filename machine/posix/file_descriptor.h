@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string_view>
+#include <unistd.h>
+#include <utility>
+
+namespace machine::posix {
+
+/// An open file descriptor, closed with this object; negative when opening failed.
+class FileDescriptor {
+  public:
+    explicit FileDescriptor(int number = -1) : number_(number) {}
+    FileDescriptor(FileDescriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept {
+        std::swap(number_, other.number_);
+        return *this;
+    }
+    ~FileDescriptor() {
+        if (is_open()) ::close(number_);
+    }
+
+    bool is_open() const { return number_ >= 0; }
+    int number() const { return number_; }
+
+  private:
+    int number_;
+};
+
+/// Writes all the bytes. Returns 0, or the `errno` of the write that failed.
+int write_all(int file, std::string_view bytes);
+
+}  // namespace machine::posix

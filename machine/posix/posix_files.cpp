@@ -1,0 +1,219 @@
+#include "machine/posix/posix_files.h"
+
+#include "machine/posix/file_error.h"
+#include "machine/posix/folder_list.h"
+#include "machine/posix/open_file.h"
+#include "machine/posix/whole_file.h"
+#include "platform/file_name.h"
+#include "platform/text/hangul.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+namespace machine::posix {
+
+using platform::ErrorNumber;
+using platform::FileEntry;
+using platform::OpenFile;
+using platform::RuntimeError;
+using platform::Text;
+using platform::TextView;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr mode_t USER_ALONE = 0700;
+
+/// The home folder by the user database; the program reads no environment. Empty for a user whom it does not
+/// know.
+std::string home_folder() {
+    std::vector<char> buffer(16384);
+    passwd entry{};
+    passwd* found = nullptr;
+    if (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || found == nullptr)
+        return {};
+    return found->pw_dir;
+}
+
+std::string default_windows_directory(const Paths& paths) {
+    const std::string home = home_folder();
+    return home.empty() ? paths.drive_c() + "/windows" : home + "/.config/cardvale";
+}
+
+/// Makes the folder with those above it. Silent: what then wants to stand in it fails by itself.
+void make_folders(const fs::path& folder) {
+    std::error_code ignored;
+    if (fs::is_directory(folder, ignored)) return;
+    if (folder.has_relative_path()) make_folders(folder.parent_path());
+    ::mkdir(folder.c_str(), USER_ALONE);
+}
+
+/// What the path names last; a backslash behind it does not count.
+TextView name_in(TextView path) {
+    while (path.ends_with(u'\\')) path.remove_suffix(1);
+    return path.substr(path.find_last_of(u"\\:") + 1);
+}
+
+bool is_normal_file(const fs::path& path) {
+    std::error_code ignored;
+    return !path.filename().string().starts_with('.') && fs::is_regular_file(path, ignored);
+}
+
+}  // namespace
+
+PosixFiles::PosixFiles(const Paths& paths) : PosixFiles(paths, default_windows_directory(paths)) {}
+
+PosixFiles::PosixFiles(Paths paths, std::string windows_directory)
+    : paths_(std::move(paths)), windows_directory_(std::move(windows_directory)) {}
+
+Text PosixFiles::application_directory() const { return Paths::from_posix(paths_.application_directory()); }
+
+Text PosixFiles::windows_directory() const { return Paths::from_posix(windows_directory_); }
+
+Text PosixFiles::system_directory() const { return windows_directory(); }
+
+bool PosixFiles::file_exists(const Text& path) const {
+    const std::size_t name_at = path.rfind(u'\\') + 1;
+    const Text pattern = path.substr(name_at);
+    if (pattern.empty()) return false;
+    bool exists = false;
+    // A path that cannot be names nothing.
+    platform::ignore_errors([&] {
+        if (pattern.find_first_of(u"*?") == Text::npos) {
+            exists = is_normal_file(paths_.to_posix(path));
+            return;
+        }
+        std::error_code error;
+        const std::string folder = paths_.to_posix(path.substr(0, name_at));
+        for (fs::directory_iterator entry(folder, error), end; !error && !exists && entry != end;
+             entry.increment(error)) {
+            const Text name =
+                platform::compose_hangul(platform::from_utf8(entry->path().filename().string()));
+            exists = platform::matches_pattern(name, pattern) && is_normal_file(entry->path());
+        }
+    });
+    return exists;
+}
+
+bool PosixFiles::folder_exists(const Text& path) const {
+    bool exists = false;
+    platform::ignore_errors([&] {
+        std::error_code ignored;
+        exists = fs::is_directory(paths_.to_posix(path), ignored);
+    });
+    return exists;
+}
+
+std::uint64_t PosixFiles::length(const Text& path) const {
+    const std::string file = paths_.to_posix(path);
+    struct stat found {};
+    if (::stat(file.c_str(), &found) != 0) throw file_error(errno, file);
+    return static_cast<std::uint64_t>(found.st_size);
+}
+
+bool PosixFiles::is_link(const Text& path) const {
+    bool link = false;
+    platform::ignore_errors([&] {
+        std::error_code ignored;
+        link = fs::is_symlink(paths_.to_posix(path), ignored);
+    });
+    return link;
+}
+
+std::vector<FileEntry> PosixFiles::list_files(const Text& folder, TextView pattern) const {
+    return files_of(paths_.to_posix(folder), pattern);
+}
+
+std::vector<Text> PosixFiles::list_folders(const Text& folder) const {
+    return folders_of(paths_.to_posix(folder));
+}
+
+std::string PosixFiles::read(const Text& path) const {
+    // Lists of thousands of files are read one by one: what is there under exactly its name is not searched
+    // for.
+    if (auto bytes = read_if_there(paths_.as_it_stands(path))) return std::move(*bytes);
+    return read_whole_file(paths_.to_posix(path));
+}
+
+void PosixFiles::write(const Text& path, const std::string& bytes) {
+    platform::check_file_name(name_in(path));
+    const std::string file = paths_.to_posix(path);
+    make_standing_folder_of(file);
+    replace_file(file, bytes, readers_of(file));
+}
+
+std::unique_ptr<OpenFile> PosixFiles::open_for_writing(const Text& path) {
+    const std::string file = paths_.to_posix(path);
+    make_standing_folder_of(file);
+    return open_file_for_writing(file);
+}
+
+void PosixFiles::remove(const Text& path) {
+    const std::string file = paths_.to_posix(path);
+    if (::unlink(file.c_str()) != 0) throw file_error(errno, file);
+}
+
+void PosixFiles::remove_files(const Text& folder, TextView pattern) {
+    remove_files_of(paths_.to_posix(folder), pattern);
+}
+
+void PosixFiles::make_folder(const Text& path) {
+    platform::check_file_name(name_in(path));
+    const std::string folder = paths_.to_posix(path);
+    make_standing_folder_of(folder);
+    if (::mkdir(folder.c_str(), USER_ALONE) == 0) return;
+    const int failure = errno;
+    std::error_code ignored;
+    if (fs::is_directory(folder, ignored)) return;
+    throw failure == EEXIST ? RuntimeError(ErrorNumber::path_access) : folder_error(failure);
+}
+
+void PosixFiles::rename_folder(const Text& from, const Text& to) {
+    platform::check_file_name(name_in(to));
+    const std::string folder = paths_.to_posix(from);
+    std::error_code error;
+    if (!fs::is_directory(folder, error)) throw RuntimeError(ErrorNumber::path_not_found);
+    if (::rename(folder.c_str(), paths_.to_posix(to).c_str()) != 0) throw folder_error(errno);
+}
+
+void PosixFiles::remove_empty_folder(const Text& path) {
+    const std::string folder = paths_.to_posix(path);
+    remove_remains(folder);
+    if (::rmdir(folder.c_str()) != 0) throw folder_error(errno);
+}
+
+void PosixFiles::remove_folder(const Text& path) {
+    const std::string folder = paths_.to_posix(path);
+    std::error_code error;
+    if (!fs::is_directory(folder, error)) {
+        throw RuntimeError(fs::exists(folder, error) ? ErrorNumber::path_access
+                                                     : ErrorNumber::path_not_found);
+    }
+    // Links go as links: what they lead to stays.
+    fs::remove_all(folder, error);
+    if (error) throw folder_error(error.value());
+}
+
+/// In its own folders the program keeps what nobody else is to read, passwords among it. Elsewhere is what
+/// the user has named and gives to others as he likes.
+Readers PosixFiles::readers_of(const std::string& path) const {
+    for (const std::string& own : {paths_.application_directory(), windows_directory_}) {
+        if (path.starts_with(own + "/")) return Readers::user_alone;
+    }
+    return Readers::as_usual;
+}
+
+/// Drive `c:` and the Windows directory are always there for the program: made when something is to stand in
+/// them.
+void PosixFiles::make_standing_folder_of(const std::string& path) {
+    const std::string folder = fs::path(path).parent_path();
+    if (folder == windows_directory_ || folder == paths_.drive_c()) make_folders(folder);
+}
+
+}  // namespace machine::posix

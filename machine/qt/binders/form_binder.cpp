@@ -1,0 +1,136 @@
+#include "machine/qt/binders/form_binder.h"
+
+#include "machine/qt/binders/button_binders.h"
+#include "machine/qt/binders/combo_box_binder.h"
+#include "machine/qt/binders/list_view_binder.h"
+#include "machine/qt/binders/menu_binder.h"
+#include "machine/qt/binders/plain_binders.h"
+#include "machine/qt/binders/sound_recorder_binder.h"
+#include "machine/qt/binders/status_bar_binder.h"
+#include "machine/qt/binders/tab_strip_binder.h"
+#include "machine/qt/binders/text_box_binder.h"
+#include "machine/qt/binders/tool_bar_binder.h"
+#include "machine/qt/binders/tree_view_binder.h"
+#include "machine/qt/binders/web_browser_binder.h"
+#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/widgets/animation_player.h"
+#include "machine/qt/widgets/message_edit.h"
+#include "machine/qt/widgets/recorder_panel.h"
+#include "machine/qt/widgets/web_area.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QToolBar>
+#include <QTreeView>
+
+namespace machine::qt {
+
+using platform::Animation;
+using platform::CheckBox;
+using platform::ComboBox;
+using platform::CommandButton;
+using platform::Control;
+using platform::DatePicker;
+using platform::Frame;
+using platform::Image;
+using platform::Label;
+using platform::ListView;
+using platform::Menu;
+using platform::OptionButton;
+using platform::PictureBox;
+using platform::ProgressBar;
+using platform::SoundRecorder;
+using platform::StatusBar;
+using platform::TabStrip;
+using platform::TextBox;
+using platform::ToolBar;
+using platform::TreeView;
+using platform::WebBrowser;
+
+FormBinder::FormBinder(BoundForm& bound, QObject& owner) : bound_(bound), owner_(owner) {
+    for (QObject* object : bound.window.findChildren<QObject*>()) {
+        if (const QString name = object->objectName(); !name.isEmpty()) named_.insert(name, object);
+    }
+    for (Control* control : bound.form.controls()) control->accept(*this);
+    named_.clear();
+}
+
+void FormBinder::release() {
+    bound_.live = false;
+    for (Binder* binder : binders_) binder->release();
+}
+
+void FormBinder::visit(Animation& control) { bind<AnimationBinder, AnimationPlayer>(control); }
+void FormBinder::visit(CheckBox& control) { bind<CheckBoxBinder, QCheckBox>(control); }
+void FormBinder::visit(ComboBox& control) { bind<ComboBoxBinder, QComboBox>(control); }
+void FormBinder::visit(CommandButton& control) { bind<CommandButtonBinder, QAbstractButton>(control); }
+void FormBinder::visit(DatePicker& control) { bind<DatePickerBinder, QDateEdit>(control); }
+void FormBinder::visit(Frame& control) { bind<FrameBinder, QWidget>(control); }
+void FormBinder::visit(Image& control) { bind<ImageBinder, QLabel>(control); }
+void FormBinder::visit(Label& control) { bind<LabelBinder, QLabel>(control); }
+void FormBinder::visit(ListView& control) { bind<ListViewBinder, QTreeView>(control); }
+void FormBinder::visit(OptionButton& control) { bind<OptionButtonBinder, QRadioButton>(control); }
+void FormBinder::visit(PictureBox& control) { bind<PictureBoxBinder, QFrame>(control); }
+void FormBinder::visit(ProgressBar& control) { bind<ProgressBarBinder, QProgressBar>(control); }
+void FormBinder::visit(SoundRecorder& control) { bind<SoundRecorderBinder, RecorderPanel>(control); }
+void FormBinder::visit(StatusBar& control) { bind<StatusBarBinder, QStatusBar>(control); }
+void FormBinder::visit(TabStrip& control) { bind<TabStripBinder, QTabBar>(control); }
+void FormBinder::visit(ToolBar& control) { bind<ToolBarBinder, QToolBar>(control); }
+void FormBinder::visit(TreeView& control) { bind<TreeViewBinder, QTreeView>(control); }
+void FormBinder::visit(WebBrowser& control) { bind<WebBrowserBinder, WebArea>(control); }
+
+void FormBinder::visit(TextBox& control) {
+    if (!try_bind<MessageBinder, MessageEdit>(control)) bind<LineBinder, QLineEdit>(control);
+}
+
+void FormBinder::visit(Menu& control) {
+    const QString name = to_qstring(control.name());
+    auto* action = find<QAction>(name);
+    if (const auto* menu = find<QMenu>(name)) action = menu->menuAction();
+    if (action == nullptr) return add_fault(control);
+    binders_.push_back(new MenuBinder(bound_, control, *action));
+    binders_.back()->setParent(&owner_);
+}
+
+template <class Kind>
+Kind* FormBinder::find(const QString& name) const {
+    for (auto [object, end] = named_.equal_range(name); object != end; ++object) {
+        if (auto* found = qobject_cast<Kind*>(*object)) return found;
+    }
+    return nullptr;
+}
+
+template <class BinderType, class Widget, class ControlType>
+bool FormBinder::try_bind(ControlType& control) {
+    auto* widget = find<Widget>(to_qstring(control.name()));
+    if (widget == nullptr) return false;
+    binders_.push_back(new BinderType(bound_, control, *widget));
+    binders_.back()->setParent(&owner_);
+    return true;
+}
+
+template <class BinderType, class Widget, class ControlType>
+void FormBinder::bind(ControlType& control) {
+    if (!try_bind<BinderType, Widget>(control)) add_fault(control);
+}
+
+void FormBinder::add_fault(const Control& control) {
+    const QString name = to_qstring(control.name());
+    const QObject* other = find<QObject>(name);
+    faults_.push_back(other == nullptr
+                          ? QStringLiteral("%1: no widget for it").arg(name)
+                          : QStringLiteral("%1: a %2 cannot show it")
+                                .arg(name, QString::fromLatin1(other->metaObject()->className())));
+}
+
+}  // namespace machine::qt

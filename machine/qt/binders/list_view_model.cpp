@@ -1,0 +1,79 @@
+#include "machine/qt/binders/list_view_model.h"
+
+#include "machine/qt/look/late_icon.h"
+#include "machine/qt/typing/text_conversion.h"
+
+namespace machine::qt {
+
+using platform::ListItem;
+using platform::ListView;
+
+int ListViewModel::rowCount(const QModelIndex& parent) const {
+    return list_ == nullptr || parent.isValid() ? 0 : told_rows_;
+}
+
+int ListViewModel::columnCount(const QModelIndex& parent) const {
+    return list_ == nullptr || parent.isValid() ? 0 : list_->column_count();
+}
+
+QVariant ListViewModel::data(const QModelIndex& index, int role) const {
+    if (list_ == nullptr || !index.isValid()) return QVariant();
+    const ListItem& row = list_->row(static_cast<std::size_t>(index.row()));
+    if (role == Qt::DisplayRole) return to_qstring(row.sub_item(index.column()));
+    if (role == Qt::DecorationRole && index.column() == 0) return small_icon(row);
+    if (role == Qt::CheckStateRole && index.column() == 0 && list_->check_boxes()) {
+        return row.checked() ? Qt::Checked : Qt::Unchecked;
+    }
+    return QVariant();
+}
+
+QVariant ListViewModel::small_icon(const ListItem& row) const {
+    const auto number = static_cast<std::size_t>(row.small_icon());
+    return number == 0 || number > icons_.size() ? QVariant() : QVariant(icons_[number - 1]);
+}
+
+bool ListViewModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (list_ == nullptr || !index.isValid() || role != Qt::CheckStateRole || index.column() != 0)
+        return false;
+    emit checked_by_user(static_cast<std::size_t>(index.row()), value.toInt() == Qt::Checked);
+    return true;
+}
+
+QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (list_ == nullptr || orientation != Qt::Horizontal || section < 0 ||
+        section >= list_->column_count()) {
+        return QVariant();
+    }
+    const ListView::Column& column = list_->column(section + 1);
+    if (role == Qt::DisplayRole) return to_qstring(column.caption);
+    if (role == Qt::DecorationRole && column.picture) {
+        return late_icon(*column.picture == 0 ? QStringLiteral("sort_up") : QStringLiteral("sort_down"));
+    }
+    return QVariant();
+}
+
+Qt::ItemFlags ListViewModel::flags(const QModelIndex& index) const {
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    if (list_ != nullptr && list_->check_boxes() && index.column() == 0) flags |= Qt::ItemIsUserCheckable;
+    return flags;
+}
+
+void ListViewModel::tell_added_rows() {
+    if (rows_of_list() == told_rows_) return;
+    beginInsertRows(QModelIndex(), told_rows_, rows_of_list() - 1);
+    told_rows_ = rows_of_list();
+    endInsertRows();
+}
+
+void ListViewModel::end_rearranging() {
+    told_rows_ = rows_of_list();
+    endResetModel();
+}
+
+void ListViewModel::rows_changed(int first, int last) {
+    emit dataChanged(index(first, 0), index(last, columnCount() - 1));
+}
+
+void ListViewModel::columns_changed() { emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1); }
+
+}  // namespace machine::qt

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "machine/qt/binders/binder.h"
+#include "machine/qt/typing/user_edits.h"
+#include "platform/controls/fields.h"
+
+class QLineEdit;
+
+namespace machine::qt {
+
+class MessageEdit;
+
+/// Joins a text box with its field: texts, the caret and keys, each way.
+class TextBoxBinder : public WidgetBinder, protected EditedField {
+  public:
+    TextBoxBinder(BoundForm& bound, platform::TextBox& control, QWidget& widget);
+
+    void refresh(platform::Aspect aspect) override;
+
+  protected:
+    struct Selection {
+        int start = 0;
+        int end = 0;
+        int caret = 0;
+    };
+    virtual void write(const QString& text) = 0;
+    virtual void select(int start, int end) = 0;
+    virtual Selection selection() const = 0;
+
+    void press_key(platform::KeyPressed& key);
+    /// The widget is done with an edit or a move of the caret.
+    void edited();
+
+    /// Whether the user has changed the text since it was handed over.
+    bool has_edit() const { return edits_.waiting(); }
+
+    void hand_over() final;
+    void write_back() final;
+    bool is_live() const final { return is_bound_live(); }
+
+  private:
+    void select_as_model();
+    void show_colour();
+
+    platform::TextBox& control_;
+    QWidget& widget_;
+    UserEdits edits_{*this};
+    bool writing_ = false;
+};
+
+/// A text box of several lines.
+class MessageBinder : public TextBoxBinder {
+  public:
+    MessageBinder(BoundForm& bound, platform::TextBox& control, MessageEdit& edit);
+
+  private:
+    QString widget_text() const override;
+    void write(const QString& text) override;
+    void select(int start, int end) override;
+    Selection selection() const override;
+
+    MessageEdit& edit_;
+};
+
+/// A text box of one line.
+class LineBinder : public TextBoxBinder {
+  public:
+    LineBinder(BoundForm& bound, platform::TextBox& control, QLineEdit& edit);
+
+  private:
+    bool filter(QObject& object, QEvent& event) override;
+    QString widget_text() const override;
+    void write(const QString& text) override;
+    void select(int start, int end) override;
+    Selection selection() const override;
+    void join_lines();
+
+    QLineEdit& edit_;
+    bool working_ = false;
+};
+
+}  // namespace machine::qt

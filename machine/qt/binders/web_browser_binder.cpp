@@ -1,0 +1,54 @@
+#include "machine/qt/binders/web_browser_binder.h"
+
+#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/widgets/web_area.h"
+#include "platform/error.h"
+
+namespace machine::qt {
+
+using platform::Aspect;
+using platform::FileEnd;
+using platform::Navigation;
+using platform::PageFile;
+using platform::WebBrowser;
+
+WebBrowserBinder::WebBrowserBinder(BoundForm& bound, WebBrowser& control, WebArea& area)
+    : WidgetBinder(bound, control, area), control_(control), area_(area) {
+    area.set_files({.largest = WebBrowser::LARGEST_FILE,
+                    .place = [this](const QString& name) { return place(name); },
+                    .received =
+                        [this](qint64 bytes, qint64 size) {
+                            if (is_bound_live()) control_.FileReceived.raise(bytes, size);
+                        },
+                    .ended =
+                        [this](FileEnd end) {
+                            if (is_bound_live()) control_.FileEnded.raise(end);
+                        }});
+    if (!control.navigation().address.empty()) navigate();
+}
+
+void WebBrowserBinder::refresh(Aspect aspect) {
+    if (aspect == Aspect::value) return navigate();
+    WidgetBinder::refresh(aspect);
+}
+
+QString WebBrowserBinder::place(const QString& name) {
+    if (!is_bound_live()) return {};
+    PageFile file{.name = to_text(name), .path = {}};
+    control_.FileOffered.raise(file);
+    QString path;
+    if (!file.path.empty()) {
+        platform::ignore_errors(
+            [&] { path = QString::fromStdString(bound().files.machine_path(file.path)); });
+    }
+    return path;
+}
+
+void WebBrowserBinder::navigate() {
+    const Navigation& to = control_.navigation();
+    area_.show_page({.address = to_qstring(to.address).trimmed(),
+                     .body = QByteArray::fromStdString(to.body),
+                     .header = to_qstring(to.header).toLatin1()});
+}
+
+}  // namespace machine::qt

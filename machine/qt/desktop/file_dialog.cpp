@@ -1,0 +1,103 @@
+#include "machine/qt/desktop/file_dialog.h"
+
+#include "machine/qt/typing/text_conversion.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QSplitter>
+#include <QStandardPaths>
+#include <QTreeView>
+
+namespace machine::qt {
+
+using platform::FileQuestion;
+using platform::Text;
+
+namespace {
+
+struct NameFilter {
+    QString name;
+    QStringList patterns;
+};
+
+std::vector<NameFilter> filters_of(const Text& filter) {
+    const QStringList parts = to_qstring(filter).split(u'|');
+    std::vector<NameFilter> filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+        filters.push_back({parts[i], parts[i + 1].split(u';')});
+    return filters;
+}
+
+/// As the toolkit takes it: the patterns in brackets behind the name, and "*" where every file is meant.
+QString toolkit_filter(const NameFilter& filter) {
+    QStringList patterns = filter.patterns;
+    patterns.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
+    return filter.name + QStringLiteral(" (") + patterns.join(u' ') + u')';
+}
+
+/// What a name without an ending gets, from a pattern such as "*.wav"; empty where any ending will do.
+QString suffix_of(const QString& pattern) {
+    const QString suffix = pattern.section(u'.', -1);
+    return pattern.contains(u'.') && !suffix.contains(u'*') ? suffix : QString();
+}
+
+QString first_folder() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(documents).exists() ? documents : QDir::homePath();
+}
+
+/// Room for the places and for long names; the kind of a file is told by its name.
+void arrange(QFileDialog& dialog) {
+    constexpr int SIZE_COLUMN = 1;
+    constexpr int KIND_COLUMN = 2;
+    constexpr int DATE_COLUMN = 3;
+    dialog.resize(760, 480);
+    if (auto* splitter = dialog.findChild<QSplitter*>(QStringLiteral("splitter")))
+        splitter->setSizes({150, 610});
+    if (auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"))) {
+        QHeaderView& header = *list->header();
+        header.setSectionHidden(KIND_COLUMN, true);
+        header.setStretchLastSection(false);
+        header.setSectionResizeMode(0, QHeaderView::Stretch);
+        for (const int column : {SIZE_COLUMN, DATE_COLUMN})
+            header.setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    }
+}
+
+}  // namespace
+
+std::optional<Text> FileDialog::ask(const FileQuestion& question, QWidget* parent) {
+    // The toolkit's own dialog on every desktop: its words are Korean, and it gives real paths.
+    QFileDialog dialog(parent, to_qstring(question.title));
+    dialog.setObjectName(QStringLiteral("fileDialog"));
+    dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails |
+                      QFileDialog::DontConfirmOverwrite);
+    dialog.setViewMode(QFileDialog::Detail);
+    arrange(dialog);
+    dialog.setDirectory(QDir(folder_).exists() && !folder_.isEmpty() ? folder_ : first_folder());
+
+    const std::vector<NameFilter> filters = filters_of(question.filter);
+    QStringList shown;
+    for (const NameFilter& filter : filters) shown.append(toolkit_filter(filter));
+    dialog.setNameFilters(shown);
+    if (question.purpose == FileQuestion::Purpose::save) {
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        if (!filters.empty()) dialog.setDefaultSuffix(suffix_of(filters.front().patterns.front()));
+    } else {
+        dialog.setFileMode(QFileDialog::ExistingFile);
+    }
+    if (question.file_name.find(u'\\') != Text::npos) {
+        dialog.selectFile(QString::fromStdString(files_.machine_path(question.file_name)));
+    } else if (!question.file_name.empty()) {
+        dialog.selectFile(to_qstring(question.file_name));
+    }
+
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    const QFileInfo chosen(dialog.selectedFiles().front());
+    folder_ = chosen.absolutePath();
+    return files_.path_of(chosen.absoluteFilePath().toStdString());
+}
+
+}  // namespace machine::qt

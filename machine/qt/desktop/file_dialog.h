@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/ports/desktop.h"
+#include "platform/ports/files.h"
+
+#include <QString>
+#include <optional>
+
+class QWidget;
+
+namespace machine::qt {
+
+/// The dialog for a file's path. It opens where the user was last, at first in the documents' folder.
+class FileDialog {
+  public:
+    /// The files have to outlive the dialog.
+    explicit FileDialog(platform::Files& files) : files_(files) {}
+
+    /// Asks in front of the parent; nothing when the user cancels.
+    std::optional<platform::Text> ask(const platform::FileQuestion& question, QWidget* parent);
+
+  private:
+    platform::Files& files_;
+    QString folder_;
+};
+
+}  // namespace machine::qt

@@ -1,0 +1,162 @@
+#include "machine/qt/desktop/form_window.h"
+
+#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/twips.h"
+
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <utility>
+
+namespace machine::qt {
+
+using platform::Files;
+using platform::Form;
+using platform::Placement;
+using platform::WindowState;
+
+namespace {
+
+WindowState state_of(const QWidget& window) {
+    if (window.isMinimized()) return WindowState::minimised;
+    return window.isMaximized() ? WindowState::maximised : WindowState::normal;
+}
+
+Qt::WindowStates toolkit_state(WindowState state) {
+    switch (state) {
+        case WindowState::minimised:
+            return Qt::WindowMinimized;
+        case WindowState::maximised:
+            return Qt::WindowMaximized;
+        case WindowState::normal:
+            break;
+    }
+    return Qt::WindowNoState;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, QWidget& window, Files& files)
+    : QObject(&window),
+      form_(form),
+      window_(window),
+      bound_{form, window, files, std::nullopt},
+      binder_(bound_, *this) {
+    // The main window would offer a menu of its own to hide the tool bar.
+    window.setContextMenuPolicy(Qt::NoContextMenu);
+    caption_changed();
+    minimum_size_changed();
+    placed_ = place();
+    form.window_placed(placed_, WindowState::normal);
+    form.attach(this);
+    window.installEventFilter(this);
+}
+
+FormWindow::~FormWindow() {
+    if (!bound_.live) return;
+    binder_.release();
+    form_.attach(nullptr);
+}
+
+void FormWindow::show() {
+    window_.show();
+    window_.raise();
+    window_.activateWindow();
+    QMetaObject::invokeMethod(this, &FormWindow::activate_if_late, Qt::QueuedConnection);
+}
+
+void FormWindow::show_in_front_of(QWidget* parent) {
+    // A window that gets a parent forgets which of its widgets is to have the focus.
+    QWidget* focus = window_.focusWidget();
+    window_.setParent(parent, window_.windowFlags() | Qt::Dialog);
+    window_.setWindowModality(Qt::ApplicationModal);
+    if (focus != nullptr) focus->setFocus();
+    show();
+}
+
+void FormWindow::close() {
+    binder_.release();
+    form_.attach(nullptr);
+    window_.hide();
+    window_.deleteLater();
+    emit closed();
+}
+
+void FormWindow::caption_changed() { window_.setWindowTitle(to_qstring(form_.caption())); }
+
+void FormWindow::placement_changed() {
+    const QScopedValueRollback<bool> placing(placing_, true);
+    // A form that only changes its state leaves its place to the desktop.
+    if (const Placement& place = form_.placement(); place != placed_) {
+        window_.resize(to_pixels(place.width), to_pixels(place.height));
+        window_.move(to_pixels(place.left), to_pixels(place.top));
+        placed_ = place;
+    }
+    window_.setWindowState(toolkit_state(form_.window_state()));
+}
+
+void FormWindow::minimum_size_changed() {
+    const QSize size(form_.minimum_width(), form_.minimum_height());
+    if (!size.isEmpty()) window_.setMinimumSize(size);
+}
+
+void FormWindow::fit_contents() {
+    window_.adjustSize();
+    placed_ = place();
+    form_.window_placed(placed_, form_.window_state());
+}
+
+bool FormWindow::eventFilter(QObject*, QEvent* event) {
+    if (!bound_.live) return false;
+    switch (event->type()) {
+        case QEvent::KeyPress:
+            return press_key(static_cast<const QKeyEvent&>(*event));
+        case QEvent::Close:
+            // The form decides; when it unloads itself the window goes by that.
+            event->ignore();
+            form_.close_requested();
+            return true;
+        case QEvent::WindowActivate:
+            activate();
+            return false;
+        case QEvent::Move:
+        case QEvent::Resize:
+        case QEvent::WindowStateChange:
+            report_place();
+            return false;
+        default:
+            return false;
+    }
+}
+
+bool FormWindow::press_key(const QKeyEvent& event) {
+    if (event.key() != Qt::Key_Escape) return false;
+    form_.escape_pressed();
+    return true;
+}
+
+void FormWindow::activate() {
+    if (std::exchange(activated_early_, false)) return;
+    activated_ = true;
+    form_.window_activated();
+}
+
+/// A desktop may activate a new window late or never; the form's first work must not wait for that, nor be
+/// done twice.
+void FormWindow::activate_if_late() {
+    if (activated_ || !bound_.live) return;
+    activate();
+    activated_early_ = bound_.live && !window_.isActiveWindow();
+}
+
+Placement FormWindow::place() const {
+    return {to_twips(window_.x()), to_twips(window_.y()), to_twips(window_.width()),
+            to_twips(window_.height())};
+}
+
+void FormWindow::report_place() {
+    if (placing_ || !window_.isVisible()) return;
+    placed_ = place();
+    form_.window_placed(placed_, state_of(window_));
+}
+
+}  // namespace machine::qt

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "machine/qt/binders/form_binder.h"
+
+#include <QObject>
+
+class QKeyEvent;
+
+namespace machine::qt {
+
+/// The window of a form, whatever its kind: it shows the form's caption and place and tells the form what
+/// becomes of them. It belongs to its window and goes with it.
+class FormWindow : public QObject, public platform::FormView {
+    Q_OBJECT
+
+  public:
+    FormWindow(platform::Form& form, QWidget& window, platform::Files& files);
+    ~FormWindow() override;
+
+    QWidget& window() { return window_; }
+    const std::optional<QPoint>& popup_point() const { return bound_.popup_point; }
+
+    /// Shows the window, or brings it before the others when it is shown already, and activates the form,
+    /// whether or not the desktop gives the window the focus yet.
+    void show();
+    /// Shows it as a modal one that stays in front of another.
+    void show_in_front_of(QWidget* parent);
+
+    /// Parts with the form, which may be destroyed afterwards, and takes the window away as soon as nothing
+    /// of it is running any more.
+    void close();
+
+    void caption_changed() override;
+    void placement_changed() override;
+    void minimum_size_changed() override;
+    void fit_contents() override;
+
+  signals:
+    void closed();
+
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    bool press_key(const QKeyEvent& event);
+    void activate();
+    void activate_if_late();
+    platform::Placement place() const;
+    void report_place();
+
+    platform::Form& form_;
+    QWidget& window_;
+    BoundForm bound_;
+    FormBinder binder_;
+    platform::Placement placed_;
+    bool placing_ = false;
+    bool activated_ = false;
+    bool activated_early_ = false;
+};
+
+}  // namespace machine::qt

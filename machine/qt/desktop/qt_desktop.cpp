@@ -1,0 +1,198 @@
+#include "machine/qt/desktop/qt_desktop.h"
+
+#include "machine/qt/desktop/form_window.h"
+#include "machine/qt/desktop/input_box.h"
+#include "machine/qt/desktop/input_watch.h"
+#include "machine/qt/desktop/keep_painted.h"
+#include "machine/qt/desktop/message_box.h"
+#include "machine/qt/typing/composition.h"
+#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/twips.h"
+#include "platform/controls/bars.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QEventLoop>
+#include <QMenu>
+#include <QScreen>
+#include <QTimer>
+
+/// The pictures lie in a static library, from which the linker takes only what is asked for.
+static void load_pictures() { Q_INIT_RESOURCE(resource); }
+
+namespace machine::qt {
+
+using platform::BoxAnswer;
+using platform::Control;
+using platform::FileQuestion;
+using platform::Files;
+using platform::Form;
+using platform::InputBox;
+using platform::InputWatch;
+using platform::Menu;
+using platform::MessageBox;
+using platform::Pointer;
+using platform::Screen;
+using platform::Text;
+
+namespace {
+
+/// Desktops differ in whether they give the window before a closed one the focus again, and when two windows
+/// close right behind each other some give it to neither, even when asked. So it is asked for unless the user
+/// has another window of ours before him, and once more when nothing has come of it.
+void give_back_focus(QWidget* window) {
+    constexpr int LATE = 200;
+    if (window == nullptr) return;
+    const QWidget* active = QApplication::activeWindow();
+    if (active != nullptr && active != window && active->isVisible()) return;
+    window->activateWindow();
+    QTimer::singleShot(LATE, window, [window] {
+        if (QApplication::activeWindow() == nullptr && window->isVisible()) window->activateWindow();
+    });
+}
+
+}  // namespace
+
+QtDesktop::QtDesktop(const Screens& screens, Files& files)
+    : screens_(screens), files_(files), file_dialog_(files) {
+    load_pictures();
+}
+
+QtDesktop::~QtDesktop() {
+    for (const auto& [form, window] : windows_) {
+        if (window != nullptr) delete &window->window();
+    }
+}
+
+void QtDesktop::run_until_closed(const Form& form) {
+    wait_for_close(form);
+    // Nothing that is closed is running any more.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void QtDesktop::prepare(Form& form) {
+    QWidget* window = screens_.build(form.name()).release();
+    windows_[&form] = new FormWindow(form, *window, files_);
+}
+
+void QtDesktop::show(Form& form) {
+    if (FormWindow* window = window_of(form)) window->show();
+}
+
+void QtDesktop::show_modal(Form& form) {
+    commit_composition();
+    FormWindow* window = window_of(form);
+    if (window == nullptr) return;
+    const QPointer<QWidget> front = front_window();
+    window->show_in_front_of(front);
+    wait_for_close(form);
+    give_back_focus(front);
+}
+
+void QtDesktop::close(Form& form) {
+    const auto found = windows_.find(&form);
+    if (found == windows_.end()) return;
+    const QPointer<FormWindow> window = found->second;
+    windows_.erase(found);
+    if (window != nullptr) window->close();
+}
+
+void QtDesktop::popup_menu(Form& form, Menu& menu) {
+    FormWindow* window = window_of(form);
+    if (window == nullptr) return;
+    auto* popup = window->window().findChild<QMenu*>(to_qstring(menu.name()));
+    if (popup != nullptr) popup->exec(window->popup_point().value_or(QCursor::pos()));
+}
+
+void QtDesktop::popup_menu_below(Form& form, Menu& menu, const Control& control) {
+    FormWindow* window = window_of(form);
+    if (window == nullptr) return;
+    auto* popup = window->window().findChild<QMenu*>(to_qstring(menu.name()));
+    const auto* widget = window->window().findChild<QWidget*>(to_qstring(control.name()));
+    if (popup != nullptr && widget != nullptr) popup->exec(widget->mapToGlobal(QPoint(0, widget->height())));
+}
+
+BoxAnswer QtDesktop::message_box(const MessageBox& box) {
+    commit_composition();
+    const QPointer<QWidget> front = front_window();
+    const BoxAnswer answer = ask(box, title_, front);
+    give_back_focus(front);
+    return answer;
+}
+
+std::optional<Text> QtDesktop::ask_for_file(const FileQuestion& question) {
+    commit_composition();
+    const QPointer<QWidget> front = front_window();
+    const std::optional<Text> chosen = file_dialog_.ask(question, front);
+    give_back_focus(front);
+    return chosen;
+}
+
+Text QtDesktop::input_box(const InputBox& box) {
+    commit_composition();
+    const QPointer<QWidget> front = front_window();
+    const Text answer = ask_for_text(box, front);
+    give_back_focus(front);
+    return answer;
+}
+
+/// The hourglass is a state, not a count: nobody has to give back each one that was set.
+void QtDesktop::set_pointer(Pointer pointer) {
+    const bool hourglass = pointer == Pointer::hourglass;
+    if (hourglass == hourglass_) return;
+    hourglass_ = hourglass;
+    if (hourglass) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
+void QtDesktop::set_clipboard(const Text& text) { QGuiApplication::clipboard()->setText(to_qstring(text)); }
+
+Screen QtDesktop::screen() const {
+    const QSize size = QGuiApplication::primaryScreen()->availableSize();
+    return {to_twips(size.width()), to_twips(size.height()), TWIPS_PER_PIXEL, TWIPS_PER_PIXEL};
+}
+
+void QtDesktop::set_application_title(const Text& title) { title_ = to_qstring(title); }
+
+void QtDesktop::yield() { QCoreApplication::processEvents(); }
+
+void QtDesktop::paint() {
+    constexpr int MILLISECONDS_BETWEEN = 40;
+    if (painted_.isValid() && !painted_.hasExpired(MILLISECONDS_BETWEEN)) return;
+    keep_painted();
+    painted_.start();
+}
+
+std::unique_ptr<InputWatch> QtDesktop::watch_input() { return std::make_unique<QtInputWatch>(); }
+
+FormWindow* QtDesktop::window_of(const Form& form) const {
+    const auto found = windows_.find(&form);
+    return found == windows_.end() ? nullptr : found->second.data();
+}
+
+/// The window that boxes and modal forms stay in front of. A window that has just been closed may still count
+/// as the active one; what it took as its child would go with it.
+QWidget* QtDesktop::front_window() const {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    if (QWidget* active = QApplication::activeWindow(); active != nullptr && active->isVisible())
+        return active;
+    for (const auto& [form, window] : windows_) {
+        if (window != nullptr && window->window().isVisible()) return &window->window();
+    }
+    return nullptr;
+}
+
+void QtDesktop::wait_for_close(const Form& form) const {
+    const FormWindow* window = window_of(form);
+    // Its own activation may have closed it.
+    if (window == nullptr) return;
+    QEventLoop loop;
+    QObject::connect(window, &FormWindow::closed, &loop, &QEventLoop::quit);
+    QObject::connect(window, &QObject::destroyed, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+}  // namespace machine::qt

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "machine/qt/desktop/file_dialog.h"
+#include "machine/qt/desktop/screens.h"
+#include "platform/ports/desktop.h"
+#include "platform/ports/files.h"
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QString>
+#include <map>
+
+namespace machine::qt {
+
+class FormWindow;
+
+/// The desktop by Qt: a window for each form, made when the form is loaded.
+class QtDesktop : public platform::Desktop {
+  public:
+    /// Both have to outlive the desktop.
+    QtDesktop(const Screens& screens, platform::Files& files);
+    ~QtDesktop() override;
+
+    /// Runs the program until the form is closed.
+    void run_until_closed(const platform::Form& form);
+
+    void prepare(platform::Form& form) override;
+    void show(platform::Form& form) override;
+    void show_modal(platform::Form& form) override;
+    void close(platform::Form& form) override;
+    void popup_menu(platform::Form& form, platform::Menu& menu) override;
+    void popup_menu_below(platform::Form& form, platform::Menu& menu,
+                          const platform::Control& control) override;
+    platform::BoxAnswer message_box(const platform::MessageBox& box) override;
+    std::optional<platform::Text> ask_for_file(const platform::FileQuestion& question) override;
+    platform::Text input_box(const platform::InputBox& box) override;
+    void set_pointer(platform::Pointer pointer) override;
+    void set_clipboard(const platform::Text& text) override;
+    platform::Screen screen() const override;
+    void set_application_title(const platform::Text& title) override;
+    void yield() override;
+    void paint() override;
+    std::unique_ptr<platform::InputWatch> watch_input() override;
+
+  private:
+    FormWindow* window_of(const platform::Form& form) const;
+    QWidget* front_window() const;
+    void wait_for_close(const platform::Form& form) const;
+
+    const Screens& screens_;
+    platform::Files& files_;
+    FileDialog file_dialog_;
+    std::map<const platform::Form*, QPointer<FormWindow>> windows_;
+    QString title_;
+    bool hourglass_ = false;
+    QElapsedTimer painted_;
+};
+
+}  // namespace machine::qt

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "machine/qt/modules/network_module.h"
+
+#include <memory>
+
+class QNetworkAccessManager;
+
+namespace machine::qt {
+
+/// The network by the toolkit, through the proxy that the user's system names. Nothing is remembered from one
+/// transfer to the next.
+class QtInternet : public platform::Internet {
+  public:
+    explicit QtInternet(const TransferLimits& limits);
+    /// After its transfers.
+    ~QtInternet() override;
+
+    std::unique_ptr<platform::Transfer> make_transfer() override;
+
+    const TransferLimits& limits() const { return limits_; }
+    QNetworkAccessManager& manager();
+
+  private:
+    TransferLimits limits_;
+    std::unique_ptr<QNetworkAccessManager> manager_;
+};
+
+}  // namespace machine::qt

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "machine/qt/modules/web_engine.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPointer>
+#include <QWebEngineDownloadRequest>
+
+class QWebEngineProfile;
+
+namespace machine::qt {
+
+/// Takes the files that the user clicks for, one at a time; whatever else a page wants to leave is refused
+/// without a word.
+class PageDownloads : public QObject {
+    Q_OBJECT
+
+  public:
+    PageDownloads(QWebEngineProfile& profile, PageFiles files);
+    ~PageDownloads() override;
+
+    /// The user has pressed something in the page, which may hand out one file for it.
+    void user_acted() { since_act_.start(); }
+
+  private:
+    bool has_leave();
+    void take(QWebEngineDownloadRequest& download);
+    void watch_size(QWebEngineDownloadRequest& download);
+    void end(const QWebEngineDownloadRequest& download);
+
+    PageFiles files_;
+    QElapsedTimer since_act_;
+    QPointer<QWebEngineDownloadRequest> current_;
+    bool too_large_ = false;
+};
+
+}  // namespace machine::qt

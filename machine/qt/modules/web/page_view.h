@@ -1,0 +1,35 @@
+#pragma once
+
+#include "machine/qt/modules/web/guarded_page.h"
+#include "machine/qt/modules/web/narrow_profile.h"
+#include "machine/qt/modules/web/page_downloads.h"
+#include "machine/qt/modules/web_engine.h"
+
+#include <QObject>
+#include <QWebEngineView>
+
+namespace machine::qt {
+
+/// One page with everything it has: its view, its profile, of which nothing is kept, and its end.
+class PageView : public QObject, public WebPage {
+    Q_OBJECT
+
+  public:
+    PageView(QWidget& parent, PageEvents events);
+
+    QWidget& widget() override { return *view_; }
+    void load(const PageRequest& request) override;
+
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    std::function<void(int)> progress_;
+    NarrowProfile profile_;
+    PageDownloads downloads_;
+    // In this order: the page goes before its profile, and the view before its page.
+    GuardedPage page_{profile_};
+    std::unique_ptr<QWebEngineView> view_;
+};
+
+}  // namespace machine::qt

@@ -1,0 +1,29 @@
+#include "machine/qt/typing/user_edits.h"
+
+#include <QScopedValueRollback>
+
+namespace machine::qt {
+
+void UserEdits::settle() {
+    while (!running_ && field_.is_live() && waiting()) {
+        agreed_ = field_.widget_text();
+        run([this] { field_.hand_over(); });
+    }
+}
+
+void UserEdits::run(const std::function<void()>& handlers) {
+    {
+        // A handler may, while it runs, bring about another handler of the same field.
+        if (!running_) rewritten_ = false;
+        const QScopedValueRollback<bool> running(running_, true);
+        handlers();
+    }
+    if (!running_ && rewritten_ && field_.is_live() && waiting()) field_.write_back();
+}
+
+void UserEdits::written() {
+    agreed_ = field_.widget_text();
+    rewritten_ = true;
+}
+
+}  // namespace machine::qt

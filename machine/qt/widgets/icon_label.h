@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QIcon>
+#include <QLabel>
+
+namespace machine::qt {
+
+/// A picture of the program's own, drawn anew for every scale of the desktop so that it is never blurred.
+class IconLabel : public QLabel {
+    Q_OBJECT
+    /// The picture's name among the resources, as "app".
+    Q_PROPERTY(QString icon READ icon WRITE set_icon)
+
+  public:
+    using QLabel::QLabel;
+
+    const QString& icon() const { return name_; }
+    void set_icon(const QString& name);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QString name_;
+    QIcon icon_;
+};
+
+}  // namespace machine::qt

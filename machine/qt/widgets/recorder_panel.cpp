@@ -1,0 +1,56 @@
+#include "machine/qt/widgets/recorder_panel.h"
+
+#include "machine/qt/typing/text_conversion.h"
+#include "platform/controls/sound_recorder.h"
+#include "ui_RecorderPanel.h"
+
+#include <QAccessible>
+
+namespace machine::qt {
+
+using platform::SoundRecorder;
+
+RecorderPanel::RecorderPanel(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::RecorderPanel>()) {
+    ui_->setupUi(this);
+    setFocusProxy(ui_->_record);
+    // Digits change many times a second and messages come and go; nothing around them is to move.
+    ui_->_recordTime->setMinimumWidth(ui_->_recordTime->sizeHint().width());
+    ui_->_recordMessage->setMinimumHeight(2 * ui_->_recordMessage->fontMetrics().lineSpacing());
+}
+
+RecorderPanel::~RecorderPanel() = default;
+
+void RecorderPanel::show_recorder(const SoundRecorder& recorder) {
+    show_buttons({{ui_->_stop, recorder.can_stop()},
+                  {ui_->_play, recorder.can_play()},
+                  {ui_->_record, recorder.can_record()}});
+    ui_->_recordTime->setText(to_qstring(recorder.time()));
+    ui_->_recordLevel->setValue(recorder.level());
+    if (const QString message = to_qstring(recorder.message()); message != ui_->_recordMessage->text()) {
+        ui_->_recordMessage->setText(message);
+        // A screen reader says it: who records does not look for it.
+        QAccessibleEvent said(ui_->_recordMessage, QAccessible::Alert);
+        QAccessible::updateAccessibility(&said);
+    }
+    ui_->_recordWarning->setVisible(recorder.message_warns());
+}
+
+/// The focus of a button that cannot be pressed any longer goes to the first that can: from recording to
+/// stopping to playing by the same key.
+void RecorderPanel::show_buttons(std::initializer_list<ButtonState> buttons) {
+    QPushButton* next = nullptr;
+    QPushButton* with_focus = nullptr;
+    for (const auto& [button, enabled] : buttons) {
+        if (enabled) button->setEnabled(true);
+        if (enabled && next == nullptr) next = button;
+        if (!enabled && button->hasFocus()) with_focus = button;
+    }
+    if (with_focus != nullptr && next != nullptr) next->setFocus();
+    for (const auto& [button, enabled] : buttons) button->setEnabled(enabled);
+}
+
+QAbstractButton& RecorderPanel::record_button() const { return *ui_->_record; }
+QAbstractButton& RecorderPanel::stop_button() const { return *ui_->_stop; }
+QAbstractButton& RecorderPanel::play_button() const { return *ui_->_play; }
+
+}  // namespace machine::qt

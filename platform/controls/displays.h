@@ -1,0 +1,77 @@
+#pragma once
+
+#include "platform/controls/control.h"
+
+namespace platform {
+
+/// A line or paragraph of text on the form.
+class Label : public Control {
+  public:
+    using Control::Control;
+    Label(Form& form, TextView name, Text caption) : Control(form, name), caption_(std::move(caption)) {}
+    void accept(ControlVisitor& visitor) override;
+
+    const Text& caption() const { return caption_; }
+    void set_caption(Text caption) { assign(caption_, std::move(caption), Aspect::caption); }
+
+    Event<> Click;
+
+  private:
+    Text caption_;
+};
+
+/// A picture on the form: the screen's own, or that of a file.
+class Image : public Control {
+  public:
+    using Control::Control;
+    void accept(ControlVisitor& visitor) override;
+
+    /// Shows the picture of a file. A file that is no picture, or is not there, shows nothing.
+    void set_picture(Text path) { assign(picture_, std::move(path), Aspect::picture); }
+    /// Empty while the screen's own picture shows.
+    const Text& picture() const { return picture_; }
+
+    Event<> Click;
+
+  private:
+    Text picture_;
+};
+
+/// How far a long operation is, from 0 to 100.
+class ProgressBar : public Control {
+  public:
+    using Control::Control;
+    void accept(ControlVisitor& visitor) override;
+
+    int value() const { return value_; }
+    /// Run-time error 380 outside 0 to 100.
+    void set_value(int value);
+
+  private:
+    int value_ = 0;
+};
+
+/// Plays a film without sound. A file that is no film shows nothing.
+class Animation : public Control {
+  public:
+    using Control::Control;
+    void accept(ControlVisitor& visitor) override;
+
+    /// Takes the film and stands on its first picture.
+    void open(Text path) {
+        path_ = std::move(path);
+        playing_ = false;
+        refresh(Aspect::picture);
+    }
+    void play() { assign(playing_, true, Aspect::value); }
+    void stop() { assign(playing_, false, Aspect::value); }
+
+    const Text& path() const { return path_; }
+    bool playing() const { return playing_; }
+
+  private:
+    Text path_;
+    bool playing_ = false;
+};
+
+}  // namespace platform

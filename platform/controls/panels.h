@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/controls/control.h"
+
+namespace platform {
+
+/// A panel that holds other controls.
+class Frame : public Control {
+  public:
+    using Control::Control;
+    Frame(Form& form, TextView name, Text caption) : Control(form, name), caption_(std::move(caption)) {}
+    void accept(ControlVisitor& visitor) override;
+
+    const Text& caption() const { return caption_; }
+
+  private:
+    Text caption_;
+};
+
+/// A box with a border of its own that holds other controls and can take the focus.
+class PictureBox : public Control {
+  public:
+    using Control::Control;
+    void accept(ControlVisitor& visitor) override;
+
+    bool border() const { return border_; }
+    void set_border(bool border) { assign(border_, border, Aspect::border); }
+
+    Event<> Click;
+
+  private:
+    bool border_ = true;
+};
+
+}  // namespace platform

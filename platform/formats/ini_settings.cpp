@@ -1,0 +1,42 @@
+#include "platform/formats/ini_settings.h"
+
+#include "platform/error.h"
+#include "platform/formats/ini_document.h"
+#include "platform/text/cp949.h"
+
+namespace platform {
+
+namespace {
+
+bool is_missing(const RuntimeError& error) {
+    return error.number() == static_cast<int>(ErrorNumber::file_not_found) ||
+           error.number() == static_cast<int>(ErrorNumber::path_not_found);
+}
+
+/// The file's bytes, none for a file that is not there yet.
+std::string read_to_change(const Files& files, const Text& path) {
+    try {
+        return files.read(path);
+    } catch (const RuntimeError& error) {
+        if (!is_missing(error)) throw;
+        return {};
+    }
+}
+
+}  // namespace
+
+std::string IniSettings::read(const Text& path, const std::string& section, const std::string& key,
+                              std::size_t limit) const {
+    std::string bytes;
+    ignore_errors([&] { bytes = files_.read(path); });
+    return cut_bytes(ini::read(bytes, section, key).value_or(""), limit);
+}
+
+void IniSettings::write(const Text& path, const std::string& section, const std::string& key,
+                        const std::string& value) {
+    const std::string before = read_to_change(files_, path);
+    const std::string after = ini::write(before, section, key, value);
+    if (after != before) files_.write(path, after);
+}
+
+}  // namespace platform

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "compose/main_form.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/displays.h"
+#include "platform/controls/fields.h"
+#include "platform/controls/form.h"
+#include "platform/controls/list_view.h"
+#include "platform/controls/panels.h"
+#include "platform/error.h"
+#include "platform/ports/platform.h"
+
+#include <optional>
+
+namespace saved_texts {
+
+/// Sub-items of a row of `frmMyMsgBox::ListView2`.
+inline constexpr int MESSAGE_LINE = 1;
+inline constexpr int MESSAGE_SAVED = 2;
+inline constexpr int MESSAGE_BODY = 3;
+
+/// The box of saved texts: categories, the messages of the selected one, and fields for a new message or for
+/// the edit of the selected one.
+///
+/// Its handlers stand by subject: lists in listing, messages in message_operations, categories in
+/// category_operations, the way back into the main window in apply.
+class frmMyMsgBox : public platform::Form {
+  public:
+    frmMyMsgBox(platform::Platform& platform, compose::frmZent& main);
+
+    platform::ListView ListView1{*this, u"ListView1", {{.caption = u"분류명", .picture = {}}}};
+    platform::CommandButton Command8{*this, u"Command8", u"새 분류 추가"};
+    platform::CommandButton Command7{*this, u"Command7", u"분류명 수정"};
+    platform::CommandButton Command9{*this, u"Command9", u"분류 삭제"};
+    platform::ListView ListView2{*this,
+                                 u"ListView2",
+                                 {{.caption = u"제목", .picture = {}},
+                                  {.caption = u"메시지내용", .picture = {}},
+                                  {.caption = u"저장일", .picture = {}},
+                                  {.caption = u"메시지", .picture = {}}}};
+    platform::CommandButton Command10{*this, u"Command10", u"새로고침"};
+    platform::Label Label1{*this, u"Label1", u"제목:"};
+    platform::TextBox Text1{*this, u"Text1"};
+    platform::Frame Frame1{*this, u"Frame1", u"메시지내용"};
+    platform::PictureBox Picture1{*this, u"Picture1"};
+    platform::TextBox txtText{*this, u"txtText"};
+    platform::Label LenCaption{*this, u"LenCaption", u"0Bytes"};
+    platform::CommandButton Command1{*this, u"Command1", u"신규 메시지 등록"};
+    platform::CommandButton Command2{*this, u"Command2", u"메시지 수정"};
+    platform::CommandButton Command3{*this, u"Command3", u"메시지 삭제"};
+    platform::CommandButton Command5{*this, u"Command5", u"적용(&A)"};
+    platform::CommandButton Command6{*this, u"Command6", u"확인(&O)"};
+    platform::CommandButton Command4{*this, u"Command4", u"닫기(&C)"};
+
+  protected:
+    void Form_Load() override;
+    void Form_Escape() override { unload(); }
+
+  private:
+    void connect_lists();
+    void connect_fields();
+
+    // Lists.
+    void CATEGORY_LIST_LOAD();
+    void MESSAGE_LIST_LOAD(const platform::Text& category);
+    void ListView1_Click();
+    void ListView2_Click();
+    std::optional<platform::Text> selected_category() const;
+    void select_category(std::size_t row);
+    bool lists(const platform::Text& category);
+
+    // Messages.
+    void Command1_Click();
+    void Command2_Click();
+    void Command3_Click();
+    bool take_fields();
+    bool is_saved(const platform::Text& category, const platform::Text& title) const;
+    void empty_fields();
+
+    // Categories.
+    void Command7_Click();
+    void Command8_Click();
+    void Command9_Click();
+    platform::Text ask_for_category(platform::TextView title, platform::TextView first_line,
+                                    const platform::Text& name);
+    bool is_free_category(const platform::Text& name);
+
+    // Apply.
+    void Command5_Click();
+    void Command6_Click();
+    void apply_to_text_message(platform::Text text);
+
+    /// Runs a handler's work on files; what fails is told.
+    template <class Step>
+    void with_net(Step&& step) {
+        try {
+            step();
+        } catch (const platform::RuntimeError& error) {
+            show_failure(error);
+        }
+    }
+    void show_failure(const platform::RuntimeError& error);
+
+    platform::Platform& platform_;
+    compose::frmZent& main_;
+    /// Whose messages ListView2 shows; nothing when the last listing failed.
+    std::optional<platform::Text> listed_category_;
+};
+
+}  // namespace saved_texts

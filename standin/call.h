@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace standin {
+
+/// One argument of a call, as the ledger keeps it. Bytes are cp949, as the caller gave them.
+struct Argument {
+    std::string name;
+    std::string kind;                         ///< "number", "text", "password", "pointer" or "callback"
+    std::optional<std::int32_t> number;       ///< of a number alone
+    std::optional<std::string> bytes;         ///< of a text; nothing for NULL
+    std::string shown;                        ///< of the kinds that are neither: "given", "NULL", the stars
+    std::optional<std::string> answer;        ///< the number that the call left here
+    std::optional<std::string> answer_bytes;  ///< the bytes that the call wrote here, its NUL among them
+    std::string note;
+};
+
+/// A call of one of the six operations: when, and every argument in order.
+class Call {
+  public:
+    /// Starts the record of a call that begins now.
+    explicit Call(std::string operation);
+
+    Call& number(std::string name, std::int32_t value);
+    Call& text(std::string name, const char* value);
+    /// An out buffer, NUL-terminated only perhaps: no more than `size` bytes of it are read.
+    Call& buffer(std::string name, const char* value, std::size_t size);
+    /// Keeps the length alone, as stars: a ledger that somebody reads holds no passwords.
+    Call& password(std::string name, const char* value);
+    Call& pointer(std::string name, const void* value);
+    Call& callback(std::string name, bool given);
+
+    /// The argument of that name; std::out_of_range when the call has none.
+    const Argument& argument(std::string_view name) const;
+    Argument& argument(std::string_view name);
+
+    const std::string& operation() const { return operation_; }
+    /// Local time of the call's beginning, "yyyy-MM-dd HH:mm:ss.mmm".
+    const std::string& time() const { return time_; }
+    const std::vector<Argument>& arguments() const { return arguments_; }
+
+    /// How many calls of this operation the process has made, this one counted.
+    std::int32_t nth = 0;
+
+  private:
+    Argument& add(std::string name, const char* kind);
+
+    std::string operation_;
+    std::string time_;
+    std::vector<Argument> arguments_;
+};
+
+}  // namespace standin

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace standin::site {
+
+/// A page in the making. A literal is markup and stays as it is; everything else is text that somebody wrote,
+/// and is escaped, so that nothing out of the ledger can become markup.
+class Html {
+  public:
+    template <std::size_t size>
+    Html& operator<<(const char (&markup)[size]) {
+        bytes_.append(markup, size - 1);
+        return *this;
+    }
+    Html& operator<<(std::string_view text);
+    Html& operator<<(std::int64_t number);
+    Html& operator<<(const Html& part);
+
+    const std::string& bytes() const { return bytes_; }
+
+  private:
+    std::string bytes_;
+};
+
+/// The number with a comma between thousands.
+std::string with_commas(std::int64_t number);
+
+}  // namespace standin::site

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "standin/site/page.h"
+
+namespace standin::site {
+
+// What is the subscriber's own: results and charges out of the ledger, the rest out of carrier.ini.
+Answer results_page(const Request& request, const Sources& sources);
+Answer result_page(const Request& request, const Sources& sources);
+Answer charges_page(const Request& request, const Sources& sources);
+Answer member_page(const Request& request, const Sources& sources);
+Answer inbox_page(const Request& request, const Sources& sources);
+Answer received_voice(const Request& request, const Sources& sources);
+
+// What everybody may see.
+Answer service_page(const Request& request, const Sources& sources);
+Answer maker_page(const Request& request, const Sources& sources);
+Answer find_password_page(const Request& request, const Sources& sources);
+Answer sign_up_page(const Request& request, const Sources& sources);
+Answer document(const Request& request, const Sources& sources);
+
+// What the client's update check asks for.
+Answer update_page(const Request& request, const Sources& sources);
+Answer current_update_list(const Request& request, const Sources& sources);
+Answer due_update_list(const Request& request, const Sources& sources);
+Answer update_note(const Request& request, const Sources& sources);
+
+}  // namespace standin::site

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "standin/site/page.h"
+
+#include <memory>
+
+namespace standin::site {
+
+/// The pages over HTTP, on loopback alone.
+class Server {
+  public:
+    explicit Server(Sources sources);
+    ~Server();
+    Server(const Server&) = delete;
+    Server& operator=(const Server&) = delete;
+
+    /// Takes the port, 0 for a free one, and returns it. std::runtime_error when it cannot be had.
+    int bind(int port);
+    /// Answers until the process ends or `stop` is called from another thread.
+    void run();
+    void stop();
+
+  private:
+    struct Http;
+    Sources sources_;
+    std::unique_ptr<Http> http_;
+};
+
+}  // namespace standin::site
