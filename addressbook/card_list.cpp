@@ -1,9 +1,8 @@
 // The list of cards: its columns, its rows, and what the caption says about them.
 
+#include "addressbook/card_db.h"
 #include "addressbook/frmSendMan.h"
-#include "core/common.h"
-#include "core/list_columns.h"
-#include "core/percent.h"
+#include "platform/controls/list_columns.h"
 #include "platform/error.h"
 #include "platform/text/format.h"
 
@@ -69,7 +68,7 @@ void frmSendMan::connect_list() {
     ListView2.KeyPress.connect([this](platform::KeyPressed& key) {
         if (key.code == platform::KEY_CTRL_A) ListView2.select_all();
     });
-    ListView2.ColumnClick.connect([this](int column) { core::SORT_BY_COLUMN(ListView2, column); });
+    ListView2.ColumnClick.connect([this](int column) { platform::SORT_BY_COLUMN(ListView2, column); });
     ListView2.Resize.connect([this] { LISTVIEW2HDR_RESET(); });
 }
 
@@ -84,7 +83,7 @@ void frmSendMan::CARD_LIST_FILL(platform::CardRecordset& recordset) {
         // Deliberately without a word: who goes on working does not wait for the rest of a long list.
         if (ListView2.row_count() > FILLED_ANYHOW && user->input_waits()) break;
         LISTVIEW2_ADD(recordset);
-        PBar1.set_value(core::percent(ListView2.row_count(), static_cast<std::size_t>(records)));
+        PBar1.set_progress(ListView2.row_count(), static_cast<std::size_t>(records));
         platform_.desktop.paint();
     }
     if (ListView2.sorted()) ListView2.sort(ListView2.sort_key(), ListView2.sort_order());
@@ -96,7 +95,7 @@ void frmSendMan::CARD_LIST_FILL(platform::CardRecordset& recordset) {
 void frmSendMan::LISTVIEW2_ADD(const platform::CardRecordset& TemTable) {
     const auto read = [&](TextView field) {
         Text text;
-        platform::ignore_errors([&] { text = core::FIELD_VALUE(TemTable.field(field)); });
+        platform::ignore_errors([&] { text = FIELD_VALUE(TemTable.field(field)); });
         return text;
     };
     std::vector<Text> sub_items;

@@ -1,7 +1,7 @@
 #include "addressbook/frmSendMan.h"
 
 #include "addressbook/card_db.h"
-#include "core/windows.h"
+#include "core/centring.h"
 #include "platform/error.h"
 
 namespace addressbook {
@@ -20,7 +20,7 @@ frmSendMan::frmSendMan(platform::Platform& platform, core::AppState& state, comp
 
 void frmSendMan::Form_Load() {
     core::CENTER_FORM(platform_.desktop, *this);
-    state_.gDialogConfirmed = false;
+    state_.forms.gDialogConfirmed = false;
     activated_ = false;
     // Nothing is taken in from the card manager while the user picks.
     main_form_.Timer1.set_enabled(false);
@@ -34,11 +34,11 @@ void frmSendMan::Form_Load() {
 void frmSendMan::Form_Activate() {
     if (activated_) return;
     activated_ = true;
-    Command5_Click();
+    list_all_cards();
 }
 
 void frmSendMan::Form_Unload() {
-    state_.gCardDb.reset();
+    state_.cards.gCardDb.reset();
     main_form_.Timer1.set_enabled(true);
 }
 

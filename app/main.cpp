@@ -1,6 +1,6 @@
 #include "app/application.h"
 #include "app/machine.h"
-#include "core/windows.h"
+#include "core/boxes.h"
 #include "machine/qt/desktop/qt_clock.h"
 #include "machine/qt/look/desk_style.h"
 #include "machine/qt/look/korean_font.h"
@@ -13,8 +13,8 @@
 
 namespace {
 
-/// The toolkit's application, in which an error that a handler let through is shown and the program goes on:
-/// a draft is never lost to it.
+/// A QApplication that shows an uncaught RuntimeError in a box instead of ending, so that the draft
+/// survives.
 class Toolkit : public QApplication {
   public:
     using QApplication::QApplication;

@@ -7,6 +7,7 @@
 #include "app/machine.h"
 #include "bench/bare_jet_read.h"
 #include "bench/ratio.h"
+#include "core/app_state.h"
 #include "handover/handover.h"
 #include "machine/qt/desktop/qt_clock.h"
 #include "machine/qt/look/desk_style.h"

@@ -89,7 +89,7 @@ frmZent::frmZent(platform::Platform& platform, core::AppState& state, MainDoors 
 void frmZent::disable_without_door() {
     Command7.set_enabled(doors_.pick_recipients != nullptr);
     mnusubpopup1.set_enabled(doors_.pick_recipients != nullptr);
-    MyMsgBttn.set_enabled(doors_.message_box != nullptr);
+    MyMsgBttn.set_enabled(doors_.saved_texts != nullptr);
     mnuUpDate.set_enabled(doors_.update_check != nullptr);
 }
 

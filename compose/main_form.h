@@ -2,6 +2,7 @@
 
 #include "compose/main_doors.h"
 #include "core/app_state.h"
+#include "core/settings.h"
 #include "platform/controls/bars.h"
 #include "platform/controls/buttons.h"
 #include "platform/controls/common_dialog.h"
@@ -126,7 +127,7 @@ class frmZent : public platform::Form {
 
     // Fax.
     platform::Label Label3_2{*this, u"Label3_2", u"보낼문서:"};
-    platform::ListView FAX1{*this, u"FAX1", {{.caption = u"보낼문서", .picture = {}}}};
+    platform::ListView FAX1{*this, u"FAX1", {{.caption = u"보낼문서"}}};
     platform::CommandButton FAXBttn1{*this, u"FAXBttn1", u"찾아보기..."};
     platform::CommandButton FAXBttn2{*this, u"FAXBttn2", u"삭제"};
     platform::Label FAXFileSize1{*this, u"FAXFileSize1"};
@@ -141,11 +142,11 @@ class frmZent : public platform::Form {
     platform::CommandButton Command7{*this, u"Command7", u"명함DB 불러오기..."};
     platform::ListView ListView1{*this,
                                  u"ListView1",
-                                 {{.caption = u"선택", .picture = {}},
-                                  {.caption = u"이름", .picture = {}},
-                                  {.caption = u"문자보낼번호", .picture = {}},
-                                  {.caption = u"상태", .picture = {}},
-                                  {.caption = u"직위", .picture = {}}},
+                                 {{.caption = u"선택"},
+                                  {.caption = u"이름"},
+                                  {.caption = u"문자보낼번호"},
+                                  {.caption = u"상태"},
+                                  {.caption = u"직위"}},
                                  true};
     platform::ProgressBar PBar1{*this, u"PBar1"};
     platform::Label Label4{*this, u"Label4", u"전체> 대상>"};
@@ -264,7 +265,7 @@ class frmZent : public platform::Form {
     /// False when a check ran and the server was not reached.
     bool update_check_at_start();
     void save_sender_name();
-    void save_callback(platform::TextView key);
+    void save_callback(const core::Setting& setting);
 
     // Session.
     void read_auto_login_mark();
@@ -272,7 +273,7 @@ class frmZent : public platform::Form {
     void apply_login();
     void show_logged_out();
     void cmdRegister_Click();
-    void open_in_browser(platform::TextView key);
+    void open_in_browser(const core::Setting& link);
 
     // Kinds.
     void fill_panels();

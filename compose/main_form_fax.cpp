@@ -2,7 +2,7 @@
 
 #include "compose/fax_documents.h"
 #include "compose/main_form.h"
-#include "core/windows.h"
+#include "core/boxes.h"
 #include "platform/error.h"
 
 namespace compose {

@@ -2,7 +2,8 @@
 
 #include "compose/main_form.h"
 #include "compose/recipient_number.h"
-#include "core/windows.h"
+#include "core/app_state.h"
+#include "core/boxes.h"
 #include "service/frmAbout.h"
 #include "service/service_pages.h"
 
@@ -38,7 +39,7 @@ void frmZent::connect_kinds() {
     // What is said from now on is not meant for the message.
     Command1.Click.connect([this] { RFK1.stop(); });
     if (doors_.send) Command1.Click.connect(doors_.send);
-    if (doors_.message_box) MyMsgBttn.Click.connect(doors_.message_box);
+    if (doors_.saved_texts) MyMsgBttn.Click.connect(doors_.saved_texts);
     if (doors_.update_check) mnuUpDate.Click.connect(doors_.update_check);
     mnuAbout.Click.connect([this] { mnuAbout_Click(); });
 
@@ -149,10 +150,10 @@ void frmZent::Toolbar1_ButtonClick(int index) {
 void frmZent::STBar1_PanelClick(int panel) {
     if (status_bar_button_ != platform::MouseButton::left) return;
     if (panel == 1) {
-        state_.gLoggedIn ? cmdLogOut_Click() : cmdLogin_Click();
-    } else if (panel == 2 && state_.gLoggedIn) {
+        state_.session.gLoggedIn ? cmdLogOut_Click() : cmdLogin_Click();
+    } else if (panel == 2 && state_.session.gLoggedIn) {
         KTSMS_LINK(service::PAGE_MEMBER_DATA);
-    } else if (panel == 3 && state_.gLoggedIn) {
+    } else if (panel == 3 && state_.session.gLoggedIn) {
         KTSMS_LINK(service::PAGE_INBOX);
     } else if (panel == 4) {
         mnuAbout_Click();

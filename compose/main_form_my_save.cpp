@@ -1,9 +1,9 @@
 // Saving the present text into the box of saved texts.
 
 #include "compose/main_form.h"
-#include "core/files.h"
-#include "core/message_box.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/paths.h"
+#include "core/saved_texts_folder.h"
 #include "platform/error.h"
 
 namespace compose {
@@ -17,7 +17,7 @@ constexpr int MOST_NAMES = 200;
 }  // namespace
 
 void frmZent::MySave_Click() {
-    core::make_message_box_folders(platform_);
+    core::make_saved_texts_folders(platform_);
     txtUserName.set_text(platform::trim(txtUserName.text()));
 
     const Text body = platform::trim(platform::remove_all(mText1.text(), sender_tag()));
@@ -32,9 +32,9 @@ void frmZent::MySave_Click() {
     Text title = subject;
     try {
         // Asked for first: a wildcard in the subject would find other texts below.
-        core::check_message_name(platform_, core::DEFAULT_CATEGORY, subject);
+        core::check_saved_text_name(platform_, core::DEFAULT_CATEGORY, subject);
         for (int i = 1;
-             core::FILE_EXISTS(platform_, core::message_path(platform_, core::DEFAULT_CATEGORY, title));
+             core::FILE_EXISTS(platform_, core::saved_text_path(platform_, core::DEFAULT_CATEGORY, title));
              ++i) {
             title = subject + platform::decimal(i);
             if (i > MOST_NAMES) {
@@ -42,7 +42,7 @@ void frmZent::MySave_Click() {
                 return;
             }
         }
-        core::write_message(platform_, core::DEFAULT_CATEGORY, title, body);
+        core::write_saved_text(platform_, core::DEFAULT_CATEGORY, title, body);
     } catch (const platform::RuntimeError& error) {
         core::show_error(platform_.desktop, error, platform::BoxIcon::critical);
         return;

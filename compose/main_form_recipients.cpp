@@ -2,9 +2,9 @@
 
 #include "compose/main_form.h"
 #include "compose/recipient_number.h"
-#include "core/common.h"
-#include "core/list_columns.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/phone_number.h"
+#include "platform/controls/list_columns.h"
 #include "platform/error.h"
 
 namespace compose {
@@ -46,8 +46,8 @@ void frmZent::connect_recipients() {
 }
 
 void frmZent::RECIPIENT_COUNT_CAPTION() {
-    Label4.set_caption(u"전체>" + platform::decimal(static_cast<long long>(ListView1.row_count())) +
-                       u">대상>" + platform::decimal(static_cast<long long>(ListView1.checked_count())));
+    Label4.set_caption(u"전체>" + platform::decimal(ListView1.row_count()) + u">대상>" +
+                       platform::decimal(ListView1.checked_count()));
 }
 
 void frmZent::HText1_KeyPress(std::size_t index, KeyPressed& key) {
@@ -126,9 +126,9 @@ void frmZent::HBttn2_Click() {
 void frmZent::Command7_Click() {
     if (!doors_.pick_recipients) return;
     const std::size_t rows = ListView1.row_count();
-    state_.gDialogConfirmed = false;
+    state_.forms.gDialogConfirmed = false;
     doors_.pick_recipients();
-    if (ListView1.row_count() != rows || state_.gDialogConfirmed) RECIPIENT_COUNT_CAPTION();
+    if (ListView1.row_count() != rows || state_.forms.gDialogConfirmed) RECIPIENT_COUNT_CAPTION();
 }
 
 void frmZent::CHECK_SELECTED_ITEMS(bool checked) {
@@ -157,7 +157,7 @@ void frmZent::ListView1_ItemCheck(std::size_t row) {
 
 /// The column of check boxes has nothing to sort by; a click on it sorts by the name.
 void frmZent::ListView1_ColumnClick(int column) {
-    platform::ignore_errors([&] { core::SORT_BY_COLUMN(ListView1, column == 1 ? 2 : column); });
+    platform::ignore_errors([&] { platform::SORT_BY_COLUMN(ListView1, column == 1 ? 2 : column); });
 }
 
 }  // namespace compose

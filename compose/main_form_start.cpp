@@ -2,10 +2,13 @@
 
 #include "compose/handover_files.h"
 #include "compose/main_form.h"
+#include "core/app_state.h"
+#include "core/boxes.h"
+#include "core/centring.h"
 #include "core/deployment.h"
-#include "core/files.h"
-#include "core/ini_file.h"
-#include "core/windows.h"
+#include "core/paths.h"
+#include "core/settings.h"
+#include "core/work_folders.h"
 #include "platform/error.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
@@ -43,11 +46,11 @@ void frmZent::connect_start() {
 
 void frmZent::Form_Load() {
     const platform::Screen screen = platform_.desktop.screen();
-    state_.gMinTrackX =
+    state_.window.gMinTrackX =
         static_cast<std::int32_t>(std::lround(double(MINIMUM_WIDTH) / screen.twips_per_pixel_x));
-    state_.gMinTrackY =
+    state_.window.gMinTrackY =
         static_cast<std::int32_t>(std::lround(double(MINIMUM_HEIGHT) / screen.twips_per_pixel_y));
-    set_minimum_size(state_.gMinTrackX, state_.gMinTrackY);
+    set_minimum_size(state_.window.gMinTrackX, state_.window.gMinTrackY);
     set_caption(Text(core::APPLICATION_TITLE));
     for (platform::PictureBox* box : {&Picture1, &Picture3, &Picture4, &Picture5, &Picture6})
         box->set_border(false);
@@ -68,34 +71,33 @@ void frmZent::Form_Load() {
 }
 
 void frmZent::restore_placement() {
-    const Text ini = core::application_ini(platform_);
-    const auto read = [&](platform::TextView key) {
-        return platform::trim(core::INI_READ(platform_, ini, u"WINDOW SIZE", key));
+    const auto read = [&](const core::Setting& setting) {
+        return platform::trim(core::read_setting(platform_, setting));
     };
-    state_.gWinMax = read(u"M_MAX");
-    state_.gWinLeft = read(u"M_LEFT");
-    state_.gWinTop = read(u"M_TOP");
-    state_.gWinWidth = read(u"M_WIDTH");
-    state_.gWinHeight = read(u"M_HEIGHT");
+    state_.window.gWinMax = read(core::settings::WINDOW_STATE);
+    state_.window.gWinLeft = read(core::settings::WINDOW_LEFT);
+    state_.window.gWinTop = read(core::settings::WINDOW_TOP);
+    state_.window.gWinWidth = read(core::settings::WINDOW_WIDTH);
+    state_.window.gWinHeight = read(core::settings::WINDOW_HEIGHT);
 
     const platform::Screen screen = platform_.desktop.screen();
     const platform::Placement centre = core::centred(screen, DEFAULT_WIDTH, DEFAULT_HEIGHT);
-    const bool never_placed = state_.gWinLeft.empty() && state_.gWinTop.empty() && state_.gWinWidth.empty() &&
-                              state_.gWinHeight.empty();
-    if (state_.gWinMax.empty() || never_placed) {
+    const bool never_placed = state_.window.gWinLeft.empty() && state_.window.gWinTop.empty() &&
+                              state_.window.gWinWidth.empty() && state_.window.gWinHeight.empty();
+    if (state_.window.gWinMax.empty() || never_placed) {
         move(centre);
         return;
     }
-    if (platform::leading_number(state_.gWinMax) == 2 ||
-        platform::equal_without_case(state_.gWinMax, u"max")) {
+    if (platform::leading_number(state_.window.gWinMax) == 2 ||
+        platform::equal_without_case(state_.window.gWinMax, u"max")) {
         move(centre);
         set_window_state(WindowState::maximised);
         return;
     }
-    move({.left = std::max(std::min(twips(state_.gWinLeft), screen.width - 1000), 0),
-          .top = std::min(std::max(twips(state_.gWinTop), 0), screen.height - 600),
-          .width = std::min(twips(state_.gWinWidth), screen.width),
-          .height = std::min(twips(state_.gWinHeight), screen.height)});
+    move({.left = std::max(std::min(twips(state_.window.gWinLeft), screen.width - 1000), 0),
+          .top = std::min(std::max(twips(state_.window.gWinTop), 0), screen.height - 600),
+          .width = std::min(twips(state_.window.gWinWidth), screen.width),
+          .height = std::min(twips(state_.window.gWinHeight), screen.height)});
     if (placement().width <= 0 || placement().height <= 0) move(centre);
 }
 
@@ -121,12 +123,11 @@ void frmZent::first_tick() {
     DRAFT_RESET_IF_NO_KIND();
     // Without a network the user logs in by hand.
     if (!server_reached) return cmdLogin_Click();
-    if (!Timer2.tag().empty() || state_.gLoggedIn) return;
+    if (!Timer2.tag().empty() || state_.session.gLoggedIn) return;
 
-    const Text login = core::login_ini(platform_);
-    if (core::INI_IS_ON(platform_, core::application_ini(platform_), u"LOGIN", u"AUTOLOGIN") &&
-        !core::INI_READ(platform_, login, u"LOGIN", u"LOGINID").empty() &&
-        !core::INI_READ(platform_, login, u"LOGIN", u"LOGINPW").empty()) {
+    if (core::setting_is_on(platform_, core::settings::AUTO_LOGIN) &&
+        !core::read_setting(platform_, core::settings::LOGIN_ID).empty() &&
+        !core::read_setting(platform_, core::settings::LOGIN_PASSWORD).empty()) {
         AUTO_LOGIN_START();
     } else {
         cmdLogin_Click();
@@ -141,13 +142,12 @@ bool frmZent::update_check_at_start() {
 
 void frmZent::Form_Unload() {
     RFK1.stop();
-    const Text ini = core::application_ini(platform_);
     save_sender_name();
-    save_callback(u"ZentUserPhoneID");
-    core::INI_WRITE(platform_, ini, u"SET", u"STARTUPDATECHECK", mnuStartUpdate.checked() ? u"1" : u"0");
-    core::INI_WRITE(platform_, ini, u"LOGIN", u"AUTOLOGIN", mnuAutoLogin.checked() ? u"1" : u"0");
-    if (!mnuAutoLogin.checked())
-        core::INI_WRITE(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINPW", u"");
+    save_callback(core::settings::SENDER_NUMBER);
+    core::write_setting(platform_, core::settings::UPDATE_CHECK_AT_START,
+                        mnuStartUpdate.checked() ? u"1" : u"0");
+    core::write_setting(platform_, core::settings::AUTO_LOGIN, mnuAutoLogin.checked() ? u"1" : u"0");
+    if (!mnuAutoLogin.checked()) core::write_setting(platform_, core::settings::LOGIN_PASSWORD, u"");
     save_placement();
     for (const Text& file : {isend_text(platform_), tmpman_txt(platform_)})
         platform::ignore_errors([&] { core::DELETE_FILE(platform_, file); });
@@ -156,32 +156,31 @@ void frmZent::Form_Unload() {
 
 void frmZent::save_placement() {
     if (window_state() == WindowState::normal) {
-        state_.gWinMax = u"0";
-        state_.gWinLeft = platform::decimal(placement().left);
-        state_.gWinTop = platform::decimal(placement().top);
-        state_.gWinWidth = platform::decimal(placement().width);
-        state_.gWinHeight = platform::decimal(placement().height);
+        state_.window.gWinMax = u"0";
+        state_.window.gWinLeft = platform::decimal(placement().left);
+        state_.window.gWinTop = platform::decimal(placement().top);
+        state_.window.gWinWidth = platform::decimal(placement().width);
+        state_.window.gWinHeight = platform::decimal(placement().height);
     } else {
-        state_.gWinMax = platform::decimal(static_cast<int>(window_state()));
+        state_.window.gWinMax = platform::decimal(static_cast<int>(window_state()));
     }
-    const Text ini = core::application_ini(platform_);
-    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_MAX", state_.gWinMax);
-    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_LEFT", state_.gWinLeft);
-    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_TOP", state_.gWinTop);
-    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_WIDTH", state_.gWinWidth);
-    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_HEIGHT", state_.gWinHeight);
+    core::write_setting(platform_, core::settings::WINDOW_STATE, state_.window.gWinMax);
+    core::write_setting(platform_, core::settings::WINDOW_LEFT, state_.window.gWinLeft);
+    core::write_setting(platform_, core::settings::WINDOW_TOP, state_.window.gWinTop);
+    core::write_setting(platform_, core::settings::WINDOW_WIDTH, state_.window.gWinWidth);
+    core::write_setting(platform_, core::settings::WINDOW_HEIGHT, state_.window.gWinHeight);
 }
 
 void frmZent::save_sender_name() {
     const Text name = platform::trim(txtUserName.text());
-    if (name == platform::trim(state_.gSavedSenderName)) return;
-    core::INI_WRITE(platform_, core::application_ini(platform_), u"SET", u"ZentUserNickName", name);
+    if (name == platform::trim(state_.sender.gSavedSenderName)) return;
+    core::write_setting(platform_, core::settings::SENDER_NAME, name);
 }
 
-void frmZent::save_callback(platform::TextView key) {
+void frmZent::save_callback(const core::Setting& setting) {
     const Text callback = platform::trim(txtCallback.text());
-    if (callback == platform::trim(state_.gSavedCallback)) return;
-    core::INI_WRITE(platform_, core::application_ini(platform_), u"SET", key, callback);
+    if (callback == platform::trim(state_.sender.gSavedCallback)) return;
+    core::write_setting(platform_, setting, callback);
 }
 
 void frmZent::TEMP_ALL_DEL() { core::TEMP_ALL_DEL(platform_); }

@@ -1,9 +1,9 @@
 // Text entry: byte limits, long messages, the subject that follows the body, what is inserted at the caret.
 
 #include "compose/main_form.h"
-#include "compose/text_cutting.h"
-#include "core/common.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/byte_length.h"
+#include "core/settings.h"
 
 namespace compose {
 
@@ -40,7 +40,7 @@ void frmZent::connect_text() {
     Combo3.Click.connect([this] { Combo3_Click(); });
     txtUserName.GotFocus.connect([this] { txtUserName.set_tag(u"[" + txtUserName.text() + u"]"); });
     txtUserName.LostFocus.connect([this] { txtUserName_LostFocus(); });
-    txtCallback.LostFocus.connect([this] { save_callback(u"ZENTUserPhoneID"); });
+    txtCallback.LostFocus.connect([this] { save_callback(core::settings::SENDER_NUMBER_LEFT); });
     MySave.Click.connect([this] { MySave_Click(); });
 }
 
@@ -80,7 +80,7 @@ void frmZent::mText1_Change() {
         }
     }
     const std::size_t bytes = core::BYTE_LEN(mText1.text());
-    mHLen1.set_caption(platform::decimal(static_cast<long long>(bytes)) + u"Bytes");
+    mHLen1.set_caption(platform::decimal(bytes) + u"Bytes");
     // Below the limit the question is armed again; at exactly 80 bytes the answer still holds.
     if (bytes < TEXT_LIMIT) mText1.set_tag(u"");
     mHLen3.set_visible(bytes > TEXT_LIMIT);
@@ -93,7 +93,7 @@ void frmZent::refuse_excess(platform::TextBox& field, platform::PictureBox& box)
                u"입력하신 문자가 80Byte를 넘었습니다.\r\n한 번에 80Byte까지만 전송이 가능합니다.",
                u"입력 초과");
     Text text = field.text();
-    field.set_text(LLL(text, TEXT_LIMIT));
+    field.set_text(core::LLL(text, TEXT_LIMIT));
     field.set_caret_to_end();
     box.set_focus();
 }
@@ -110,7 +110,7 @@ void frmZent::mText2_Change() {
     // Not cut to a subject's length, unlike the other text.
     follow_subject(mText2.text(), Text::npos);
     if (core::BYTE_LEN(mText2.text()) > TEXT_LIMIT) refuse_excess(mText2, Picture2[1]);
-    mHLen2.set_caption(platform::decimal(static_cast<long long>(core::BYTE_LEN(mText2.text()))) + u"/80Byte");
+    mHLen2.set_caption(platform::decimal(core::BYTE_LEN(mText2.text())) + u"/80Byte");
 }
 
 /// Every key, backspace too.
@@ -124,8 +124,7 @@ void frmZent::ttsText_Change() {
         refuse_tts_excess();
         ttsText.select(caret, 0);
     }
-    TTSHLen.set_caption(platform::decimal(static_cast<long long>(core::BYTE_LEN(ttsText.text()))) +
-                        u"/1000Byte");
+    TTSHLen.set_caption(platform::decimal(core::BYTE_LEN(ttsText.text())) + u"/1000Byte");
 }
 
 void frmZent::ttsText_KeyPress(KeyPressed& key) {
@@ -139,7 +138,7 @@ void frmZent::refuse_tts_excess() {
                u"입력하신 문자가 1000Byte를 넘었습니다.\r\n한 번에 1000Byte까지만 전송이 가능합니다.",
                u"입력 초과");
     Text text = ttsText.text();
-    ttsText.set_text(LLL(text, TTS_LIMIT));
+    ttsText.set_text(core::LLL(text, TTS_LIMIT));
 }
 
 void frmZent::freeze_subject() {

@@ -1,7 +1,8 @@
 // Where the voice of a message comes from: the recording as a file of the user's, and the sound file.
 
 #include "compose/main_form.h"
-#include "core/files.h"
+#include "core/paths.h"
+#include "core/work_folders.h"
 #include "platform/error.h"
 
 namespace compose {
@@ -46,7 +47,7 @@ void frmZent::TTSBttn0_Click() {
     if (RFK1.SaveWave(Text(core::SOUND_FOLDER), trial)) return;
     core::DELETE_FILE(platform_, Text(core::SOUND_FOLDER) + trial);
     Cmd1.set_up(u"다름 이름으로 저장", Text(WAV_FILTER));
-    if (!core::choose_free_name(platform_, Cmd1)) return;
+    if (!Cmd1.choose_free_name(platform_.files)) return;
     const bool failed =
         RFK1.SaveWave(core::PARENT_DIR(platform_, Cmd1.file_name()), core::FILE_NAME_OF(Cmd1.file_name()));
     if (!failed) RFK1.set_kept();

@@ -7,6 +7,15 @@
 
 namespace gateway {
 
+/// What a row shows for a recipient that has been registered. The send job counts successes by it.
+inline constexpr platform::TextView REGISTERED = u"등록성공";
+
+/// The carrier's result code for the user: the word of success for 1, otherwise the code with its meaning.
+platform::Text GATEWAY_RESULT_TEXT(std::int32_t code);
+
+/// A text out of one of the carrier's padded buffers: NULs become blanks, blanks at the end go.
+platform::Text CLEAN_FIXED_TEXT(platform::TextView text);
+
 /// One registration as the send job prepares it; the fields are the carrier's.
 struct UmsMessage {
     /// 1 goes through fn_x_submit_2, everything else through fn_x_submit, which takes no sub-type, reply flag

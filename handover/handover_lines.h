@@ -3,16 +3,12 @@
 #include "platform/text/text.h"
 
 #include <string_view>
-#include <vector>
 
 namespace handover {
 
 /// The text of a file of the card manager's, of its bytes in cp949: every kind of line end is a line feed,
 /// and a NUL, which no text to be sent can hold, is a blank.
 platform::Text handed_over_text(std::string_view bytes);
-
-/// The pieces between the separators; one more than there are separators.
-std::vector<platform::TextView> split(platform::TextView text, char16_t separator);
 
 /// What the signal asks for: a page by the card manager's number of it, or a tab. What is no number of 16
 /// bits asks for the first tab, as 0 does.

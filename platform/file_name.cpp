@@ -28,9 +28,7 @@ bool is_device(TextView name) {
     return stem == u"com" || stem == u"lpt";
 }
 
-bool is_forbidden(char16_t unit) {
-    return unit < u' ' || TextView(u"\\/:*?\"<>|").find(unit) != TextView::npos;
-}
+bool is_forbidden(char16_t unit) { return unit < u' ' || FORBIDDEN_IN_NAMES.find(unit) != TextView::npos; }
 
 /// Control characters, and those that turn the direction of a text round or take no room.
 bool is_invisible(char16_t unit) {

@@ -4,6 +4,9 @@
 
 namespace platform {
 
+/// What no name of a file or folder may have, beside control characters.
+inline constexpr TextView FORBIDDEN_IN_NAMES = u"\\/:*?\"<>|";
+
 /// Whether a new file or folder may have the name: one that every system the user's files may be carried to
 /// takes, and that no list hides. Raises RuntimeError 52, whose description tells the user what is wrong.
 /// Files that are there already open under any name.

@@ -1,15 +1,14 @@
 // The way of a saved text back into the main window.
 
-#include "compose/text_cutting.h"
-#include "core/common.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/byte_length.h"
 #include "saved_texts/frmMyMsgBox.h"
 
 namespace saved_texts {
 
 using platform::Text;
 
-void frmMyMsgBox::Command5_Click() {
+void frmMyMsgBox::apply_to_draft() {
     if (platform::trim(platform::remove_all(txtText.text(), platform::CRLF)).empty()) return;
     const bool has_sender = !platform::trim(main_.txtUserName.text()).empty();
     const Text text = (has_sender ? main_.sender_tag() : Text()) + platform::right_trim(txtText.text());
@@ -31,7 +30,7 @@ void frmMyMsgBox::apply_to_text_message(Text text) {
             core::warn(platform_.desktop,
                        u"입력하신 문자가 80Byte를 넘었습니다.\r\n한 번에 80Byte까지만 전송이 가능합니다.",
                        u"입력 초과");
-            text = compose::LLL(text, compose::TEXT_LIMIT);
+            text = core::LLL(text, compose::TEXT_LIMIT);
         }
     }
     main_.mText1.set_text(text);
@@ -39,8 +38,8 @@ void frmMyMsgBox::apply_to_text_message(Text text) {
     main_.mText1.set_tag(u"");
 }
 
-void frmMyMsgBox::Command6_Click() {
-    if (Command5.enabled()) Command5_Click();
+void frmMyMsgBox::apply_and_close() {
+    if (Command5.enabled()) apply_to_draft();
     unload();
 }
 

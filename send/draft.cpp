@@ -1,7 +1,7 @@
 #include "send/draft.h"
 
-#include "core/common.h"
-#include "core/files.h"
+#include "core/phone_number.h"
+#include "core/work_folders.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
 
@@ -51,7 +51,7 @@ void attach(gateway::UmsMessage& message, const compose::frmZent& form, Content 
 
 void fill_empty_callback(compose::frmZent& form, const core::AppState& state) {
     if (!platform::trim(form.txtCallback.text()).empty()) return;
-    form.txtCallback.set_text(core::CLEAN_FIXED_TEXT(state.gInfoCallback));
+    form.txtCallback.set_text(gateway::CLEAN_FIXED_TEXT(state.session.gInfoCallback));
 }
 
 Text schedule_digits(const platform::DatePicker& date, const platform::ComboBox& hour,

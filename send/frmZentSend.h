@@ -82,8 +82,8 @@ class frmZentSend : public platform::Form {
         bool shows_progress;
     };
 
-    void Command1_Click();
-    void Timer1_Timer();
+    void stop_or_close();
+    void run_routine_of_draft();
     void wait_cursor() { platform_.desktop.set_pointer(platform::Pointer::hourglass); }
     void normal_cursor() { platform_.desktop.set_pointer(platform::Pointer::normal); }
 

@@ -1,11 +1,11 @@
 // What the four routines share: preparation, the session around a submit, the rows' status, the end.
 
-#include "core/files.h"
-#include "core/windows.h"
-#include "gateway/result_text.h"
+#include "core/app_state.h"
+#include "core/boxes.h"
+#include "core/busy.h"
+#include "gateway/gateway.h"
 #include "platform/error.h"
 #include "send/draft.h"
-#include "send/frmSendEndBox.h"
 #include "send/frmZentSend.h"
 #include "send/report.h"
 
@@ -54,7 +54,7 @@ SendJob frmZentSend::prepare(const Text& kind_text, Pauses pauses) {
                 .message = message_of_draft(main_form_, kind, now),
                 .subject = {}};
     job.subject = job.message.s_subject;
-    state_.gSubmitSequence = 1;
+    state_.session.gSubmitSequence = 1;
     return job;
 }
 
@@ -63,7 +63,7 @@ void frmZentSend::open_session(SendJob& job) {
     bool usable = gateway_.GATEWAY_BIND(job.kind != nullptr ? job.kind->bind_mode : 1);
     if (usable && !job.account_checked) {
         job.account_checked = true;
-        usable = gateway_.GATEWAY_MONEY_STATUS() && state_.gServiceState <= core::LAST_USABLE_STATE;
+        usable = gateway_.GATEWAY_MONEY_STATUS() && state_.session.gServiceState <= core::LAST_USABLE_STATE;
     }
     if (usable) return;
     gateway_.GATEWAY_UNBIND();
@@ -87,7 +87,7 @@ void frmZentSend::close_session(const SendJob& job) {
     platform_.clock.pause(job.pauses.before_unbind);
     gateway_.GATEWAY_UNBIND();
     wait_cursor();
-    ++state_.gSubmitSequence;
+    ++state_.session.gSubmitSequence;
 }
 
 void frmZentSend::count(SendJob& job, const Text& result, int recipients) {
@@ -124,10 +124,7 @@ void frmZentSend::report(const SendJob& job) {
 
 /// Leaves the window as it stands behind the report: the film on its first picture, the button as a way out.
 void frmZentSend::SEND_FINISHED() {
-    if (core::FILE_EXISTS(platform_, SendAnimationPath)) {
-        Animation1.open(SendAnimationPath);
-        Animation1.stop();
-    }
+    if (core::open_film(platform_, Animation1, SendAnimationPath)) Animation1.stop();
     Command1.set_caption(u"닫기");
     Command1.set_enabled(true);
 }

@@ -1,9 +1,8 @@
-#include "send/schedule_check.h"
-
 #include "compose/schedule_time.h"
-#include "core/windows.h"
+#include "core/boxes.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
+#include "send/send_check.h"
 
 #include <algorithm>
 

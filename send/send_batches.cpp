@@ -1,7 +1,6 @@
 // SEND_BATCHES: the whole text to up to 100 recipients a submit, one pass over the rows.
 
-#include "core/common.h"
-#include "core/percent.h"
+#include "core/byte_length.h"
 #include "platform/text/format.h"
 #include "send/frmZentSend.h"
 #include "send/recipient_text.h"
@@ -44,7 +43,7 @@ void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options
         ++current;
         if (options.leaves_trace) RecipientRows.make_visible(current - 1);
         if (gather(batch, current)) submit_batch(job, batch, current, options.leaves_trace);
-        if (options.shows_progress) PBar1.set_value(core::percent(current, rows));
+        if (options.shows_progress) PBar1.set_progress(current, rows);
         if (current == rows) {
             // The last rows were left out after others had been gathered.
             if (!batch.s_dest_addr.empty()) submit_batch(job, batch, current, options.leaves_trace);

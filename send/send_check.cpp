@@ -1,15 +1,13 @@
 #include "send/send_check.h"
 
 #include "compose/recipient_number.h"
-#include "core/common.h"
-#include "core/files.h"
-#include "core/percent.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/paths.h"
+#include "core/phone_number.h"
+#include "core/work_folders.h"
 #include "send/confirmation.h"
 #include "send/draft.h"
-#include "send/frmSBox.h"
 #include "send/frmZentSend.h"
-#include "send/schedule_check.h"
 
 #include <optional>
 
@@ -137,7 +135,7 @@ std::optional<Recipients> check_recipients(const Platform& platform, frmZent& fo
                 recipients.first_number = number;
             }
         }
-        form.PBar1.set_value(core::percent(row + 1, rows));
+        form.PBar1.set_progress(row + 1, rows);
     }
     form.PBar1.hide();
     form.RECIPIENT_COUNT_CAPTION();
@@ -148,19 +146,19 @@ std::optional<Recipients> check_recipients(const Platform& platform, frmZent& fo
 }
 
 bool confirmed(Platform& platform, AppState& state, const Kind& kind, const Text& text) {
-    state.gDialogConfirmed = false;
+    state.forms.gDialogConfirmed = false;
     frmSBox box(platform, state);
     box.load();
     box.Text1.set_text(Text(platform::CRLF) + text);
     box.Label1.set_caption(Text(kind.text) + u" 발송을 시작하시겠습니까?");
     box.show_modal();
-    return state.gDialogConfirmed;
+    return state.forms.gDialogConfirmed;
 }
 
 }  // namespace
 
-void Command1_Click(Platform& platform, AppState& state, frmZent& form) {
-    if (!state.gLoggedIn) {
+void check_and_send(Platform& platform, AppState& state, frmZent& form) {
+    if (!state.session.gLoggedIn) {
         core::warn(platform.desktop, u"KT 폰디라 Login과정을 거쳐야 합니다.");
         form.cmdLogin_Click();
         return;

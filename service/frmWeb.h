@@ -29,9 +29,9 @@ class frmWeb : public platform::Form {
     void Form_Escape() override { unload(); }
 
   private:
-    void WebBrowser_FileOffered(platform::PageFile& file);
-    void WebBrowser_FileReceived(std::int64_t bytes, std::int64_t size);
-    void WebBrowser_FileEnded(platform::FileEnd end);
+    void save_offered_file(platform::PageFile& file);
+    void show_received(std::int64_t bytes, std::int64_t size);
+    void show_end(platform::FileEnd end);
 
     platform::Platform& platform_;
     core::AppState& state_;

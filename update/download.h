@@ -37,7 +37,7 @@ class Download {
 
     /// Asks for the file and reads the header of the answer.
     void GetFileInformation();
-    /// Receives the file. What stood in the local file behind its last byte stays.
+    /// Receives the file. The local file is overwritten in place and not truncated.
     void download();
     /// Asks the operation that runs to stop.
     void Cancel();

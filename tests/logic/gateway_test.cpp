@@ -1,6 +1,5 @@
 #include "gateway/gateway.h"
 
-#include "gateway/result_text.h"
 #include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
 
@@ -67,11 +66,11 @@ struct ScribblingCarrier : RecordingCarrier {
 struct Wrappers : testing::Test, TestPlatform {
     Wrappers() {
         library.desktop = &desktop;
-        state.gLoginUserId = u"홍hong";
-        state.gLoginPassword = u"secret";
-        state.gServiceDomain = u"pondira.example";
-        state.gServiceNumber = u"03030xxxxxxx";
-        state.gClientAddress = u"127.0.0.1";
+        state.session.gLoginUserId = u"홍hong";
+        state.session.gLoginPassword = u"secret";
+        state.session.gServiceDomain = u"pondira.example";
+        state.session.gServiceNumber = u"03030xxxxxxx";
+        state.session.gClientAddress = u"127.0.0.1";
     }
 
     ScribblingCarrier library;
@@ -96,25 +95,26 @@ TEST_F(Wrappers, HandOverTheSessionInCp949AndTakeBackWhatTheLibraryLeft) {
                                         "hong",
                                         "secret", "pondira.example"}));
     EXPECT_EQ(library.constants, (std::vector<std::int32_t>{1, 1, 0}));
-    EXPECT_EQ(utf8(state.gLoginPassword), "#ecret") << "inputs are rewritten too";
-    EXPECT_EQ(utf8(state.gServiceDomain), "#ondira.example");
+    EXPECT_EQ(utf8(state.session.gLoginPassword), "#ecret") << "inputs are rewritten too";
+    EXPECT_EQ(utf8(state.session.gServiceDomain), "#ondira.example");
 
     library.arguments.clear();
-    state.gLoginUserId = u"hong";
+    state.session.gLoginUserId = u"hong";
     EXPECT_TRUE(carrier_gateway.GATEWAY_UNBIND());
     EXPECT_EQ(library.arguments, (Texts{"hong", "#ecret"}));
-    EXPECT_EQ(utf8(state.gLoginUserId), "#ong");
+    EXPECT_EQ(utf8(state.session.gLoginUserId), "#ong");
 
     library.arguments.clear();
     library.service_type = 24;
     library.service_state = 1;
     EXPECT_TRUE(carrier_gateway.GATEWAY_MONEY_STATUS());
     EXPECT_EQ(library.arguments, (Texts{"#ong", "#ondira.example", "03030xxxxxxx", "127.0.0.1"}));
-    EXPECT_EQ(utf8(state.gServiceNumber), "#3030xxxxxxx");
-    EXPECT_EQ(utf8(state.gClientAddress), "#27.0.0.1");
-    EXPECT_EQ((std::vector<int>{state.gServiceType, state.gServiceState, state.gMoneyField1,
-                                state.gMoneyField4, state.gMoneyField5}),
-              (std::vector<int>{24, 1, 11, 44, 55}));
+    EXPECT_EQ(utf8(state.session.gServiceNumber), "#3030xxxxxxx");
+    EXPECT_EQ(utf8(state.session.gClientAddress), "#27.0.0.1");
+    EXPECT_EQ(
+        (std::vector<int>{state.session.gServiceType, state.session.gServiceState, state.session.gMoneyField1,
+                          state.session.gMoneyField4, state.session.gMoneyField5}),
+        (std::vector<int>{24, 1, 11, 44, 55}));
 }
 
 TEST_F(Wrappers, TheModeOfABindChoosesTheFirstCallbackAndEveryCallbackAnswersOne) {
@@ -134,21 +134,23 @@ TEST_F(Wrappers, TheProfileComesBackInPaddedBuffersOfTheirLengths) {
                                         "hong",
                                         "pondira.example", "03030xxxxxxx", "127.0.0.1", std::string(20, ' '),
                                         std::string(40, ' '), std::string(40, ' '), std::string(20, ' ')}));
-    EXPECT_EQ(utf8(state.gInfoUserName), "홍길동" + std::string(1, '\0') + std::string(33, ' '));
-    EXPECT_EQ(utf8(state.gInfoServiceNumber), "030312345678" + std::string(1, '\0') + std::string(7, ' '));
+    EXPECT_EQ(utf8(state.session.gInfoUserName), "홍길동" + std::string(1, '\0') + std::string(33, ' '));
+    EXPECT_EQ(utf8(state.session.gInfoServiceNumber),
+              "030312345678" + std::string(1, '\0') + std::string(7, ' '));
 }
 
 TEST_F(Wrappers, ALibraryThatWritesNothingLeavesBlanks) {
     for (const bool missing : {false, true}) {
-        state.gInfoServiceNumber = state.gInfoUserName = state.gInfoSenderName = state.gInfoCallback = u"old";
+        state.session.gInfoServiceNumber = state.session.gInfoUserName = state.session.gInfoSenderName =
+            state.session.gInfoCallback = u"old";
         library.results[{"user_info", 1}] = 5;
         if (missing) {
             library.missing = {"user_info"};
             desktop.expect_box(u"오류번호:453");
         }
         EXPECT_FALSE(carrier_gateway.GATEWAY_USER_INFO());
-        EXPECT_EQ(utf8(state.gInfoServiceNumber + state.gInfoUserName + state.gInfoSenderName +
-                       state.gInfoCallback),
+        EXPECT_EQ(utf8(state.session.gInfoServiceNumber + state.session.gInfoUserName +
+                       state.session.gInfoSenderName + state.session.gInfoCallback),
                   std::string(20 + 40 + 40 + 20, ' '));
     }
 }
@@ -192,7 +194,7 @@ struct Registrations : Wrappers {
 };
 
 TEST_F(Registrations, OnlyAnIndexOfOneGoesThroughTheSecondSubmit) {
-    state.gSubmitSequence = 7;
+    state.session.gSubmitSequence = 7;
     for (const int index : {0, 1, 2}) {
         message.SMSIndex = index;
         EXPECT_EQ(utf8(carrier_gateway.UMS_SEND_START(message)), "등록성공");

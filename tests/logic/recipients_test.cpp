@@ -208,11 +208,11 @@ TEST_F(Picking, CountsAgainWhenRowsCameOrTheDialogWasConfirmed) {
     bool adds = false, confirms = false;
     pick_recipients = [&] {
         if (adds) add(u"가", u"010");
-        state.gDialogConfirmed = confirms;
+        state.forms.gDialogConfirmed = confirms;
     };
     for (const int outcome : {0, 1, 2}) {
         form.Label4.set_caption(u"old");
-        state.gDialogConfirmed = true;
+        state.forms.gDialogConfirmed = true;
         adds = outcome == 1;
         confirms = outcome == 2;
         (confirms ? form.Command7.Click : form.mnusubpopup1.Click).raise();

@@ -1,7 +1,7 @@
 // Every minute of a day with every lead that the settings offer: what the schedule begins with, and from when
 // on it may be sent. Both are worked out here once more, in plain minutes.
 
-#include "send/schedule_check.h"
+#include "send/send_check.h"
 #include "tests/support/main_window.h"
 
 #include <gtest/gtest.h>

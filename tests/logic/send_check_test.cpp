@@ -85,7 +85,7 @@ TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsMended) {
 
 TEST(SendCheck, TellsTheFirstOfSeveralFaults) {
     Sending s;
-    s.state.gLoggedIn = false;
+    s.state.session.gLoggedIn = false;
     s.form.mText1.set_text(u"");
     s.form.Option2.set_chosen(true);
     s.form.Combo1.set_list_index(9);
@@ -95,7 +95,7 @@ TEST(SendCheck, TellsTheFirstOfSeveralFaults) {
     };
     s.desktop.in_form(u"frmZentLogin", [](Form& login) { login.escape_pressed(); });
     told(u"KT 폰디라 Login과정을 거쳐야 합니다.");
-    s.state.gLoggedIn = true;
+    s.state.session.gLoggedIn = true;
     s.files.folders.clear();
     told(u"메시지 내용을 입력하십시오!");
     EXPECT_TRUE(s.files.folders.contains(u"c:\\temp"));
@@ -212,7 +212,7 @@ TEST(SendBox, EveryWayOutButTheStartButtonCancels) {
     for (const auto& way_out : ways_out) {
         Sending s;
         s.add(u"a", u"01011112222");
-        s.state.gDialogConfirmed = true;
+        s.state.forms.gDialogConfirmed = true;
         s.form.Timer1.set_enabled(true);
         s.desktop.in_form<send::frmSBox>(u"frmSBox", [&](send::frmSBox& box) {
             EXPECT_FALSE(s.form.Timer1.enabled()) << "no hand-over while the box stands";

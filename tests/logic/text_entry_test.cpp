@@ -1,4 +1,4 @@
-#include "core/common.h"
+#include "core/byte_length.h"
 #include "tests/support/main_window.h"
 
 #include <gtest/gtest.h>
@@ -290,7 +290,7 @@ TEST_F(SenderName, ANewOneTakesTheOldOnesPlaceInTheTextAndIsSaved) {
         {compose::TEXT_MESSAGE, u"", "[홍길동] 글 [홍길동]"},
         {compose::FAX_MESSAGE, u"이순신", "[홍길동] 글 [홍길동]"},
     };
-    state.gSavedSenderName = u"홍길동";
+    state.sender.gSavedSenderName = u"홍길동";
     for (const auto& row : rows) {
         form.TabStrip1.select(row.kind);
         form.txtUserName.show();

@@ -1,7 +1,8 @@
 // The main window at the byte limit of its texts, while syllables are unfinished.
 
 #include "compose/main_form.h"
-#include "core/common.h"
+#include "core/app_state.h"
+#include "core/byte_length.h"
 #include "machine/qt/typing/text_conversion.h"
 #include "machine/qt/widgets/message_edit.h"
 #include "send/send_check.h"
@@ -85,7 +86,7 @@ class InputMethod : public QObject {
 /// The main window with one of its texts in the works. Of what is around it the desktop alone is real.
 struct Draft {
     Draft(int kind, Manner manner) : method(manner), kind(kind) {
-        state.gLoggedIn = true;
+        state.session.gLoggedIn = true;
         form.show();
         QCoreApplication::processEvents();
         form.TabStrip1.select(kind);
@@ -137,10 +138,10 @@ struct Draft {
     int kind;
     compose::frmZent form{platform,
                           state,
-                          {.send = [this] { send::Command1_Click(platform, state, form); },
+                          {.send = [this] { send::check_and_send(platform, state, form); },
                            .pick_recipients = {},
                            .NEW_SENDMAN_LOAD = {},
-                           .message_box = {},
+                           .saved_texts = {},
                            .update_check = {},
                            .update_check_at_start = {}}};
 };

@@ -143,7 +143,7 @@ TEST_F(UpdateQuestion, OpensByItselfAndSoEnterAnswersNothing) {
     settle();
     QTest::keyClick(find("Command2").window(), Qt::Key_Return);
     EXPECT_TRUE(form.loaded());
-    EXPECT_FALSE(machine.state.gDialogConfirmed);
+    EXPECT_FALSE(machine.state.forms.gDialogConfirmed);
     form.unload();
 }
 

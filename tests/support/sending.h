@@ -2,9 +2,9 @@
 
 #include "compose/main_form.h"
 #include "platform/text/cp949.h"
-#include "send/frmSBox.h"
-#include "send/frmSendEndBox.h"
+#include "send/confirmation.h"
 #include "send/frmZentSend.h"
+#include "send/report.h"
 #include "send/send_check.h"
 #include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
@@ -26,8 +26,8 @@ struct Sending : TestPlatform {
 
     Sending() {
         form.load();
-        state.gLoggedIn = true;
-        state.gInfoCallback = u"02-999-0000         ";
+        state.session.gLoggedIn = true;
+        state.session.gInfoCallback = u"02-999-0000         ";
         form.txtUserName.set_text(u"홍길동");
         form.txtCallback.set_text(u"02-123-4567");
         form.TabStrip1.select(compose::TEXT_MESSAGE);
@@ -117,10 +117,10 @@ struct Sending : TestPlatform {
 
   private:
     compose::MainDoors main_doors() {
-        return {.send = [this] { send::Command1_Click(platform, state, form); },
+        return {.send = [this] { send::check_and_send(platform, state, form); },
                 .pick_recipients = {},
                 .NEW_SENDMAN_LOAD = {},
-                .message_box = {},
+                .saved_texts = {},
                 .update_check = {},
                 .update_check_at_start = {}};
     }

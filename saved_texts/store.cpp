@@ -1,9 +1,8 @@
-#include "saved_texts/message_store.h"
+#include "saved_texts/store.h"
 
-#include "core/message_box.h"
+#include "core/saved_texts_folder.h"
+#include "platform/file_name.h"
 #include "platform/text/cp949.h"
-
-#include <algorithm>
 
 namespace saved_texts {
 
@@ -18,16 +17,20 @@ namespace {
 
 /// Editors of other systems end a line with one character, which the program's own fields do not know.
 Text with_whole_line_ends(TextView text) {
-    Text whole = platform::replace_all(text, platform::CRLF, u"\n");
-    std::ranges::replace(whole, u'\r', u'\n');
-    return platform::replace_all(whole, u"\n", platform::CRLF);
+    return platform::replace_all(platform::with_line_feeds(text), u"\n", platform::CRLF);
+}
+
+Text without(TextView text, TextView characters) {
+    Text left(text);
+    std::erase_if(left, [&](char16_t unit) { return characters.find(unit) != TextView::npos; });
+    return left;
 }
 
 }  // namespace
 
 std::vector<Text> categories(const Platform& platform) {
     std::vector<Text> names{Text(core::DEFAULT_CATEGORY)};
-    for (Text& folder : platform.files.list_folders(core::message_box_root(platform))) {
+    for (Text& folder : platform.files.list_folders(core::saved_texts_root(platform))) {
         if (folder != core::DEFAULT_CATEGORY) names.push_back(std::move(folder));
     }
     return names;
@@ -38,11 +41,11 @@ CategoryContent read_category(const Platform& platform, TextView category,
     core::check_category(platform, category);
     const Text folder = core::category_folder(platform, category);
     CategoryContent content;
-    for (const FileEntry& file : platform.files.list_files(folder, u"*" + Text(core::MESSAGE_EXTENSION))) {
+    for (const FileEntry& file : platform.files.list_files(folder, u"*" + Text(core::SAVED_TEXT_EXTENSION))) {
         try {
-            const Text title = file.name.substr(0, file.name.size() - core::MESSAGE_EXTENSION.size());
+            const Text title = file.name.substr(0, file.name.size() - core::SAVED_TEXT_EXTENSION.size());
             const Text body = platform::decode_cp949(platform.files.read(folder + file.name));
-            content.messages.push_back({title, with_whole_line_ends(body), file.modified});
+            content.texts.push_back({title, with_whole_line_ends(body), file.modified});
         } catch (const RuntimeError& error) {
             // One that has been removed meanwhile is simply gone.
             if (error.number() != static_cast<int>(ErrorNumber::file_not_found) && !content.failure)
@@ -53,5 +56,11 @@ CategoryContent read_category(const Platform& platform, TextView category,
     }
     return content;
 }
+
+Text in_one_line(TextView body) { return platform::trim(platform::replace_all(body, platform::CRLF, u" ")); }
+
+Text clean_title(TextView typed) { return without(typed, Text(platform::FORBIDDEN_IN_NAMES) + u"."); }
+
+Text clean_category(TextView typed) { return platform::trim(without(typed, platform::FORBIDDEN_IN_NAMES)); }
 
 }  // namespace saved_texts

@@ -1,4 +1,4 @@
-#include "core/windows.h"
+#include "core/boxes.h"
 
 namespace core {
 
@@ -7,18 +7,6 @@ using platform::BoxButtons;
 using platform::BoxIcon;
 using platform::Desktop;
 using platform::Text;
-
-platform::Placement centred(const platform::Screen& screen, int width, int height) {
-    return {.left = (screen.width - width) / 2,
-            .top = (screen.height - height) / 2,
-            .width = width,
-            .height = height};
-}
-
-void CENTER_FORM(const Desktop& desktop, platform::Form& form) {
-    if (form.window_state() != platform::WindowState::normal) return;
-    form.move(centred(desktop.screen(), form.placement().width, form.placement().height));
-}
 
 void show_error(Desktop& desktop, const platform::RuntimeError& error, BoxIcon icon) {
     desktop.message_box(

@@ -1,10 +1,14 @@
-#include "compose/text_cutting.h"
+#include "core/byte_length.h"
 
 #include "platform/text/cp949.h"
 
-namespace compose {
+namespace core {
 
-platform::Text LLL(platform::Text& text, std::size_t limit) {
+using platform::Text;
+
+std::size_t BYTE_LEN(platform::TextView text) { return platform::cp949_length(text); }
+
+Text LLL(Text& text, std::size_t limit) {
     text = platform::right_trim(text);
     std::size_t bytes = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -14,4 +18,4 @@ platform::Text LLL(platform::Text& text, std::size_t limit) {
     return text;
 }
 
-}  // namespace compose
+}  // namespace core

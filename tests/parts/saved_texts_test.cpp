@@ -1,7 +1,6 @@
 // The box of saved texts in real folders, as other systems, other programs and bad luck leave them.
 
-#include "core/message_box.h"
-
+#include "core/saved_texts_folder.h"
 #include "platform/text/hangul.h"
 #include "saved_texts/frmMyMsgBox.h"
 #include "tests/support/child_process.h"
@@ -24,9 +23,9 @@ using tests::put;
 using tests::utf8;
 using Strings = std::vector<std::string>;
 
-class MessageBoxOnDisk : public testing::Test, protected tests::FilesOnDisk {
+class SavedTextsOnDisk : public testing::Test, protected tests::FilesOnDisk {
   protected:
-    MessageBoxOnDisk() { core::make_message_box_folders(platform); }
+    SavedTextsOnDisk() { core::make_saved_texts_folders(platform); }
 
     TestPlatform machine;
     ScriptedDesktop& desktop = machine.desktop;
@@ -37,7 +36,7 @@ class MessageBoxOnDisk : public testing::Test, protected tests::FilesOnDisk {
     const fs::path first = root / "내모음함";
 };
 
-TEST_F(MessageBoxOnDisk, NamesWithSpelledOutSyllablesListOpenAndAreFoundByTyping) {
+TEST_F(SavedTextsOnDisk, NamesWithSpelledOutSyllablesListOpenAndAreFoundByTyping) {
     const std::string apart = platform::to_utf8(platform::decompose_hangul(u"각서"));
     fs::create_directory(root / apart);
     put(root / apart / (apart + ".txt"), "\xB0\xA1");
@@ -56,7 +55,7 @@ TEST_F(MessageBoxOnDisk, NamesWithSpelledOutSyllablesListOpenAndAreFoundByTyping
     EXPECT_EQ(bytes_of(root / apart / "각서.txt"), "\xB3\xAA");
 }
 
-TEST_F(MessageBoxOnDisk, NoPathLeavesTheBox) {
+TEST_F(SavedTextsOnDisk, NoPathLeavesTheBox) {
     fs::create_directory(folder.path() / "outside");
     put(folder.path() / "outside/남.txt", "theirs");
     put(application / "..txt", "x");
@@ -88,7 +87,7 @@ TEST_F(MessageBoxOnDisk, NoPathLeavesTheBox) {
     EXPECT_EQ(bytes_of(folder.path() / "outside/남.txt"), "theirs");
 }
 
-TEST_F(MessageBoxOnDisk, AMessageWithoutPermissionIsToldAndHidesNoOther) {
+TEST_F(SavedTextsOnDisk, AMessageWithoutPermissionIsToldAndHidesNoOther) {
     put(first / "가.txt", "1");
     put(first / "나.txt", "2");
     fs::create_directory(root / "잠김");
@@ -111,7 +110,7 @@ TEST_F(MessageBoxOnDisk, AMessageWithoutPermissionIsToldAndHidesNoOther) {
     fs::permissions(root / "잠김", fs::perms(0700));
 }
 
-TEST_F(MessageBoxOnDisk, AKilledProgramLeavesEveryTextWholeButTheEditedOne) {
+TEST_F(SavedTextsOnDisk, AKilledProgramLeavesEveryTextWholeButTheEditedOne) {
     const std::string kept(500'000, 'k');
     const std::string edited(500'000, 'e');
     put(first / "가.txt", kept);

@@ -3,7 +3,7 @@
 // same files and does nothing with them. The window has to live meanwhile.
 
 #include "bench/ratio.h"
-#include "core/message_box.h"
+#include "core/saved_texts_folder.h"
 #include "machine/qt/desktop/qt_desktop.h"
 #include "platform/text/cp949.h"
 #include "saved_texts/frmMyMsgBox.h"
@@ -91,7 +91,7 @@ int main(int argc, char** argv) {
     const auto screens = machine::qt::program_screens();
     WatchedDesktop desktop(screens, disk.files);
     platform::Platform platform = tests::with(machine.platform, {.desktop = &desktop, .files = &disk.files});
-    core::make_message_box_folders(platform);
+    core::make_saved_texts_folders(platform);
     const fs::path category = disk.application / "내모음함/내모음함";
     write_messages(category);
 

@@ -1,12 +1,10 @@
-#include "core/list_columns.h"
+#include "platform/controls/list_columns.h"
 
-namespace core {
+namespace platform {
 
-using platform::ListView;
-
-int FIND_COLUMN(platform::TextView name, const ListView& list) {
+int FIND_COLUMN(TextView name, const ListView& list) {
     for (int column = 1; column <= list.column_count(); ++column) {
-        if (platform::equal_without_case(list.column(column).caption, name)) return column;
+        if (equal_without_case(list.column(column).caption, name)) return column;
     }
     return -1;
 }
@@ -24,4 +22,4 @@ void SET_SORT_ARROW(ListView& list, int column, int image, bool show) {
     }
 }
 
-}  // namespace core
+}  // namespace platform

@@ -1,6 +1,5 @@
-#include "core/files.h"
+#include "core/paths.h"
 
-#include "core/message_box.h"
 #include "platform/error.h"
 
 namespace core {
@@ -35,6 +34,10 @@ Text FILE_NAME_OF(TextView path) {
     return backslash == TextView::npos ? Text() : Text(path.substr(backslash + 1));
 }
 
+Text WINDOWS_DIR(const Platform& platform) { return platform.files.windows_directory(); }
+
+Text SYSTEM_DIR(const Platform& platform) { return platform.files.system_directory(); }
+
 void SHELL_OPEN(Platform& platform, const Text& path) {
     if (FILE_EXISTS(platform, path)) platform.shell.open(path);
 }
@@ -47,38 +50,6 @@ void SHELL_OPEN_CHECKED(Platform& platform, const Text& path) {
     }
     platform.desktop.message_box(
         {.text = path + u"\r\n\r\n파일을 찾을 수 없습니다!", .icon = platform::BoxIcon::critical});
-}
-
-bool choose_free_name(Platform& platform, platform::CommonDialog& dialog) {
-    using platform::BoxAnswer;
-    while (true) {
-        dialog.show_save();
-        if (!FILE_EXISTS(platform, dialog.file_name())) return true;
-        const BoxAnswer answer = platform.desktop.message_box(
-            {.text = dialog.file_name() + u"\r\n\r\n이미 동일한 파일이 존재합니다. 덮어쓰시겠습니까?",
-             .icon = platform::BoxIcon::exclamation,
-             .buttons = platform::BoxButtons::yes_no_cancel,
-             .default_answer = BoxAnswer::yes});
-        if (answer != BoxAnswer::no) return answer == BoxAnswer::yes;
-    }
-}
-
-void make_folder_when_missing(Platform& platform, const Text& path) {
-    platform::ignore_errors([&] {
-        if (!platform.files.folder_exists(path)) platform.files.make_folder(path);
-    });
-}
-
-void TEMP_ALL_DEL(Platform& platform) {
-    platform::ignore_errors([&] {
-        const Text folder = platform.files.application_directory() + Text(UPDATE_TEMP);
-        if (platform.files.folder_exists(folder)) platform.files.remove_folder(folder);
-    });
-}
-
-void MAKE_WORK_DIRS(Platform& platform) {
-    make_folder_when_missing(platform, Text(SOUND_FOLDER));
-    make_message_box_folders(platform);
 }
 
 }  // namespace core

@@ -5,14 +5,11 @@
 
 #include <functional>
 
-namespace core {
+namespace app {
 
 /// The program's first steps, up to the main window. Returns false, with nothing shown and nothing written,
 /// when another instance is running: the process is to end then.
-bool entry_routine(platform::Platform& platform, AppState& state,
+bool entry_routine(platform::Platform& platform, core::AppState& state,
                    const std::function<void()>& show_main_form);
 
-/// Reads `gSavedSenderName` and `gSavedCallback` from the settings.
-void read_saved_sender(const platform::Platform& platform, AppState& state);
-
-}  // namespace core
+}  // namespace app

@@ -1,10 +1,10 @@
-// Messages: a new one, the edit of the selected one, its removal.
+// Texts: a new one, the edit of the selected one, its removal.
 
-#include "core/files.h"
-#include "core/message_box.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/paths.h"
+#include "core/saved_texts_folder.h"
 #include "saved_texts/frmMyMsgBox.h"
-#include "saved_texts/name_cleaning.h"
+#include "saved_texts/store.h"
 
 namespace saved_texts {
 
@@ -12,7 +12,7 @@ using platform::BoxAnswer;
 using platform::BoxIcon;
 using platform::Text;
 
-/// Puts the fields in order; false when one of them is empty, after the user has been told.
+/// Cleans the fields; false, after a box that says so, when one of them is empty then.
 bool frmMyMsgBox::take_fields() {
     txtText.set_text(platform::right_trim(txtText.text()));
     Text1.set_text(clean_title(platform::trim(Text1.text())));
@@ -30,7 +30,7 @@ bool frmMyMsgBox::take_fields() {
 }
 
 bool frmMyMsgBox::is_saved(const Text& category, const Text& title) const {
-    return core::FILE_EXISTS(platform_, core::message_path(platform_, category, title));
+    return core::FILE_EXISTS(platform_, core::saved_text_path(platform_, category, title));
 }
 
 void frmMyMsgBox::empty_fields() {
@@ -38,7 +38,7 @@ void frmMyMsgBox::empty_fields() {
     txtText.set_text(u"");
 }
 
-void frmMyMsgBox::Command1_Click() {
+void frmMyMsgBox::save_new_text() {
     const auto category = selected_category();
     if (!category || !take_fields()) return;
     const Text title = Text1.text();
@@ -47,15 +47,15 @@ void frmMyMsgBox::Command1_Click() {
         Text1.set_focus();
         return;
     }
-    with_net([&] {
-        core::write_message(platform_, *category, title, txtText.text());
+    show_failures_of([&] {
+        core::write_saved_text(platform_, *category, title, txtText.text());
         empty_fields();
-        ListView1_Click();
+        list_selected_category();
         platform_.desktop.message_box({.text = u"저장 되었습니다.", .icon = BoxIcon::information});
     });
 }
 
-void frmMyMsgBox::Command2_Click() {
+void frmMyMsgBox::save_edited_text() {
     const auto category = selected_category();
     if (ListView2.row_count() == 0 || !category || !lists(*category)) return;
     const auto row = ListView2.selected_item();
@@ -67,27 +67,26 @@ void frmMyMsgBox::Command2_Click() {
     const Text old_title = ListView2.row(*row).text();
     const Text title = Text1.text();
     const Text body = txtText.text();
-    // Two titles that a blank alone tells apart are two messages, too.
+    // Two titles that differ by a blank alone are two texts, too.
     if (old_title != title && is_saved(*category, title)) {
         platform_.desktop.message_box({.text = u"'" + title + u"' 제목은 이미 존재하고 있습니다."});
         return;
     }
-    with_net([&] {
-        core::check_message_name(platform_, *category, title);
+    show_failures_of([&] {
+        core::check_saved_text_name(platform_, *category, title);
         ListView2.set_item_text(*row, title);
-        ListView2.set_sub_item(*row, MESSAGE_LINE,
-                               platform::trim(platform::replace_all(body, platform::CRLF, u" ")));
-        ListView2.set_sub_item(*row, MESSAGE_BODY, body);
+        ListView2.set_sub_item(*row, TEXT_LINE, in_one_line(body));
+        ListView2.set_sub_item(*row, TEXT_BODY, body);
         // Deliberately the old file goes before the new one comes: a copy under the old title never stays
         // behind. When the program ends between the two, this one text is lost; when the write fails, it is
         // still in the row and in the fields, and the next press of the button saves it.
-        core::DELETE_FILE(platform_, core::message_path(platform_, *category, old_title));
-        core::write_message(platform_, *category, title, body);
+        core::DELETE_FILE(platform_, core::saved_text_path(platform_, *category, old_title));
+        core::write_saved_text(platform_, *category, title, body);
         platform_.desktop.message_box({.text = u"수정 되었습니다.", .icon = BoxIcon::information});
     });
 }
 
-void frmMyMsgBox::Command3_Click() {
+void frmMyMsgBox::remove_text() {
     const auto category = selected_category();
     if (ListView2.row_count() == 0 || !category || !lists(*category)) return;
     const auto row = ListView2.selected_item();
@@ -99,9 +98,9 @@ void frmMyMsgBox::Command3_Click() {
     if (!core::ask(platform_.desktop, u"제목:" + title + u"\r\n\r\n선택한 자료를 삭제하시겠습니까?",
                    u"삭제 확인", BoxIcon::exclamation, BoxAnswer::no))
         return;
-    with_net([&] {
+    show_failures_of([&] {
         core::check_category(platform_, *category);
-        core::DELETE_FILE(platform_, core::message_path(platform_, *category, title));
+        core::DELETE_FILE(platform_, core::saved_text_path(platform_, *category, title));
         ListView2.remove_selected_rows();
         empty_fields();
     });

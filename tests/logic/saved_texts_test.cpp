@@ -1,4 +1,3 @@
-#include "core/message_box.h"
 #include "platform/text/cp949.h"
 #include "saved_texts/frmMyMsgBox.h"
 #include "tests/support/lists.h"
@@ -74,11 +73,11 @@ TEST_F(MyMsgBox, ListsACategoryByTheTextOfTheDates) {
     open();
     EXPECT_EQ(column(box().ListView1), (Strings{"내모음함", "가", "하"}));
     EXPECT_EQ(column(box().ListView2), (Strings{"정오", "열한시", "아침", "a.b"}));
-    EXPECT_EQ(column(box().ListView2, saved_texts::MESSAGE_SAVED),
+    EXPECT_EQ(column(box().ListView2, saved_texts::TEXT_SAVED),
               (Strings{"2026-11-22 오후 12:05:09", "2026-11-22 오후 11:05:09", "2026-11-22 오전 09:05:09",
                        "2026-11-21 오전 12:05:09"}));
-    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::MESSAGE_LINE)), "첫 줄 둘째 줄");
-    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::MESSAGE_BODY)), " 첫 줄\r\n둘째 줄 ");
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_LINE)), "첫 줄 둘째 줄");
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_BODY)), " 첫 줄\r\n둘째 줄 ");
     EXPECT_EQ(box().ListView2.selected_item(), 0U);
     EXPECT_EQ(utf8(box().Text1.text()), "") << "selected by the program, not by the user";
     EXPECT_FALSE(box().Command5.enabled());
@@ -160,7 +159,7 @@ TEST_F(MyMsgBox, SavesAnEditInPlaceOfTheOldMessage) {
     desktop.expect_box(u"수정 되었습니다.");
     box().Command2.Click.raise();
     EXPECT_EQ(saved(FIRST, u"가"), "새 글\r\n끝");
-    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::MESSAGE_LINE)), "새 글 끝");
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_LINE)), "새 글 끝");
 
     box().Text1.set_text(u"나");
     desktop.expect_box(u"'나' 제목은 이미 존재하고 있습니다.");
@@ -195,11 +194,11 @@ TEST_F(MyMsgBox, RowsThatACategoryThatCouldNotBeListedLeftBehindAreNotTouched) {
     for (platform::CommandButton* button : {&box().Command2, &box().Command3}) {
         desktop.expect_box(u"오류번호:75");
         button->Click.raise();
-        EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::MESSAGE_BODY)), "theirs");
+        EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_BODY)), "theirs");
     }
     files.links.clear();
     box().Command3.Click.raise();
-    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::MESSAGE_BODY)), "ours");
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_BODY)), "ours");
     EXPECT_EQ(saved(FIRST, u"가") + ", " + saved(u"거래처", u"가"), "theirs, ours");
 }
 
@@ -218,7 +217,7 @@ TEST_F(MyMsgBox, AnEditThatCannotBeWrittenStaysInTheRowAndInTheFields) {
     desktop.expect_box(u"오류번호:61");
     box().Command2.Click.raise();
     EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::critical);
-    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::MESSAGE_BODY)), "새 글");
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_BODY)), "새 글");
     EXPECT_EQ(utf8(box().Text1.text() + box().txtText.text()), "나새 글");
 
     files.changes_until_failure.reset();
@@ -388,7 +387,7 @@ TEST_F(MyMsgBox, EveryShapeOfTextComesBackByteByByte) {
     open();
     choose(box().ListView2, 0);
     EXPECT_EQ(utf8(box().txtText.text()), "a\r\nb\r\nc\r\n\r\n");
-    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::MESSAGE_LINE)), "a b c");
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_LINE)), "a b c");
 
     box().txtText.set_text(u"가☃나");
     for (int times = 0; times < 2; ++times) {
