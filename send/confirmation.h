@@ -1,7 +1,6 @@
 #pragma once
 
 #include "compose/main_form.h"
-#include "send/kinds.h"
 
 namespace send {
 
@@ -13,7 +12,7 @@ struct Recipients {
 };
 
 /// What the user reads before the message goes.
-platform::Text confirmation_text(const compose::frmZent& form, const Kind& kind,
+platform::Text confirmation_text(const compose::frmZent& form, const compose::CarrierKind& kind,
                                  const Recipients& recipients);
 
 }  // namespace send
