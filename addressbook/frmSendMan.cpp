@@ -6,8 +6,13 @@
 
 namespace addressbook {
 
-frmSendMan::frmSendMan(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form)
-    : Form(platform.desktop, u"frmSendMan"), platform_(platform), state_(state), main_form_(main_form) {
+frmSendMan::frmSendMan(platform::Platform& platform, core::AppState& state,
+                       compose::RecipientList& recipients, platform::Timer& polling)
+    : Form(platform.desktop, u"frmSendMan"),
+      platform_(platform),
+      state_(state),
+      recipients_(recipients),
+      polling_(polling) {
     set_caption(u"발송대상자 선택");
     PBar1.hide();
     Command1.set_tool_tip(u"찾기");
@@ -23,7 +28,7 @@ void frmSendMan::Form_Load() {
     state_.forms.gDialogConfirmed = false;
     activated_ = false;
     // Nothing is taken in from the card manager while the user picks.
-    main_form_.Timer1.set_enabled(false);
+    polling_.set_enabled(false);
     Combo4.set_list_index(0);
     OPEN_CARD_DB(platform_, state_, true);
     FOLDER_TREE_LOAD();
@@ -39,7 +44,7 @@ void frmSendMan::Form_Activate() {
 
 void frmSendMan::Form_Unload() {
     state_.cards.gCardDb.reset();
-    main_form_.Timer1.set_enabled(true);
+    polling_.set_enabled(true);
 }
 
 }  // namespace addressbook

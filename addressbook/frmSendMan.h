@@ -1,6 +1,6 @@
 #pragma once
 
-#include "compose/main_form.h"
+#include "compose/recipient_list.h"
 #include "core/app_state.h"
 #include "platform/controls/bars.h"
 #include "platform/controls/buttons.h"
@@ -8,6 +8,7 @@
 #include "platform/controls/fields.h"
 #include "platform/controls/form.h"
 #include "platform/controls/list_view.h"
+#include "platform/controls/timer.h"
 #include "platform/controls/tree_view.h"
 #include "platform/ports/platform.h"
 
@@ -23,7 +24,9 @@ namespace addressbook {
 /// list in card_list, picking in pick.
 class frmSendMan : public platform::Form {
   public:
-    frmSendMan(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form);
+    /// `polling` for hand-overs stands still while the window is open.
+    frmSendMan(platform::Platform& platform, core::AppState& state, compose::RecipientList& recipients,
+               platform::Timer& polling);
 
     platform::TreeView TreeView1{*this, u"TreeView1"};
     platform::Label Label1{*this, u"Label1", u"찾기:"};
@@ -118,7 +121,8 @@ class frmSendMan : public platform::Form {
 
     platform::Platform& platform_;
     core::AppState& state_;
-    compose::frmZent& main_form_;
+    compose::RecipientList& recipients_;
+    platform::Timer& polling_;
     /// The first activation has run.
     bool activated_ = false;
     /// The cards that the last Group_Recount found.

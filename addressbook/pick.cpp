@@ -17,28 +17,6 @@ using platform::TextView;
 
 namespace {
 
-struct KindColumns {
-    TextView kind;
-    std::vector<TextView> columns;
-    /// The columns that hold numbers to send to.
-    std::vector<TextView> numbers;
-};
-
-KindColumns columns_of(TextView kind) {
-    if (kind == u"문자메시지" || kind == u"문자플러스") {
-        return {kind, {u"이름", u"직위", u"회사", u"휴대폰"}, {u"휴대폰"}};
-    }
-    if (kind == u"음성메시지") {
-        return {kind,
-                {u"이름", u"회사", u"휴대폰", u"회사전화", u"회사전화2"},
-                {u"휴대폰", u"회사전화", u"회사전화2"}};
-    }
-    if (kind == u"팩스메시지") {
-        return {kind, {u"이름", u"회사", u"회사팩스", u"회사팩스2"}, {u"회사팩스", u"회사팩스2"}};
-    }
-    return {kind, {}, {}};
-}
-
 /// In twips, until the columns are evened out.
 constexpr int FIRST_COLUMN_WIDTH = 1000;
 constexpr int COLUMN_WIDTH = 1500;
@@ -67,16 +45,17 @@ void frmSendMan::ShowEnter(const Text& kind) {
 }
 
 void frmSendMan::build_columns(const Text& kind) {
-    const KindColumns shown = columns_of(kind);
+    const compose::KindOfMessage* shown = compose::find_kind(kind);
+    if (shown == nullptr) return;
     std::vector<platform::ListView::Column> columns;
-    for (const TextView caption : shown.columns) {
+    for (const TextView caption : shown->picker_columns) {
         columns.push_back(
             {.caption = Text(caption), .width = columns.empty() ? FIRST_COLUMN_WIDTH : COLUMN_WIDTH});
     }
     ListView2.set_columns(std::move(columns));
     Combo2.clear();
-    for (const TextView column : shown.numbers) Combo2.add_row(Text(column));
-    if (!shown.numbers.empty()) Combo2.set_list_index(0);
+    for (const TextView column : shown->picker_numbers) Combo2.add_row(Text(column));
+    Combo2.set_list_index(0);
 }
 
 void frmSendMan::take_selected(std::size_t index) {
@@ -103,21 +82,11 @@ void frmSendMan::SENDLIST_ADD() {
 void frmSendMan::pick_row(const ListItem& row, const PickedCells& cells) {
     Text name = platform::trim(row.text());
     if (name.empty()) name = platform::trim(row.sub_item(cells.company));
-    if (name.empty()) name = compose::NO_NAME;
     const Text number = core::DIGITS_ONLY(row.sub_item(cells.number));
     if (platform::leading_number(number) == 0) return;
-    // Deliberately by its beginning: a number that begins a listed one counts as listed.
-    platform::ListView& recipients = main_form_.ListView1;
-    if (recipients.find_in_sub_items(number)) return;
-
-    recipients.deselect_item();
-    const std::size_t added = recipients.add_row(u"",
-                                                 {platform::blanks_for_nul(std::move(name)), number, u"",
-                                                  platform::blanks_for_nul(row.sub_item(cells.title))},
-                                                 true);
-    recipients.make_visible(added);
-    recipients.select_item(added);
-    state_.forms.gDialogConfirmed = true;
+    if (recipients_.add(platform::blanks_for_nul(std::move(name)), number,
+                        platform::blanks_for_nul(row.sub_item(cells.title))))
+        state_.forms.gDialogConfirmed = true;
 }
 
 }  // namespace addressbook

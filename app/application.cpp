@@ -19,11 +19,17 @@ compose::MainDoors Application::doors() {
     compose::MainDoors doors;
     doors.send = [this] { send::check_and_send(platform_, state_, main_); };
     doors.pick_recipients = [this] {
-        addressbook::frmSendMan picker(platform_, state_, main_);
-        picker.ShowEnter(main_.TabStrip1.selected_caption());
+        addressbook::frmSendMan picker(platform_, state_, main_.recipients, main_.Timer1);
+        picker.ShowEnter(platform::Text(kind_of(main_).caption));
     };
     doors.NEW_SENDMAN_LOAD = [this] { hand_over_.NEW_SENDMAN_LOAD(); };
-    doors.saved_texts = [this] { saved_texts::frmMyMsgBox(platform_, main_).show_modal(); };
+    doors.saved_texts = [this] {
+        saved_texts::frmMyMsgBox box(platform_,
+                                     [this](const platform::Text& text, const platform::Text& title) {
+                                         main_.apply_saved_text(text, title);
+                                     });
+        box.show_modal();
+    };
     doors.update_check = [this] { update::check_from_menu(platform_, state_, main_); };
     doors.update_check_at_start = [this] { return update::check_at_start(platform_, state_, main_); };
     return doors;

@@ -1,98 +1,215 @@
 #include "compose/main_form.h"
 
+#include "core/boxes.h"
+#include "service/frmAbout.h"
+#include "service/service_pages.h"
+
 namespace compose {
 
 using platform::Text;
 
 namespace {
 
-struct Emoticon {
-    int index;
-    platform::TextView caption;
-};
+/// The toolbar's buttons of the kinds follow each other behind a separator.
+constexpr int FIRST_KIND_BUTTON = 2;
 
-/// Caption and inserted text in one, in the order of the screen. The heart stands twice.
-constexpr std::array EMOTICONS = {
-    Emoticon{27, u"(*_*)"},      Emoticon{26, u"(=_=;)"},
-    Emoticon{25, u"(-.-)Zzz.."}, Emoticon{24, u"(^0^) (~0~)"},
-    Emoticon{23, u"■"},          Emoticon{22, u"↓"},
-    Emoticon{21, u"<@_@>"},      Emoticon{20, u"!(^_^)!(^_^)V"},
-    Emoticon{19, u"♡"},          Emoticon{18, u"▶"},
-    Emoticon{17, u"◀"},          Emoticon{16, u"♤"},
-    Emoticon{15, u"♠"},          Emoticon{14, u"♣"},
-    Emoticon{13, u"♩"},          Emoticon{12, u"♬"},
-    Emoticon{11, u"♪"},          Emoticon{10, u"♨"},
-    Emoticon{9, u"☎"},           Emoticon{8, u"☏"},
-    Emoticon{7, u"◎"},           Emoticon{6, u"●"},
-    Emoticon{5, u"○"},           Emoticon{4, u"☞"},
-    Emoticon{3, u"☜"},           Emoticon{2, u"☆"},
-    Emoticon{1, u"★"},           Emoticon{0, u"♡"},
-};
+std::vector<platform::ToolBar::Button> toolbar_buttons() {
+    std::vector<platform::ToolBar::Button> buttons{{}};
+    for (const KindOfMessage& kind : kinds_of_message())
+        buttons.push_back({.caption = Text(kind.caption), .in_group = true});
+    buttons.push_back({});
+    for (const auto* page : {u"발송결과", u"팩스수신", u"요금조회"}) buttons.push_back({.caption = page});
+    return buttons;
+}
+
+std::vector<Text> tab_captions() {
+    std::vector<Text> captions;
+    for (const KindOfMessage& kind : kinds_of_message()) captions.emplace_back(kind.caption);
+    return captions;
+}
 
 }  // namespace
 
 frmZent::frmZent(platform::Platform& platform, core::AppState& state, MainDoors doors)
     : Form(platform.desktop, u"frmZent"),
-      RFK1(*this, u"RFK1", platform.recorder, platform.files),
+      Toolbar1(*this, u"Toolbar1", toolbar_buttons()),
+      TabStrip1(*this, u"TabStrip1", tab_captions()),
       Cmd1(platform.desktop),
       Timer1(platform.clock, 500),
       Timer2(platform.clock, 1),
+      subject(*this),
+      sender(*this, platform, state),
+      text(*this, platform, subject, sender),
+      voice(*this, platform, Cmd1),
+      plus(*this, platform.desktop, voice.Frame1, subject, sender),
+      fax(*this, platform, Cmd1),
+      recipients(*this, platform, state, doors.pick_recipients),
+      schedule(*this, platform),
+      reply(*this, platform, voice.Frame1),
+      session(*this, platform, state, Timer1),
       platform_(platform),
       state_(state),
       doors_(std::move(doors)) {
-    for (const Emoticon& emoticon : EMOTICONS) {
-        mBttn1.emplace_back(*this, u"mBttn1_" + platform::decimal(emoticon.index), Text(emoticon.caption));
-    }
-    Label1_4.set_caption(
-        u"수신인의 이름 또는 선택필드가 비워있는 경우 발송되지 않으니 반드시 확인하시기 바랍니다.(수신인 "
-        u"이름+선택필드+메시지내용이 "
-        u"80Byte가 넘으면 입력된 전체 메시지를 80Byte씩 나누어 전송하게 됩니다)");
-    Label1_0.set_caption(
-        u"* TTS-입력하신 문자를 음성으로 변환하여 전달해 드립니다.\r\n"
-        u"* 내용을 입력하세요.(최대 1,000Byte까지 가능합니다.)");
-    Label1_1.set_caption(
-        u"* 빨간색 녹음버튼을 누르고 녹음하세요.(최대6분)\r\n"
-        u"* 녹음이 끝나면 정지버튼을 누르세요.\r\n"
-        u"* 재생버튼을 누르고 녹음한 음성을 확인하세요.\r\n"
-        u"* 보내기버튼을 누르시면 메시지가 전송됩니다.");
-    Label1_2.set_caption(
-        u"* 전화기로 녹음한 파일을 첨부하는 기능입니다.\r\n"
-        u"* 우측 하단에 있는 폰디라통신 번호(0303-0XXX-XXXX)로 전화를 걸어 1번을 누른 후, 음성녹음을 하고 "
-        u"전송을 하세요.\r\n"
-        u"* 우측 상단의 [수신하기] 버튼을 눌러 녹음된 파일을 자신의 PC에 다운 받으신후 그 파일을 첨부하면 "
-        u"됩니다.\r\n"
-        u"* 안내문: 첨부될 음성파일은 iPondira의 '마이크 녹음' 이나, 0303 번호로 녹음한 안내문구를 추가하여 "
-        u"수신된 파일만 "
-        u"가능합니다.");
-    Label1_3.set_caption(
-        u"1. 문서형태:doc, xls, ppt, hwp, gul, txt, bmp, gif, jpg\r\n\r\n"
-        u"2. 이미지를 A4한장으로 보내려면 파일크기가 544*810을\r\n"
-        u"    초과하지 않도록 다음과 같이 처리하십시오.\r\n"
-        u"   * 포토샵에서 이미지 크기를 544*세로 810으로 축소.\r\n"
-        u"   * 워드, 파워포인트, 한글 등에서 이미지파일을 불러와서 저장후에 파일을 추가함.\r\n\r\n"
-        u"3. 보낼 문서는 한번에 5개까지 첨부가 가능합니다.");
-    Label3_4.set_caption(u"작성한 메시지에서 지정한 번호를 수신자가 눌러 답변을 받으실 수 있습니다.");
-    Command6.set_tool_tip(u"최소 예약전송 시간 설정");
-
-    connect_start();
-    connect_session();
-    connect_kinds();
-    connect_text();
-    connect_voice();
-    connect_fax();
-    connect_recipients();
-    connect_schedule();
+    connect();
     disable_without_door();
+    // The window is painted before its first tick chooses a kind: it shows the panel of that kind alone.
+    show_panel(Panel::text);
 }
 
-/// A button that leads nowhere would be a false promise; it is grey until somebody has built what it opens.
+void frmZent::connect() {
+    TabStrip1.Click.connect([this] { show_kind(); });
+    Toolbar1.ButtonClick.connect([this](int index) { open_by_button(index); });
+    Command1.Click.connect([this] { voice.RFK1.stop(); });
+    if (doors_.send) Command1.Click.connect(doors_.send);
+    Command2.Click.connect([this] { unload(); });
+    Command3.Click.connect([this] { start_anew(); });
+    Command5.Click.connect([this] { show_caution(); });
+    if (doors_.saved_texts) text.MyMsgBttn.Click.connect(doors_.saved_texts);
+
+    mnuSetup.Click.connect([this] { schedule.show_settings(); });
+    mmuEnd.Click.connect([this] { unload(); });
+    if (doors_.update_check) mnuUpDate.Click.connect(doors_.update_check);
+    mnuStartUpdate.Click.connect([this] { mnuStartUpdate.set_checked(!mnuStartUpdate.checked()); });
+    mnuAbout.Click.connect([this] { service::frmAbout(platform_).show_modal(); });
+
+    Timer1.Tick.connect([this] {
+        if (doors_.NEW_SENDMAN_LOAD) doors_.NEW_SENDMAN_LOAD();
+    });
+    Timer2.Tick.connect([this] { first_tick(); });
+
+    sender.Renamed.connect([this](const Text& before, const Text& now) {
+        if (kind_of(*this).kind == MessageKind::text) text.rename_sender(before, now);
+    });
+    session.LoggedIn.connect([this] {
+        sender.fill_from_account();
+        subject.stand();
+        text.start_if_empty();
+        plus.start_if_empty();
+        subject.follow_again();
+    });
+}
+
+/// What leads nowhere would be a false promise: it is grey.
 void frmZent::disable_without_door() {
-    Command7.set_enabled(doors_.pick_recipients != nullptr);
-    mnusubpopup1.set_enabled(doors_.pick_recipients != nullptr);
-    MyMsgBttn.set_enabled(doors_.saved_texts != nullptr);
+    text.MyMsgBttn.set_enabled(doors_.saved_texts != nullptr);
     mnuUpDate.set_enabled(doors_.update_check != nullptr);
+    // These have never done anything; the tabs and the toolbar lead to the same.
+    for (platform::Menu* entry : {&sendmenu1_0, &sendmenu1_1, &sendmenu1_2, &sendmenu1_3, &cmdPonResult,
+                                  &cmdUserCharge, &mnuInBox, &cmdUserInfo2})
+        entry->set_enabled(false);
 }
 
-Text frmZent::sender_tag() const { return u"[" + platform::trim(txtUserName.text()) + u"]"; }
+const KindOfMessage& kind_of(const frmZent& form) {
+    return kind_of(static_cast<MessageKind>(form.TabStrip1.selected()));
+}
+
+Content content_of(const frmZent& form) {
+    const KindOfMessage& kind = kind_of(form);
+    return kind.panel == Panel::voice ? voice_source_of(form.voice) : kind.contents.front().content;
+}
+
+void frmZent::show_kind() {
+    const KindOfMessage& kind = kind_of(*this);
+    kind_chosen_ = true;
+    set_caption(Text(core::APPLICATION_TITLE) + u"[" + Text(kind.caption) + u"]");
+    reply.set_visible(false);
+    sender.set_visible(false);
+    // The texts that are written below must not become the subject.
+    subject.stand();
+    Toolbar1.press(FIRST_KIND_BUTTON + TabStrip1.selected() - 1);
+    show_panel(kind.panel);
+    recipients.set_kind(kind);
+    if (kind.panel == Panel::voice) {
+        voice.TabStrip2.select(1);
+        plus.Picture2.set_visible(kind.with_text);
+    }
+    reply.set_visible(kind.reply_fields);
+    sender.set_visible(kind.sender_fields);
+    start_text(kind.kind);
+    subject.follow_again();
+    voice.stop_hidden_recording();
+}
+
+void frmZent::show_panel(Panel panel) {
+    text.Frame1.set_visible(panel == Panel::text);
+    voice.Frame1.set_visible(panel == Panel::voice);
+    fax.Frame1.set_visible(panel == Panel::fax);
+}
+
+/// Entering a kind throws away what stood in its text field, also what says the same as a new text.
+void frmZent::start_text(MessageKind kind) {
+    switch (kind) {
+        case MessageKind::text:
+            text.mText1.set_text(u"");
+            return text.start();
+        case MessageKind::plus:
+            plus.mText2.set_text(u"");
+            return plus.start();
+        case MessageKind::voice:
+        case MessageKind::fax:
+            return;
+    }
+}
+
+void frmZent::open_by_button(int index) {
+    const int last_kind_button = FIRST_KIND_BUTTON + static_cast<int>(kinds_of_message().size()) - 1;
+    if (index >= FIRST_KIND_BUTTON && index <= last_kind_button) {
+        TabStrip1.select(index - FIRST_KIND_BUTTON + 1);
+    } else if (index == RESULTS_BUTTON) {
+        session.KTSMS_LINK(service::PAGE_RESULTS);
+    } else if (index == INBOX_BUTTON) {
+        session.KTSMS_LINK(service::PAGE_INBOX);
+    } else if (index == CHARGES_BUTTON) {
+        session.KTSMS_LINK(service::PAGE_CHARGES);
+    }
+}
+
+void frmZent::DRAFT_RESET_IF_NO_KIND() {
+    if (kind_chosen_) return;
+    TabStrip1.select(static_cast<int>(MessageKind::text));
+    text.mText1.set_text(u"");
+    plus.mText2.set_text(u"");
+    subject.subjectText.set_text(u"");
+}
+
+void frmZent::start_anew() {
+    if (!core::ask(platform_.desktop, u"모든 내용을 삭제하고 새로 작성하시겠습니까?", {},
+                   platform::BoxIcon::question, platform::BoxAnswer::no)) {
+        return;
+    }
+    text.start();
+    plus.start();
+    voice.ttsText.set_text(u"");
+    voice.ttsText_Change();
+    recipients.ListView1.clear();
+    // FAXFileSize1 keeps the old list's size until the next document is added or deleted.
+    fax.FAX1.clear();
+    voice.TTSFileTxt.set_text(u"");
+    subject.subjectText.set_text(u"");
+    recipients.RECIPIENT_COUNT_CAPTION();
+}
+
+void frmZent::show_caution() {
+    platform_.desktop.message_box(
+        {.text = u"폰디라 메시지 발송 등록 시 여러사용자의 발송부하를 방지하기위해 100건씩 나누어 등록되므로 "
+                 u"발송이 지연될 수 "
+                 u"있습니다.\r\n너무 많은 메시지를 보내실 경우 1,000~2,000건씩 나누어 등록하시기 바랍니다.",
+         .icon = platform::BoxIcon::information,
+         .title = u"주의사항"});
+}
+
+void frmZent::subjectText_CHECK() {
+    subject.fill_empty(kind_of(*this).kind == MessageKind::text ? text.mText1.text() : Text());
+}
+
+void frmZent::apply_saved_text(const Text& saved, const Text& title) {
+    if (kind_of(*this).kind == MessageKind::text) {
+        const bool has_sender = !platform::trim(sender.txtUserName.text()).empty();
+        text.apply((has_sender ? sender.sender_tag() : Text()) + platform::right_trim(saved));
+    }
+    // Deliberately in every kind, and in the others the title alone: there it is the job's subject.
+    subject.stand();
+    subject.subjectText.set_text(title);
+}
 
 }  // namespace compose

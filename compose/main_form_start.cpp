@@ -5,7 +5,6 @@
 #include "core/app_state.h"
 #include "core/boxes.h"
 #include "core/centring.h"
-#include "core/deployment.h"
 #include "core/paths.h"
 #include "core/settings.h"
 #include "core/work_folders.h"
@@ -35,15 +34,6 @@ int twips(const Text& value) {
 
 }  // namespace
 
-void frmZent::connect_start() {
-    mmuEnd.Click.connect([this] { unload(); });
-    Command2.Click.connect([this] { unload(); });
-    Timer1.Tick.connect([this] {
-        if (doors_.NEW_SENDMAN_LOAD) doors_.NEW_SENDMAN_LOAD();
-    });
-    Timer2.Tick.connect([this] { Timer2_Timer(); });
-}
-
 void frmZent::Form_Load() {
     const platform::Screen screen = platform_.desktop.screen();
     state_.window.gMinTrackX =
@@ -54,20 +44,12 @@ void frmZent::Form_Load() {
     set_caption(Text(core::APPLICATION_TITLE));
     for (platform::PictureBox* box : {&Picture1, &Picture3, &Picture4, &Picture5, &Picture6})
         box->set_border(false);
-    STBar1.set_panel_text(4, u"버전:" + core::deployment::version());
+    session.load();
     restore_placement();
     core::MAKE_WORK_DIRS(platform_);
 
-    for (int hour = 0; hour < 24; ++hour) Combo1.add_row(platform::format_number(hour, u"00"));
-    for (int minute = 0; minute < 60; ++minute) Combo2.add_row(platform::format_number(minute, u"00"));
-    show_present_time();
-    for (const auto* row : {u"선택해주세요.", u"{이름}", u"{직위}"}) Combo3.add_row(row);
-    Combo3.set_list_index(0);
-    for (const auto* row : {u"1", u"2", u"3", u"4", u"5"}) Combo4.add_row(row);
-    Combo4.set_list_index(0);
-
-    read_auto_login_mark();
-    RECIPIENT_COUNT_CAPTION();
+    schedule.load();
+    recipients.RECIPIENT_COUNT_CAPTION();
 }
 
 void frmZent::restore_placement() {
@@ -107,30 +89,30 @@ void frmZent::Form_Activate() {
     Timer2.set_enabled(true);
 }
 
-void frmZent::Timer2_Timer() {
+void frmZent::first_tick() {
     Timer2.set_enabled(false);
     try {
-        first_tick();
+        start_work();
     } catch (const platform::RuntimeError& error) {
         core::show_error(platform_.desktop, error, platform::BoxIcon::exclamation);
     }
     Timer1.set_enabled(true);
 }
 
-void frmZent::first_tick() {
+void frmZent::start_work() {
     const bool server_reached = update_check_at_start();
     if (doors_.NEW_SENDMAN_LOAD) doors_.NEW_SENDMAN_LOAD();
     DRAFT_RESET_IF_NO_KIND();
     // Without a network the user logs in by hand.
-    if (!server_reached) return cmdLogin_Click();
+    if (!server_reached) return session.cmdLogin_Click();
     if (!Timer2.tag().empty() || state_.session.gLoggedIn) return;
 
     if (core::setting_is_on(platform_, core::settings::AUTO_LOGIN) &&
         !core::read_setting(platform_, core::settings::LOGIN_ID).empty() &&
         !core::read_setting(platform_, core::settings::LOGIN_PASSWORD).empty()) {
-        AUTO_LOGIN_START();
+        session.AUTO_LOGIN_START();
     } else {
-        cmdLogin_Click();
+        session.cmdLogin_Click();
     }
 }
 
@@ -141,17 +123,16 @@ bool frmZent::update_check_at_start() {
 }
 
 void frmZent::Form_Unload() {
-    RFK1.stop();
-    save_sender_name();
-    save_callback(core::settings::SENDER_NUMBER);
+    voice.RFK1.stop();
+    sender.save();
+    // Written for those who may read it one day; this program never does.
     core::write_setting(platform_, core::settings::UPDATE_CHECK_AT_START,
                         mnuStartUpdate.checked() ? u"1" : u"0");
-    core::write_setting(platform_, core::settings::AUTO_LOGIN, mnuAutoLogin.checked() ? u"1" : u"0");
-    if (!mnuAutoLogin.checked()) core::write_setting(platform_, core::settings::LOGIN_PASSWORD, u"");
+    session.save();
     save_placement();
     for (const Text& file : {isend_text(platform_), tmpman_txt(platform_)})
         platform::ignore_errors([&] { core::DELETE_FILE(platform_, file); });
-    TEMP_ALL_DEL();
+    core::TEMP_ALL_DEL(platform_);
 }
 
 void frmZent::save_placement() {
@@ -170,19 +151,5 @@ void frmZent::save_placement() {
     core::write_setting(platform_, core::settings::WINDOW_WIDTH, state_.window.gWinWidth);
     core::write_setting(platform_, core::settings::WINDOW_HEIGHT, state_.window.gWinHeight);
 }
-
-void frmZent::save_sender_name() {
-    const Text name = platform::trim(txtUserName.text());
-    if (name == platform::trim(state_.sender.gSavedSenderName)) return;
-    core::write_setting(platform_, core::settings::SENDER_NAME, name);
-}
-
-void frmZent::save_callback(const core::Setting& setting) {
-    const Text callback = platform::trim(txtCallback.text());
-    if (callback == platform::trim(state_.sender.gSavedCallback)) return;
-    core::write_setting(platform_, setting, callback);
-}
-
-void frmZent::TEMP_ALL_DEL() { core::TEMP_ALL_DEL(platform_); }
 
 }  // namespace compose

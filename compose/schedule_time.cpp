@@ -2,9 +2,16 @@
 
 #include "core/settings.h"
 #include "platform/error.h"
+#include "platform/text/format.h"
 #include "platform/text/number.h"
 
 namespace compose {
+
+void fill_hours_and_minutes(const ScheduleControls& schedule) {
+    for (int hour = 0; hour < 24; ++hour) schedule.hour.add_row(platform::format_number(hour, u"00"));
+    for (int minute = 0; minute < 60; ++minute)
+        schedule.minute.add_row(platform::format_number(minute, u"00"));
+}
 
 void show_schedule(const ScheduleControls& schedule, platform::LocalTime moment) {
     schedule.date.set_value(platform::date_part(moment));

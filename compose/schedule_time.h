@@ -12,6 +12,9 @@ struct ScheduleControls {
     platform::ComboBox& minute;
 };
 
+/// Fills the lists: "00" to "23" and "00" to "59".
+void fill_hours_and_minutes(const ScheduleControls& schedule);
+
 /// Shows the moment.
 void show_schedule(const ScheduleControls& schedule, platform::LocalTime moment);
 

@@ -17,14 +17,6 @@ bool is_page(int value) {
     return value >= service::CARD_MANAGER_RESULTS && value <= service::CARD_MANAGER_MEMBER_DATA;
 }
 
-void add_recipient(platform::ListView& list, const HandedOverRecipient& recipient) {
-    if (recipient.number.empty() || list.find_in_sub_items(recipient.number)) return;
-    list.deselect_item();
-    const std::size_t row = list.add_row(u"", {recipient.name, recipient.number, u"", recipient.title}, true);
-    list.make_visible(row);
-    list.select_item(row);
-}
-
 }  // namespace
 
 HandOver::HandOver(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form)
@@ -55,12 +47,15 @@ void HandOver::take_in() {
 void HandOver::open_page(int page) {
     form_.Timer2.set_tag(u"OK");
     if (!state_.session.gLoggedIn) {
-        platform::ignore_errors(
-            [&] { form_.mnuAutoLogin.checked() ? form_.AUTO_LOGIN_START() : form_.cmdLogin_Click(); });
+        platform::ignore_errors([&] {
+            form_.session.mnuAutoLogin.checked() ? form_.session.AUTO_LOGIN_START()
+                                                 : form_.session.cmdLogin_Click();
+        });
         // The login form has started the polling again, which would find the signal still there.
         form_.Timer1.set_enabled(false);
     }
-    if (!state_.session.gLoginResult || !state_.session.gLoggedIn) return form_.SET_LOGIN_BUTTONS(false);
+    if (!state_.session.gLoginResult || !state_.session.gLoggedIn)
+        return form_.session.SET_LOGIN_BUTTONS(false);
     service::show_service_page(platform_, state_, page);
 }
 
@@ -68,16 +63,18 @@ void HandOver::take_in_recipients(int tab) {
     const Text text = handed_over_text(bytes_of(compose::tmpman_txt(platform_)));
     if (text.empty()) return;
     const std::vector<TextView> lines = platform::split(text, u'\n');
-    form_.PBar1.set_value(0);
-    form_.PBar1.show();
+    compose::RecipientList& recipients = form_.recipients;
+    recipients.PBar1.set_value(0);
+    recipients.PBar1.show();
     HandedOverRecipient recipient;
     for (std::size_t line = 0; line < lines.size(); ++line) {
-        if (recipient.read(lines[line])) add_recipient(form_.ListView1, recipient);
-        if (line > 0) form_.PBar1.set_progress(line, lines.size() - 1);
+        if (recipient.read(lines[line]) && !recipient.number.empty())
+            recipients.add(recipient.name, recipient.number, recipient.title);
+        if (line > 0) recipients.PBar1.set_progress(line, lines.size() - 1);
         platform_.desktop.paint();
     }
-    form_.PBar1.hide();
-    form_.RECIPIENT_COUNT_CAPTION();
+    recipients.PBar1.hide();
+    recipients.RECIPIENT_COUNT_CAPTION();
     // There may be no such tab.
     platform::ignore_errors([&] { form_.TabStrip1.select(tab); });
 }

@@ -11,8 +11,8 @@ namespace saved_texts {
 
 using platform::KeyPressed;
 
-frmMyMsgBox::frmMyMsgBox(platform::Platform& platform, compose::frmZent& main)
-    : Form(platform.desktop, u"frmMyMsgBox"), platform_(platform), main_(main) {
+frmMyMsgBox::frmMyMsgBox(platform::Platform& platform, Apply apply)
+    : Form(platform.desktop, u"frmMyMsgBox"), platform_(platform), apply_(std::move(apply)) {
     set_caption(u"내 모음함");
     Command5.set_enabled(false);
     Picture1.set_border(false);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "compose/main_form.h"
 #include "platform/controls/buttons.h"
 #include "platform/controls/displays.h"
 #include "platform/controls/fields.h"
@@ -10,6 +9,7 @@
 #include "platform/error.h"
 #include "platform/ports/platform.h"
 
+#include <functional>
 #include <optional>
 
 namespace saved_texts {
@@ -26,7 +26,10 @@ inline constexpr int TEXT_BODY = 3;
 /// category_operations, the way back into the main window in apply.
 class frmMyMsgBox : public platform::Form {
   public:
-    frmMyMsgBox(platform::Platform& platform, compose::frmZent& main);
+    /// Takes a text and its title into the draft.
+    using Apply = std::function<void(const platform::Text& text, const platform::Text& title)>;
+
+    frmMyMsgBox(platform::Platform& platform, Apply apply);
 
     platform::ListView ListView1{*this, u"ListView1", {{.caption = u"분류명"}}};
     platform::CommandButton Command8{*this, u"Command8", u"새 분류 추가"};
@@ -86,7 +89,6 @@ class frmMyMsgBox : public platform::Form {
     // Apply.
     void apply_to_draft();
     void apply_and_close();
-    void apply_to_text_message(platform::Text text);
 
     /// Runs a handler's work on files and shows the box of an error that ends it.
     template <class Step>
@@ -100,7 +102,7 @@ class frmMyMsgBox : public platform::Form {
     void show_failure(const platform::RuntimeError& error);
 
     platform::Platform& platform_;
-    compose::frmZent& main_;
+    Apply apply_;
     /// Whose texts ListView2 shows; nothing when the last listing failed.
     std::optional<platform::Text> listed_category_;
 };

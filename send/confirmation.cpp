@@ -13,21 +13,23 @@ namespace {
 
 // The blanks in the labels make the colons stand below each other.
 
-Text kind_line(const compose::frmZent& form, const Kind& kind) {
-    const bool is_long = kind.text == TEXT_KIND && core::BYTE_LEN(form.mText1.text()) > compose::TEXT_LIMIT;
-    return u" 메시지구분   : " + Text(kind.text) + (is_long ? u"(장문)" : u"");
+Text kind_line(const compose::frmZent& form, const compose::CarrierKind& kind) {
+    const bool is_long = kind.content == compose::Content::text &&
+                         core::BYTE_LEN(form.text.mText1.text()) > compose::TEXT_LIMIT;
+    return u" 메시지구분   : " + Text(kind.name) + (is_long ? u"(장문)" : u"");
 }
 
 Text schedule_line(const compose::frmZent& form) {
-    if (form.Option1.chosen()) return u" 발송예약시간: 즉시전송";
-    return u" 발송예약시간: 예약전송(" + platform::format_date(form.DTP1.value(), u"yyyy년 M월 d일") + u" " +
-           form.Combo1.text() + u"시" + form.Combo2.text() + u"분)";
+    if (form.schedule.Option1.chosen()) return u" 발송예약시간: 즉시전송";
+    return u" 발송예약시간: 예약전송(" +
+           platform::format_date(form.schedule.DTP1.value(), u"yyyy년 M월 d일") + u" " +
+           form.schedule.Combo1.text() + u"시" + form.schedule.Combo2.text() + u"분)";
 }
 
 /// Deliberately by `Check1`, though the job asks for replies by `Check2`: users know these lines as they are.
 Text reply_lines(const compose::frmZent& form) {
-    if (!form.Check1.checked()) return u" 답변받기      : 아니오";
-    return u" 답변받기      : 예" + Text(CRLF) + u" 답변개수      : " + form.Combo4.text();
+    if (!form.text.Check1.checked()) return u" 답변받기      : 아니오";
+    return u" 답변받기      : 예" + Text(CRLF) + u" 답변개수      : " + form.reply.Combo4.text();
 }
 
 Text recipients_line(const Recipients& recipients) {
@@ -38,13 +40,14 @@ Text recipients_line(const Recipients& recipients) {
 
 }  // namespace
 
-Text confirmation_text(const compose::frmZent& form, const Kind& kind, const Recipients& recipients) {
+Text confirmation_text(const compose::frmZent& form, const compose::CarrierKind& kind,
+                       const Recipients& recipients) {
     Text text;
     const auto add_line = [&text](const Text& line) { text.append(line).append(CRLF); };
-    add_line(u" 메시지제목   : " + form.subjectText.text());
+    add_line(u" 메시지제목   : " + form.subject.subjectText.text());
     add_line(kind_line(form, kind));
     add_line(schedule_line(form));
-    if (kind.callback) add_line(u" 회신번호      : " + form.txtCallback.text());
+    if (kind.callback) add_line(u" 회신번호      : " + form.sender.txtCallback.text());
     if (kind.reply) add_line(reply_lines(form));
     return text + recipients_line(recipients);
 }

@@ -7,7 +7,6 @@
 #include "platform/controls/fields.h"
 #include "platform/controls/form.h"
 #include "platform/ports/platform.h"
-#include "send/kinds.h"
 
 namespace send {
 
@@ -19,7 +18,7 @@ struct Recipients {
 };
 
 /// What the user reads before the message is sent.
-platform::Text confirmation_text(const compose::frmZent& form, const Kind& kind,
+platform::Text confirmation_text(const compose::frmZent& form, const compose::CarrierKind& kind,
                                  const Recipients& recipients);
 
 /// Shows what is about to be sent and asks for the last time. The answer is in `gDialogConfirmed`.

@@ -15,13 +15,17 @@ using platform::Text;
 void frmZentSend::begin_pieces(SendJob& job, const Text& text) {
     mText1.set_text(text);
     job.pieces = 0;
-    if (main_form_.Option1.chosen()) {
+    if (main_form_.schedule.Option1.chosen()) {
         compose::show_schedule({DTP1, Combo1, Combo2}, platform_.clock.now());
     } else {
-        DTP1.set_value(main_form_.DTP1.value());
-        Combo1.set_list_index(main_form_.Combo1.list_index());
-        Combo2.set_list_index(main_form_.Combo2.list_index());
+        take_schedule();
     }
+}
+
+void frmZentSend::take_schedule() {
+    DTP1.set_value(main_form_.schedule.DTP1.value());
+    Combo1.set_list_index(main_form_.schedule.Combo1.list_index());
+    Combo2.set_list_index(main_form_.schedule.Combo2.list_index());
 }
 
 /// Cuts a piece and puts it, with its time, into the job's message.

@@ -12,7 +12,7 @@ using platform::Text;
 frmZentSend::frmZentSend(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form)
     : Form(platform.desktop, u"frmZentSend"),
       Timer1(platform.clock, 500),
-      RecipientRows(main_form.ListView1),
+      RecipientRows(main_form.recipients.ListView1),
       platform_(platform),
       state_(state),
       main_form_(main_form),
@@ -29,11 +29,8 @@ void frmZentSend::Form_Load() {
     main_form_.Timer1.set_enabled(false);
     SendAnimationPath = core::send_film(platform_);
     core::play_film(platform_, Animation1, SendAnimationPath);
-    DTP1.set_value(main_form_.DTP1.value());
-    for (int hour = 0; hour < 24; ++hour) Combo1.add_row(platform::format_number(hour, u"00"));
-    for (int minute = 0; minute < 60; ++minute) Combo2.add_row(platform::format_number(minute, u"00"));
-    Combo1.set_list_index(main_form_.Combo1.list_index());
-    Combo2.set_list_index(main_form_.Combo2.list_index());
+    compose::fill_hours_and_minutes({DTP1, Combo1, Combo2});
+    take_schedule();
 }
 
 void frmZentSend::Form_Activate() {
@@ -65,11 +62,13 @@ void frmZentSend::stop_or_close() {
     Command1.set_enabled(false);
 }
 
-bool frmZentSend::is_personal() const { return main_form_.Check1.checked() && main_form_.Check1.on_screen(); }
+bool frmZentSend::is_personal() const {
+    return kind_of(main_form_).kind == compose::MessageKind::text && main_form_.text.Check1.checked();
+}
 
 void frmZentSend::run_routine_of_draft() {
     Timer1.set_enabled(false);
-    if (is_personal() && has_placeholder(main_form_.mText1.text())) {
+    if (is_personal() && has_placeholder(main_form_.text.mText1.text())) {
         SEND_PERSONAL();
     } else {
         SEND_BATCHES(caption());

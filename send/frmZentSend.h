@@ -52,16 +52,18 @@ class frmZentSend : public platform::Form {
 
     /// How many recipients there are to register.
     std::int32_t MSGSendCount = 0;
+    /// The list of a fax's files, as the check before sending made it.
+    platform::Text Documents;
     platform::ListView& RecipientRows;
     platform::BooleanWord StopRequested;
     platform::Text SendAnimationPath;
 
     // Each runs the whole job and closes the window.
-    void SEND_BATCHES(const platform::Text& kind);
+    void SEND_BATCHES(const platform::Text& kind_name);
     void SEND_LONG_BATCHES();
     void SEND_PERSONAL();
     /// Nothing calls it yet; it is the one-recipient form of SEND_BATCHES.
-    void SEND_SINGLES(const platform::Text& kind);
+    void SEND_SINGLES(const platform::Text& kind_name);
 
     /// Takes the next message of at most 80 bytes off `mText1`; no character is split.
     platform::Text CUT_NEXT_PIECE();
@@ -88,8 +90,9 @@ class frmZentSend : public platform::Form {
     void normal_cursor() { platform_.desktop.set_pointer(platform::Pointer::normal); }
 
     // What all routines share: job_steps.cpp.
-    void run_job(const platform::Text& kind, Pauses pauses, const std::function<void(SendJob&)>& send_rows);
-    SendJob prepare(const platform::Text& kind, Pauses pauses);
+    void run_job(const compose::CarrierKind* kind, compose::Pauses pauses,
+                 const std::function<void(SendJob&)>& send_rows);
+    SendJob prepare(const compose::CarrierKind* kind, compose::Pauses pauses);
     void open_session(SendJob& job);
     platform::Text submit(SendJob& job, platform::TextView without_call = NOT_REGISTERED);
     void close_session(const SendJob& job);
@@ -114,6 +117,8 @@ class frmZentSend : public platform::Form {
     void send_single_row(SendJob& job, std::size_t row);
 
     // Texts in pieces: cutting.cpp.
+    /// The working schedule becomes the draft's.
+    void take_schedule();
     void begin_pieces(SendJob& job, const platform::Text& text);
     void next_piece(SendJob& job);
 

@@ -11,6 +11,8 @@
 
 namespace send {
 
+using compose::CarrierKind;
+using compose::Pauses;
 using platform::Text;
 
 namespace {
@@ -27,7 +29,8 @@ constexpr platform::TextView FAILURE_MESSAGE =
 
 /// Whatever fails on the way ends the job where it is, without a report; rows that are done keep their
 /// status.
-void frmZentSend::run_job(const Text& kind, Pauses pauses, const std::function<void(SendJob&)>& send_rows) {
+void frmZentSend::run_job(const CarrierKind* kind, Pauses pauses,
+                          const std::function<void(SendJob&)>& send_rows) {
     job_started_ = true;
     try {
         SendJob job = prepare(kind, pauses);
@@ -43,15 +46,14 @@ void frmZentSend::run_job(const Text& kind, Pauses pauses, const std::function<v
     unload();
 }
 
-SendJob frmZentSend::prepare(const Text& kind_text, Pauses pauses) {
+SendJob frmZentSend::prepare(const CarrierKind* kind, Pauses pauses) {
     StopRequested = false;
-    fill_empty_callback(main_form_, state_);
+    main_form_.sender.fill_empty_callback();
     const platform::LocalTime now = platform_.clock.now();
-    const Kind* kind = find_kind(kind_text);
     SendJob job{.kind = kind,
                 .pauses = pauses,
                 .started = now,
-                .message = message_of_draft(main_form_, kind, now),
+                .message = message_of_draft(main_form_, kind, Documents, now),
                 .subject = {}};
     job.subject = job.message.s_subject;
     state_.session.gSubmitSequence = 1;
@@ -113,8 +115,8 @@ void frmZentSend::report(const SendJob& job) {
     normal_cursor();
     const Text text = report_text(job, MSGSendCount, platform_.clock.now());
     SEND_FINISHED();
-    if (job.success > 0 && job.kind != nullptr && job.kind->content == Content::recording)
-        main_form_.RFK1.set_kept();
+    if (job.success > 0 && job.kind != nullptr && job.kind->content == compose::Content::recording)
+        main_form_.voice.RFK1.set_kept();
     frmSendEndBox box(platform_, main_form_);
     box.load();
     box.Text1.set_text(Text(platform::CRLF) + text);

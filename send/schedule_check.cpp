@@ -21,8 +21,9 @@ double minimum_lead(const platform::Platform& platform) {
 }
 
 LocalTime scheduled_moment(const compose::frmZent& form) {
-    return platform::date_part(form.DTP1.value()) + std::chrono::hours(form.Combo1.list_index()) +
-           std::chrono::minutes(form.Combo2.list_index());
+    return platform::date_part(form.schedule.DTP1.value()) +
+           std::chrono::hours(form.schedule.Combo1.list_index()) +
+           std::chrono::minutes(form.schedule.Combo2.list_index());
 }
 
 long long date_digits(LocalTime time) {
@@ -41,14 +42,14 @@ double lead_digits(LocalTime scheduled, LocalTime now) {
 }  // namespace
 
 bool schedule_is_possible(const platform::Platform& platform, compose::frmZent& form) {
-    if (!form.Option2.chosen()) return true;
+    if (!form.schedule.Option2.chosen()) return true;
     const double minutes = minimum_lead(platform);
     // Deliberately without the check for a past time too: whoever switches the lead off may send at once so.
     if (minutes == 0) return true;
-    form.DT1[0].set_value(scheduled_moment(form));
-    form.DT1[1].set_value(platform.clock.now());
-    const LocalTime scheduled = form.DT1[0].value();
-    const LocalTime now = form.DT1[1].value();
+    form.schedule.DT1[0].set_value(scheduled_moment(form));
+    form.schedule.DT1[1].set_value(platform.clock.now());
+    const LocalTime scheduled = form.schedule.DT1[0].value();
+    const LocalTime now = form.schedule.DT1[1].value();
     if (lead_digits(scheduled, now) >= minutes * 100 && scheduled >= now) return true;
     core::warn(platform.desktop,
                u"예약 전송은 현재 시간에서 " + platform::decimal(static_cast<long long>(minutes)) +

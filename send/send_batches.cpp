@@ -16,19 +16,16 @@ constexpr int RECIPIENT_LIMIT = 100;
 /// The most bytes of cp949 in one submit's addresses.
 constexpr std::size_t ADDRESS_LIMIT = 2048;
 
-/// The service converts faxes one by one and asks for a long wait.
-constexpr int FAX_PAUSE = 15'000;
-constexpr int PAUSE = 500;
-
 }  // namespace
 
-void frmZentSend::SEND_BATCHES(const Text& kind) {
-    if (kind == TEXT_KIND && core::BYTE_LEN(main_form_.mText1.text()) > compose::TEXT_LIMIT) {
+void frmZentSend::SEND_BATCHES(const Text& kind_name) {
+    const auto [kind, carrier] = compose::find_carrier_kind(kind_name);
+    if (carrier != nullptr && carrier->content == compose::Content::text &&
+        core::BYTE_LEN(main_form_.text.mText1.text()) > compose::TEXT_LIMIT) {
         SEND_LONG_BATCHES();
         return;
     }
-    const Pauses pauses{.after_success = kind == FAX_KIND ? FAX_PAUSE : PAUSE, .before_unbind = PAUSE};
-    run_job(kind, pauses, [this](SendJob& job) {
+    run_job(carrier, kind != nullptr ? kind->pauses : compose::USUAL_PAUSES, [this](SendJob& job) {
         Batch batch;
         pass_over_rows(job, batch, {.leaves_trace = true, .shows_progress = true});
     });

@@ -1,6 +1,5 @@
 #include "send/send_check.h"
 
-#include "compose/recipient_number.h"
 #include "core/boxes.h"
 #include "core/paths.h"
 #include "core/phone_number.h"
@@ -13,120 +12,118 @@
 
 namespace send {
 
+using compose::CarrierKind;
+using compose::Content;
 using compose::frmZent;
+using compose::KindOfMessage;
 using core::AppState;
 using platform::Platform;
 using platform::Text;
 
 namespace {
 
-void complete_sender(frmZent& form, const AppState& state) {
-    form.txtUserName.set_text(platform::trim(form.txtUserName.text()));
-    fill_empty_callback(form, state);
-}
-
 bool check_text(const Platform& platform, frmZent& form) {
-    if (!platform::trim(platform::remove_all(form.mText1.text(), form.sender_tag())).empty()) return true;
+    if (!form.text.body().empty()) return true;
     core::warn(platform.desktop, u"메시지 내용을 입력하십시오!");
-    form.mText1.set_focus();
+    form.text.mText1.set_focus();
     return false;
 }
 
 bool check_speech(const Platform& platform, frmZent& form) {
-    if (!platform::trim(platform::remove_all(form.ttsText.text(), platform::CRLF)).empty()) return true;
+    if (!platform::trim(platform::remove_all(form.voice.ttsText.text(), platform::CRLF)).empty()) return true;
     core::warn(platform.desktop, u"음성으로 변환할 TTS내용을 입력하십시오.");
-    form.ttsText.set_focus();
+    form.voice.ttsText.set_focus();
     return false;
 }
 
 bool check_sound_file(const Platform& platform, frmZent& form) {
-    form.take_machine_path();
-    if (core::FILE_EXISTS(platform, form.TTSFileTxt.text())) return true;
+    form.voice.take_machine_path();
+    if (core::FILE_EXISTS(platform, form.voice.TTSFileTxt.text())) return true;
     core::warn(platform.desktop, u"첨부할 WAV파일을 선택하여 주십시오.");
     return false;
 }
 
-/// The list of documents for the carrier goes into the tag of `FAX1`.
-bool check_documents(const Platform& platform, frmZent& form) {
-    if (form.FAX1.row_count() == 0) {
+/// The list of the documents as the carrier takes it, which also goes into the tag of `FAX1`; nothing when
+/// one is missing.
+std::optional<Text> check_documents(const Platform& platform, frmZent& form) {
+    const platform::ListView& documents = form.fax.FAX1;
+    if (documents.row_count() == 0) {
         core::warn(platform.desktop, u"보낼문서를 지정하여 주십시오.");
-        form.FAXBttn1.set_focus();
-        return false;
+        form.fax.FAXBttn1.set_focus();
+        return std::nullopt;
     }
-    Text attachments;
-    form.FAX1.set_tag({});
-    for (std::size_t row = 0; row < form.FAX1.row_count(); ++row) {
-        const Text& path = form.FAX1.row(row).text();
+    Text list;
+    form.fax.FAX1.set_tag({});
+    for (std::size_t row = 0; row < documents.row_count(); ++row) {
+        const Text& path = documents.row(row).text();
         if (!core::FILE_EXISTS(platform, path)) {
             core::warn(platform.desktop, path + u"\r\n\r\n위 파일을 찾을 수 없습니다. 확인하여 주십시오.");
-            return false;
+            return std::nullopt;
         }
-        attachments += path + u";";
-        form.FAX1.set_tag(attachments);
+        list += path + u";";
+        form.fax.FAX1.set_tag(list);
     }
-    return true;
+    return list;
 }
 
-bool check_content(const Platform& platform, frmZent& form, Content content) {
+/// Whether the message holds what it has to. A fax's documents come back in `documents`.
+bool check_content(const Platform& platform, frmZent& form, Content content, Text& documents) {
     switch (content) {
         case Content::text:
             return check_text(platform, form);
         case Content::speech:
             return check_speech(platform, form);
         case Content::recording:
-            return !form.RFK1.SaveWave(Text(core::SOUND_FOLDER), u"tmp.wav");
+            return !form.voice.RFK1.SaveWave(Text(core::SOUND_FOLDER), u"tmp.wav");
         case Content::sound_file:
             return check_sound_file(platform, form);
-        case Content::documents:
-            return check_documents(platform, form);
+        case Content::documents: {
+            const std::optional<Text> list = check_documents(platform, form);
+            documents = list.value_or(Text());
+            return list.has_value();
+        }
     }
     return false;
 }
 
 /// What is wrong with the number for this kind of message; empty when nothing is.
-Text fault_of_number(const frmZent& form, const Text& number, const Kind& kind) {
+Text fault_of_recipient(const frmZent& form, const Text& number, const KindOfMessage& kind) {
     // Deliberately the caption of column 2, the name, though the number stands in column 3: support knows the
     // messages so.
-    const Text& column = form.ListView1.column(2).caption;
+    const Text& column = form.recipients.ListView1.column(2).caption;
     const Text digits = core::DIGITS_ONLY(number);
-    if (digits.empty()) {
+    if (digits.empty())
         return compose::wrong_number(column, number, u"(전송할 " + column + u"을(를) 입력하여 주십시오.)");
-    }
-    if (digits.size() <= compose::LOCAL_NUMBER_LENGTH) {
-        return compose::wrong_number(column, number, compose::AREA_CODE_MISSING);
-    }
-    if (kind.sms && !core::TEXT_NUMBER_OK(number)) {
-        return compose::wrong_number(column, number, compose::MOBILE_ONLY);
-    }
-    if (kind.content == Content::documents && !core::FAX_NUMBER_OK(number)) {
-        return compose::wrong_number(u"팩스보낼 번호", number, compose::NO_FAX_TO_NUMBER);
-    }
-    return {};
+    const platform::TextView fault = compose::fault_of_number(kind, digits);
+    if (fault.empty()) return {};
+    const bool by_rule = fault == kind.number.refusal && !kind.number.name_when_sent.empty();
+    return compose::wrong_number(by_rule ? kind.number.name_when_sent : column, number, fault);
 }
 
 void refuse_row(const Platform& platform, frmZent& form, std::size_t row, const Text& fault) {
-    form.PBar1.hide();
+    form.recipients.PBar1.hide();
     platform.desktop.set_pointer(platform::Pointer::normal);
     core::warn(platform.desktop, fault);
-    form.ListView1.make_visible(row);
-    form.ListView1.set_focus();
+    form.recipients.ListView1.make_visible(row);
+    form.recipients.ListView1.set_focus();
 }
 
 /// The checked rows, each with a number that can be sent to; nothing when one has none or no row is checked.
-std::optional<Recipients> check_recipients(const Platform& platform, frmZent& form, const Kind& kind) {
-    const std::size_t rows = form.ListView1.row_count();
+std::optional<Recipients> check_recipients(const Platform& platform, frmZent& form,
+                                           const KindOfMessage& kind) {
+    const std::size_t rows = form.recipients.ListView1.row_count();
     if (rows == 0) {
         core::warn(platform.desktop, u"받는사람을 입력하여 주십시오!");
         return std::nullopt;
     }
-    form.PBar1.set_value(0);
-    form.PBar1.show();
+    form.recipients.PBar1.set_value(0);
+    form.recipients.PBar1.show();
     Recipients recipients;
     for (std::size_t row = 0; row < rows; ++row) {
-        const platform::ListItem& recipient = form.ListView1.row(row);
+        const platform::ListItem& recipient = form.recipients.ListView1.row(row);
         if (recipient.checked()) {
             const Text& number = recipient.sub_item(compose::RECIPIENT_NUMBER);
-            if (const Text fault = fault_of_number(form, number, kind); !fault.empty()) {
+            if (const Text fault = fault_of_recipient(form, number, kind); !fault.empty()) {
                 refuse_row(platform, form, row, fault);
                 return std::nullopt;
             }
@@ -135,22 +132,22 @@ std::optional<Recipients> check_recipients(const Platform& platform, frmZent& fo
                 recipients.first_number = number;
             }
         }
-        form.PBar1.set_progress(row + 1, rows);
+        form.recipients.PBar1.set_progress(row + 1, rows);
     }
-    form.PBar1.hide();
-    form.RECIPIENT_COUNT_CAPTION();
+    form.recipients.PBar1.hide();
+    form.recipients.RECIPIENT_COUNT_CAPTION();
     if (recipients.count > 0) return recipients;
     platform.desktop.set_pointer(platform::Pointer::normal);
     core::warn(platform.desktop, u"받는사람을 선택하여 주십시오.");
     return std::nullopt;
 }
 
-bool confirmed(Platform& platform, AppState& state, const Kind& kind, const Text& text) {
+bool confirmed(Platform& platform, AppState& state, const CarrierKind& kind, const Text& text) {
     state.forms.gDialogConfirmed = false;
     frmSBox box(platform, state);
     box.load();
     box.Text1.set_text(Text(platform::CRLF) + text);
-    box.Label1.set_caption(Text(kind.text) + u" 발송을 시작하시겠습니까?");
+    box.Label1.set_caption(Text(kind.name) + u" 발송을 시작하시겠습니까?");
     box.show_modal();
     return state.forms.gDialogConfirmed;
 }
@@ -160,27 +157,31 @@ bool confirmed(Platform& platform, AppState& state, const Kind& kind, const Text
 void check_and_send(Platform& platform, AppState& state, frmZent& form) {
     if (!state.session.gLoggedIn) {
         core::warn(platform.desktop, u"KT 폰디라 Login과정을 거쳐야 합니다.");
-        form.cmdLogin_Click();
+        form.session.cmdLogin_Click();
         return;
     }
     core::make_folder_when_missing(platform, Text(core::SOUND_FOLDER));
     form.subjectText_CHECK();
-    complete_sender(form, state);
+    form.sender.txtUserName.set_text(platform::trim(form.sender.txtUserName.text()));
+    form.sender.fill_empty_callback();
 
-    const Kind& kind = kind_of_draft(form);
-    if (!check_content(platform, form, kind.content)) return;
+    const KindOfMessage& kind = kind_of(form);
+    const CarrierKind& carrier = carrier_kind(kind, content_of(form));
+    Text documents;
+    if (!check_content(platform, form, carrier.content, documents)) return;
     const auto recipients = check_recipients(platform, form, kind);
     if (!recipients || !schedule_is_possible(platform, form)) return;
 
     // No hand-over of the card manager may change the list while the user reads the box.
     form.Timer1.set_enabled(false);
-    if (confirmed(platform, state, kind, confirmation_text(form, kind, *recipients))) {
+    if (confirmed(platform, state, carrier, confirmation_text(form, carrier, *recipients))) {
         frmZentSend job(platform, state, form);
         job.load();
-        job.set_caption(Text(kind.text));
+        job.set_caption(Text(carrier.name));
+        job.Documents = documents;
         job.MSGSendCount = recipients->count;
         job.show_modal();
-        form.RECIPIENT_COUNT_CAPTION();
+        form.recipients.RECIPIENT_COUNT_CAPTION();
         platform.desktop.set_pointer(platform::Pointer::normal);
     }
     form.Timer1.set_enabled(true);

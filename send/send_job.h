@@ -1,25 +1,19 @@
 #pragma once
 
+#include "compose/message_kinds.h"
 #include "gateway/gateway.h"
 #include "platform/text/calendar.h"
 #include "platform/text/text.h"
-#include "send/kinds.h"
 
 #include <cstddef>
 
 namespace send {
 
-/// How long a job waits within each submit, in milliseconds: the service's pacing, not ours to shorten.
-struct Pauses {
-    int after_success;
-    int before_unbind;
-};
-
 /// What a run of a job routine knows beside the rows.
 struct SendJob {
     /// Null for a text that is no kind: nothing is submitted then and every row fails.
-    const Kind* kind;
-    Pauses pauses;
+    const compose::CarrierKind* kind;
+    compose::Pauses pauses;
     platform::LocalTime started;
 
     /// The registration in the making; each routine fills in what its submits differ in.

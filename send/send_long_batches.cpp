@@ -20,9 +20,9 @@ std::size_t expected_pieces(const Text& text) {
 }  // namespace
 
 void frmZentSend::SEND_LONG_BATCHES() {
-    constexpr Pauses PAUSES{.after_success = 500, .before_unbind = 500};
-    run_job(Text(TEXT_KIND), PAUSES, [this](SendJob& job) {
-        begin_pieces(job, platform::right_trim(main_form_.mText1.text()));
+    const compose::KindOfMessage& text = kind_of(compose::MessageKind::text);
+    run_job(&carrier_kind(text, compose::Content::text), text.pauses, [this](SendJob& job) {
+        begin_pieces(job, platform::right_trim(main_form_.text.mText1.text()));
         const std::size_t expected = expected_pieces(mText1.text());
         Batch batch;
         while (!mText1.text().empty()) {

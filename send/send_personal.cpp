@@ -10,8 +10,8 @@ namespace send {
 using platform::Text;
 
 void frmZentSend::SEND_PERSONAL() {
-    constexpr Pauses PAUSES{.after_success = 250, .before_unbind = 250};
-    run_job(Text(TEXT_KIND), PAUSES, [this](SendJob& job) {
+    const compose::KindOfMessage& text = kind_of(compose::MessageKind::text);
+    run_job(&carrier_kind(text, compose::Content::text), compose::PERSONAL_PAUSES, [this](SendJob& job) {
         for_each_recipient([&](std::size_t row) { send_personal_row(job, row); });
     });
 }
@@ -37,7 +37,8 @@ std::optional<Text> frmZentSend::filled_in(const Text& text, const platform::Lis
 
 void frmZentSend::send_personal_row(SendJob& job, std::size_t row) {
     const platform::ListItem& recipient = RecipientRows.row(row);
-    const std::optional<Text> text = filled_in(platform::right_trim(main_form_.mText1.text()), recipient);
+    const std::optional<Text> text =
+        filled_in(platform::right_trim(main_form_.text.mText1.text()), recipient);
     if (!text) {
         ++job.failure;
         write_status(row, row + 1, Text(NAME_MISSING));

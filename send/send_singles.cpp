@@ -17,9 +17,8 @@ constexpr platform::TextView FAILED = u"실패";
 
 }  // namespace
 
-void frmZentSend::SEND_SINGLES(const Text& kind) {
-    constexpr Pauses PAUSES{.after_success = 500, .before_unbind = 500};
-    run_job(kind, PAUSES, [this](SendJob& job) {
+void frmZentSend::SEND_SINGLES(const Text& kind_name) {
+    run_job(compose::find_carrier_kind(kind_name).carrier, compose::USUAL_PAUSES, [this](SendJob& job) {
         for_each_recipient([&](std::size_t row) { send_single_row(job, row); });
     });
 }
@@ -31,7 +30,7 @@ void frmZentSend::send_single_row(SendJob& job, std::size_t row) {
     };
     const platform::ListItem& recipient = RecipientRows.row(row);
     if (is_personal()) {
-        const std::optional<Text> text = filled_in(main_form_.mText1.text(), recipient);
+        const std::optional<Text> text = filled_in(main_form_.text.mText1.text(), recipient);
         if (!text) return fail(NAME_MISSING);
         if (core::BYTE_LEN(*text) > compose::TEXT_LIMIT) return fail(TEXT_TOO_LONG);
         job.message.s_sms_content = *text;

@@ -1,7 +1,7 @@
-// The documents of a fax: picking, duplicates, deleting, their size.
+#include "compose/fax_panel.h"
 
 #include "compose/fax_documents.h"
-#include "compose/main_form.h"
+#include "compose/questions.h"
 #include "core/boxes.h"
 #include "platform/error.h"
 
@@ -25,20 +25,40 @@ bool has_document(const platform::ListView& documents, const Text& path) {
 
 }  // namespace
 
-void frmZent::connect_fax() {
+FaxPanel::FaxPanel(platform::Form& form, platform::Platform& platform, platform::CommonDialog& dialog)
+    : Frame1(form, u"Frame1_2"),
+      Label3_2(form, u"Label3_2", u"보낼문서:"),
+      FAX1(form, u"FAX1", {{.caption = u"보낼문서"}}),
+      FAXBttn1(form, u"FAXBttn1", u"찾아보기..."),
+      FAXBttn2(form, u"FAXBttn2", u"삭제"),
+      FAXFileSize1(form, u"FAXFileSize1"),
+      Label1_3(form, u"Label1_3",
+               u"1. 문서형태:doc, xls, ppt, hwp, gul, txt, bmp, gif, jpg\r\n\r\n"
+               u"2. 이미지를 A4한장으로 보내려면 파일크기가 544*810을\r\n"
+               u"    초과하지 않도록 다음과 같이 처리하십시오.\r\n"
+               u"   * 포토샵에서 이미지 크기를 544*세로 810으로 축소.\r\n"
+               u"   * 워드, 파워포인트, 한글 등에서 이미지파일을 불러와서 저장후에 파일을 추가함.\r\n\r\n"
+               u"3. 보낼 문서는 한번에 5개까지 첨부가 가능합니다."),
+      platform_(platform),
+      dialog_(dialog) {
+    FAX1.set_container(Frame1);
+    FAXBttn1.set_container(Frame1);
+    FAXBttn2.set_container(Frame1);
     // A cancelled dialog ends the handler silently.
-    FAXBttn1.Click.connect([this] { platform::ignore_errors([this] { FAXBttn1_Click(); }); });
-    FAXBttn2.Click.connect([this] { FAXBttn2_Click(); });
+    FAXBttn1.Click.connect([this] { platform::ignore_errors([this] { add_document(); }); });
+    FAXBttn2.Click.connect([this] {
+        if (remove_selected_rows(platform_.desktop, FAX1)) FAX_SIZE_CAPTION();
+    });
 }
 
-void frmZent::FAXBttn1_Click() {
+void FaxPanel::add_document() {
     if (FAX1.row_count() == DOCUMENT_LIMIT) {
         core::warn(platform_.desktop, u"보낼 문서는 한번에 5개까지 첨부가 가능합니다.");
         return;
     }
-    Cmd1.set_up(u"팩스문서 열기", Text(DOCUMENT_FILTER));
-    Cmd1.show_open();
-    const Text& path = Cmd1.file_name();
+    dialog_.set_up(u"팩스문서 열기", Text(DOCUMENT_FILTER));
+    dialog_.show_open();
+    const Text& path = dialog_.file_name();
     if (!is_fax_document(path)) {
         core::warn(platform_.desktop,
                    u"가능한 포맷이 아닙니다.\r\n\r\n문서파일:txt, doc, xls, ppt, hwp, gul\r\n"
@@ -53,17 +73,7 @@ void frmZent::FAXBttn1_Click() {
     FAX_SIZE_CAPTION();
 }
 
-void frmZent::FAXBttn2_Click() {
-    if (!FAX1.selected_item()) return;
-    if (!core::ask(platform_.desktop, u"선택한 목록을 삭제하시겠습니까?", u"삭제 확인",
-                   platform::BoxIcon::exclamation)) {
-        return;
-    }
-    FAX1.remove_selected_rows();
-    FAX_SIZE_CAPTION();
-}
-
-void frmZent::FAX_SIZE_CAPTION() {
+void FaxPanel::FAX_SIZE_CAPTION() {
     std::uint64_t bytes = 0;
     for (std::size_t row = 0; row < FAX1.row_count(); ++row) {
         // A document that has gone adds nothing; the user is told when the fax is sent.

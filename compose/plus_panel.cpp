@@ -1,0 +1,56 @@
+#include "compose/plus_panel.h"
+
+#include "compose/message_kinds.h"
+#include "compose/questions.h"
+#include "core/byte_length.h"
+
+namespace compose {
+
+using platform::Text;
+
+PlusPanel::PlusPanel(platform::Form& form, platform::Desktop& desktop, platform::Control& container,
+                     Subject& subject, const Sender& sender)
+    : Picture2(form, u"Picture2_1"),
+      mText2(form, u"mText2"),
+      mHLen2(form, u"mHLen2", u"0/80Byte"),
+      desktop_(desktop),
+      subject_(subject),
+      sender_(sender) {
+    Picture2.set_container(container);
+    mText2.set_container(Picture2);
+    mText2.Change.connect([this] { mText2_Change(); });
+    // Every key, backspace too.
+    mText2.KeyPress.connect([this](platform::KeyPressed&) { refuse_excess(); });
+    mText2.LostFocus.connect([this] { subject_.freeze(); });
+    Picture2.GotFocus.connect([this] { mText2.set_focus(); });
+}
+
+void PlusPanel::start() {
+    mText2.set_text(sender_.sender_tag() + u"\r\n\r\n\r\n\r\n☎통화를눌러확인하세요");
+    mText2_Change();
+}
+
+void PlusPanel::start_if_empty() {
+    const Text text = platform::trim(mText2.text());
+    if (text.empty() || text == u"[]") start();
+}
+
+void PlusPanel::mText2_Change() {
+    // Not cut to a subject's length, unlike the other text.
+    subject_.follow(mText2.text());
+    refuse_excess();
+    mHLen2.set_caption(platform::decimal(core::BYTE_LEN(mText2.text())) + u"/80Byte");
+}
+
+/// Tells that the field is too full and cuts it. The focus goes to the box around the field, which gives it
+/// back at once.
+void PlusPanel::refuse_excess() {
+    Text text = mText2.text();
+    if (core::BYTE_LEN(text) <= TEXT_LIMIT) return;
+    tell_text_is_cut(desktop_);
+    mText2.set_text(core::LLL(text, TEXT_LIMIT));
+    mText2.set_caret_to_end();
+    Picture2.set_focus();
+}
+
+}  // namespace compose

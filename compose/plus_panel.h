@@ -1,0 +1,39 @@
+#pragma once
+
+#include "compose/sender.h"
+#include "compose/subject.h"
+#include "platform/controls/displays.h"
+#include "platform/controls/fields.h"
+#include "platform/controls/form.h"
+#include "platform/controls/panels.h"
+#include "platform/ports/desktop.h"
+
+namespace compose {
+
+/// The text that goes with a voice: at most 80 bytes of cp949, and never a long one.
+class PlusPanel {
+  public:
+    /// `container` is the panel of the voice.
+    PlusPanel(platform::Form& form, platform::Desktop& desktop, platform::Control& container,
+              Subject& subject, const Sender& sender);
+
+    platform::PictureBox Picture2;
+    platform::TextBox mText2;
+    platform::Label mHLen2;
+
+    void mText2_Change();
+
+    /// Begins a new text: the sender's name, and what to do with the voice.
+    void start();
+    /// The same unless the user has written one.
+    void start_if_empty();
+
+  private:
+    void refuse_excess();
+
+    platform::Desktop& desktop_;
+    Subject& subject_;
+    const Sender& sender_;
+};
+
+}  // namespace compose

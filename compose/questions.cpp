@@ -1,0 +1,30 @@
+#include "compose/questions.h"
+
+#include "core/boxes.h"
+
+namespace compose {
+
+using platform::BoxIcon;
+using platform::Text;
+
+bool ask_for_long_text(platform::Desktop& desktop, platform::TextView yes) {
+    return core::ask(desktop,
+                     u"[장문메시지 알림] 80Byte이상 입력하시겠습니까?\r\n\r\n" + Text(yes) +
+                         u" 입력된 전체 메시지를 80Byte씩 나누어서 전송하게 됩니다.",
+                     u"장문메시지 확인", BoxIcon::question);
+}
+
+void tell_text_is_cut(platform::Desktop& desktop) {
+    core::warn(desktop, u"입력하신 문자가 80Byte를 넘었습니다.\r\n한 번에 80Byte까지만 전송이 가능합니다.",
+               u"입력 초과");
+}
+
+bool remove_selected_rows(platform::Desktop& desktop, platform::ListView& list) {
+    if (!list.selected_item()) return false;
+    if (!core::ask(desktop, u"선택한 목록을 삭제하시겠습니까?", u"삭제 확인", BoxIcon::exclamation))
+        return false;
+    list.remove_selected_rows();
+    return true;
+}
+
+}  // namespace compose

@@ -1,0 +1,186 @@
+#include "compose/recipient_list.h"
+
+#include "compose/questions.h"
+#include "core/boxes.h"
+#include "core/phone_number.h"
+#include "platform/controls/list_columns.h"
+#include "platform/error.h"
+
+namespace compose {
+
+using platform::KeyPressed;
+using platform::Text;
+
+namespace {
+
+/// Above this many rows a run over the list shows its progress.
+constexpr std::size_t LONG_LIST = 500;
+
+}  // namespace
+
+RecipientList::RecipientList(platform::Form& form, platform::Platform& platform, core::AppState& state,
+                             std::function<void()> pick)
+    : HText1{platform::TextBox{form, u"HText1_0"}, platform::TextBox{form, u"HText1_1"}},
+      Label2_5(form, u"Label2_5"),
+      HBttn1(form, u"HBttn1", u"추가"),
+      HBttn2(form, u"HBttn2", u"삭제"),
+      Command7(form, u"Command7", u"명함DB 불러오기..."),
+      ListView1(form, u"ListView1",
+                {{.caption = u"선택"},
+                 {.caption = u"이름"},
+                 {.caption = u"문자보낼번호"},
+                 {.caption = u"상태"},
+                 {.caption = u"직위"}},
+                true),
+      PBar1(form, u"PBar1"),
+      Label4(form, u"Label4", u"전체> 대상>"),
+      mnuSubPopup(form, u"mnuSubPopup", u"작업메뉴"),
+      mnusubpopup1(form, u"mnusubpopup1", u"명함DB 불러오기(&M)..."),
+      mnusubpopup7(form, u"mnusubpopup7", u"전체선택(&A)"),
+      mnusubpopup4(form, u"mnusubpopup4", u"선택(&S)"),
+      mnusubpopup5(form, u"mnusubpopup5", u"선택취소(&C)"),
+      mnusubpopup9(form, u"mnusubpopup9", u"삭제(&D)"),
+      form_(form),
+      platform_(platform),
+      state_(state),
+      pick_(std::move(pick)),
+      kind_(&kind_of(MessageKind::text)) {
+    PBar1.hide();
+    Command7.set_enabled(pick_ != nullptr);
+    mnusubpopup1.set_enabled(pick_ != nullptr);
+    connect();
+}
+
+void RecipientList::connect() {
+    for (std::size_t i = 0; i < HText1.size(); ++i) {
+        HText1[i].KeyPress.connect([this, i](KeyPressed& key) { HText1_KeyPress(i, key); });
+    }
+    HBttn1.Click.connect([this] { add_typed(); });
+    HBttn2.Click.connect([this] { remove_selected(); });
+    Command7.Click.connect([this] { pick_recipients(); });
+    ListView1.ItemCheck.connect([this](std::size_t row) { row_checked(row); });
+    ListView1.ColumnClick.connect([this](int column) { sort_by(column); });
+    ListView1.KeyDown.connect([this](KeyPressed& key) {
+        if (key.code == platform::KEY_DELETE) remove_selected();
+    });
+    ListView1.KeyPress.connect([this](KeyPressed& key) {
+        if (key.code == platform::KEY_CTRL_A) ListView1.select_all();
+    });
+    ListView1.MouseUp.connect([this](platform::MouseButton button) {
+        if (button == platform::MouseButton::right) platform_.desktop.popup_menu(form_, mnuSubPopup);
+    });
+    mnusubpopup1.Click.connect([this] { pick_recipients(); });
+    mnusubpopup7.Click.connect([this] { ListView1.select_all(); });
+    mnusubpopup4.Click.connect([this] { CHECK_SELECTED_ITEMS(true); });
+    mnusubpopup5.Click.connect([this] { CHECK_SELECTED_ITEMS(false); });
+    mnusubpopup9.Click.connect([this] { remove_selected(); });
+}
+
+void RecipientList::set_kind(const KindOfMessage& kind) {
+    kind_ = &kind;
+    ListView1.set_column_caption(RECIPIENT_NUMBER + 1, Text(kind.number.caption));
+    Label2_5.set_caption(Text(kind.number.caption) + u":");
+}
+
+bool RecipientList::add(Text name, const Text& number, Text title) {
+    if (ListView1.find_in_sub_items(number)) return false;
+    if (name.empty()) name = NO_NAME;
+    ListView1.deselect_item();
+    const std::size_t row = ListView1.add_row(u"", {std::move(name), number, u"", std::move(title)}, true);
+    ListView1.make_visible(row);
+    ListView1.select_item(row);
+    return true;
+}
+
+void RecipientList::RECIPIENT_COUNT_CAPTION() {
+    Label4.set_caption(u"전체>" + platform::decimal(ListView1.row_count()) + u">대상>" +
+                       platform::decimal(ListView1.checked_count()));
+}
+
+void RecipientList::HText1_KeyPress(std::size_t index, KeyPressed& key) {
+    if (key.code != platform::KEY_ENTER) return;
+    key.swallow();
+    if (index == 0) {
+        HText1[1].set_focus();
+    } else {
+        add_typed();
+    }
+}
+
+void RecipientList::add_typed() {
+    const Text number = core::DIGITS_ONLY(HText1[1].text());
+    HText1[1].set_text(number);
+    const Text number_caption(kind_->number.caption);
+    if (number.empty()) return refuse_number(number_caption + u"를(을) 입력하여 주십시오!");
+
+    // Before the number is judged: a few digits that begin a listed number are a duplicate, not a short
+    // number.
+    if (point_at_duplicate(number)) return;
+    if (const platform::TextView fault = fault_of_number(*kind_, number); !fault.empty())
+        return refuse_number(wrong_number(number_caption, number, fault));
+
+    add(platform::remove_all(platform::remove_all(HText1[0].text(), u":"), u" "), number, {});
+    HText1[0].set_text(u"");
+    HText1[1].set_text(u"");
+    RECIPIENT_COUNT_CAPTION();
+    HText1[0].set_focus();
+}
+
+void RecipientList::refuse_number(Text text) {
+    core::warn(platform_.desktop, std::move(text));
+    HText1[1].set_focus();
+}
+
+bool RecipientList::point_at_duplicate(const Text& number) {
+    const auto hit = ListView1.find_in_sub_items(number);
+    if (!hit) return false;
+    ListView1.deselect_item();
+    ListView1.make_visible(*hit);
+    ListView1.select_item(*hit);
+    // The message names column 2, the name, though numbers were compared; users and their support know it so.
+    core::warn(platform_.desktop, u"이미 동일한 " + ListView1.column(2).caption + u"가 존재합니다.");
+    return true;
+}
+
+void RecipientList::remove_selected() {
+    if (remove_selected_rows(platform_.desktop, ListView1)) RECIPIENT_COUNT_CAPTION();
+}
+
+void RecipientList::pick_recipients() {
+    if (!pick_) return;
+    const std::size_t rows = ListView1.row_count();
+    state_.forms.gDialogConfirmed = false;
+    pick_();
+    if (ListView1.row_count() != rows || state_.forms.gDialogConfirmed) RECIPIENT_COUNT_CAPTION();
+}
+
+void RecipientList::CHECK_SELECTED_ITEMS(bool checked) {
+    if (!ListView1.selected_item()) return;
+    const std::size_t rows = ListView1.row_count();
+    if (rows > LONG_LIST) {
+        PBar1.set_value(0);
+        PBar1.show();
+    }
+    for (std::size_t row = 0; row < rows; ++row) {
+        if (ListView1.row(row).selected()) {
+            ListView1.set_checked(row, checked);
+            if (checked) ListView1.set_sub_item(row, RECIPIENT_STATUS, u"");
+        }
+        if (PBar1.visible()) PBar1.set_value(static_cast<int>((row + 1) * 100 / rows));
+    }
+    PBar1.hide();
+    RECIPIENT_COUNT_CAPTION();
+}
+
+void RecipientList::row_checked(std::size_t row) {
+    // Ticked again, a failed row is one that has not been sent yet.
+    if (ListView1.row(row).checked()) ListView1.set_sub_item(row, RECIPIENT_STATUS, u"");
+    RECIPIENT_COUNT_CAPTION();
+}
+
+/// The column of check boxes has nothing to sort by; a click on it sorts by the name.
+void RecipientList::sort_by(int column) {
+    platform::ignore_errors([&] { platform::SORT_BY_COLUMN(ListView1, column == 1 ? 2 : column); });
+}
+
+}  // namespace compose

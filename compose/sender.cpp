@@ -1,0 +1,81 @@
+#include "compose/sender.h"
+
+#include "gateway/gateway.h"
+
+namespace compose {
+
+using platform::ComboBox;
+using platform::Text;
+
+namespace {
+
+/// `first` and `second` as rows; the field shows what is saved, or `otherwise`.
+void fill(ComboBox& field, const Text& first, const Text& second, const Text& saved, const Text& otherwise) {
+    field.clear();
+    field.add_row(gateway::CLEAN_FIXED_TEXT(first));
+    field.add_row(gateway::CLEAN_FIXED_TEXT(second));
+    field.set_text(platform::trim(saved));
+    if (field.text().empty()) field.set_text(gateway::CLEAN_FIXED_TEXT(otherwise));
+}
+
+}  // namespace
+
+Sender::Sender(platform::Form& form, platform::Platform& platform, core::AppState& state)
+    : Label2_0(form, u"Label2_0", u"보낸사람:"),
+      txtUserName(form, u"txtUserName", ComboBox::Style::editable),
+      Label2_1(form, u"Label2_1", u"회신번호:"),
+      txtCallback(form, u"txtCallback", ComboBox::Style::editable),
+      platform_(platform),
+      state_(state) {
+    txtUserName.GotFocus.connect([this] { txtUserName.set_tag(u"[" + txtUserName.text() + u"]"); });
+    txtUserName.LostFocus.connect([this] { name_left(); });
+    // Deliberately under a key spelled otherwise than the one written at the end: settings files have always
+    // had both, and keys are found whatever their case.
+    txtCallback.LostFocus.connect([this] { save_callback(core::settings::SENDER_NUMBER_LEFT); });
+}
+
+Text Sender::sender_tag() const { return u"[" + platform::trim(txtUserName.text()) + u"]"; }
+
+void Sender::set_visible(bool visible) {
+    Label2_0.set_visible(visible);
+    Label2_1.set_visible(visible);
+    txtUserName.set_visible(visible);
+    txtCallback.set_visible(visible);
+}
+
+void Sender::fill_from_account() {
+    core::read_saved_sender(platform_, state_);
+    fill(txtUserName, state_.session.gInfoUserName, state_.session.gInfoSenderName,
+         state_.sender.gSavedSenderName, state_.session.gInfoSenderName);
+    fill(txtCallback, state_.session.gInfoCallback, state_.session.gInfoServiceNumber,
+         state_.sender.gSavedCallback, state_.session.gInfoCallback);
+}
+
+void Sender::fill_empty_callback() {
+    if (!platform::trim(txtCallback.text()).empty()) return;
+    txtCallback.set_text(gateway::CLEAN_FIXED_TEXT(state_.session.gInfoCallback));
+}
+
+void Sender::name_left() {
+    save_name();
+    if (!txtUserName.text().empty()) Renamed.raise(txtUserName.tag(), u"[" + txtUserName.text() + u"]");
+}
+
+void Sender::save() {
+    save_name();
+    save_callback(core::settings::SENDER_NUMBER);
+}
+
+void Sender::save_name() {
+    const Text name = platform::trim(txtUserName.text());
+    if (name == platform::trim(state_.sender.gSavedSenderName)) return;
+    core::write_setting(platform_, core::settings::SENDER_NAME, name);
+}
+
+void Sender::save_callback(const core::Setting& setting) {
+    const Text callback = platform::trim(txtCallback.text());
+    if (callback == platform::trim(state_.sender.gSavedCallback)) return;
+    core::write_setting(platform_, setting, callback);
+}
+
+}  // namespace compose

@@ -1,0 +1,43 @@
+#include "compose/subject.h"
+
+namespace compose {
+
+using platform::Text;
+
+namespace {
+
+Text without_line_ends(platform::TextView text) { return platform::remove_all(text, platform::CRLF); }
+
+}  // namespace
+
+Subject::Subject(platform::Form& form)
+    : Label3_0(form, u"Label3_0", u"발송제목:"),
+      subjectText(form, u"subjectText"),
+      Label3_1(form, u"Label3_1", u"발송내역 확인 및 문자 내 모음함에 필요한 제목입니다.") {
+    subjectText.Change.connect([this] { subject_changed(); });
+    subjectText.LostFocus.connect([this] { freeze(); });
+}
+
+void Subject::follow(const Text& body, std::size_t limit) {
+    if (platform::trim(subjectText.text()).size() >= LENGTH || !subjectText.tag().empty()) return;
+    subjectText.set_text(without_line_ends(body).substr(0, limit));
+}
+
+void Subject::freeze() {
+    if (!platform::trim(subjectText.text()).empty()) stand();
+}
+
+void Subject::subject_changed() {
+    const std::size_t length = platform::trim(subjectText.text()).size();
+    if (length == 0) follow_again();
+    if (length > LENGTH) stand();
+}
+
+void Subject::fill_empty(const Text& body) {
+    if (!platform::trim(subjectText.text()).empty()) return;
+    const Text title = platform::trim(without_line_ends(platform::trim(body)));
+    if (!title.empty()) subjectText.set_text(title.substr(0, LENGTH));
+    if (subjectText.text().empty()) subjectText.set_text(u"제목없음");
+}
+
+}  // namespace compose

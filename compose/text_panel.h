@@ -1,0 +1,65 @@
+#pragma once
+
+#include "compose/sender.h"
+#include "compose/subject.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/displays.h"
+#include "platform/controls/fields.h"
+#include "platform/controls/form.h"
+#include "platform/controls/panels.h"
+#include "platform/ports/platform.h"
+
+#include <array>
+#include <deque>
+
+namespace compose {
+
+/// The panel of the text message. Above 80 bytes of cp949 it asks whether the text is to go in pieces: the
+/// field's tag is "LONG" after a yes.
+class TextPanel {
+  public:
+    TextPanel(platform::Form& form, platform::Platform& platform, Subject& subject, Sender& sender);
+
+    platform::Frame Frame1;
+    platform::PictureBox Picture2;
+    platform::TextBox mText1;
+    platform::Label mHLen1;
+    platform::Label mHLen3;
+    platform::CheckBox Check1;
+    platform::ComboBox Combo3;
+    platform::Label Label1_4;
+    /// The emoticons; Index counts down from 27, as they stand on the screen.
+    std::deque<platform::CommandButton> mBttn1;
+    platform::CommandButton MyMsgBttn;
+    platform::CommandButton MySave;
+
+    void mText1_Change();
+
+    /// Begins a new text: the sender's name alone.
+    void start();
+    /// The same unless the user has written one.
+    void start_if_empty();
+
+    /// Puts the sender's new name where the old one stands.
+    void rename_sender(const platform::Text& before, const platform::Text& now);
+
+    /// The text without the sender's name, trimmed.
+    platform::Text body() const;
+
+    /// Takes a saved text; one that is too long is asked about first.
+    void apply(platform::Text text);
+
+  private:
+    void refuse_excess();
+    void mText1_KeyPress(platform::KeyPressed& key);
+    void switch_personal();
+    /// Inserts by way of the clipboard and so overwrites its content.
+    void insert(const platform::Text& text);
+    void save();
+
+    platform::Platform& platform_;
+    Subject& subject_;
+    Sender& sender_;
+};
+
+}  // namespace compose
