@@ -15,9 +15,9 @@ using platform::TextView;
 
 namespace {
 
-/// A list of up to this many rows is filled whatever the user does meanwhile.
+/// Input of the user does not interrupt the filling of the list before this many rows.
 constexpr std::size_t FILLED_ANYHOW = 200;
-/// More records than this show their progress.
+/// A list of up to this many records is filled without showing progress.
 constexpr int QUICK_LIST = 100;
 
 constexpr int FIRST_COLUMN_NARROWER_BY = 60;
@@ -80,7 +80,7 @@ void frmSendMan::CARD_LIST_FILL(platform::CardRecordset& recordset) {
     if (records > QUICK_LIST) show_progress();
     const auto user = platform_.desktop.watch_input();
     for (; !recordset.end_of_file(); recordset.move_next()) {
-        // Deliberately without a word: who goes on working does not wait for the rest of a long list.
+        // Deliberately silent: a user who goes on working does not wait for the rest of a long list.
         if (ListView2.row_count() > FILLED_ANYHOW && user->input_waits()) break;
         LISTVIEW2_ADD(recordset);
         PBar1.set_progress(ListView2.row_count(), static_cast<std::size_t>(records));

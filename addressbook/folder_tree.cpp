@@ -25,7 +25,7 @@ enum Picture { OPEN_TOP = 1, FOLDER = 2, UNASSIGNED_FOLDER = 3 };
 
 bool is_unassigned(TextView name) { return name == u"미지정" || name == u"미정"; }
 
-/// A folder that waits for its parent's node.
+/// A folder whose parent may have no node yet.
 struct WaitingFolder {
     Text f_idx;
     double p_idx = 0;

@@ -52,7 +52,7 @@ class frmSendMan : public platform::Form {
     // Folders.
     /// Reads the tree anew. Warning: it does not return if a folder's parent is missing (see build_tree).
     void FOLDER_TREE_LOAD();
-    /// Writes how many cards there are behind the name of each folder.
+    /// Writes the number of cards behind the name of each folder.
     void Group_Recount();
     /// The position of the first node with this number as its tag, or -1.
     int T_INDEX(double f_idx) const;
@@ -64,11 +64,11 @@ class frmSendMan : public platform::Form {
     platform::Text ALLDB_SQL2();
 
     // The list.
-    /// Replaces the list's rows by those of the recordset, or by as many of them as the user waits for.
+    /// Replaces the list's rows by those of the recordset; stops early when the user goes on working.
     void CARD_LIST_FILL(platform::CardRecordset& recordset);
     /// Adds the current record.
     void LISTVIEW2_ADD(const platform::CardRecordset& TemTable);
-    /// Evens the columns out.
+    /// Gives all columns the same width.
     void LISTVIEW2HDR_RESET();
     /// Writes the caption: cards in all folders, rows of the list, number of the selected row.
     void PICK_STATUS_SHOW();

@@ -17,7 +17,7 @@ using platform::TextView;
 
 namespace {
 
-/// In twips, until the columns are evened out.
+/// In twips, until LISTVIEW2HDR_RESET.
 constexpr int FIRST_COLUMN_WIDTH = 1000;
 constexpr int COLUMN_WIDTH = 1500;
 

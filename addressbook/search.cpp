@@ -13,7 +13,7 @@ using platform::Text;
 namespace {
 
 constexpr platform::TextView HINT = u"이름 또는 회사";
-/// Grey stands out little from either ground, light or dark, and can be read on both.
+/// A grey that can be read on a light ground and on a dark one.
 constexpr std::uint32_t HINT_COLOUR = 0x808080;
 
 constexpr std::size_t FEWEST_CHARACTERS = 2;
@@ -50,7 +50,7 @@ void frmSendMan::show_hint_when_empty() {
     if (platform::trim(Text1.text()).empty()) show_hint();
 }
 
-/// The hint is text like any other: a click on the button while it shows searches for it.
+/// The hint counts as text: a click on the button while it shows searches for it.
 void frmSendMan::search() {
     if (Text1.text().empty()) {
         if (activated_) Text1.set_focus();
@@ -68,8 +68,8 @@ void frmSendMan::search() {
 
 void frmSendMan::list_all_cards() { list_anew(statements::all_cards(ALLDB_SQL())); }
 
-/// A statement that the database refuses, as one with an apostrophe in it, leaves the list as it is without a
-/// word.
+/// A statement that the database refuses, such as one with an apostrophe in it, leaves the list as it is,
+/// without a box.
 void frmSendMan::list_anew(const Text& statement) {
     platform::ignore_errors([&] {
         const auto recordset = open_recordset(state_, statement);

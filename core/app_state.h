@@ -16,7 +16,7 @@ namespace core {
 /// What the user sees as the program's name.
 inline constexpr platform::TextView APPLICATION_TITLE = u"Cardvale 폰디라 통합메시징 서비스";
 
-/// The service number as long as the carrier has not told another one.
+/// The service number until the carrier has sent another one.
 inline constexpr platform::TextView UNKNOWN_SERVICE_NUMBER = u"03030xxxxxxx";
 
 /// Kinds of service contract (`gServiceType`): the two that the system is for, and one that its users have to
@@ -31,14 +31,13 @@ inline constexpr std::int32_t LAST_USABLE_STATE = 1;
 /// The state of the contract that counts as "not to be used"; also what stands while nobody is logged in.
 inline constexpr std::int32_t SERVICE_STATE_NONE = 3;
 
-/// Who is logged in, and what the carrier is told and tells. The login writes it, the gateway and the
+/// Who is logged in, and what goes to the carrier and comes from it. The login writes it, the gateway and the
 /// service's pages read it.
 struct Session {
     platform::BooleanWord gLoggedIn;
     /// The last login form ended with an accepted login.
     platform::BooleanWord gLoginResult;
-    /// 1 once a login has passed all checks. Nothing here reads it; it stays for whoever looks at a session
-    /// from outside.
+    /// 1 once a login has passed all checks. Written with the other marks of a login and read by nothing.
     std::int16_t gLoginAccepted = 0;
     platform::Text gLoginUserId;
     /// Each send job logs in anew with it.
@@ -61,7 +60,7 @@ struct Session {
     std::int32_t gMoneyField4 = 0;
     std::int32_t gMoneyField5 = 0;
 
-    // Through whom the service is sold, as its pages are told it.
+    // Through whom the service is sold, which its pages ask for.
     platform::Text gPartnerPath;
     platform::Text gPartnerCode;
     platform::Text gPartnerSubCode;
@@ -114,7 +113,7 @@ struct Update {
     platform::BooleanWord gUpdateUmsFlag;
     /// The same for the marker "i".
     platform::BooleanWord gUpdateIFlag;
-    /// Address of the page that tells what is new.
+    /// Address of the page about what is new.
     platform::Text gUpdateNoteFile;
 };
 

@@ -72,7 +72,7 @@ platform::Text read_setting(const platform::Platform& platform, const Setting& s
 /// Whether the value's number is 1, as in "1", "1.0" and "1abc".
 bool setting_is_on(const platform::Platform& platform, const Setting& setting);
 
-/// A failed write is silent.
+/// Writes the line. A failed write is silent.
 void write_setting(platform::Platform& platform, const Setting& setting, platform::TextView value);
 
 }  // namespace core

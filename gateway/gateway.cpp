@@ -17,7 +17,7 @@ namespace {
 
 using Int = std::int32_t;
 
-// The library may call these while it works. They only let it go on: nothing that it tells is of use here.
+// The library may call these while it works. They only let it go on: nothing that it reports is of use here.
 Int GATEWAY_NOTIFY_6(Int, Int, Int, Int, Int, Int) { return 1; }
 Int GATEWAY_NOTIFY_8(Int, Int, Int, Int, Int, Int, Int, Int) { return 1; }
 Int GATEWAY_NOTIFY_11(Int, Int, Int, Int, Int, Int, Int, Int, Int, Int, Int) { return 1; }
@@ -27,8 +27,8 @@ CarrierCallback callback(Function* function) {
     return reinterpret_cast<CarrierCallback>(function);
 }
 
-/// Hands the variables over as bytes of cp949 and takes back what the library left in them: inputs are
-/// rewritten too.
+/// Passes the variables as bytes of cp949 and reads back what the library left in them. It rewrites inputs
+/// too.
 template <std::size_t N, class Call>
 Int with_texts(const std::array<Text*, N>& texts, Call call) {
     std::array<std::string, N> bytes;

@@ -21,7 +21,7 @@ Text frmMyMsgBox::ask_for_category(TextView title, TextView first_line, const Te
          .default_text = name}));
 }
 
-/// Whether no folder has the name; the user is told when one has.
+/// Whether no folder has the name; shows a box when one has.
 bool frmMyMsgBox::is_free_category(const Text& name) {
     if (!platform_.files.folder_exists(core::category_folder(platform_, name))) return true;
     core::warn(platform_.desktop, u"'" + name + u"' 분류명은 이미 존재하고 있습니다.");

@@ -23,7 +23,7 @@ inline constexpr int TEXT_BODY = 3;
 /// edit of the selected one.
 ///
 /// Its handlers stand by subject: lists in listing, texts in text_operations, categories in
-/// category_operations, the way back into the main window in apply.
+/// category_operations.
 class frmMyMsgBox : public platform::Form {
   public:
     /// Takes a text and its title into the draft.
@@ -77,6 +77,8 @@ class frmMyMsgBox : public platform::Form {
     bool take_fields();
     bool is_saved(const platform::Text& category, const platform::Text& title) const;
     void empty_fields();
+    void apply_to_draft();
+    void apply_and_close();
 
     // Categories.
     void rename_category();
@@ -85,10 +87,6 @@ class frmMyMsgBox : public platform::Form {
     platform::Text ask_for_category(platform::TextView title, platform::TextView first_line,
                                     const platform::Text& name);
     bool is_free_category(const platform::Text& name);
-
-    // Apply.
-    void apply_to_draft();
-    void apply_and_close();
 
     /// Runs a handler's work on files and shows the box of an error that ends it.
     template <class Step>

@@ -1,4 +1,4 @@
-// Texts: a new one, the edit of the selected one, its removal.
+// Texts: a new one, the edit of the selected one, its removal, its way into the draft.
 
 #include "core/boxes.h"
 #include "core/paths.h"
@@ -104,6 +104,17 @@ void frmMyMsgBox::remove_text() {
         ListView2.remove_selected_rows();
         empty_fields();
     });
+}
+
+void frmMyMsgBox::apply_to_draft() {
+    if (platform::trim(platform::remove_all(txtText.text(), platform::CRLF)).empty()) return;
+    apply_(txtText.text(), Text1.text());
+    Command5.set_enabled(false);
+}
+
+void frmMyMsgBox::apply_and_close() {
+    if (Command5.enabled()) apply_to_draft();
+    unload();
 }
 
 }  // namespace saved_texts

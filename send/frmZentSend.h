@@ -78,7 +78,7 @@ class frmZentSend : public platform::Form {
     void Form_Close() override;
 
   private:
-    /// Which of its doings a pass over the rows shows.
+    /// Whether a pass writes row status and moves the progress bar.
     struct PassOptions {
         bool leaves_trace;
         bool shows_progress;

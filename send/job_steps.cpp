@@ -27,8 +27,7 @@ constexpr platform::TextView FAILURE_MESSAGE =
 
 }  // namespace
 
-/// Whatever fails on the way ends the job where it is, without a report; rows that are done keep their
-/// status.
+/// An error ends the job where it is, without a report; rows that are done keep their status.
 void frmZentSend::run_job(const CarrierKind* kind, Pauses pauses,
                           const std::function<void(SendJob&)>& send_rows) {
     job_started_ = true;
@@ -96,8 +95,8 @@ void frmZentSend::count(SendJob& job, const Text& result, int recipients) {
     (result == gateway::REGISTERED ? job.success : job.failure) += recipients;
 }
 
-/// Tells the checked rows of the range how it went with them. Who failed stays checked, so that sending again
-/// tries just these.
+/// Writes the status into the checked rows of the range. A row that failed stays checked, so that sending
+/// again tries just these.
 void frmZentSend::write_status(std::size_t first_row, std::size_t end_row, const Text& status) {
     for (std::size_t row = first_row; row < end_row; ++row) {
         if (!RecipientRows.row(row).checked()) continue;

@@ -12,8 +12,7 @@ namespace {
 
 Text cases(int number) { return platform::format_number(number, u"#,##0") + u"건\r\n"; }
 
-/// Deliberately a difference of clock times, wrong for a job that passes midnight: the report tells the time
-/// as it always has.
+/// Deliberately a difference of clock times, wrong for a job that passes midnight: users know the report so.
 Text elapsed(platform::LocalTime started, platform::LocalTime now) {
     const std::chrono::duration<double, std::chrono::days::period> days =
         platform::time_of_day(now) - platform::time_of_day(started);

@@ -9,8 +9,8 @@
 
 namespace send {
 
-/// What the user reads when a job is done. `recipients` is how many there were to register; whoever is
-/// neither a success nor a failure counts as stopped.
+/// What the user reads when a job is done. `recipients` is how many there were to register; those
+/// that are neither a success nor a failure count as stopped.
 platform::Text report_text(const SendJob& job, int recipients, platform::LocalTime now);
 
 /// The window of the report.

@@ -44,7 +44,7 @@ double lead_digits(LocalTime scheduled, LocalTime now) {
 bool schedule_is_possible(const platform::Platform& platform, compose::frmZent& form) {
     if (!form.schedule.Option2.chosen()) return true;
     const double minutes = minimum_lead(platform);
-    // Deliberately without the check for a past time too: whoever switches the lead off may send at once so.
+    // Deliberately without the check for a past time too: a user who switches the lead off may send at once.
     if (minutes == 0) return true;
     form.schedule.DT1[0].set_value(scheduled_moment(form));
     form.schedule.DT1[1].set_value(platform.clock.now());

@@ -53,8 +53,9 @@ void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options
     }
 }
 
-/// Adds the row to the batch when it is to be sent to. Returns whether the batch is to go now; a row that it
-/// has no room for is given back, to be read again behind the submit.
+/// Adds the row to the batch when it is checked and has a number. Returns whether the batch is to be
+/// submitted now. A row that does not fit is not consumed (`current` is decremented) and starts the next
+/// batch.
 bool frmZentSend::gather(Batch& batch, std::size_t& current) const {
     const platform::ListItem& row = RecipientRows.row(current - 1);
     if (!row.checked()) return false;

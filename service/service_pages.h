@@ -27,7 +27,7 @@ platform::Text page_address(const platform::Platform& platform, const core::Sett
 /// Opens the page in the user's own browser; without an address the browser opens empty. A failure is silent.
 void OPEN_BROWSER(platform::Platform& platform, const platform::Text& url);
 
-/// What a page is told of the user, in bytes of cp949: the id and never the password.
+/// What is posted to a page about the user, in bytes of cp949: the id and never the password.
 std::string post_body(const core::AppState& state);
 
 /// Shows a ServicePage to the user who is logged in; an unknown number opens a blank page. Each

@@ -17,13 +17,13 @@ using platform::TextView;
 
 namespace {
 
-/// The most entries of a list that count.
+/// Entries of a list behind this many are ignored.
 constexpr int MOST_FILES = 100;
 
-/// Whether the server answers at all is asked of one page, and its first bytes tell.
+/// A server that sends anything of its page is reached; so much of it is read.
 constexpr std::size_t ANSWER_LOOKED_AT = 1024;
 
-/// A file of the installer's own, which comes and goes: its absence says nothing.
+/// A file that the installer makes and removes: its absence says nothing.
 constexpr TextView TEMPORARY_FILE = u"temp_update.exe";
 
 /// Deliberately only compared and asked for, never opened: what a server writes here may point anywhere.
@@ -91,7 +91,7 @@ void frmUpdate::Form_Unload() {
 void frmUpdate::Form_Close() {
     given_up_ = true;
     if (!running_) return unload();
-    // The tick that waits for one of these closes the window.
+    // check_and_close, which waits for one of these, closes the window.
     Inet1->cancel();
     DownLoad1.Cancel();
 }
@@ -139,7 +139,7 @@ BooleanWord frmUpdate::DOWN_UPDATE_INI() {
     return due;
 }
 
-/// Deliberately looks at nothing that the transfer says: whether there is a list afterwards is what counts.
+/// Deliberately ignores what the transfer reports: whether there is a list afterwards is what counts.
 void frmUpdate::fetch_ini(const Text& address) {
     DownLoad1.set_url(address);
     const Text folder = platform_.files.application_directory() + Text(core::UPDATE_TEMP);

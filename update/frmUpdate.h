@@ -13,9 +13,9 @@
 
 namespace update {
 
-/// Looks, while it asks the user for patience, whether a file of the installation is out of date. What it
-/// found is in `gUpdateServerReached`, `gUpdateAvailable` and the variables beside them. It closes by itself;
-/// closing it earlier gives the check up.
+/// Asks for patience and looks whether a file of the installation is out of date. What it found is in
+/// `gUpdateServerReached`, `gUpdateAvailable` and the variables beside them. It closes by itself; closing it
+/// earlier ends the check.
 class frmUpdate : public platform::Form {
   public:
     frmUpdate(platform::Platform& platform, core::AppState& state);

@@ -23,7 +23,7 @@ void frmUpdateStart::Form_Load() {
     WebBrowser.Navigate(state_.update.gUpdateNoteFile, {}, {});
 }
 
-/// However the form was closed: without a yes the installer finds no note, not even an old one.
+/// Without a yes the installer must find no note, not even an old one, however the form was closed.
 void frmUpdateStart::Form_Unload() {
     if (state_.forms.gDialogConfirmed) return;
     platform::ignore_errors([this] { core::DELETE_FILE(platform_, note_path()); });
@@ -31,7 +31,7 @@ void frmUpdateStart::Form_Unload() {
 
 void frmUpdateStart::start_update() {
     state_.forms.gDialogConfirmed = true;
-    // A note that cannot be written does not keep the update from going on.
+    // The update goes on without the note when it cannot be written.
     platform::ignore_errors(
         [this] { platform_.files.write(note_path(), platform::encode_cp949(RichTextBox1.text())); });
     unload();
