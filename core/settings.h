@@ -37,8 +37,8 @@ inline constexpr Setting LOGIN_PASSWORD{login, u"LOGIN", u"LOGINPW"};
 
 inline constexpr Setting SENDER_NAME{application, u"SET", u"ZentUserNickName"};
 inline constexpr Setting SENDER_NUMBER{application, u"SET", u"ZentUserPhoneID"};
-/// The same line as SENDER_NUMBER, for keys are the same in either case. Whoever writes it first decides how
-/// it is spelled in the file: so when the user leaves the field, as above when the program ends.
+/// The same line as SENDER_NUMBER, for a key is found in either case. It is spelled so when the user leaves
+/// the field and as above when the program ends; the file keeps the spelling that came first.
 inline constexpr Setting SENDER_NUMBER_LEFT{application, u"SET", u"ZENTUserPhoneID"};
 
 /// The menu's check mark for a check at the start. It is kept and never read: no check runs at the start.
