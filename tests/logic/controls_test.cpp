@@ -119,15 +119,6 @@ TEST_F(Choices, AComboTakesRowsItHasAndErrorThreeHundredEightyOtherwise) {
     EXPECT_EQ(log, (Log{"change 셋", "change 넷"}));
 }
 
-TEST_F(Focus, TheOldControlLosesItBeforeTheNewOneGetsIt) {
-    log_focus(first, "first");
-    log_focus(second, "second");
-    first.set_focus();
-    first.set_focus();
-    second.set_focus();
-    EXPECT_EQ(log, (Log{"got first", "lost first", "got second"}));
-}
-
 TEST_F(Focus, AHandlerMaySendItElsewhere) {
     log_focus(second, "second");
     log_focus(third, "third");

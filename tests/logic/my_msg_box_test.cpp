@@ -258,8 +258,6 @@ TEST_F(MyMsgBox, AddsACategoryUnderANameThatIsFree) {
         {u" */ ", nullptr},
         {u"거*래처", u"'거래처' 분류명은 이미 존재하고 있습니다."},
         {u"LPT1", u"오류번호:52\r\n\r\n시스템에서 사용하는 이름"},
-        {u"...", u"오류번호:52\r\n\r\n이름은 마침표로 시작할 수 없습니다."},
-        {u"끝.", u"오류번호:52\r\n\r\n이름은 마침표나 빈칸으로 끝날 수 없습니다."},
     };
     for (const auto& row : rows) {
         desktop.expect_input(
