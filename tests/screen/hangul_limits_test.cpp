@@ -306,34 +306,14 @@ TEST_F(HangulLimits, a_text_message_asks_once_and_neither_loses_nor_doubles_a_sy
          });
 }
 
-TEST_F(HangulLimits, the_answer_about_a_long_text_holds_down_to_80_bytes) {
-    play(TEXT_MESSAGE, {
-                           {"at exactly 80", AT_78,
-                            [](Draft& draft) {
-                                for (const char* syllable : {"한", "글"}) draft.method.compose(syllable, "");
-                                draft.key(Qt::Key_Backspace);
-                                EXPECT_EQ(draft.form.mText1.tag(), u"LONG");
-                                EXPECT_FALSE(draft.form.mHLen3.visible());
-                                draft.method.compose("말", "");
-                            },
-                            "Y", AT_78 + u"한말", u"가나다라한글"},
-                           {"below it is asked again", AT_79,
-                            [](Draft& draft) {
-                                draft.type_han();
-                                draft.key(Qt::Key_Backspace);
-                                EXPECT_EQ(draft.form.mText1.tag(), u"");
-                                draft.type_han();
-                            },
-                            "YN!", AT_79, u"가나다라a한"},
-                           {"backspace above takes jamo and syllables without a word", AT_79,
-                            [](Draft& draft) {
-                                for (const char* syllable : {"한", "글"}) draft.method.compose(syllable, "");
-                                for (const char* step : {"ㅁ", "마", "ㅁ", ""})
-                                    draft.method.compose("", step);
-                                draft.key(Qt::Key_Backspace);
-                            },
-                            "Y", AT_79 + u"한", u"가나다라a한"},
-                       });
+TEST_F(HangulLimits, backspace_in_a_long_text_takes_letters_and_syllables_without_a_word) {
+    play(TEXT_MESSAGE, {{"above the limit", AT_79,
+                         [](Draft& draft) {
+                             for (const char* syllable : {"한", "글"}) draft.method.compose(syllable, "");
+                             for (const char* step : {"ㅁ", "마", "ㅁ", ""}) draft.method.compose("", step);
+                             draft.key(Qt::Key_Backspace);
+                         },
+                         "Y", AT_79 + u"한", u"가나다라a한"}});
 }
 
 TEST_F(HangulLimits, a_placeholder_goes_behind_the_unfinished_syllable_of_an_unlimited_text) {
