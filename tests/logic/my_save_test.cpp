@@ -38,6 +38,7 @@ TEST_F(SavingAText, WritesTheBodyWithoutTheSendersNameUnderTheSubject) {
     };
     for (const auto& row : rows) {
         files.folders.clear();
+        files.files.clear();
         form.txtUserName.set_text(u" 홍길동  ");
         desktop.expect_box(u"내 모음함에 '" + Text(row.title) + u"' 제목으로 등록 되었습니다.");
         save(row.subject, row.text);

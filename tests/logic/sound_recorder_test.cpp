@@ -21,7 +21,10 @@ Samples seconds(double count, std::int16_t sample = 1000) {
 }
 
 struct Recording : testing::Test {
-    Recording() { control.open(); }
+    Recording() {
+        files.folders = {u"c:\\temp", u"z:\\home"};
+        control.open();
+    }
 
     void record(double count, std::int16_t sample = 1000) {
         control.record();

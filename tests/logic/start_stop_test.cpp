@@ -21,7 +21,7 @@ struct Entry : testing::Test, TestPlatform {
         });
     }
     int shown = 0;
-    std::set<Text> shown_with_folders;
+    MemoryFiles::Paths shown_with_folders;
 };
 
 TEST_F(Entry, TheFirstInstancePreparesFoldersAndStateAndThenShowsTheMainWindow) {
@@ -29,7 +29,7 @@ TEST_F(Entry, TheFirstInstancePreparesFoldersAndStateAndThenShowsTheMainWindow) 
     EXPECT_TRUE(enter());
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(shown_with_folders,
-              (std::set<Text>{u"c:\\temp", u"z:\\app\\내모음함", u"z:\\app\\내모음함\\내모음함"}));
+              (MemoryFiles::Paths{u"c:\\temp", u"z:\\app\\내모음함", u"z:\\app\\내모음함\\내모음함"}));
     EXPECT_EQ(utf8(state.gInfoServiceNumber), "03030xxxxxxx") << "what the first bind goes out with";
     EXPECT_EQ(state.gServiceState, 3);
     EXPECT_EQ(utf8(state.gSavedSenderName), "Hong");
@@ -272,8 +272,8 @@ TEST_F(MainWindowLife, StoppingClearsAwayTheFilesOfTheSessionAndNothingElse) {
     form.unload();
     files.files.erase(app_ini);
     files.files.erase(login_ini);
-    EXPECT_EQ(files.files, (std::map<Text, std::string>{{u"z:\\app\\temp\\other.txt", "x"},
-                                                        {u"z:\\app\\내모음함\\a.txt", "x"}}));
+    EXPECT_EQ(files.files, (MemoryFiles::Contents{{u"z:\\app\\temp\\other.txt", "x"},
+                                                       {u"z:\\app\\내모음함\\a.txt", "x"}}));
     EXPECT_FALSE(files.folders.contains(u"z:\\app\\update_temp"));
 }
 
