@@ -8,17 +8,17 @@ namespace compose {
 /// has filled is disabled.
 struct MainDoors {
     /// Checks the draft and sends it.
-    std::function<void()> send;
+    std::function<void()> send = {};
     /// Picks recipients out of the card database.
-    std::function<void()> pick_recipients;
+    std::function<void()> pick_recipients = {};
     /// Takes in what the card manager hands over in files.
-    std::function<void()> NEW_SENDMAN_LOAD;
+    std::function<void()> NEW_SENDMAN_LOAD = {};
     /// Opens the box of saved texts.
-    std::function<void()> message_box;
+    std::function<void()> message_box = {};
     /// Looks for an update and offers it.
-    std::function<void()> update_check;
+    std::function<void()> update_check = {};
     /// The same while the program starts; false when the server was not reached.
-    std::function<bool()> update_check_at_start;
+    std::function<bool()> update_check_at_start = {};
 };
 
 }  // namespace compose

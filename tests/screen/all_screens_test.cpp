@@ -8,13 +8,12 @@
 #include "gateway/frmWeb.h"
 #include "gateway/frmZentLogin.h"
 #include "msgbox/frmMyMsgBox.h"
-#include "platform/qt/qt_desktop.h"
 #include "platform/qt/screen_faults.h"
 #include "platform/qt/text_conversion.h"
 #include "send/frmSBox.h"
 #include "send/frmSendEndBox.h"
 #include "send/frmZentSend.h"
-#include "tests/support/test_platform.h"
+#include "tests/support/windows_on_doubles.h"
 #include "update/frmUpdate.h"
 #include "update/frmUpdateStart.h"
 
@@ -34,30 +33,26 @@ namespace {
 
 using platform::Form;
 
-/// The whole system over doubles, but with real windows.
-struct System {
-    TestPlatform machine;
-    platform::qt::Screens screens = platform::qt::program_screens();
-    platform::qt::QtDesktop desktop{screens, machine.files};
-    platform::Platform platform = machine.on(desktop);
-    compose::frmZent main{platform, machine.state, compose::MainDoors{}};
+/// The main window and whatever opens above it.
+struct System : tests::WindowsOnDoubles {
+    compose::frmZent main{platform, state, {}};
 
     std::vector<std::unique_ptr<Form>> dialogs() {
         std::vector<std::unique_ptr<Form>> forms;
-        forms.push_back(std::make_unique<gateway::frmZentLogin>(platform, machine.state, main.Timer1));
-        forms.push_back(std::make_unique<gateway::frmAutoLogin>(platform, machine.state));
+        forms.push_back(std::make_unique<gateway::frmZentLogin>(platform, state, main.Timer1));
+        forms.push_back(std::make_unique<gateway::frmAutoLogin>(platform, state));
         forms.push_back(std::make_unique<gateway::frmAbout>(platform));
         forms.push_back(std::make_unique<gateway::frmPondiraReg>(platform));
-        forms.push_back(std::make_unique<gateway::frmWeb>(platform, machine.state));
+        forms.push_back(std::make_unique<gateway::frmWeb>(platform, state));
         forms.push_back(std::make_unique<compose::frmSet1>(platform));
         forms.push_back(std::make_unique<compose::frmXTip>(platform));
-        forms.push_back(std::make_unique<send::frmSBox>(platform, machine.state));
-        forms.push_back(std::make_unique<send::frmZentSend>(platform, machine.state, main));
+        forms.push_back(std::make_unique<send::frmSBox>(platform, state));
+        forms.push_back(std::make_unique<send::frmZentSend>(platform, state, main));
         forms.push_back(std::make_unique<send::frmSendEndBox>(platform, main));
-        forms.push_back(std::make_unique<addressbook::frmSendMan>(platform, machine.state, main));
+        forms.push_back(std::make_unique<addressbook::frmSendMan>(platform, state, main));
         forms.push_back(std::make_unique<msgbox::frmMyMsgBox>(platform, main));
-        forms.push_back(std::make_unique<update::frmUpdate>(platform, machine.state));
-        forms.push_back(std::make_unique<update::frmUpdateStart>(platform, machine.state));
+        forms.push_back(std::make_unique<update::frmUpdate>(platform, state));
+        forms.push_back(std::make_unique<update::frmUpdateStart>(platform, state));
         return forms;
     }
 };

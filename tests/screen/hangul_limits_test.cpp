@@ -7,8 +7,8 @@
 #include "send/send_check.h"
 #include "tests/screen/program_fixture.h"
 #include "tests/screen/screen_fixture.h"
-#include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
+#include "tests/support/windows_on_doubles.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -82,8 +82,8 @@ class InputMethod : public QObject {
     QEvent* own_ = nullptr;
 };
 
-/// The main window with one of its texts in the works. Of what is around it the desktop alone is real.
-struct Draft {
+/// The main window with one of its texts in the works.
+struct Draft : WindowsOnDoubles {
     Draft(int kind, Manner manner) : method(manner), kind(kind) {
         state.gLoggedIn = true;
         form.show();
@@ -127,22 +127,11 @@ struct Draft {
     }
 
     BoxPlayer boxes;
-    platform::qt::Screens screens = platform::qt::program_screens();
     HastyClock clock;
-    TestPlatform machine;
-    platform::qt::QtDesktop desktop{screens, machine.files};
-    platform::Platform platform = with(machine.platform, {.desktop = &desktop, .clock = &clock});
-    core::AppState& state = machine.state;
+    platform::Platform hasty = with(platform, {.clock = &clock});
     InputMethod method;
     int kind;
-    compose::frmZent form{platform,
-                          state,
-                          {.send = [this] { send::Command1_Click(platform, state, form); },
-                           .pick_recipients = {},
-                           .NEW_SENDMAN_LOAD = {},
-                           .message_box = {},
-                           .update_check = {},
-                           .update_check_at_start = {}}};
+    compose::frmZent form{hasty, state, {.send = [this] { send::Command1_Click(hasty, state, form); }}};
 };
 
 /// A line end counts two bytes, and there are none in the subject.

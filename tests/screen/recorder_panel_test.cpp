@@ -2,7 +2,7 @@
 
 #include "compose/main_form.h"
 #include "tests/screen/screen_fixture.h"
-#include "tests/support/test_platform.h"
+#include "tests/support/windows_on_doubles.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -14,7 +14,7 @@ namespace {
 using platform::Samples;
 using platform::SAMPLES_A_SECOND;
 
-struct RecorderPanel : tests::DeskTest {
+struct RecorderPanel : tests::DeskTest, tests::WindowsOnDoubles {
     RecorderPanel() {
         form.show();
         settle();
@@ -35,11 +35,7 @@ struct RecorderPanel : tests::DeskTest {
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
 
-    TestPlatform machine;
-    platform::qt::Screens screens = platform::qt::program_screens();
-    platform::qt::QtDesktop desktop{screens, machine.files};
-    platform::Platform platform = machine.on(desktop);
-    compose::frmZent form{platform, machine.state, compose::MainDoors{}};
+    compose::frmZent form{platform, state, {}};
 };
 
 TEST_F(RecorderPanel, LooksForTheMicrophoneOnceTheUserSeesIt) {

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "gateway/frmWeb.h"
-#include "platform/qt/qt_desktop.h"
-#include "tests/support/test_platform.h"
+#include "tests/support/windows_on_doubles.h"
 #include "tests/web/loopback_server.h"
 
 #include <QTest>
@@ -18,13 +17,9 @@ template <class Condition>
     return QTest::qWaitFor(condition, FOREVER);
 }
 
-/// The program's browser form with the real engine, on a machine of doubles.
-struct WebForm {
-    TestPlatform machine;
-    platform::qt::Screens screens = platform::qt::program_screens();
-    platform::qt::QtDesktop desktop{screens, machine.files};
-    platform::Platform platform = machine.on(desktop);
-    gateway::frmWeb form{platform, machine.state};
+/// The program's browser form with the real engine.
+struct WebForm : WindowsOnDoubles {
+    gateway::frmWeb form{platform, state};
 
     ~WebForm();
 
