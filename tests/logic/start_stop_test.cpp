@@ -273,7 +273,7 @@ TEST_F(MainWindowLife, StoppingClearsAwayTheFilesOfTheSessionAndNothingElse) {
     files.files.erase(app_ini);
     files.files.erase(login_ini);
     EXPECT_EQ(files.files, (MemoryFiles::Contents{{u"z:\\app\\temp\\other.txt", "x"},
-                                                       {u"z:\\app\\내모음함\\a.txt", "x"}}));
+                                                  {u"z:\\app\\내모음함\\a.txt", "x"}}));
     EXPECT_FALSE(files.folders.contains(u"z:\\app\\update_temp"));
 }
 

@@ -99,8 +99,7 @@ TEST(CardStatements, WildCardsInASearchAreTheDatabases) {
     const auto connection = disk.connect();
     const auto companies = [&](const Text& pattern) {
         std::string joined;
-        for (const auto& row : rows_of(*connection, cards_like(pattern), {u"CompanyName"}))
-            joined += row;
+        for (const auto& row : rows_of(*connection, cards_like(pattern), {u"CompanyName"})) joined += row;
         return joined;
     };
     const std::string every_listed_one = companies(u"%");
@@ -117,11 +116,10 @@ TEST(CardStatements, OnlyReadAndAreRefusedWhenBroken) {
     const auto connection = disk.connect();
     for (const Text& broken :
          {cards_like(u"O'Brien%"), cards_like(u"[%"), statements::matching_cards(u"", u""),
-          statements::all_cards(u"f_idx= or f_idx=2"), Text(u""),
-          Text(u"select nothing from tbl_folder"), Text(u"select * from tbl_cards"),
-          Text(u"select 1; select 2"), Text(u"select ?"), Text(u"delete from tbl_folder"),
-          Text(u"drop table tbl_folder"), Text(u"pragma encoding"), Text(u"attach ':memory:' as x"),
-          Text(u"select randomblob(9)"),
+          statements::all_cards(u"f_idx= or f_idx=2"), Text(u""), Text(u"select nothing from tbl_folder"),
+          Text(u"select * from tbl_cards"), Text(u"select 1; select 2"), Text(u"select ?"),
+          Text(u"delete from tbl_folder"), Text(u"drop table tbl_folder"), Text(u"pragma encoding"),
+          Text(u"attach ':memory:' as x"), Text(u"select randomblob(9)"),
           Text(u"select * from sqlite_master a, pragma_table_info('tbl_folder')"),
           Text(u"with recursive x(n) as (select 1 union all select n+1 from x) select n from x")}) {
         EXPECT_EQ(tests::error_number([&] { connection->open_recordset(broken); }), -2147217900)
@@ -184,8 +182,7 @@ TEST(CardStatements, KeepTheFilesOrderAmongCardsOfOnePlace) {
     };
     EXPECT_EQ(names(statements::cards_of_folder(u"9")), utf8(every_second));
     EXPECT_EQ(names(statements::all_cards(u"")), utf8(all));
-    EXPECT_EQ(names(statements::all_cards(
-                  u"f_idx=9 or f_idx=8 or f_idx=7 or f_idx=6 or f_idx=5 or f_idx=4")),
+    EXPECT_EQ(names(statements::all_cards(u"f_idx=9 or f_idx=8 or f_idx=7 or f_idx=6 or f_idx=5 or f_idx=4")),
               utf8(all));
     EXPECT_EQ(names(cards_like(u"%", u"f_idx=9")), utf8(every_second));
 }

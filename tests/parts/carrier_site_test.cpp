@@ -299,7 +299,8 @@ TEST_F(CarrierSite, AnswersHostileRequestsAndGoesOn) {
         site.leave_after(start);
     }
     for (const auto& request : requests) {
-        EXPECT_TRUE(site.status_for(request.bytes).starts_with(request.answer)) << request.bytes.substr(0, 80);
+        EXPECT_TRUE(site.status_for(request.bytes).starts_with(request.answer))
+            << request.bytes.substr(0, 80);
         EXPECT_EQ(site.get("/").status, 200) << "after " << request.bytes.substr(0, 80);
     }
 }

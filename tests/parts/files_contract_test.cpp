@@ -107,7 +107,8 @@ TEST_P(FilesContract, AFileExistsByItsNameOrAPattern) {
 
 TEST_P(FilesContract, AFolderIsListedInOrderWithoutWhatLeadsElsewhere) {
     files.make_folder(in(u"box"));
-    for (const char16_t* name : {u"b.TXT", u"A.txt", u"가.txt", u"d.txtx"}) files.write(in(u"box\\") + name, "");
+    for (const char16_t* name : {u"b.TXT", u"A.txt", u"가.txt", u"d.txtx"})
+        files.write(in(u"box\\") + name, "");
     for (const char16_t* name : {u"나", u"C.txt", u"c.txt\\inner"}) files.make_folder(in(u"box\\") + name);
     place->link_folder(in(u"box\\다"));
     EXPECT_EQ(files_in(u"box", u"*.txt"), (Strings{"A.txt", "b.TXT", "가.txt"}));

@@ -128,7 +128,8 @@ TEST_F(PickerCards, ASearchFindsNamesAndCompaniesOutsideTheTrashInEveryMode) {
                 for (std::size_t mode = 0; mode < std::size(modes); ++mode) {
                     const auto matches = [&](const CardTable::Row& row, platform::TextView column) {
                         const auto& value = written.cards.at(row, column);
-                        return value && modes[mode](platform::lower_case(*value), platform::lower_case(typed));
+                        return value &&
+                               modes[mode](platform::lower_case(*value), platform::lower_case(typed));
                     };
                     picker.Combo4.set_list_index(static_cast<int>(mode));
                     picker.Text1.set_text(typed);
@@ -136,7 +137,8 @@ TEST_F(PickerCards, ASearchFindsNamesAndCompaniesOutsideTheTrashInEveryMode) {
                     EXPECT_EQ(names(picker), written.names([&](const auto& row) {
                         return written.shown.contains(written.cards.number(row, u"f_idx")) &&
                                (matches(row, u"FullName") || matches(row, u"CompanyName"));
-                    })) << utf8(typed) << " in mode " << mode;
+                    })) << utf8(typed)
+                        << " in mode " << mode;
                     found += names(picker).size();
                 }
             }

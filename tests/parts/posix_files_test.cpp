@@ -84,7 +84,7 @@ TEST_F(PosixFilesTest, WhatIsHiddenOrNoNormalFileDoesNotExist) {
     ::mkfifo((application / "box/pipe.snd").c_str(), 0600);
     const std::vector<std::pair<Text, bool>> cases = {
         {u"box\\.hidden.txt", false}, {u"box\\pipe.snd", false}, {u"box\\*hidden*", false},
-        {u"bare\\b*.*", false},       {u"bare\\*.*", true},       {u"a/b", false},
+        {u"bare\\b*.*", false},       {u"bare\\*.*", true},      {u"a/b", false},
     };
     for (const auto& [path, exists] : cases) EXPECT_EQ(files.file_exists(path), exists) << to_utf8(path);
     EXPECT_FALSE(files.folder_exists(u"d:\\"));
