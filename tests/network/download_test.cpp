@@ -4,10 +4,10 @@
 
 #include "platform/qt/network/qt_internet.h"
 #include "tests/network/event_clock.h"
-#include "tests/network/secure_server.h"
 #include "tests/support/http_server.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/other_ports.h"
+#include "tests/support/secure_server.h"
 #include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
 

@@ -1,8 +1,8 @@
 #include "platform/error.h"
 #include "platform/qt/network/qt_internet.h"
 #include "tests/network/event_clock.h"
-#include "tests/network/secure_server.h"
 #include "tests/support/http_server.h"
+#include "tests/support/secure_server.h"
 #include "tests/support/utf8.h"
 
 #include <QTimer>

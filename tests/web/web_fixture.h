@@ -2,7 +2,7 @@
 
 #include "gateway/frmWeb.h"
 #include "tests/support/windows_on_doubles.h"
-#include "tests/web/loopback_server.h"
+#include "tests/web/page_server.h"
 
 #include <QTest>
 #include <QWebEngineView>
