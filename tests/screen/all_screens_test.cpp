@@ -149,7 +149,7 @@ void expect_pictures(const QWidget& window) {
     for (const auto* action : window.findChildren<QAction*>()) expect_picture(*action, action->icon());
 }
 
-TEST(AllScreens, have_a_widget_for_every_control_and_a_control_for_every_widget) {
+TEST(AllScreens, HaveAWidgetForEveryControlAndAControlForEveryWidget) {
     System system;
     auto forms = system.dialogs();
     std::vector<Form*> all{&system.main};
@@ -162,7 +162,7 @@ TEST(AllScreens, have_a_widget_for_every_control_and_a_control_for_every_widget)
     }
 }
 
-TEST(AllScreens, show_every_dialog_whole) {
+TEST(AllScreens, ShowEveryDialogWhole) {
     System system;
     system.main.load();
     for (const auto& form : system.dialogs()) {
@@ -177,7 +177,7 @@ TEST(AllScreens, show_every_dialog_whole) {
     settle();
 }
 
-TEST(AllScreens, show_the_main_window_whole_at_its_smallest) {
+TEST(AllScreens, ShowTheMainWindowWholeAtItsSmallest) {
     System system;
     compose::frmZent& form = system.main;
     form.show();
@@ -206,7 +206,7 @@ TEST(AllScreens, show_the_main_window_whole_at_its_smallest) {
     settle();
 }
 
-TEST(AllScreens, have_the_emoticons_as_one_stop_in_which_arrows_move) {
+TEST(AllScreens, HaveTheEmoticonsAsOneStopInWhichArrowsMove) {
     System system;
     system.main.show();
     system.main.TabStrip1.select(compose::TEXT_MESSAGE);
@@ -230,7 +230,7 @@ TEST(AllScreens, have_the_emoticons_as_one_stop_in_which_arrows_move) {
     settle();
 }
 
-TEST(AllScreens, have_a_picture_of_its_own_for_every_kind_of_document) {
+TEST(AllScreens, HaveAPictureOfItsOwnForEveryKindOfDocument) {
     System system;
     compose::frmZent& form = system.main;
     form.show();

@@ -271,7 +271,7 @@ void click_subject_of_its_own(Draft& draft) {
     click_subject(draft);
 }
 
-TEST_F(HangulLimits, a_text_message_asks_once_and_neither_loses_nor_doubles_a_syllable) {
+TEST_F(HangulLimits, ATextMessageAsksOnceAndNeitherLosesNorDoublesASyllable) {
     play(TEXT_MESSAGE,
          {
              {"to exactly 80", AT_78, han, "", AT_78 + u"한", u"가나다라한"},
@@ -295,7 +295,7 @@ TEST_F(HangulLimits, a_text_message_asks_once_and_neither_loses_nor_doubles_a_sy
          });
 }
 
-TEST_F(HangulLimits, backspace_in_a_long_text_takes_letters_and_syllables_without_a_word) {
+TEST_F(HangulLimits, BackspaceInALongTextTakesLettersAndSyllablesWithoutAWord) {
     play(TEXT_MESSAGE, {{"above the limit", AT_79,
                          [](Draft& draft) {
                              for (const char* syllable : {"한", "글"}) draft.method.compose(syllable, "");
@@ -305,7 +305,7 @@ TEST_F(HangulLimits, backspace_in_a_long_text_takes_letters_and_syllables_withou
                          "Y", AT_79 + u"한", u"가나다라a한"}});
 }
 
-TEST_F(HangulLimits, a_placeholder_goes_behind_the_unfinished_syllable_of_an_unlimited_text) {
+TEST_F(HangulLimits, APlaceholderGoesBehindTheUnfinishedSyllableOfAnUnlimitedText) {
     play(TEXT_MESSAGE, {{"chosen by the mouse", AT_79,
                          [](Draft& draft) {
                              draft.form.Check1.set_checked(true);
@@ -319,7 +319,7 @@ TEST_F(HangulLimits, a_placeholder_goes_behind_the_unfinished_syllable_of_an_unl
                          "", AT_79 + u"한{이름}", u"가나다라a한"}});
 }
 
-TEST_F(HangulLimits, a_plus_message_warns_and_is_cut) {
+TEST_F(HangulLimits, APlusMessageWarnsAndIsCut) {
     play(TEXT_PLUS,
          {
              {"to exactly 80", AT_78, han, "", AT_78 + u"한", u"가나다라한"},
@@ -332,7 +332,7 @@ TEST_F(HangulLimits, a_plus_message_warns_and_is_cut) {
          });
 }
 
-TEST_F(HangulLimits, a_click_into_the_subject_ends_the_syllable_first) {
+TEST_F(HangulLimits, AClickIntoTheSubjectEndsTheSyllableFirst) {
     const std::vector<Case> both{
         {"below", AT_74, click_subject, "", AT_74 + u"한", u"가나한"},
         {"to exactly 80", AT_78, click_subject, "", AT_78 + u"한", u"가나다라한"},
@@ -344,7 +344,7 @@ TEST_F(HangulLimits, a_click_into_the_subject_ends_the_syllable_first) {
     play(TEXT_PLUS, {{"over", AT_79, click_subject, "!", AT_79, u"가나다라a"}});
 }
 
-TEST_F(HangulLimits, a_key_that_comes_while_the_question_is_open_opens_no_second_box) {
+TEST_F(HangulLimits, AKeyThatComesWhileTheQuestionIsOpenOpensNoSecondBox) {
     const auto end_by_period = [](Draft& draft) {
         auto& edit = find<platform::qt::MessageEdit>("mText1");
         draft.boxes.meanwhile = [&] {
@@ -358,7 +358,7 @@ TEST_F(HangulLimits, a_key_that_comes_while_the_question_is_open_opens_no_second
                        });
 }
 
-TEST_F(HangulLimits, the_rest_of_a_shortcut_does_not_answer_the_question) {
+TEST_F(HangulLimits, TheRestOfAShortcutDoesNotAnswerTheQuestion) {
     const auto hold_ctrl = [](Draft& draft) {
         draft.boxes.meanwhile = [] {
             const auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
@@ -372,7 +372,7 @@ TEST_F(HangulLimits, the_rest_of_a_shortcut_does_not_answer_the_question) {
     play(TEXT_MESSAGE, {{"no", AT_79, hold_ctrl, "N!", AT_79, u"가나다라a"}});
 }
 
-TEST_F(HangulLimits, another_kind_begins_its_text_whatever_was_unfinished) {
+TEST_F(HangulLimits, AnotherKindBeginsItsTextWhateverWasUnfinished) {
     for (const Manner manner : {Manner::silent, Manner::commits_again}) {
         for (const std::string boxes : {"Y", "N!"}) {
             SCOPED_TRACE(boxes);
@@ -435,7 +435,7 @@ class HangulSending : public HangulLimits {
     }
 };
 
-TEST_F(HangulSending, what_goes_is_the_text_with_the_syllable) {
+TEST_F(HangulSending, WhatGoesIsTheTextWithTheSyllable) {
     struct Sent {
         int kind;
         Text before;

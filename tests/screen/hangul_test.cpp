@@ -29,7 +29,7 @@ class HangulTest : public ScreenTest {
     std::function<void()> on_change = [] {};
 };
 
-TEST_F(HangulTest, only_committed_syllables_are_text_and_each_is_one_change) {
+TEST_F(HangulTest, OnlyCommittedSyllablesAreTextAndEachIsOneChange) {
     compose("", "ㅎ");
     compose("", "하");
     compose("", "한");
@@ -43,7 +43,7 @@ TEST_F(HangulTest, only_committed_syllables_are_text_and_each_is_one_change) {
     EXPECT_EQ(form.mText1.selection_start(), 2u);
 }
 
-TEST_F(HangulTest, after_a_cut_the_next_syllable_starts_anew) {
+TEST_F(HangulTest, AfterACutTheNextSyllableStartsAnew) {
     on_change = [this] {
         if (form.mText1.text().size() <= 2) return;
         form.mText1.set_text(form.mText1.text().substr(0, 2));
@@ -61,7 +61,7 @@ TEST_F(HangulTest, after_a_cut_the_next_syllable_starts_anew) {
     EXPECT_EQ(shown(), "가ㄹ");
 }
 
-TEST_F(HangulTest, what_is_pressed_in_mid_composition_acts_once_on_the_finished_text) {
+TEST_F(HangulTest, WhatIsPressedInMidCompositionActsOnceOnTheFinishedText) {
     std::vector<Text> seen;
     const auto note = [&] { seen.push_back(form.mText1.text()); };
     form.Command1.Click.connect(note);
@@ -102,7 +102,7 @@ TEST_F(HangulTest, what_is_pressed_in_mid_composition_acts_once_on_the_finished_
     }
 }
 
-TEST_F(HangulTest, an_input_method_that_commits_late_counts_as_an_edit_after_the_handlers) {
+TEST_F(HangulTest, AnInputMethodThatCommitsLateCountsAsAnEditAfterTheHandlers) {
     form.mText1.set_text(u"가");
     form.mText1.set_caret_to_end();
     changes.clear();
@@ -132,7 +132,7 @@ TEST_F(HangulTest, an_input_method_that_commits_late_counts_as_an_edit_after_the
     EXPECT_EQ(shown(), "새");
 }
 
-TEST_F(HangulTest, setting_another_text_in_mid_composition_ends_it) {
+TEST_F(HangulTest, SettingAnotherTextInMidCompositionEndsIt) {
     compose("가", "ㄴ");
     form.mText1.set_text(u"다른 글");
     compose("ㄴ", "");
@@ -144,7 +144,7 @@ TEST_F(HangulTest, setting_another_text_in_mid_composition_ends_it) {
     EXPECT_EQ(shown(), "다다른 글");
 }
 
-TEST_F(HangulTest, a_click_into_the_field_keeps_the_syllable) {
+TEST_F(HangulTest, AClickIntoTheFieldKeepsTheSyllable) {
     form.mText1.set_text(u"가나");
     form.mText1.set_caret_to_end();
     compose("", "다");
@@ -160,7 +160,7 @@ TEST_F(HangulTest, a_click_into_the_field_keeps_the_syllable) {
     EXPECT_EQ(form.HText1.text(), u"한");
 }
 
-TEST_F(HangulTest, one_line_fields_and_editable_boxes_follow_the_same_order) {
+TEST_F(HangulTest, OneLineFieldsAndEditableBoxesFollowTheSameOrder) {
     form.HText1.set_focus();
     std::vector<Text> texts;
     form.HText1.Change.connect([&] {
