@@ -96,7 +96,7 @@ int main(int argc, char** argv) {
     const QApplication qt(argc, argv);
     platform::qt::Screens screens;
     screens.add<ListScreen, QDialog>(u"ListForm");
-    MemoryFiles files;
+    tests::MemoryFiles files;
     platform::qt::QtDesktop desktop(screens, files);
     ListForm form(desktop);
     for (int row = 0; row < ROWS; ++row) {

@@ -87,7 +87,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication qt(argc, argv);
     tests::FilesOnDisk disk;
-    TestPlatform machine;
+    tests::TestPlatform machine;
     const auto screens = platform::qt::program_screens();
     WatchedDesktop desktop(screens, disk.files);
     platform::Platform platform = tests::with(machine.platform, {.desktop = &desktop, .files = &disk.files});

@@ -33,8 +33,8 @@ struct Controls : testing::Test, Form {
         control.LostFocus.connect([this, name] { log.push_back("lost " + name); });
     }
 
-    VirtualClock clock;
-    ScriptedDesktop desktop_double{clock};
+    tests::VirtualClock clock;
+    tests::ScriptedDesktop desktop_double{clock};
     Log log;
     bool unloads_while_loading = false;
 

@@ -17,7 +17,7 @@ using platform::Text;
 using tests::utf8;
 using Texts = std::vector<std::string>;
 
-struct Wrappers : testing::Test, TestPlatform {
+struct Wrappers : testing::Test, tests::TestPlatform {
     Wrappers() {
         carrier.scribbles = true;
         carrier.at_call = [this] { pointer_meanwhile = desktop.pointer; };

@@ -18,8 +18,8 @@ using Names = std::vector<std::string>;
 using Order = ListView::SortOrder;
 
 struct Lists : testing::Test {
-    VirtualClock clock;
-    ScriptedDesktop desktop{clock};
+    tests::VirtualClock clock;
+    tests::ScriptedDesktop desktop{clock};
     struct Window : Form {
         using Form::Form;
     } window{desktop, u"window"};

@@ -400,7 +400,7 @@ TEST_F(MyMsgBox, EveryShapeOfTextComesBackByteByByte) {
 
 /// The program is killed at each change of the disk in turn, in each operation.
 TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited) {
-    const MemoryFiles::Contents all = {
+    const tests::MemoryFiles::Contents all = {
         {path(FIRST, u"가"), "1"}, {path(u"분류", u"나"), "2"}, {path(u"분류", u"다"), "3"}};
     const struct {
         const char* what;
@@ -451,7 +451,7 @@ TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited)
             try {
                 operation.act();
                 finished = true;
-            } catch (const MemoryFiles::Killed&) {
+            } catch (const tests::MemoryFiles::Killed&) {
                 // The next start finds what is left.
             }
             files.changes_until_kill.reset();

@@ -303,7 +303,9 @@ TEST_F(Picker, AStatementThatTheDatabaseRefusesLeavesTheListWithoutAWord) {
     find_cards(2);
     pick(TEXT, [&](frmSendMan& picker) {
         const auto answer = cards.answer;
-        cards.answer = [](const Text&) -> ScriptedRows { throw RuntimeError(ErrorNumber::broken_statement); };
+        cards.answer = [](const Text&) -> tests::ScriptedRows {
+            throw RuntimeError(ErrorNumber::broken_statement);
+        };
         search(picker, u"O'Brien");
         click(picker, 2);
         picker.Command5.Click.raise();

@@ -8,7 +8,7 @@ using namespace platform;
 using tests::Sending;
 using tests::utf8;
 using Lines = std::vector<std::string>;
-using Registration = RecordingCarrier::Registration;
+using Registration = tests::RecordingCarrier::Registration;
 
 Text batch_of(const Registration& r) {
     return r.s_subject + u" " + decimal(r.s_dest_addr_count) + u" " +

@@ -8,7 +8,7 @@ using namespace platform;
 using tests::Sending;
 using tests::utf8;
 using Lines = std::vector<std::string>;
-using Registration = RecordingCarrier::Registration;
+using Registration = tests::RecordingCarrier::Registration;
 
 Text content(const Registration& r) { return r.s_sms_content; }
 Text schedule(const Registration& r) { return r.s_schedule_time; }

@@ -8,7 +8,7 @@ using namespace platform;
 using tests::Sending;
 using tests::utf8;
 using Lines = std::vector<std::string>;
-using Registration = RecordingCarrier::Registration;
+using Registration = tests::RecordingCarrier::Registration;
 
 struct Personal : Sending {
     explicit Personal(const Text& text) {

@@ -13,7 +13,7 @@ using namespace platform;
 using tests::utf8;
 using Forms = std::vector<Text>;
 
-struct Entry : testing::Test, TestPlatform {
+struct Entry : testing::Test, tests::TestPlatform {
     bool enter() {
         return core::entry_routine(platform, state, [this] {
             shown_with_folders = files.folders;
@@ -21,7 +21,7 @@ struct Entry : testing::Test, TestPlatform {
         });
     }
     int shown = 0;
-    MemoryFiles::Paths shown_with_folders;
+    tests::MemoryFiles::Paths shown_with_folders;
 };
 
 TEST_F(Entry, TheFirstInstancePreparesFoldersAndStateAndThenShowsTheMainWindow) {
@@ -29,7 +29,7 @@ TEST_F(Entry, TheFirstInstancePreparesFoldersAndStateAndThenShowsTheMainWindow) 
     EXPECT_TRUE(enter());
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(shown_with_folders,
-              (MemoryFiles::Paths{u"c:\\temp", u"z:\\app\\내모음함", u"z:\\app\\내모음함\\내모음함"}));
+              (tests::MemoryFiles::Paths{u"c:\\temp", u"z:\\app\\내모음함", u"z:\\app\\내모음함\\내모음함"}));
     EXPECT_EQ(utf8(state.gInfoServiceNumber), "03030xxxxxxx") << "what the first bind goes out with";
     EXPECT_EQ(state.gServiceState, 3);
     EXPECT_EQ(utf8(state.gSavedSenderName), "Hong");
@@ -272,8 +272,8 @@ TEST_F(MainWindowLife, StoppingClearsAwayTheFilesOfTheSessionAndNothingElse) {
     form.unload();
     files.files.erase(app_ini);
     files.files.erase(login_ini);
-    EXPECT_EQ(files.files, (MemoryFiles::Contents{{u"z:\\app\\temp\\other.txt", "x"},
-                                                  {u"z:\\app\\내모음함\\a.txt", "x"}}));
+    EXPECT_EQ(files.files, (tests::MemoryFiles::Contents{{u"z:\\app\\temp\\other.txt", "x"},
+                                                         {u"z:\\app\\내모음함\\a.txt", "x"}}));
     EXPECT_FALSE(files.folders.contains(u"z:\\app\\update_temp"));
 }
 

@@ -25,7 +25,7 @@ using update::Download;
 constexpr const char16_t* PLACE = u"z:\\app\\update_temp\\update.ini";
 
 /// The control on a clock that stands one second behind its start, so that rates are sums.
-struct DownloadBench : TestPlatform {
+struct DownloadBench : tests::TestPlatform {
     explicit DownloadBench(const qt::TransferLimits& limits = {}) : network(limits) {
         files.folders = {u"z:\\app\\update_temp"};
         control.set_save_location(PLACE);

@@ -26,12 +26,12 @@ struct Network {
     virtual ~Network() = default;
     virtual Internet& internet() = 0;
     /// The address where the server gives this from now on.
-    virtual Text serve(const ScriptedAnswer& answer) = 0;
+    virtual Text serve(const tests::ScriptedAnswer& answer) = 0;
 };
 
 struct RealNetwork : Network {
     Internet& internet() override { return real; }
-    Text serve(const ScriptedAnswer& answer) override {
+    Text serve(const tests::ScriptedAnswer& answer) override {
         server = std::make_unique<tests::HttpServer>(
             tests::HttpServer::sending(answer.header ? *answer.header + "\r\n\r\n" + answer.body : ""));
         return server->url();
@@ -42,11 +42,11 @@ struct RealNetwork : Network {
 
 struct ScriptedNetwork : Network {
     Internet& internet() override { return scripted; }
-    Text serve(const ScriptedAnswer& answer) override {
+    Text serve(const tests::ScriptedAnswer& answer) override {
         scripted.answers[u"http://server/"] = answer;
         return u"http://server/";
     }
-    ScriptedInternet scripted;
+    tests::ScriptedInternet scripted;
 };
 
 struct Kind {
@@ -57,7 +57,7 @@ void PrintTo(const Kind& kind, std::ostream* out) { *out << kind.name; }
 
 class TransferContract : public testing::TestWithParam<Kind> {
   protected:
-    void get(const ScriptedAnswer& answer) {
+    void get(const tests::ScriptedAnswer& answer) {
         transfer->execute(network->serve(answer));
         while (transfer->still_executing()) QCoreApplication::processEvents();
     }
@@ -89,7 +89,7 @@ TEST_P(TransferContract, WhatBreaksIsAFailureBehindTheWholeChunks) {
 }
 
 TEST_P(TransferContract, AGetWholeTakesAnAddressWithoutItsSchemeAndMayBeCut) {
-    const Text url = network->serve(ScriptedAnswer::ok("whole"));
+    const Text url = network->serve(tests::ScriptedAnswer::ok("whole"));
     EXPECT_EQ(transfer->open_url(url, 100), "whole");
     EXPECT_EQ(transfer->open_url(u" " + url.substr(7) + u" ", 4), "whol");
     for (const char16_t* other : {u"file:///etc/passwd", u"ftp://a/b"})
@@ -99,7 +99,7 @@ TEST_P(TransferContract, AGetWholeTakesAnAddressWithoutItsSchemeAndMayBeCut) {
 }
 
 TEST_P(TransferContract, OneThatIsGivenUpSaysSoUntilTheNextBegins) {
-    const Text url = network->serve(ScriptedAnswer::ok("ok"));
+    const Text url = network->serve(tests::ScriptedAnswer::ok("ok"));
     transfer->execute(url);
     transfer->cancel();
     EXPECT_FALSE(transfer->still_executing());

@@ -13,6 +13,8 @@
 #include <string_view>
 #include <vector>
 
+namespace tests {
+
 using Int = std::int32_t;
 using Notify11 = Int (*)(Int, Int, Int, Int, Int, Int, Int, Int, Int, Int, Int);
 
@@ -106,5 +108,7 @@ class CarrierTest : public testing::Test {
         return rows;
     }
 
-    tests::TemporaryFolder folder;
+    TemporaryFolder folder;
 };
+
+}  // namespace tests

@@ -3,7 +3,8 @@
 
 namespace {
 
-using CarrierLedger = CarrierTest;
+using CarrierLedger = tests::CarrierTest;
+using tests::CarrierLibrary;
 
 TEST_F(CarrierLedger, FindsADaysRegistrationsOfOneStateThroughAnIndex) {
     configure();

@@ -5,7 +5,10 @@
 
 namespace {
 
-using CarrierOperations = CarrierTest;
+using CarrierOperations = tests::CarrierTest;
+using tests::CarrierLibrary;
+using tests::Given;
+using tests::Int;
 
 TEST_F(CarrierOperations, LetInNobodyButTheHolderOfTheAccount) {
     {

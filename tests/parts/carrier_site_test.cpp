@@ -81,7 +81,7 @@ class Site {
     tests::ChildProcess program_;
 };
 
-class CarrierSite : public CarrierTest {
+class CarrierSite : public tests::CarrierTest {
   protected:
     CarrierSite() {
         configure(

@@ -36,7 +36,7 @@ struct PlaceInMemory : Place {
         memory.folders.insert(path);
         memory.links.insert(path);
     }
-    MemoryFiles memory;
+    tests::MemoryFiles memory;
 };
 
 struct Kind {

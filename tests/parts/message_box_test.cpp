@@ -28,8 +28,8 @@ class MessageBoxOnDisk : public testing::Test, protected tests::FilesOnDisk {
   protected:
     MessageBoxOnDisk() { core::make_message_box_folders(platform); }
 
-    TestPlatform machine;
-    ScriptedDesktop& desktop = machine.desktop;
+    tests::TestPlatform machine;
+    tests::ScriptedDesktop& desktop = machine.desktop;
     platform::Platform platform = tests::with(machine.platform, {.files = &files});
     compose::frmZent main{platform, machine.state, {}};
     msgbox::frmMyMsgBox box{platform, main};

@@ -19,7 +19,7 @@ using tests::CardTable;
 using tests::utf8;
 using Rows = std::vector<std::string>;
 
-struct PickerCards : testing::Test, TestPlatform {
+struct PickerCards : testing::Test, tests::TestPlatform {
     tests::CardsOnDisk disk;
     const std::string folder = disk.folder.path().string();
     platform::posix::PosixFiles files_on_disk{platform::posix::Paths(folder), folder + "/windows"};

@@ -24,7 +24,7 @@ std::int32_t notify_11(std::int32_t, std::int32_t, std::int32_t, std::int32_t, s
 }
 
 /// The carrier's stand-in in the current directory, a folder of the test's own.
-class PosixCarrierLibraryTest : public CarrierTest {
+class PosixCarrierLibraryTest : public tests::CarrierTest {
   protected:
     std::int32_t bind() {
         return library.fn_x_bind(1, user_id, password, domain, 1, notify, 0,

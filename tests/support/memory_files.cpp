@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace tests {
+
 using platform::ErrorNumber;
 using platform::FileEntry;
 using platform::RuntimeError;
@@ -53,7 +55,10 @@ bool MemoryFiles::folder_exists(const Text& path) const {
     return folders.contains(key(path)) || standing.contains(key(path)) || holds_anything(path);
 }
 
-std::uint64_t MemoryFiles::length(const Text& path) const { return read(path).size(); }
+std::uint64_t MemoryFiles::length(const Text& path) const {
+    expect_file(path);
+    return files.at(key(path)).size();
+}
 
 bool MemoryFiles::is_link(const Text& path) const { return links.contains(key(path)); }
 
@@ -197,3 +202,5 @@ void MemoryFiles::before_change() {
         throw RuntimeError(changes_until_failure->second);
     if (failure) throw RuntimeError(*failure);
 }
+
+}  // namespace tests

@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+namespace tests {
+
 /// A file system in memory. Paths match without regard to ASCII case. Folders that files are put into by a
 /// test are there without having been made.
 class MemoryFiles : public platform::Files {
@@ -69,3 +71,5 @@ class MemoryFiles : public platform::Files {
     void expect_place_for_folder(const platform::Text& path) const;
     void before_change();
 };
+
+}  // namespace tests

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace tests {
+
 using platform::decode_cp949;
 
 namespace {
@@ -116,3 +118,5 @@ void RecordingCarrier::record(const Submit& submit, bool submit_2) {
                              .s_attach_file_count = submit.s_attach_file_count,
                              .s_attach_file = decode_cp949(submit.s_attach_file)});
 }
+
+}  // namespace tests

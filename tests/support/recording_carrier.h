@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+namespace tests {
+
 /// A carrier that writes down what it is asked and answers as told.
 class RecordingCarrier : public platform::CarrierLibrary {
   public:
@@ -74,3 +76,5 @@ class RecordingCarrier : public platform::CarrierLibrary {
     std::int32_t result(const std::string& operation);
     void record(const Submit& submit, bool submit_2);
 };
+
+}  // namespace tests

@@ -3,6 +3,8 @@
 #include "platform/error.h"
 #include "platform/text/text.h"
 
+namespace tests {
+
 using platform::ErrorNumber;
 using platform::RuntimeError;
 using platform::Text;
@@ -91,3 +93,5 @@ class ScriptedInternet::ScriptedTransfer : public platform::Transfer {
 std::unique_ptr<platform::Transfer> ScriptedInternet::make_transfer() {
     return std::make_unique<ScriptedTransfer>(*this);
 }
+
+}  // namespace tests
