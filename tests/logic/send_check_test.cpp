@@ -132,6 +132,17 @@ TEST(SendCheck, ARecordingIsSavedForTheCarrierAndWithoutOneTheClickEndsSilently)
     }
 }
 
+TEST(SendCheck, LeavesASemicolonInANameToTheCarrierAndMindsNoFileInTheSoundFoldersPlace) {
+    Sending s;
+    s.files.files[u"c:\\temp"] = "no folder";
+    s.files.files[u"z:\\가 나;'다'.txt"] = "text";
+    s.form.TabStrip1.select(4);
+    s.form.FAX1.add_row(u"z:\\가 나;'다'.txt", {});
+    s.add(u"a", u"025551234");
+    s.send();
+    EXPECT_EQ(utf8(s.carrier.registrations.at(0).s_attach_file), "z:\\가 나;'다'.txt;");
+}
+
 TEST(SendCheck, CompletesSubjectAndSender) {
     Sending s;
     s.form.subjectText.set_text(u"");

@@ -182,6 +182,12 @@ TEST_F(PosixFilesTest, OddNamesThatAreThereOpenButNoneIsMade) {
     EXPECT_EQ(names_in(application), NOTHING);
 }
 
+TEST_F(PosixFilesTest, AFileOfMoreThanTwoGigabytesIsMeasured) {
+    put(application / "scan.tif", "");
+    fs::resize_file(application / "scan.tif", 3'000'000'000);
+    EXPECT_EQ(files.length(u"scan.tif"), 3'000'000'000u);
+}
+
 TEST_F(PosixFilesTest, WhatWouldNeverEndIsNotRead) {
     ::mkfifo((application / "pipe").c_str(), 0600);
     for (const char16_t* path : {u"pipe", u"z:\\dev\\zero"})
