@@ -6,21 +6,6 @@ namespace {
 using CarrierLedger = tests::CarrierTest;
 using tests::CarrierLibrary;
 
-TEST_F(CarrierLedger, FindsADaysRegistrationsOfOneStateThroughAnIndex) {
-    configure();
-    CarrierLibrary library;
-    bind(library);
-    for (const char* sql :
-         {"EXPLAIN QUERY PLAN SELECT * FROM registration WHERE time >= '2026-01-01' AND time < "
-          "'2026-01-02' ORDER BY time",
-          "EXPLAIN QUERY PLAN SELECT * FROM registration WHERE result = 8 AND time >= '2026-01-01' "
-          "ORDER BY time"}) {
-        const Rows plan = ledger(sql);
-        ASSERT_EQ(plan.size(), 1U) << "sorted apart from the search";
-        EXPECT_NE(plan[0].find("SEARCH registration USING INDEX"), std::string::npos) << plan[0];
-    }
-}
-
 TEST_F(CarrierLedger, KeepsEveryReturnedCallWhenTheClientIsKilled) {
     configure();
     tests::Pipe returned;
