@@ -38,7 +38,7 @@ int download(int argc, char** argv) {
     machine::qt::QtClock clock;
     machine::qt::QtInternet internet(
         {.silence_milliseconds = 60'000, .answer_milliseconds = 600'000, .body_bytes = LARGE});
-    TestPlatform doubles;
+    tests::TestPlatform doubles;
     platform::Platform machine =
         tests::with(doubles.platform, {.clock = &clock, .files = &files, .internet = &internet});
     update::Download control(machine);

@@ -39,7 +39,7 @@ bool walk(const ListView& list, const Text& beginning) {
 
 /// Time for a list of so many rows, each searched for before it is added.
 void fill(benchmark::State& state) {
-    TestPlatform test;
+    tests::TestPlatform test;
     std::optional<ListForm> form;
     for (auto _ : state) {
         state.PauseTiming();
@@ -54,7 +54,7 @@ void fill(benchmark::State& state) {
 
 /// Time for the last hundred rows of 100,000.
 void last_hundred(benchmark::State& state, bool by_walking) {
-    TestPlatform test;
+    tests::TestPlatform test;
     ListForm form(test.desktop);
     int row = 0;
     while (row < 100'000) {

@@ -39,7 +39,8 @@ void hand_over(benchmark::State& state, const std::string& file) {
         main->files.files[u"z:\\app\\temp\\tmpman.txt"] = file;
         state.ResumeTiming();
         handover::HandOver(main->platform, main->state, main->form).NEW_SENDMAN_LOAD();
-        if (main->form.ListView1.row_count() != LINES) state.SkipWithError("not everybody came in");
+        if (main->form.recipients.ListView1.row_count() != LINES)
+            state.SkipWithError("not everybody came in");
     }
 }
 
@@ -53,9 +54,11 @@ void without_search(benchmark::State& state, const std::string& file) {
         handover::HandedOverRecipient recipient;
         for (const platform::TextView line : handover::split(text, u'\n')) {
             if (!recipient.read(line)) continue;
-            main->form.ListView1.add_row(u"", {recipient.name, recipient.number, u"", recipient.title}, true);
+            main->form.recipients.ListView1.add_row(
+                u"", {recipient.name, recipient.number, u"", recipient.title}, true);
         }
-        if (main->form.ListView1.row_count() != LINES) state.SkipWithError("not everybody came in");
+        if (main->form.recipients.ListView1.row_count() != LINES)
+            state.SkipWithError("not everybody came in");
     }
 }
 

@@ -97,7 +97,7 @@ int main(int argc, char** argv) {
     const QApplication qt(argc, argv);
     machine::qt::Screens screens;
     screens.add<ListScreen, QDialog>(u"ListForm");
-    MemoryFiles files;
+    tests::MemoryFiles files;
     machine::qt::QtDesktop desktop(screens, files);
     ListForm form(desktop);
     for (int row = 0; row < ROWS; ++row) {

@@ -117,7 +117,8 @@ struct Program {
 /// Opens the picker, has `act` done in it and closes it. Returns how long it took to open.
 template <class Act>
 double open_picker(Program& program, Act act) {
-    addressbook::frmSendMan picker(program.machine.platform, program.state, program.main);
+    addressbook::frmSendMan picker(program.machine.platform, program.state, program.main.recipients,
+                                   program.main.Timer1);
     double opened = 0;
     QTimer look;
     const auto start = Clock::now();
@@ -172,11 +173,11 @@ Times measure(const Folder& folder) {
                        QCoreApplication::processEvents();
                        keep_longest(times.picking_stretch, busy.longest_stretch());
                    }));
-        const std::size_t picked = program.main.ListView1.row_count();
+        const std::size_t picked = program.main.recipients.ListView1.row_count();
         busy.longest_stretch();
         hand_over(program);
         keep_longest(times.hand_over_stretch, busy.longest_stretch());
-        if (program.main.ListView1.row_count() < 100'000 + picked)
+        if (program.main.recipients.ListView1.row_count() < 100'000 + picked)
             throw std::logic_error("recipients are missing");
     }
     return times;

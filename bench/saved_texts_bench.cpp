@@ -87,7 +87,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication qt(argc, argv);
     tests::FilesOnDisk disk;
-    TestPlatform machine;
+    tests::TestPlatform machine;
     const auto screens = machine::qt::program_screens();
     WatchedDesktop desktop(screens, disk.files);
     platform::Platform platform = tests::with(machine.platform, {.desktop = &desktop, .files = &disk.files});
@@ -95,8 +95,7 @@ int main(int argc, char** argv) {
     const fs::path category = disk.application / "내모음함/내모음함";
     write_messages(category);
 
-    compose::frmZent main_form(platform, machine.state, {});
-    saved_texts::frmMyMsgBox box(platform, main_form);
+    saved_texts::frmMyMsgBox box(platform, nullptr);
     box.show();
     QApplication::processEvents();
 

@@ -166,7 +166,7 @@ void frmZent::open_by_button(int index) {
 
 void frmZent::DRAFT_RESET_IF_NO_KIND() {
     if (kind_chosen_) return;
-    TabStrip1.select(static_cast<int>(MessageKind::text));
+    choose(MessageKind::text);
     text.mText1.set_text(u"");
     plus.mText2.set_text(u"");
     subject.subjectText.set_text(u"");

@@ -102,6 +102,9 @@ class frmZent : public platform::Form {
     ReplyBox reply;
     Session session;
 
+    /// Chooses the kind's tab, also when it is chosen already: its text begins anew.
+    void choose(MessageKind kind) { TabStrip1.select(static_cast<int>(kind)); }
+
     /// Fills an empty subject from the text message, or with "제목없음".
     void subjectText_CHECK();
 

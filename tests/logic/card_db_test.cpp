@@ -14,7 +14,7 @@ using platform::RuntimeError;
 using platform::Text;
 using tests::utf8;
 
-struct CardDb : testing::Test, TestPlatform {};
+struct CardDb : testing::Test, tests::TestPlatform {};
 
 TEST_F(CardDb, EveryOpeningIsANewConnectionWithTheManagersPassword) {
     EXPECT_TRUE(OPEN_CARD_DB(platform, state, true));

@@ -99,7 +99,7 @@ TEST(FieldValue, IsTheTextOfAFieldTrimmedOnTheRightForTypes10And12Alone) {
     for (const auto& row : rows) EXPECT_EQ(utf8(addressbook::FIELD_VALUE(row.field)), utf8(row.value));
 }
 
-struct Paths : testing::Test, TestPlatform {};
+struct Paths : testing::Test, tests::TestPlatform {};
 
 TEST_F(Paths, TheParentIsWhatStandsBeforeTheLastNameWithItsBackslash) {
     const struct {
@@ -136,7 +136,7 @@ TEST_F(Paths, AFileExistsWhenANormalFileMatches) {
 }
 
 TEST_F(Paths, AnErrorOfTheDiskMeansThatTheFileIsNotThere) {
-    struct : MemoryFiles {
+    struct : tests::MemoryFiles {
         bool file_exists(const Text&) const override {
             throw platform::RuntimeError(platform::ErrorNumber::bad_file_name);
         }
@@ -157,7 +157,7 @@ TEST_F(Paths, AFileThatTheUserTypedOpensOrIsNamedInABox) {
     EXPECT_EQ(shell.opened.size(), 1u);
 }
 
-struct Columns : testing::Test, TestPlatform {
+struct Columns : testing::Test, tests::TestPlatform {
     struct Window : platform::Form {
         using Form::Form;
     } window{desktop, u"window"};

@@ -32,8 +32,8 @@ struct Controls : testing::Test, Form {
         control.LostFocus.connect([this, name] { log.push_back("lost " + name); });
     }
 
-    VirtualClock clock;
-    ScriptedDesktop desktop_double{clock};
+    tests::VirtualClock clock;
+    tests::ScriptedDesktop desktop_double{clock};
     Log log;
     bool unloads_while_loading = false;
 
@@ -116,15 +116,6 @@ TEST_F(Choices, AComboTakesRowsItHasAndErrorThreeHundredEightyOtherwise) {
     EXPECT_EQ(combo.list_index(), -1);
     combo.set_text(u"넷");
     EXPECT_EQ(log, (Log{"change 셋", "change 넷"}));
-}
-
-TEST_F(Focus, TheOldControlLosesItBeforeTheNewOneGetsIt) {
-    log_focus(first, "first");
-    log_focus(second, "second");
-    first.set_focus();
-    first.set_focus();
-    second.set_focus();
-    EXPECT_EQ(log, (Log{"got first", "lost first", "got second"}));
 }
 
 TEST_F(Focus, AHandlerMaySendItElsewhere) {

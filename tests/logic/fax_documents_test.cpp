@@ -12,11 +12,11 @@ using tests::utf8;
 const Text TITLE = u"팩스문서 열기";
 
 struct FaxDocuments : testing::Test, tests::MainWindow {
-    void SetUp() override { compose_as(u"홍길동", compose::FAX_MESSAGE); }
+    void SetUp() override { compose_as(u"홍길동", compose::MessageKind::fax); }
 
     void pick(std::optional<Text> path) {
         desktop.expect_file_dialog(TITLE, std::move(path));
-        form.FAXBttn1.Click.raise();
+        form.fax.FAXBttn1.Click.raise();
     }
     void refuse(const Text& path, const Text& words) {
         desktop.expect_box(words);
@@ -26,8 +26,8 @@ struct FaxDocuments : testing::Test, tests::MainWindow {
     }
     std::string listed() const {
         std::string paths;
-        for (std::size_t row = 0; row < form.FAX1.row_count(); ++row)
-            paths += utf8(form.FAX1.row(row).text()) + "|";
+        for (std::size_t row = 0; row < form.fax.FAX1.row_count(); ++row)
+            paths += utf8(form.fax.FAX1.row(row).text()) + "|";
         return paths;
     }
 };
@@ -56,8 +56,8 @@ TEST_F(FaxDocuments, AreTakenFromTheDialogWithTheirPictures) {
     pick(std::nullopt);
     pick(u"z:\\사진.TIF");
     EXPECT_EQ(listed(), "z:\\글.hwp|z:\\사진.TIF|");
-    EXPECT_EQ(form.FAX1.row(0).small_icon(), 4);
-    EXPECT_EQ(form.FAX1.row(1).small_icon(), 10);
+    EXPECT_EQ(form.fax.FAX1.row(0).small_icon(), 4);
+    EXPECT_EQ(form.fax.FAX1.row(1).small_icon(), 10);
     EXPECT_TRUE(desktop.boxes.empty());
     for (const FileQuestion& question : desktop.file_questions) EXPECT_EQ(question.file_name, u"");
 }
@@ -70,9 +70,9 @@ TEST_F(FaxDocuments, OfOtherFormatsTwiceTheSameAndMoreThanFiveAreRefused) {
     refuse(u"Z:\\보고.DOC", u"이미 동일한 파일이 존재합니다.");
     pick(u"z:\\다른\\보고.doc");
     for (const char16_t* path : {u"z:\\3.txt", u"z:\\4.txt", u"z:\\5.txt"}) pick(path);
-    EXPECT_EQ(form.FAX1.row_count(), 5u);
+    EXPECT_EQ(form.fax.FAX1.row_count(), 5u);
     desktop.expect_box(u"보낼 문서는 한번에 5개까지 첨부가 가능합니다.");
-    form.FAXBttn1.Click.raise();
+    form.fax.FAXBttn1.Click.raise();
     EXPECT_EQ(desktop.file_questions.size(), 7u) << "before the dialog";
 }
 
@@ -89,37 +89,37 @@ TEST_F(FaxDocuments, ShowTheirSizeInWholeKilobytesAndNeverNone) {
         {1024 * 1024 - 1, 0, "1,023KB"},
         {1024 * 1024, 0, "1,024KB"},
     };
-    EXPECT_EQ(utf8(form.FAXFileSize1.caption()), "");
+    EXPECT_EQ(utf8(form.fax.FAXFileSize1.caption()), "");
     pick(u"z:\\a.txt");
-    EXPECT_EQ(utf8(form.FAXFileSize1.caption()), "1KB") << "a document that has gone";
+    EXPECT_EQ(utf8(form.fax.FAXFileSize1.caption()), "1KB") << "a document that has gone";
     pick(u"z:\\b.txt");
     for (const auto& row : rows) {
         files.files[u"z:\\a.txt"] = std::string(row.first, 'a');
         files.files[u"z:\\b.txt"] = std::string(row.second, 'b');
-        form.FAX_SIZE_CAPTION();
-        EXPECT_EQ(utf8(form.FAXFileSize1.caption()), row.shown);
+        form.fax.FAX_SIZE_CAPTION();
+        EXPECT_EQ(utf8(form.fax.FAXFileSize1.caption()), row.shown);
     }
     EXPECT_EQ(utf8(compose::size_in_kb(std::size_t{1} << 31)), "2,097,152KB");
 }
 
 TEST_F(FaxDocuments, AreDeletedOnceTheUserHasSaidYes) {
-    form.FAXBttn2.Click.raise();
+    form.fax.FAXBttn2.Click.raise();
     for (const char16_t* path : {u"z:\\1.txt", u"z:\\2.txt", u"z:\\3.txt"}) pick(path);
-    form.FAXBttn2.Click.raise();
+    form.fax.FAXBttn2.Click.raise();
     EXPECT_TRUE(desktop.boxes.empty()) << "nothing is selected";
-    form.FAX1.select_item(0);
-    form.FAX1.select_item(2);
+    form.fax.FAX1.select_item(0);
+    form.fax.FAX1.select_item(2);
     for (const auto answer : {BoxAnswer::no, BoxAnswer::yes}) {
         desktop.expect_box(u"선택한 목록을 삭제하시겠습니까?", answer);
-        form.FAXBttn2.Click.raise();
+        form.fax.FAXBttn2.Click.raise();
         EXPECT_EQ(listed(), answer == BoxAnswer::no ? "z:\\1.txt|z:\\2.txt|z:\\3.txt|" : "z:\\2.txt|");
     }
     EXPECT_EQ(utf8(desktop.boxes.back().title), "삭제 확인");
-    form.FAX1.select_all();
-    form.FAX1.select_item(0);
+    form.fax.FAX1.select_all();
+    form.fax.FAX1.select_item(0);
     desktop.expect_box(u"선택한 목록을 삭제하시겠습니까?", BoxAnswer::yes);
-    form.FAXBttn2.Click.raise();
-    EXPECT_EQ(utf8(form.FAXFileSize1.caption()), "");
+    form.fax.FAXBttn2.Click.raise();
+    EXPECT_EQ(utf8(form.fax.FAXFileSize1.caption()), "");
 }
 
 }  // namespace

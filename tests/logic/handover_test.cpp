@@ -30,8 +30,8 @@ struct HandOver : testing::Test, tests::MainWindow {
 
     Rows rows() const {
         Rows all;
-        for (std::size_t row = 0; row < form.ListView1.row_count(); ++row) {
-            const platform::ListItem& item = form.ListView1.row(row);
+        for (std::size_t row = 0; row < form.recipients.ListView1.row_count(); ++row) {
+            const platform::ListItem& item = form.recipients.ListView1.row(row);
             all.push_back(utf8(item.sub_item(1) + u"|" + item.sub_item(2) + u"|" + item.sub_item(4)));
         }
         return all;
@@ -42,11 +42,11 @@ TEST_F(HandOver, RecipientsComeInAndTheirTabIsChosen) {
     hand("4", u"x\t홍길동\t010-1111-2222\t부장\r\nx\t김:영희\t02)333-4444\t3급\r\n");
     take_in();
     EXPECT_EQ(rows(), (Rows{"홍길동|01011112222|부장", "김영희|023334444|3"}));
-    EXPECT_EQ(form.TabStrip1.selected(), compose::FAX_MESSAGE);
-    EXPECT_EQ(utf8(form.Label4.caption()), "전체>2>대상>2");
-    EXPECT_EQ(form.ListView1.selected_item(), 1u);
-    EXPECT_FALSE(form.ListView1.row(0).selected());
-    EXPECT_FALSE(form.PBar1.visible());
+    EXPECT_EQ(kind_of(form).kind, compose::MessageKind::fax);
+    EXPECT_EQ(utf8(form.recipients.Label4.caption()), "전체>2>대상>2");
+    EXPECT_EQ(form.recipients.ListView1.selected_item(), 1u);
+    EXPECT_FALSE(form.recipients.ListView1.row(0).selected());
+    EXPECT_FALSE(form.recipients.PBar1.visible());
     EXPECT_TRUE(files.files.empty());
     EXPECT_TRUE(form.Timer1.enabled());
 }
@@ -89,12 +89,12 @@ TEST_F(HandOver, LinesAreTakenAsFarAsTheyMakeSense) {
         window.files.files[RECIPIENTS] = platform::encode_cp949(file.file);
         handover::HandOver(window.platform, window.state, window.form).NEW_SENDMAN_LOAD();
         Rows rows;
-        for (std::size_t row = 0; row < window.form.ListView1.row_count(); ++row) {
-            const platform::ListItem& item = window.form.ListView1.row(row);
+        for (std::size_t row = 0; row < window.form.recipients.ListView1.row_count(); ++row) {
+            const platform::ListItem& item = window.form.recipients.ListView1.row(row);
             rows.push_back(utf8(item.sub_item(1) + u"|" + item.sub_item(2) + u"|" + item.sub_item(4)));
         }
         EXPECT_EQ(rows, file.rows) << file.what;
-        EXPECT_FALSE(window.form.PBar1.visible()) << file.what;
+        EXPECT_FALSE(window.form.recipients.PBar1.visible()) << file.what;
     }
 }
 
@@ -114,31 +114,31 @@ TEST_F(HandOver, TheSignalIsANumberOfSixteenBits) {
         {"32768", 1}, {"1e99", 1},  {"x2", 1},  {"9", 3},   {"-1", 3}, {"49", 3}, {"54", 3},
     };
     for (const auto& row : rows) {
-        form.TabStrip1.select(compose::VOICE_MESSAGE);
+        form.choose(compose::MessageKind::voice);
         hand(row.signal, u"x\tA\t0101111\r\n");
         take_in();
         EXPECT_EQ(form.TabStrip1.selected(), row.tab) << row.signal;
         EXPECT_TRUE(files.files.empty());
     }
-    EXPECT_EQ(form.ListView1.row_count(), 1u) << "the same recipient again and again";
+    EXPECT_EQ(form.recipients.ListView1.row_count(), 1u) << "the same recipient again and again";
 }
 
 TEST_F(HandOver, NothingHappensWithoutTheSignalAndItWaitsForAJob) {
-    form.TabStrip1.select(compose::VOICE_MESSAGE);
+    form.choose(compose::MessageKind::voice);
     files.files[RECIPIENTS] = "x\tA\t0101111\r\n";
     take_in();
     state.forms.gSendFormOpen = true;
     files.files[SIGNAL] = "1";
     take_in();
     EXPECT_EQ(files.files.size(), 2u);
-    EXPECT_EQ(form.ListView1.row_count(), 0u);
+    EXPECT_EQ(form.recipients.ListView1.row_count(), 0u);
     state.forms.gSendFormOpen = false;
     take_in();
-    EXPECT_EQ(form.ListView1.row_count(), 1u);
+    EXPECT_EQ(form.recipients.ListView1.row_count(), 1u);
 }
 
 TEST_F(HandOver, ThatArrivesWhileAPageIsOpenOrBringsNobodyIsThrownAway) {
-    form.TabStrip1.select(compose::VOICE_MESSAGE);
+    form.choose(compose::MessageKind::voice);
     state.forms.gWebFormOpen = true;
     hand("1", u"x\tA\t0101111\r\n");
     take_in();
@@ -149,8 +149,8 @@ TEST_F(HandOver, ThatArrivesWhileAPageIsOpenOrBringsNobodyIsThrownAway) {
     hand("1", u"");
     take_in();
     EXPECT_TRUE(files.files.empty());
-    EXPECT_EQ(form.ListView1.row_count(), 0u);
-    EXPECT_EQ(form.TabStrip1.selected(), compose::VOICE_MESSAGE);
+    EXPECT_EQ(form.recipients.ListView1.row_count(), 0u);
+    EXPECT_EQ(kind_of(form).kind, compose::MessageKind::voice);
     EXPECT_TRUE(form.Timer1.enabled());
 }
 
@@ -159,10 +159,10 @@ TEST_F(HandOver, FilesThatCannotBeDeletedAreTakenInOnceAndPollingGoesOnWithoutAB
     files.failure = platform::ErrorNumber::permission_denied;
     form.Timer1.Tick.connect([this] { take_in(); });
     clock.run_for(600);
-    form.mText2.set_text(u"a draft");
+    form.plus.mText2.set_text(u"a draft");
     clock.run_for(1600);
     EXPECT_EQ(rows(), Rows{"A|0101111|"});
-    EXPECT_EQ(utf8(form.mText2.text()), "a draft") << "the tab is not chosen again";
+    EXPECT_EQ(utf8(form.plus.mText2.text()), "a draft") << "the tab is not chosen again";
     EXPECT_TRUE(form.Timer1.enabled());
     EXPECT_TRUE(desktop.boxes.empty());
 
@@ -175,7 +175,7 @@ TEST_F(HandOver, FilesThatCannotBeDeletedAreTakenInOnceAndPollingGoesOnWithoutAB
     EXPECT_TRUE(files.files.empty());
     hand("2", u"x\tB\t0102222\r\n");
     clock.run_for(600);
-    EXPECT_NE(utf8(form.mText2.text()), "a draft") << "the same people once more choose their tab again";
+    EXPECT_NE(utf8(form.plus.mText2.text()), "a draft") << "the same people once more choose their tab again";
 }
 
 TEST_F(HandOver, APageWhoseSignalCannotBeDeletedOpensOnce) {
@@ -200,7 +200,7 @@ TEST_F(HandOver, WhileItIsTakenInNoOtherOneStartsAndTheWindowIsPainted) {
     desktop.during_paint = [&] {
         EXPECT_FALSE(form.Timer1.enabled());
         EXPECT_FALSE(files.files.contains(SIGNAL)) << "taken from the manager before its list is read";
-        progress.push_back(form.PBar1.visible() ? form.PBar1.value() : -1);
+        progress.push_back(form.recipients.PBar1.visible() ? form.recipients.PBar1.value() : -1);
     };
     take_in();
     EXPECT_EQ(progress, (std::vector<int>{0, 50, 100}));
@@ -221,14 +221,14 @@ TEST_F(HandOver, APageIsOpenedForWhoIsLoggedIn) {
     }
     EXPECT_EQ(captions, (Rows{"발송결과", "요금조회", "팩스수신", "가입자 정보 변경"}));
     EXPECT_EQ(form.Timer2.tag(), u"OK") << "the start does not log in a second time";
-    EXPECT_EQ(form.ListView1.row_count(), 0u);
+    EXPECT_EQ(form.recipients.ListView1.row_count(), 0u);
 }
 
 TEST_F(HandOver, APageLogsInFirstAndIsLeftWhenThatFails) {
     hand("51", u"");
     in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });
     take_in();
-    EXPECT_TRUE(form.cmdLogin.enabled());
+    EXPECT_TRUE(form.session.cmdLogin.enabled());
     EXPECT_FALSE(files.files.contains(SIGNAL));
 
     hand("51", u"");

@@ -2,6 +2,7 @@
 #include "tests/support/main_window.h"
 #include "tests/support/page_reader.h"
 
+#include <array>
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
@@ -27,6 +28,10 @@ struct Kinds : testing::Test, tests::MainWindow {
         }
         return pressed;
     }
+
+    static std::array<const platform::Frame*, 3> panels(const frmZent& form) {
+        return {&form.text.Frame1, &form.voice.Frame1, &form.fax.Frame1};
+    }
 };
 
 using Bars = Kinds;
@@ -35,83 +40,83 @@ using Emoticons = Kinds;
 
 TEST_F(Kinds, EachShowsItsOwnPanelCaptionsAndControls) {
     const struct {
-        MessageKind kind;
+        compose::MessageKind kind;
         const char *name, *number;
         std::size_t panel;
         bool sender, reply;
     } rows[] = {
-        {TEXT_PLUS, "문자플러스", "문자보낼번호", 1, false, true},
-        {VOICE_MESSAGE, "음성메시지", "음성보낼번호", 1, false, true},
-        {FAX_MESSAGE, "팩스메시지", "팩스보낼번호", 2, false, false},
-        {TEXT_MESSAGE, "문자메시지", "문자보낼번호", 0, true, false},
+        {compose::MessageKind::plus, "문자플러스", "문자보낼번호", 1, false, true},
+        {compose::MessageKind::voice, "음성메시지", "음성보낼번호", 1, false, true},
+        {compose::MessageKind::fax, "팩스메시지", "팩스보낼번호", 2, false, false},
+        {compose::MessageKind::text, "문자메시지", "문자보낼번호", 0, true, false},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        form.TabStrip2.select(3);
-        form.TabStrip1.select(row.kind);
+        form.voice.TabStrip2.select(3);
+        form.choose(row.kind);
         EXPECT_EQ(utf8(form.caption()), std::string("Cardvale 폰디라 통합메시징 서비스[") + row.name + "]");
-        EXPECT_EQ(pressed_button(), row.kind + 1);
+        EXPECT_EQ(pressed_button(), static_cast<int>(row.kind) + 1);
         for (std::size_t panel = 0; panel < 3; ++panel)
-            EXPECT_EQ(form.Frame1[panel].visible(), panel == row.panel) << panel;
-        EXPECT_EQ(utf8(form.Label2_5.caption()), std::string(row.number) + ":");
-        EXPECT_EQ(utf8(form.ListView1.column(3).caption), row.number);
+            EXPECT_EQ(panels(form)[panel]->visible(), panel == row.panel) << panel;
+        EXPECT_EQ(utf8(form.recipients.Label2_5.caption()), std::string(row.number) + ":");
+        EXPECT_EQ(utf8(form.recipients.ListView1.column(3).caption), row.number);
         for (const platform::Control* control : std::initializer_list<const platform::Control*>{
-                 &form.Label2_1, &form.txtUserName, &form.txtCallback})
+                 &form.sender.Label2_1, &form.sender.txtUserName, &form.sender.txtCallback})
             EXPECT_EQ(control->visible(), row.sender) << utf8(control->name());
-        for (const platform::Control* control :
-             std::initializer_list<const platform::Control*>{&form.Check2, &form.Combo4, &form.Command4})
+        for (const platform::Control* control : std::initializer_list<const platform::Control*>{
+                 &form.reply.Check2, &form.reply.Combo4, &form.reply.Command4})
             EXPECT_EQ(control->visible(), row.reply) << utf8(control->name());
-        EXPECT_EQ(form.TabStrip2.selected(), row.panel == 1 ? 1 : 3);
+        EXPECT_EQ(form.voice.TabStrip2.selected(), row.panel == 1 ? 1 : 3);
         if (row.panel == 1) {
-            EXPECT_EQ(form.Picture2[1].visible(), row.kind == TEXT_PLUS);
+            EXPECT_EQ(form.plus.Picture2.visible(), row.kind == compose::MessageKind::plus);
         }
     }
 }
 
 TEST_F(Kinds, ATextThatGoesWithItsPanelFreezesNoSubjectAfterwards) {
-    form.mText1.set_focus();
-    form.mText1.user_edit(u"회의", 2);
-    form.TabStrip1.select(FAX_MESSAGE);
-    EXPECT_FALSE(form.mText1.has_focus());
+    form.text.mText1.set_focus();
+    form.text.mText1.user_edit(u"회의", 2);
+    form.choose(compose::MessageKind::fax);
+    EXPECT_FALSE(form.text.mText1.has_focus());
     // Where the focus has gone the window tells later, after boxes and other windows even.
-    form.HText1[0].set_focus();
-    EXPECT_EQ(utf8(form.subjectText.text()), "회의");
-    EXPECT_EQ(utf8(form.subjectText.tag()), "") << "the next text leads the subject again";
+    form.recipients.HText1[0].set_focus();
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "회의");
+    EXPECT_EQ(utf8(form.subject.subjectText.tag()), "") << "the next text leads the subject again";
 }
 
 TEST_F(Kinds, EnteringAKindThrowsItsOwnTextAwayAndNothingElse) {
-    form.ListView1.add_row(u"", {u"이름", u"0212345678"}, true);
+    form.recipients.ListView1.add_row(u"", {u"이름", u"0212345678"}, true);
     const struct {
-        MessageKind kind;
+        compose::MessageKind kind;
         std::string text, plus_text;
     } rows[] = {
-        {TEXT_MESSAGE, "[홍길동]", "짧은 글"},
-        {TEXT_PLUS, "본문", PLUS_TEXT},
-        {FAX_MESSAGE, "본문", "짧은 글"},
+        {compose::MessageKind::text, "[홍길동]", "짧은 글"},
+        {compose::MessageKind::plus, "본문", PLUS_TEXT},
+        {compose::MessageKind::fax, "본문", "짧은 글"},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.kind);
-        form.subjectText.set_tag(u"END");
-        form.mText1.set_text(u"본문");
-        form.mText2.set_text(u"짧은 글");
-        form.ttsText.set_text(u"음성");
-        form.subjectText.set_text(u"제목");
-        form.subjectText.set_tag(u"");
-        form.TabStrip1.select(VOICE_MESSAGE);
-        form.TabStrip2.select(2);
-        form.RFK1.open();
-        form.RFK1.record();
+        SCOPED_TRACE(static_cast<int>(row.kind));
+        form.subject.subjectText.set_tag(u"END");
+        form.text.mText1.set_text(u"본문");
+        form.plus.mText2.set_text(u"짧은 글");
+        form.voice.ttsText.set_text(u"음성");
+        form.subject.subjectText.set_text(u"제목");
+        form.subject.subjectText.set_tag(u"");
+        form.choose(compose::MessageKind::voice);
+        form.voice.TabStrip2.select(2);
+        form.voice.RFK1.open();
+        form.voice.RFK1.record();
         recorder.speak(platform::Samples(10, 1));
-        form.TabStrip1.select(row.kind);
+        form.choose(row.kind);
         EXPECT_FALSE(recorder.recording) << "nobody is recorded who does not see it";
-        EXPECT_EQ(form.RFK1.recording(), platform::Samples(10, 1));
-        form.RFK1.set_kept();
-        EXPECT_EQ(utf8(form.mText1.text()), row.text);
-        EXPECT_EQ(utf8(form.mText2.text()), row.plus_text);
-        EXPECT_EQ(utf8(form.ttsText.text()), "음성");
-        EXPECT_EQ(utf8(form.subjectText.text()), "제목") << "what a kind writes is no subject";
-        EXPECT_EQ(utf8(form.subjectText.tag()), "") << "it follows the text again";
-        EXPECT_EQ(form.ListView1.row_count(), 1u);
+        EXPECT_EQ(form.voice.RFK1.recording(), platform::Samples(10, 1));
+        form.voice.RFK1.set_kept();
+        EXPECT_EQ(utf8(form.text.mText1.text()), row.text);
+        EXPECT_EQ(utf8(form.plus.mText2.text()), row.plus_text);
+        EXPECT_EQ(utf8(form.voice.ttsText.text()), "음성");
+        EXPECT_EQ(utf8(form.subject.subjectText.text()), "제목") << "what a kind writes is no subject";
+        EXPECT_EQ(utf8(form.subject.subjectText.tag()), "") << "it follows the text again";
+        EXPECT_EQ(form.recipients.ListView1.row_count(), 1u);
     }
 }
 
@@ -119,36 +124,38 @@ TEST_F(Kinds, TheFirstPaintShowsOnePanelThoughNoKindIsChosenYet) {
     tests::MainWindow fresh;
     fresh.form.load();
     for (std::size_t panel = 0; panel < 3; ++panel) {
-        EXPECT_EQ(fresh.form.Frame1[panel].visible(), panel == 0);
-        EXPECT_EQ(fresh.form.TPIC[panel].visible(), panel == 0);
+        EXPECT_EQ(panels(fresh.form)[panel]->visible(), panel == 0);
+        EXPECT_EQ(fresh.form.voice.TPIC[panel].visible(), panel == 0);
     }
 }
 
 TEST_F(Kinds, ASubKindShowsItsPanelAlone) {
     for (int tab = 1; tab <= 3; ++tab) {
-        form.TabStrip2.select(tab);
+        form.voice.TabStrip2.select(tab);
         for (std::size_t panel = 0; panel < 3; ++panel)
-            EXPECT_EQ(form.TPIC[panel].visible(), panel + 1 == static_cast<std::size_t>(tab));
+            EXPECT_EQ(form.voice.TPIC[panel].visible(), panel + 1 == static_cast<std::size_t>(tab));
     }
 }
 
 TEST_F(Kinds, TheDraftIsResetWhenNoKindIsPressedAndLeftAloneOtherwise) {
     in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });
-    form.mText1.set_text(u"본문");
-    form.TabStrip1.select(FAX_MESSAGE);
+    form.text.mText1.set_text(u"본문");
+    form.choose(compose::MessageKind::fax);
     form.show();
     clock.run_for(1);
-    EXPECT_EQ(form.TabStrip1.selected(), FAX_MESSAGE);
-    EXPECT_EQ(utf8(form.mText1.text()), "본문");
+    EXPECT_EQ(kind_of(form).kind, compose::MessageKind::fax);
+    EXPECT_EQ(utf8(form.text.mText1.text()), "본문");
 
     tests::MainWindow fresh;
     fresh.in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });
     fresh.form.load();
-    fresh.form.mText1.set_text(u"본문");
+    fresh.form.text.mText1.set_text(u"본문");
     fresh.form.show();
     fresh.clock.run_for(1);
-    EXPECT_EQ(fresh.form.TabStrip1.selected(), TEXT_MESSAGE);
-    EXPECT_EQ(utf8(fresh.form.mText1.text() + fresh.form.mText2.text() + fresh.form.subjectText.text()), "");
+    EXPECT_EQ(kind_of(fresh.form).kind, compose::MessageKind::text);
+    EXPECT_EQ(utf8(fresh.form.text.mText1.text() + fresh.form.plus.mText2.text() +
+                   fresh.form.subject.subjectText.text()),
+              "");
 }
 
 TEST_F(Bars, ToolBarButtonsChooseKindsAndOpenPages) {
@@ -170,8 +177,8 @@ TEST_F(Bars, ToolBarButtonsChooseKindsAndOpenPages) {
 TEST_F(Bars, StatusBarPanelsAnswerTheLeftButtonByTheLoginState) {
     const auto click = [&](int panel, platform::MouseButton button = platform::MouseButton::left) {
         opened.clear();
-        form.STBar1.MouseDown.raise(button);
-        form.STBar1.PanelClick.raise(panel);
+        form.session.STBar1.MouseDown.raise(button);
+        form.session.STBar1.PanelClick.raise(panel);
         return opened;
     };
     for (int panel = 1; panel <= 4; ++panel) click(panel, platform::MouseButton::right);
@@ -197,54 +204,54 @@ TEST_F(Bars, StatusBarPanelsAnswerTheLeftButtonByTheLoginState) {
 
 TEST_F(Bars, ButtonsAndMenusGoThroughTheirDoors) {
     form.Command1.Click.raise();
-    form.MyMsgBttn.Click.raise();
+    form.text.MyMsgBttn.Click.raise();
     form.mnuUpDate.Click.raise();
     EXPECT_EQ(opened, (Doors{"send", "saved_texts", "update_check"}));
 }
 
 TEST_F(StartingAnew, NoKeepsEverythingAndYesEmptiesTheDraftButNotItsKindAndSchedule) {
-    form.TabStrip1.select(TEXT_PLUS);
-    form.subjectText.set_tag(u"END");
-    form.mText1.set_text(u"본문");
-    form.mText2.set_text(u"짧은 글");
-    form.ttsText.set_text(u"음성");
-    form.TTSFileTxt.set_text(u"c:\\a.wav");
-    form.subjectText.set_text(u"제목");
-    form.ListView1.add_row(u"", {u"이름", u"0212345678"}, true);
-    form.FAX1.add_row(u"c:\\a.hwp", {});
-    form.FAXFileSize1.set_caption(u"12KB");
-    form.Option2.set_chosen(true);
-    form.RECIPIENT_COUNT_CAPTION();
+    form.choose(compose::MessageKind::plus);
+    form.subject.subjectText.set_tag(u"END");
+    form.text.mText1.set_text(u"본문");
+    form.plus.mText2.set_text(u"짧은 글");
+    form.voice.ttsText.set_text(u"음성");
+    form.voice.TTSFileTxt.set_text(u"c:\\a.wav");
+    form.subject.subjectText.set_text(u"제목");
+    form.recipients.ListView1.add_row(u"", {u"이름", u"0212345678"}, true);
+    form.fax.FAX1.add_row(u"c:\\a.hwp", {});
+    form.fax.FAXFileSize1.set_caption(u"12KB");
+    form.schedule.Option2.set_chosen(true);
+    form.recipients.RECIPIENT_COUNT_CAPTION();
 
     desktop.expect_box(u"모든 내용을 삭제하고 새로 작성하시겠습니까?", BoxAnswer::no);
     form.Command3.Click.raise();
     EXPECT_EQ(desktop.boxes[0].icon, platform::BoxIcon::question);
     EXPECT_EQ(desktop.boxes[0].default_answer, BoxAnswer::no);
-    EXPECT_EQ(utf8(form.mText1.text()), "본문");
-    EXPECT_EQ(form.ListView1.row_count(), 1u);
+    EXPECT_EQ(utf8(form.text.mText1.text()), "본문");
+    EXPECT_EQ(form.recipients.ListView1.row_count(), 1u);
 
     desktop.expect_box(u"모든 내용을 삭제하고 새로 작성하시겠습니까?", BoxAnswer::yes);
     form.Command3.Click.raise();
-    EXPECT_EQ(utf8(form.mText1.text()), "[홍길동]");
-    EXPECT_EQ(utf8(form.mText2.text()), PLUS_TEXT);
-    EXPECT_EQ(utf8(form.ttsText.text()), "");
-    EXPECT_EQ(utf8(form.TTSFileTxt.text()), "");
-    EXPECT_EQ(utf8(form.subjectText.text()), "");
-    EXPECT_EQ(form.ListView1.row_count(), 0u);
-    EXPECT_EQ(form.FAX1.row_count(), 0u);
-    EXPECT_EQ(utf8(form.FAXFileSize1.caption()), "12KB") << "until the next document";
-    EXPECT_EQ(utf8(form.Label4.caption()), "전체>0>대상>0");
-    EXPECT_EQ(form.TabStrip1.selected(), TEXT_PLUS);
-    EXPECT_TRUE(form.Option2.chosen());
+    EXPECT_EQ(utf8(form.text.mText1.text()), "[홍길동]");
+    EXPECT_EQ(utf8(form.plus.mText2.text()), PLUS_TEXT);
+    EXPECT_EQ(utf8(form.voice.ttsText.text()), "");
+    EXPECT_EQ(utf8(form.voice.TTSFileTxt.text()), "");
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "");
+    EXPECT_EQ(form.recipients.ListView1.row_count(), 0u);
+    EXPECT_EQ(form.fax.FAX1.row_count(), 0u);
+    EXPECT_EQ(utf8(form.fax.FAXFileSize1.caption()), "12KB") << "until the next document";
+    EXPECT_EQ(utf8(form.recipients.Label4.caption()), "전체>0>대상>0");
+    EXPECT_EQ(kind_of(form).kind, compose::MessageKind::plus);
+    EXPECT_TRUE(form.schedule.Option2.chosen());
 }
 
 TEST_F(Emoticons, AreInsertedAtTheCaretInPlaceOfTheSelectionThroughTheClipboard) {
     desktop.clipboard = u"what the user copied";
-    form.mText1.set_text(u"가나다라");
-    form.mText1.select(1, 2);
-    form.mBttn1[18].Click.raise();
-    EXPECT_EQ(utf8(form.mText1.text()), "가☎라");
-    EXPECT_EQ(form.mText1.selection_start(), 2u);
+    form.text.mText1.set_text(u"가나다라");
+    form.text.mText1.select(1, 2);
+    form.text.mBttn1[18].Click.raise();
+    EXPECT_EQ(utf8(form.text.mText1.text()), "가☎라");
+    EXPECT_EQ(form.text.mText1.selection_start(), 2u);
     EXPECT_EQ(utf8(desktop.clipboard), "☎");
 }
 

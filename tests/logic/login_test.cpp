@@ -55,13 +55,13 @@ struct Session : testing::Test, tests::MainWindow {
         EXPECT_FALSE(state.session.gLoggedIn);
         EXPECT_FALSE(state.session.gLoginResult);
         EXPECT_EQ(state.session.gServiceState, 3);
-        EXPECT_TRUE(form.cmdLogin.enabled());
-        EXPECT_FALSE(form.cmdLogOut.enabled());
+        EXPECT_TRUE(form.session.cmdLogin.enabled());
+        EXPECT_FALSE(form.session.cmdLogOut.enabled());
         EXPECT_EQ(panels(), (Calls{"로그아웃상태", "가입자", "폰디라번호"}));
     }
     Calls panels() const {
         Calls texts;
-        for (int panel = 1; panel <= 3; ++panel) texts.push_back(utf8(form.STBar1.panel(panel).text));
+        for (int panel = 1; panel <= 3; ++panel) texts.push_back(utf8(form.session.STBar1.panel(panel).text));
         return texts;
     }
     void save_account(platform::TextView user_id, platform::TextView password) {
@@ -112,9 +112,9 @@ TEST_F(ManualLogin, ShowsWhatIsSavedAndThePasswordWithAutoLoginAlone) {
             EXPECT_TRUE(login.Text1.has_focus()) << "the focus is placed once";
             login.Command2.Click.raise();
         });
-        form.cmdLogin.Click.raise();
+        form.session.cmdLogin.Click.raise();
         EXPECT_EQ(setting(u"LOGIN", u"AUTOLOGIN"), row.checked ? "1" : "0");
-        EXPECT_EQ(form.mnuAutoLogin.checked(), row.checked);
+        EXPECT_EQ(form.session.mnuAutoLogin.checked(), row.checked);
     }
 }
 
@@ -129,7 +129,7 @@ TEST_F(ManualLogin, IsProvedAppliedAndSavedAndPollingWaitsMeanwhile) {
         EXPECT_TRUE(carrier.calls.empty()) << "the busy picture is painted first";
         EXPECT_TRUE(login.Picture1.visible());
     });
-    form.cmdLogin.Click.raise();
+    form.session.cmdLogin.Click.raise();
     EXPECT_TRUE(form.Timer1.enabled());
     EXPECT_EQ(carrier.calls, (Calls{"bind", "money_status", "user_info", "unbind"}));
     EXPECT_EQ(utf8(carrier.bound_user), "hong");
@@ -141,27 +141,27 @@ TEST_F(ManualLogin, IsProvedAppliedAndSavedAndPollingWaitsMeanwhile) {
     EXPECT_EQ(saved_login(u"LOGINPW"), "secret") << "with auto login off, too";
     EXPECT_EQ(setting(u"LOGIN", u"LOGINID"), "") << "not beside the program";
 
-    EXPECT_FALSE(form.cmdLogin.enabled());
-    EXPECT_TRUE(form.cmdLogOut.enabled());
+    EXPECT_FALSE(form.session.cmdLogin.enabled());
+    EXPECT_TRUE(form.session.cmdLogOut.enabled());
     EXPECT_EQ(panels(), (Calls{"로그인상태", "가입자 hong[Hong]  ", "폰디라번호 0303-1234-5678  "}));
-    EXPECT_EQ(form.txtUserName.rows(), (std::vector<Text>{u"Hong", u"Hong Office"}));
-    EXPECT_EQ(utf8(form.txtUserName.text()), "홍길동");
-    EXPECT_EQ(form.txtCallback.rows(), (std::vector<Text>{u"0212345678", u"030312345678"}));
-    EXPECT_EQ(utf8(form.txtCallback.text()), "0311234567");
-    EXPECT_EQ(utf8(form.mText1.text()), "[홍길동]");
-    EXPECT_EQ(utf8(form.subjectText.text()), "") << "what the login writes is no subject";
-    EXPECT_EQ(utf8(form.subjectText.tag()), "");
+    EXPECT_EQ(form.sender.txtUserName.rows(), (std::vector<Text>{u"Hong", u"Hong Office"}));
+    EXPECT_EQ(utf8(form.sender.txtUserName.text()), "홍길동");
+    EXPECT_EQ(form.sender.txtCallback.rows(), (std::vector<Text>{u"0212345678", u"030312345678"}));
+    EXPECT_EQ(utf8(form.sender.txtCallback.text()), "0311234567");
+    EXPECT_EQ(utf8(form.text.mText1.text()), "[홍길동]");
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "") << "what the login writes is no subject";
+    EXPECT_EQ(utf8(form.subject.subjectText.tag()), "");
 }
 
 TEST_F(ManualLogin, TakesTheProfilesNamesWhereNothingIsSavedAndLeavesTypedTexts) {
-    form.mText1.set_text(u"쓰던 글");
-    form.mText2.set_text(u" [] ");
+    form.text.mText1.set_text(u"쓰던 글");
+    form.plus.mText2.set_text(u" [] ");
     log_in(u"hong", u"secret");
-    form.cmdLogin.Click.raise();
-    EXPECT_EQ(utf8(form.txtUserName.text()), "Hong Office");
-    EXPECT_EQ(utf8(form.txtCallback.text()), "0212345678");
-    EXPECT_EQ(utf8(form.mText1.text()), "쓰던 글");
-    EXPECT_EQ(utf8(form.mText2.text()), "[Hong Office]\r\n\r\n\r\n\r\n☎통화를눌러확인하세요");
+    form.session.cmdLogin.Click.raise();
+    EXPECT_EQ(utf8(form.sender.txtUserName.text()), "Hong Office");
+    EXPECT_EQ(utf8(form.sender.txtCallback.text()), "0212345678");
+    EXPECT_EQ(utf8(form.text.mText1.text()), "쓰던 글");
+    EXPECT_EQ(utf8(form.plus.mText2.text()), "[Hong Office]\r\n\r\n\r\n\r\n☎통화를눌러확인하세요");
 }
 
 TEST_F(ManualLogin, AsksForWhatIsMissing) {
@@ -175,7 +175,7 @@ TEST_F(ManualLogin, AsksForWhatIsMissing) {
         EXPECT_FALSE(login.Timer1.enabled());
         login.escape_pressed();
     });
-    form.cmdLogin.Click.raise();
+    form.session.cmdLogin.Click.raise();
     expect_logged_out();
 }
 
@@ -193,7 +193,7 @@ TEST_F(ManualLogin, EnterGoesToThePasswordAndThenLogsIn) {
         login.Timer1.set_enabled(false);
         press(login.Text2, u'\r');
     });
-    form.cmdLogin.Click.raise();
+    form.session.cmdLogin.Click.raise();
     EXPECT_EQ(utf8(carrier.bound_user), "x");
     EXPECT_EQ(utf8(carrier.bound_password), "p");
 }
@@ -211,7 +211,7 @@ TEST_F(ManualLogin, AFailedBindIsExplainedAndTheFormStaysForAnotherTry) {
         EXPECT_EQ(saved_login(u"LOGINID"), "");
         enter(login, u"hong", u"right");
     });
-    form.cmdLogin.Click.raise();
+    form.session.cmdLogin.Click.raise();
     expect_told(FAILURE, BoxIcon::exclamation, "로그인 실패");
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINPW"), "right");
@@ -248,12 +248,13 @@ TEST_F(ManualLogin, JudgesByTheKindOfServiceWhateverTheContractsState) {
             EXPECT_FALSE(login.Picture1.visible());
             login.unload();
         });
-        form.cmdLogin.Click.raise();
+        form.session.cmdLogin.Click.raise();
         EXPECT_EQ(saved_login(u"LOGINPW"), accepted ? "secret" : "");
         EXPECT_EQ(desktop.forms.back(), row.answer == BoxAnswer::yes ? u"frmPondiraReg" : u"frmZentLogin");
         EXPECT_EQ(carrier.count("unbind"), 1);
         if (accepted) {
-            EXPECT_TRUE(state.session.gLoggedIn && state.session.gLoginResult && form.cmdLogOut.enabled());
+            EXPECT_TRUE(state.session.gLoggedIn && state.session.gLoginResult &&
+                        form.session.cmdLogOut.enabled());
             EXPECT_EQ(state.session.gServiceState, row.state);
         } else {
             expect_logged_out();
@@ -265,7 +266,7 @@ TEST_F(ManualLogin, JudgesByTheKindOfServiceWhateverTheContractsState) {
 TEST_F(ManualLogin, GoesOnWithoutAProfileButAsksForNoneWithoutAMoneyStatus) {
     carrier.results[{"user_info", 1}] = 7;
     log_in(u"hong", u"secret");
-    form.cmdLogin.Click.raise();
+    form.session.cmdLogin.Click.raise();
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(panels(), (Calls{"로그인상태", "가입자 hong[]  ", "폰디라번호   "}));
 
@@ -279,7 +280,7 @@ TEST_F(ManualLogin, GoesOnWithoutAProfileButAsksForNoneWithoutAMoneyStatus) {
         clock.run_for(10);
         login.escape_pressed();
     });
-    form.cmdLogin.Click.raise();
+    form.session.cmdLogin.Click.raise();
     EXPECT_EQ(carrier.calls, (Calls{"bind", "money_status", "unbind"}));
     expect_logged_out();
 }
@@ -304,12 +305,13 @@ TEST_F(AutomaticLogin, JudgesByTheContractsStateWhateverTheKindOfService) {
             cancel_login();
         }
         if (row.answer == BoxAnswer::yes) tests::read_next_page(desktop, pages);
-        form.AUTO_LOGIN_START();
+        form.session.AUTO_LOGIN_START();
         EXPECT_EQ(pages, row.answer == BoxAnswer::yes ? Calls{SIGN_UP_PAGE} : Calls{});
         EXPECT_EQ(carrier.calls, (Calls{"bind", "money_status", "user_info", "unbind"}));
         if (accepted) {
             EXPECT_TRUE(state.session.gLoggedIn);
-            EXPECT_EQ(form.cmdLogOut.enabled(), usable) << "the buttons alone say that it is of no use";
+            EXPECT_EQ(form.session.cmdLogOut.enabled(), usable)
+                << "the buttons alone say that it is of no use";
         } else {
             expect_logged_out();
             expect_told(REGISTER, BoxIcon::exclamation, "KT 폰디라 등록 안내");
@@ -327,7 +329,7 @@ TEST_F(AutomaticLogin, WritesNothingAndDoesNotStopThePolling) {
         login.escape_pressed();
         EXPECT_TRUE(login.loaded()) << "it closes by itself";
     });
-    form.AUTO_LOGIN_START();
+    form.session.AUTO_LOGIN_START();
     EXPECT_EQ(files.files, before);
     EXPECT_EQ(panels()[0], "로그인상태");
     EXPECT_EQ(utf8(carrier.bound_user), "hong");
@@ -338,7 +340,7 @@ TEST_F(AutomaticLogin, AFailedBindIsExplainedAndTheManualFormMayStillSucceed) {
     carrier.results[{"bind", 1}] = 2;
     desktop.expect_box(Text(FAILURE));
     log_in(u"hong", u"new");
-    form.AUTO_LOGIN_START();
+    form.session.AUTO_LOGIN_START();
     EXPECT_EQ(desktop.forms, (std::vector<Text>{u"frmAutoLogin", u"frmZentLogin"}));
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINPW"), "new");
@@ -347,24 +349,24 @@ TEST_F(AutomaticLogin, AFailedBindIsExplainedAndTheManualFormMayStillSucceed) {
 // Log-out.
 
 TEST_F(LogOut, AsksAndThenForgetsThatAnybodyIsLoggedIn) {
-    form.cmdLogOut.Click.raise();
+    form.session.cmdLogOut.Click.raise();
     EXPECT_TRUE(desktop.boxes.empty()) << "nobody is logged in";
 
     log_in(u"hong", u"secret");
-    form.cmdLogin.Click.raise();
+    form.session.cmdLogin.Click.raise();
     carrier.calls.clear();
     desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::no);
-    form.cmdLogOut.Click.raise();
+    form.session.cmdLogOut.Click.raise();
     EXPECT_TRUE(state.session.gLoggedIn);
     expect_told(u"Cardvale 폰디라 통합메시징 서비스 로그아웃 하시겠습니까?", BoxIcon::question, "");
 
     desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::yes);
-    form.cmdLogOut.Click.raise();
+    form.session.cmdLogOut.Click.raise();
     expect_logged_out();
     EXPECT_TRUE(carrier.calls.empty()) << "nothing is bound";
 
     log_in(u"hong", u"secret");
-    form.cmdLogin.Click.raise();
+    form.session.cmdLogin.Click.raise();
     EXPECT_EQ(utf8(state.session.gServiceNumber.substr(0, 12)), "030312345678")
         << "the last known number goes along";
 }

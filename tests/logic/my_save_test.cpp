@@ -16,9 +16,9 @@ struct SavingAText : testing::Test, tests::MainWindow {
     void SetUp() override { compose_as(u"홍길동"); }
 
     void save(const Text& subject, const Text& text) {
-        form.mText1.set_text(text);
-        form.subjectText.set_text(subject);
-        form.MySave.Click.raise();
+        form.text.mText1.set_text(text);
+        form.subject.subjectText.set_text(subject);
+        form.text.MySave.Click.raise();
     }
     std::string saved(const Text& title) const {
         const auto file = files.files.find(FOLDER + title + u".txt");
@@ -38,7 +38,8 @@ TEST_F(SavingAText, WritesTheBodyWithoutTheSendersNameUnderTheSubject) {
     };
     for (const auto& row : rows) {
         files.folders.clear();
-        form.txtUserName.set_text(u" 홍길동  ");
+        files.files.clear();
+        form.sender.txtUserName.set_text(u" 홍길동  ");
         desktop.expect_box(u"내 모음함에 '" + Text(row.title) + u"' 제목으로 등록 되었습니다.");
         save(row.subject, row.text);
         EXPECT_EQ(saved(row.title), row.body);
@@ -51,7 +52,7 @@ TEST_F(SavingAText, ATextOfTheSendersNameAloneIsNone) {
         desktop.expect_box(u"메시지 내용을 입력하세요!");
         form.Command1.set_focus();
         save(u"인사", text);
-        EXPECT_TRUE(form.mText1.has_focus());
+        EXPECT_TRUE(form.text.mText1.has_focus());
     }
     EXPECT_TRUE(files.files.empty());
 }
@@ -65,7 +66,7 @@ TEST_F(SavingAText, ASubjectThatIsTakenGetsTheFirstFreeNumberUpToTwoHundred) {
     save(u"인사", u"글");
     EXPECT_EQ(saved(u"인사2"), "글");
     EXPECT_EQ(saved(u"인사1"), "old");
-    EXPECT_EQ(utf8(form.subjectText.text()), "인사") << "the draft keeps its subject";
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "인사") << "the draft keeps its subject";
 
     for (int i = 2; i < 200; ++i) take(u"인사" + platform::decimal(i));
     desktop.expect_box(u"'인사200' 제목으로");

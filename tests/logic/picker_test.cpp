@@ -303,7 +303,9 @@ TEST_F(Picker, AStatementThatTheDatabaseRefusesLeavesTheListWithoutAWord) {
     find_cards(2);
     pick(TEXT, [&](frmSendMan& picker) {
         const auto answer = cards.answer;
-        cards.answer = [](const Text&) -> ScriptedRows { throw RuntimeError(ErrorNumber::broken_statement); };
+        cards.answer = [](const Text&) -> tests::ScriptedRows {
+            throw RuntimeError(ErrorNumber::broken_statement);
+        };
         search(picker, u"O'Brien");
         click(picker, 2);
         picker.Command5.Click.raise();
@@ -325,7 +327,7 @@ TEST_F(Picker, PickedRowsBecomeRecipientsWhenTheyHaveANumberThatIsNew) {
     // It would end the list of recipients for the carrier, and a text with the title in it.
     const Text nul(1, u'\0');
     found.push_back({u"끊" + nul + u"김", u"과" + nul + u"장", u"", u"01077778888"});
-    form.ListView1.add_row(u"", {u"기존", u"0311", u"", u""}, true);
+    form.recipients.ListView1.add_row(u"", {u"기존", u"0311", u"", u""}, true);
     pick(TEXT, [&](frmSendMan& picker) {
         for (std::size_t row = 0; row < found.size(); ++row) picker.ListView2.user_select(row, row != 6);
         picker.ListView2.user_selected_item(0);
@@ -335,15 +337,15 @@ TEST_F(Picker, PickedRowsBecomeRecipientsWhenTheyHaveANumberThatIsNew) {
         EXPECT_FALSE(picker.PBar1.visible());
         EXPECT_EQ(recipients(), (Rows{"기존|0311|", "홍길동|01011112222|부장1", "한빛|01033334444|",
                                       "이름없음|02333|", "끊 김|01077778888|과 장"}));
-        EXPECT_EQ(form.ListView1.checked_count(), 5u);
-        EXPECT_EQ(form.ListView1.selected_item(), 4u);
-        EXPECT_FALSE(form.ListView1.row(2).selected()) << "the newest alone is";
+        EXPECT_EQ(form.recipients.ListView1.checked_count(), 5u);
+        EXPECT_EQ(form.recipients.ListView1.selected_item(), 4u);
+        EXPECT_FALSE(form.recipients.ListView1.row(2).selected()) << "the newest alone is";
 
         state.forms.gDialogConfirmed = false;
         picker.Command2[0].Click.raise();
         EXPECT_FALSE(picker.loaded());
         EXPECT_FALSE(state.forms.gDialogConfirmed) << "all were there already";
-        EXPECT_EQ(form.ListView1.row_count(), 5u);
+        EXPECT_EQ(form.recipients.ListView1.row_count(), 5u);
     });
 }
 
@@ -360,7 +362,7 @@ TEST_F(Picker, OnlyTheChosenNumberCountsAndAnEmptyColumnPicksNobody) {
         {FAX, 1, {}},
     };
     for (const auto& row : rows) {
-        form.ListView1.clear();
+        form.recipients.ListView1.clear();
         pick(row.kind, [&](frmSendMan& picker) {
             picker.Combo2.set_list_index(row.number);
             picker.ListView2.select_item(0);
@@ -387,7 +389,7 @@ TEST_F(Picker, WithoutASelectedRowNothingIsPicked) {
         picker.Command3.Click.raise();
         EXPECT_FALSE(picker.loaded());
     });
-    EXPECT_EQ(form.ListView1.row_count(), 0u);
+    EXPECT_EQ(form.recipients.ListView1.row_count(), 0u);
 }
 
 TEST_F(Picker, FoldersOutsideTheTrashCanBeAskedOfTheDatabaseToo) {

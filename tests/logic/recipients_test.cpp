@@ -25,13 +25,13 @@ struct Recipients : testing::Test, tests::MainWindow {
     void SetUp() override { compose_as(u"홍길동"); }
 
     void add(const Text& name, const Text& number, const Text& status = {}, bool checked = true) {
-        form.ListView1.add_row(u"", {name, number, status, u""}, checked);
+        form.recipients.ListView1.add_row(u"", {name, number, status, u""}, checked);
     }
     /// "name number status" of each row, a checked one with "*" before and a selected one with "!".
     std::vector<std::string> rows() const {
         std::vector<std::string> shown;
-        for (std::size_t i = 0; i < form.ListView1.row_count(); ++i) {
-            const platform::ListItem& row = form.ListView1.row(i);
+        for (std::size_t i = 0; i < form.recipients.ListView1.row_count(); ++i) {
+            const platform::ListItem& row = form.recipients.ListView1.row(i);
             shown.push_back((row.checked() ? "*" : "") + std::string(row.selected() ? "!" : "") +
                             utf8(row.sub_item(RECIPIENT_NAME)) + " " + utf8(row.sub_item(RECIPIENT_NUMBER)) +
                             (row.sub_item(RECIPIENT_STATUS).empty() ? "" : " ") +
@@ -39,7 +39,7 @@ struct Recipients : testing::Test, tests::MainWindow {
         }
         return shown;
     }
-    std::string counts() const { return utf8(form.Label4.caption()); }
+    std::string counts() const { return utf8(form.recipients.Label4.caption()); }
 };
 
 using Rows = std::vector<std::string>;
@@ -51,41 +51,41 @@ using Picking = Recipients;
 
 TEST_F(Typed, ANumberIsJudgedByTheKindAfterTheSearchForDuplicates) {
     const struct {
-        MessageKind kind;
+        compose::MessageKind kind;
         const char16_t *name, *number;
         std::string box;  // none: the row is added
         std::string row;
     } entries[] = {
-        {TEXT_MESSAGE, u"이 순:신 ", u"010-9999-8888", "", "이순신 01099998888"},
-        {TEXT_MESSAGE, u" : : ", u"1588-12345", "", "이름없음 158812345"},
-        {TEXT_MESSAGE, u"이순신", u"   ", "문자보낼번호를(을) 입력하여 주십시오!", ""},
-        {FAX_MESSAGE, u"", u"", "팩스보낼번호를(을) 입력하여 주십시오!", ""},
-        {TEXT_PLUS, u"", u"0641234567", wrong("문자보낼번호", "0641234567", TEXT_ONLY), ""},
-        {VOICE_MESSAGE, u"", u"02-123-4567", "", "이름없음 021234567"},
-        {VOICE_MESSAGE, u"", u"번호를모르는사람임", "", "이름없음 번호를모르는사람임"},
-        {FAX_MESSAGE, u"", u"02-123-4567", "", "이름없음 021234567"},
-        {FAX_MESSAGE, u"", u"05021234567", wrong("팩스보낼번호", "05021234567", NO_FAX), ""},
-        {TEXT_MESSAGE, u"", u"02123456", wrong("문자보낼번호", "02123456", NO_AREA_CODE), ""},
-        {VOICE_MESSAGE, u"", u"12345678", wrong("음성보낼번호", "12345678", NO_AREA_CODE), ""},
+        {compose::MessageKind::text, u"이 순:신 ", u"010-9999-8888", "", "이순신 01099998888"},
+        {compose::MessageKind::text, u" : : ", u"1588-12345", "", "이름없음 158812345"},
+        {compose::MessageKind::text, u"이순신", u"   ", "문자보낼번호를(을) 입력하여 주십시오!", ""},
+        {compose::MessageKind::fax, u"", u"", "팩스보낼번호를(을) 입력하여 주십시오!", ""},
+        {compose::MessageKind::plus, u"", u"0641234567", wrong("문자보낼번호", "0641234567", TEXT_ONLY), ""},
+        {compose::MessageKind::voice, u"", u"02-123-4567", "", "이름없음 021234567"},
+        {compose::MessageKind::voice, u"", u"번호를모르는사람임", "", "이름없음 번호를모르는사람임"},
+        {compose::MessageKind::fax, u"", u"02-123-4567", "", "이름없음 021234567"},
+        {compose::MessageKind::fax, u"", u"05021234567", wrong("팩스보낼번호", "05021234567", NO_FAX), ""},
+        {compose::MessageKind::text, u"", u"02123456", wrong("문자보낼번호", "02123456", NO_AREA_CODE), ""},
+        {compose::MessageKind::voice, u"", u"12345678", wrong("음성보낼번호", "12345678", NO_AREA_CODE), ""},
         // Duplicates come first: they are told even where the number is too short or of the wrong kind.
-        {TEXT_MESSAGE, u"", u"0101234", "이미 동일한 이름가 존재합니다.", "duplicate"},
-        {FAX_MESSAGE, u"", u"01012345678", "이미 동일한 이름가 존재합니다.", "duplicate"},
-        {VOICE_MESSAGE, u"", u"부장", "이미 동일한 이름가 존재합니다.", "duplicate"},
+        {compose::MessageKind::text, u"", u"0101234", "이미 동일한 이름가 존재합니다.", "duplicate"},
+        {compose::MessageKind::fax, u"", u"01012345678", "이미 동일한 이름가 존재합니다.", "duplicate"},
+        {compose::MessageKind::voice, u"", u"부장", "이미 동일한 이름가 존재합니다.", "duplicate"},
     };
     for (const auto& entry : entries) {
         SCOPED_TRACE(utf8(entry.name) + "/" + utf8(entry.number));
         desktop.boxes.clear();
-        form.TabStrip1.select(entry.kind);
-        form.ListView1.clear();
-        form.ListView1.add_row(u"", {u"김유신", u"01012345678", u"", u"부장"}, true);
-        form.ListView1.add_row(u"", {u"계백", u"0317654321"}, false);
-        form.ListView1.select_item(1);
-        form.RECIPIENT_COUNT_CAPTION();
+        form.choose(entry.kind);
+        form.recipients.ListView1.clear();
+        form.recipients.ListView1.add_row(u"", {u"김유신", u"01012345678", u"", u"부장"}, true);
+        form.recipients.ListView1.add_row(u"", {u"계백", u"0317654321"}, false);
+        form.recipients.ListView1.select_item(1);
+        form.recipients.RECIPIENT_COUNT_CAPTION();
         form.Command1.set_focus();
-        form.HText1[0].set_text(entry.name);
-        form.HText1[1].set_text(entry.number);
+        form.recipients.HText1[0].set_text(entry.name);
+        form.recipients.HText1[1].set_text(entry.number);
         if (!entry.box.empty()) desktop.expect_box(platform::from_utf8(entry.box));
-        form.HBttn1.Click.raise();
+        form.recipients.HBttn1.Click.raise();
 
         const bool duplicate = entry.row == "duplicate", added = entry.box.empty();
         Rows expected = {"*김유신 01012345678", "!계백 0317654321"};
@@ -93,10 +93,11 @@ TEST_F(Typed, ANumberIsJudgedByTheKindAfterTheSearchForDuplicates) {
         if (added) expected = {"*김유신 01012345678", "계백 0317654321", "*!" + entry.row};
         EXPECT_EQ(rows(), expected);
         EXPECT_EQ(counts(), added ? "전체>3>대상>2" : "전체>2>대상>1");
-        EXPECT_EQ(form.HText1[1].has_focus(), !added && !duplicate);
-        EXPECT_EQ(form.HText1[0].has_focus(), added);
-        EXPECT_EQ(utf8(form.HText1[0].text()), added ? "" : utf8(entry.name)) << "a refused entry stays";
-        EXPECT_EQ(form.HText1[1].text().empty(), added || platform::trim(entry.number).empty());
+        EXPECT_EQ(form.recipients.HText1[1].has_focus(), !added && !duplicate);
+        EXPECT_EQ(form.recipients.HText1[0].has_focus(), added);
+        EXPECT_EQ(utf8(form.recipients.HText1[0].text()), added ? "" : utf8(entry.name))
+            << "a refused entry stays";
+        EXPECT_EQ(form.recipients.HText1[1].text().empty(), added || platform::trim(entry.number).empty());
         if (!added) {
             EXPECT_EQ(utf8(desktop.boxes[0].text), entry.box);
             EXPECT_EQ(desktop.boxes[0].icon, BoxIcon::exclamation);
@@ -105,38 +106,38 @@ TEST_F(Typed, ANumberIsJudgedByTheKindAfterTheSearchForDuplicates) {
 }
 
 TEST_F(Typed, EnterGoesFromTheNameToTheNumberAndThenAdds) {
-    form.HText1[0].set_focus();
-    tests::press(form.HText1[0], u'김');
-    tests::press(form.HText1[0], u'\r');
-    EXPECT_TRUE(form.HText1[1].has_focus());
-    for (const char16_t digit : Text(u"01012345678")) tests::press(form.HText1[1], digit);
-    EXPECT_EQ(form.ListView1.row_count(), 0u);
-    tests::press(form.HText1[1], u'\r');
+    form.recipients.HText1[0].set_focus();
+    tests::press(form.recipients.HText1[0], u'김');
+    tests::press(form.recipients.HText1[0], u'\r');
+    EXPECT_TRUE(form.recipients.HText1[1].has_focus());
+    for (const char16_t digit : Text(u"01012345678")) tests::press(form.recipients.HText1[1], digit);
+    EXPECT_EQ(form.recipients.ListView1.row_count(), 0u);
+    tests::press(form.recipients.HText1[1], u'\r');
     EXPECT_EQ(rows(), Rows{"*!김 01012345678"});
-    EXPECT_TRUE(form.HText1[0].has_focus());
+    EXPECT_TRUE(form.recipients.HText1[0].has_focus());
 }
 
 TEST_F(Deleting, TakesTheSelectedRowsWhenTheUserSaysYes) {
     platform::KeyPressed other_key{65};
     platform::KeyPressed delete_key{platform::KEY_DELETE};
     const std::vector<std::function<void()>> ways = {
-        [&] { form.HBttn2.Click.raise(); },
-        [&] { form.ListView1.KeyDown.raise(delete_key); },
-        [&] { form.mnusubpopup9.Click.raise(); },
+        [&] { form.recipients.HBttn2.Click.raise(); },
+        [&] { form.recipients.ListView1.KeyDown.raise(delete_key); },
+        [&] { form.recipients.mnusubpopup9.Click.raise(); },
     };
     for (const auto& delete_rows : ways) {
-        form.ListView1.clear();
+        form.recipients.ListView1.clear();
         for (const char16_t* name : {u"가", u"나", u"다", u"라"}) add(name, u"010");
-        form.RECIPIENT_COUNT_CAPTION();
-        form.ListView1.user_select(1, true);
+        form.recipients.RECIPIENT_COUNT_CAPTION();
+        form.recipients.ListView1.user_select(1, true);
         delete_rows();
-        EXPECT_EQ(form.ListView1.row_count(), 4u) << "without a selected item nothing is said";
-        form.ListView1.select_item(3);
-        form.ListView1.KeyDown.raise(other_key);
+        EXPECT_EQ(form.recipients.ListView1.row_count(), 4u) << "without a selected item nothing is said";
+        form.recipients.ListView1.select_item(3);
+        form.recipients.ListView1.KeyDown.raise(other_key);
 
         desktop.expect_box(u"선택한 목록을 삭제하시겠습니까?", BoxAnswer::no);
         delete_rows();
-        EXPECT_EQ(form.ListView1.row_count(), 4u);
+        EXPECT_EQ(form.recipients.ListView1.row_count(), 4u);
         desktop.expect_box(u"선택한 목록을 삭제하시겠습니까?", BoxAnswer::yes);
         delete_rows();
         EXPECT_EQ(rows(), (Rows{"*가 010", "*다 010"}));
@@ -147,61 +148,61 @@ TEST_F(Deleting, TakesTheSelectedRowsWhenTheUserSaysYes) {
 TEST_F(Checking, ByTheUserEmptiesTheStatusSoThatAFailedRowIsSentAgain) {
     add(u"가", u"010", u"등록실패", false);
     add(u"나", u"011", u"등록성공", true);
-    form.ListView1.user_check(0, true);
-    form.ListView1.user_check(1, false);
+    form.recipients.ListView1.user_check(0, true);
+    form.recipients.ListView1.user_check(1, false);
     EXPECT_EQ(rows(), (Rows{"*가 010", "나 011 등록성공"}));
     EXPECT_EQ(counts(), "전체>2>대상>1");
 }
 
 TEST_F(Checking, TheMenuChecksAndUnchecksTheSelectedRows) {
     for (const char16_t* name : {u"가", u"나", u"다"}) add(name, u"010", u"등록실패", false);
-    form.ListView1.user_select(2, true);
-    form.mnusubpopup4.Click.raise();
+    form.recipients.ListView1.user_select(2, true);
+    form.recipients.mnusubpopup4.Click.raise();
     EXPECT_EQ(rows(), (Rows{"가 010 등록실패", "나 010 등록실패", "!다 010 등록실패"})) << "no selected item";
-    form.ListView1.select_item(0);
-    form.mnusubpopup4.Click.raise();
+    form.recipients.ListView1.select_item(0);
+    form.recipients.mnusubpopup4.Click.raise();
     EXPECT_EQ(rows(), (Rows{"*!가 010", "나 010 등록실패", "*!다 010"}));
     EXPECT_EQ(counts(), "전체>3>대상>2");
-    form.ListView1.set_sub_item(0, RECIPIENT_STATUS, u"등록성공");
-    form.mnusubpopup5.Click.raise();
+    form.recipients.ListView1.set_sub_item(0, RECIPIENT_STATUS, u"등록성공");
+    form.recipients.mnusubpopup5.Click.raise();
     EXPECT_EQ(rows(), (Rows{"!가 010 등록성공", "나 010 등록실패", "!다 010"}));
     EXPECT_EQ(counts(), "전체>3>대상>0");
 }
 
 TEST_F(Checking, ProgressShowsAboveFiveHundredRowsOnly) {
     for (int i = 0; i < 500; ++i) add(u"가", u"010", {}, false);
-    form.ListView1.select_all();
-    form.mnusubpopup4.Click.raise();
-    EXPECT_EQ(form.PBar1.value(), 0);
+    form.recipients.ListView1.select_all();
+    form.recipients.mnusubpopup4.Click.raise();
+    EXPECT_EQ(form.recipients.PBar1.value(), 0);
     add(u"나", u"011", {}, false);
-    form.mnusubpopup5.Click.raise();
-    EXPECT_EQ(form.PBar1.value(), 100);
-    EXPECT_FALSE(form.PBar1.visible());
+    form.recipients.mnusubpopup5.Click.raise();
+    EXPECT_EQ(form.recipients.PBar1.value(), 100);
+    EXPECT_FALSE(form.recipients.PBar1.visible());
 }
 
 TEST_F(Recipients, CtrlAAndTheMenuSelectEveryRowAndTheRightButtonOpensTheMenu) {
     platform::KeyPressed a{u'a'}, ctrl_a{platform::KEY_CTRL_A};
     for (const char16_t* name : {u"가", u"나"}) add(name, u"010", {}, false);
-    form.ListView1.KeyPress.raise(a);
-    EXPECT_FALSE(form.ListView1.row(0).selected());
-    form.ListView1.KeyPress.raise(ctrl_a);
+    form.recipients.ListView1.KeyPress.raise(a);
+    EXPECT_FALSE(form.recipients.ListView1.row(0).selected());
+    form.recipients.ListView1.KeyPress.raise(ctrl_a);
     EXPECT_EQ(rows(), (Rows{"!가 010", "!나 010"}));
-    form.ListView1.deselect_item();
-    form.mnusubpopup7.Click.raise();
+    form.recipients.ListView1.deselect_item();
+    form.recipients.mnusubpopup7.Click.raise();
     EXPECT_EQ(rows(), (Rows{"!가 010", "!나 010"}));
 
-    form.ListView1.MouseUp.raise(platform::MouseButton::left);
+    form.recipients.ListView1.MouseUp.raise(platform::MouseButton::left);
     EXPECT_TRUE(desktop.popups.empty());
-    form.ListView1.MouseUp.raise(platform::MouseButton::right);
-    EXPECT_EQ(desktop.popups, std::vector<const platform::Menu*>{&form.mnuSubPopup});
+    form.recipients.ListView1.MouseUp.raise(platform::MouseButton::right);
+    EXPECT_EQ(desktop.popups, std::vector<const platform::Menu*>{&form.recipients.mnuSubPopup});
 }
 
 TEST_F(Sorting, AClickOnTheColumnOfTheCheckBoxesSortsByTheName) {
     add(u"가", u"1");
     add(u"나", u"2");
-    form.ListView1.ColumnClick.raise(1);
+    form.recipients.ListView1.ColumnClick.raise(1);
     EXPECT_EQ(rows(), (Rows{"*나 2", "*가 1"}));
-    EXPECT_EQ(form.ListView1.sort_key(), 1);
+    EXPECT_EQ(form.recipients.ListView1.sort_key(), 1);
 }
 
 TEST_F(Picking, CountsAgainWhenRowsCameOrTheDialogWasConfirmed) {
@@ -211,11 +212,11 @@ TEST_F(Picking, CountsAgainWhenRowsCameOrTheDialogWasConfirmed) {
         state.forms.gDialogConfirmed = confirms;
     };
     for (const int outcome : {0, 1, 2}) {
-        form.Label4.set_caption(u"old");
+        form.recipients.Label4.set_caption(u"old");
         state.forms.gDialogConfirmed = true;
         adds = outcome == 1;
         confirms = outcome == 2;
-        (confirms ? form.Command7.Click : form.mnusubpopup1.Click).raise();
+        (confirms ? form.recipients.Command7.Click : form.recipients.mnusubpopup1.Click).raise();
         EXPECT_EQ(counts() != "old", adds || confirms);
     }
 }

@@ -42,7 +42,8 @@ class MyMsgBox : public testing::Test, protected tests::MainWindow {
     }
 
     frmMyMsgBox& open() {
-        box_.emplace(platform, form);
+        box_.emplace(platform,
+                     [this](const Text& text, const Text& title) { form.apply_saved_text(text, title); });
         box_->load();
         return *box_;
     }
@@ -257,8 +258,6 @@ TEST_F(MyMsgBox, AddsACategoryUnderANameThatIsFree) {
         {u" */ ", nullptr},
         {u"거*래처", u"'거래처' 분류명은 이미 존재하고 있습니다."},
         {u"LPT1", u"오류번호:52\r\n\r\n시스템에서 사용하는 이름"},
-        {u"...", u"오류번호:52\r\n\r\n이름은 마침표로 시작할 수 없습니다."},
-        {u"끝.", u"오류번호:52\r\n\r\n이름은 마침표나 빈칸으로 끝날 수 없습니다."},
     };
     for (const auto& row : rows) {
         desktop.expect_input(
@@ -340,16 +339,16 @@ TEST_F(MyMsgBox, TheApplyQuestionCountsTheSendersNameAndTheTagEndsWithIt) {
     };
     for (const auto& row : rows) {
         put(FIRST, u"인사", platform::encode_cp949(row.body));
-        form.txtUserName.set_text(row.sender);
-        form.subjectText.set_text(u"");
+        form.sender.txtUserName.set_text(row.sender);
+        form.subject.subjectText.set_text(u"");
         open();
         choose(box().ListView2, 0);
         if (row.answer) desktop.expect_box(u"[장문메시지 알림] 80Byte이상 입력하시겠습니까?", *row.answer);
         if (row.answer == BoxAnswer::no) desktop.expect_box(u"입력하신 문자가 80Byte를 넘었습니다.");
         box().Command5.Click.raise();
-        EXPECT_EQ(utf8(form.mText1.text()), row.applied);
-        EXPECT_EQ(utf8(form.mText1.tag()), "");
-        EXPECT_EQ(utf8(form.subjectText.text() + form.subjectText.tag()), "인사END");
+        EXPECT_EQ(utf8(form.text.mText1.text()), row.applied);
+        EXPECT_EQ(utf8(form.text.mText1.tag()), "");
+        EXPECT_EQ(utf8(form.subject.subjectText.text() + form.subject.subjectText.tag()), "인사END");
         EXPECT_FALSE(box().Command5.enabled());
     }
 }
@@ -357,20 +356,21 @@ TEST_F(MyMsgBox, TheApplyQuestionCountsTheSendersNameAndTheTagEndsWithIt) {
 TEST_F(MyMsgBox, OtherKindsTakeTheTitleAlone) {
     put(FIRST, u"인사", "text");
     put(FIRST, u"빈글", "\r\n  \r\n");
-    for (const int kind : {compose::TEXT_PLUS, compose::VOICE_MESSAGE, compose::FAX_MESSAGE}) {
-        form.TabStrip1.select(kind);
-        const Text before = form.mText1.text() + form.mText2.text();
+    for (const compose::MessageKind kind :
+         {compose::MessageKind::plus, compose::MessageKind::voice, compose::MessageKind::fax}) {
+        form.choose(kind);
+        const Text before = form.text.mText1.text() + form.plus.mText2.text();
         open();
         choose(box().ListView2, 1);
         box().Command6.Click.raise();
         EXPECT_FALSE(box().loaded());
-        EXPECT_EQ(utf8(form.subjectText.text()), "인사") << kind;
-        EXPECT_EQ(utf8(form.mText1.text() + form.mText2.text()), utf8(before));
+        EXPECT_EQ(utf8(form.subject.subjectText.text()), "인사") << static_cast<int>(kind);
+        EXPECT_EQ(utf8(form.text.mText1.text() + form.plus.mText2.text()), utf8(before));
     }
     open();
     choose(box().ListView2, 0);
     box().Command5.Click.raise();
-    EXPECT_EQ(utf8(form.subjectText.text()), "인사") << "an empty text is not applied";
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "인사") << "an empty text is not applied";
 }
 
 TEST_F(MyMsgBox, EveryShapeOfTextComesBackByteByByte) {
@@ -401,7 +401,7 @@ TEST_F(MyMsgBox, EveryShapeOfTextComesBackByteByByte) {
 
 /// The program is killed at each change of the disk in turn, in each operation.
 TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited) {
-    const std::map<Text, std::string> all = {
+    const tests::MemoryFiles::Contents all = {
         {path(FIRST, u"가"), "1"}, {path(u"분류", u"나"), "2"}, {path(u"분류", u"다"), "3"}};
     const struct {
         const char* what;
@@ -430,9 +430,9 @@ TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited)
          {path(u"분류", u"나"), path(u"분류", u"다")}},
         {"MySave",
          [&] {
-             form.subjectText.set_text(u"가");
-             form.mText1.set_text(u"글");
-             form.MySave.Click.raise();
+             form.subject.subjectText.set_text(u"가");
+             form.text.mText1.set_text(u"글");
+             form.text.MySave.Click.raise();
          },
          {}},
     };
@@ -452,7 +452,7 @@ TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited)
             try {
                 operation.act();
                 finished = true;
-            } catch (const MemoryFiles::Killed&) {
+            } catch (const tests::MemoryFiles::Killed&) {
                 // The next start finds what is left.
             }
             files.changes_until_kill.reset();

@@ -15,9 +15,9 @@ struct Schedule : testing::Test, tests::MainWindow {
 
     /// The schedule as it shows.
     std::string shown() const {
-        const auto date = platform::break_up(form.DTP1.value());
-        return std::to_string(date.month) + "/" + std::to_string(date.day) + " " + utf8(form.Combo1.text()) +
-               ":" + utf8(form.Combo2.text());
+        const auto date = platform::break_up(form.schedule.DTP1.value());
+        return std::to_string(date.month) + "/" + std::to_string(date.day) + " " +
+               utf8(form.schedule.Combo1.text()) + ":" + utf8(form.schedule.Combo2.text());
     }
 };
 
@@ -40,10 +40,10 @@ TEST_F(Schedule, AddingMinutesCarriesOneHourAndOneDayAndNoMore) {
         {11, 23, 10, 5, -10, "11/23 10:05"},
     };
     for (const auto& row : rows) {
-        form.DTP1.set_value(make_time(2026, row.month, row.day));
-        form.Combo1.set_list_index(row.hour);
-        form.Combo2.set_list_index(row.minute);
-        form.RESERVE_TIME_ADD(row.added);
+        form.schedule.DTP1.set_value(make_time(2026, row.month, row.day));
+        form.schedule.Combo1.set_list_index(row.hour);
+        form.schedule.Combo2.set_list_index(row.minute);
+        form.schedule.RESERVE_TIME_ADD(row.added);
         EXPECT_EQ(shown(), row.shown) << row.hour << ":" << row.minute << " + " << row.added;
     }
 }
@@ -66,24 +66,24 @@ TEST_F(Schedule, AScheduledMessageBeginsAtTheSavedLeadWithTwoMinutesMargin) {
     };
     for (const auto& row : rows) {
         save_setting(u"SET", u"P_TIME", row.lead);
-        form.Option1.set_chosen(true);
+        form.schedule.Option1.set_chosen(true);
         clock.set(make_time(2026, 11, 23, row.hour, row.minute, 59));
-        form.Combo1.set_list_index(3);
-        form.DTP1.set_value(make_time(2030, 1, 1));
-        form.Option2.set_chosen(true);
+        form.schedule.Combo1.set_list_index(3);
+        form.schedule.DTP1.set_value(make_time(2030, 1, 1));
+        form.schedule.Option2.set_chosen(true);
         EXPECT_EQ(shown(), row.shown) << utf8(row.lead);
     }
 }
 
 TEST_F(Schedule, TheTwoOptionsExcludeEachOtherAndOnlyAScheduleCanBeChanged) {
     for (const bool scheduled : {true, false}) {
-        (scheduled ? form.Option2 : form.Option1).set_chosen(true);
-        EXPECT_EQ(form.Option1.chosen(), !scheduled);
-        EXPECT_EQ(form.Option2.chosen(), scheduled);
-        for (const platform::Control* control :
-             std::initializer_list<const platform::Control*>{&form.DTP1, &form.Combo1, &form.Combo2})
+        (scheduled ? form.schedule.Option2 : form.schedule.Option1).set_chosen(true);
+        EXPECT_EQ(form.schedule.Option1.chosen(), !scheduled);
+        EXPECT_EQ(form.schedule.Option2.chosen(), scheduled);
+        for (const platform::Control* control : std::initializer_list<const platform::Control*>{
+                 &form.schedule.DTP1, &form.schedule.Combo1, &form.schedule.Combo2})
             EXPECT_EQ(control->enabled(), scheduled);
-        EXPECT_EQ(form.Command6.visible(), scheduled);
+        EXPECT_EQ(form.schedule.Command6.visible(), scheduled);
     }
 }
 
@@ -91,23 +91,23 @@ TEST_F(Schedule, TheHiddenShortcutsKnowTheirMinutesAndActOnlyWhenShown) {
     const char* const shown_after[] = {"11/23 10:01", "11/23 10:02", "11/23 10:03",
                                        "11/23 10:04", "11/23 10:05", "11/23 10:10",
                                        "11/23 10:20", "11/23 10:30", "11/23 11:00"};
-    ASSERT_EQ(form.Combo6.rows().size(), std::size(shown_after));
+    ASSERT_EQ(form.schedule.Combo6.rows().size(), std::size(shown_after));
     for (int row = 0; row < 9; ++row) {
-        form.Combo1.set_list_index(10);
-        form.Combo2.set_list_index(0);
-        form.Combo6.hide();
-        form.Combo6.set_list_index(row);
+        form.schedule.Combo1.set_list_index(10);
+        form.schedule.Combo2.set_list_index(0);
+        form.schedule.Combo6.hide();
+        form.schedule.Combo6.set_list_index(row);
         EXPECT_EQ(shown(), "11/23 10:00");
-        form.Combo6.show();
-        form.Combo6.set_list_index(row);
+        form.schedule.Combo6.show();
+        form.schedule.Combo6.set_list_index(row);
         EXPECT_EQ(shown(), shown_after[row]);
     }
 }
 
 TEST_F(Schedule, TheNumberOfAnswersCanBeChosenWhileAnswersAreTaken) {
     for (const bool on : {true, false}) {
-        form.Check2.set_checked(on);
-        EXPECT_EQ(form.Combo4.enabled(), on);
+        form.reply.Check2.set_checked(on);
+        EXPECT_EQ(form.reply.Combo4.enabled(), on);
     }
 }
 
@@ -127,14 +127,14 @@ TEST_F(Schedule, TheLeadIsChosenByRowAndKeptWithItsMinutes) {
     }
 
     const int minutes[] = {0, 20, 30, 40, 50, 60, 90};
-    form.Option2.set_chosen(true);
+    form.schedule.Option2.set_chosen(true);
     const std::string before = shown();
     for (int row = 0; row < 7; ++row) {
         desktop.in_form<compose::frmSet1>(u"frmSet1", [&](compose::frmSet1& settings) {
             settings.Combo1.set_list_index(row);
             settings.Command1.Click.raise();
         });
-        form.Command6.Click.raise();
+        form.schedule.Command6.Click.raise();
         EXPECT_EQ(setting(u"SET", u"P_TIME_SET"), std::to_string(row));
         EXPECT_EQ(setting(u"SET", u"P_TIME"), std::to_string(minutes[row]));
     }
@@ -142,7 +142,7 @@ TEST_F(Schedule, TheLeadIsChosenByRowAndKeptWithItsMinutes) {
         settings.Combo1.set_list_index(1);
         settings.Command2.Click.raise();
     });
-    form.Command6.Click.raise();
+    form.schedule.Command6.Click.raise();
     EXPECT_EQ(setting(u"SET", u"P_TIME"), "90");
     EXPECT_EQ(shown(), before) << "the lead counts from the next schedule";
 }

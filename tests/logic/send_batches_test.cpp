@@ -8,7 +8,7 @@ using namespace platform;
 using tests::Sending;
 using tests::utf8;
 using Lines = std::vector<std::string>;
-using Registration = RecordingCarrier::Registration;
+using Registration = tests::RecordingCarrier::Registration;
 
 Text batch_of(const Registration& r) {
     return r.s_subject + u" " + decimal(r.s_dest_addr_count) + u" " +
@@ -26,7 +26,7 @@ TEST(SendBatches, GoByAHundredUnderNumberedSubjects) {
                                       "bind", "submit", "unbind"}));
     EXPECT_EQ(s.clock.pauses, (std::vector<int>{500, 500, 500, 500, 500, 500}));
     EXPECT_EQ(s.carrier.registrations[2].submit_sequence, 3);
-    EXPECT_EQ(utf8(s.form.Label4.caption()), "전체>250>대상>0");
+    EXPECT_EQ(utf8(s.form.recipients.Label4.caption()), "전체>250>대상>0");
 
     Sending one_batch;
     one_batch.add_many(100);
@@ -163,21 +163,21 @@ TEST(SendKinds, GiveTheCarrierTheirCodesAndTheirFieldsAlone) {
     for (const auto& kind : kinds) {
         Sending s;
         for (const char16_t* path : {u"c:\\A b.WAV", u"c:\\1.TXT", u"c:\\2.doc"}) s.files.write(path, "");
-        s.form.Option2.set_chosen(true);
-        s.form.DTP1.set_value(make_time(2027, 7, 5));
-        s.form.Combo1.set_list_index(9);
-        s.form.Combo2.set_list_index(5);
-        s.form.Check2.set_checked(kind.takes_answers);
-        s.form.Combo4.set_list_index(2);
+        s.form.schedule.Option2.set_chosen(true);
+        s.form.schedule.DTP1.set_value(make_time(2027, 7, 5));
+        s.form.schedule.Combo1.set_list_index(9);
+        s.form.schedule.Combo2.set_list_index(5);
+        s.form.reply.Check2.set_checked(kind.takes_answers);
+        s.form.reply.Combo4.set_list_index(2);
         s.form.TabStrip1.select(kind.tab);
-        s.form.TabStrip2.select(kind.source);
+        s.form.voice.TabStrip2.select(kind.source);
         s.record({1});
-        s.form.mText1.set_text(u"안녕");
-        s.form.mText2.set_text(u"플러스");
-        s.form.ttsText.set_text(u"음성");
-        s.form.TTSFileTxt.set_text(u"c:\\A b.WAV");
-        s.form.FAX1.add_row(u"c:\\1.TXT", {});
-        s.form.FAX1.add_row(u"c:\\2.doc", {});
+        s.form.text.mText1.set_text(u"안녕");
+        s.form.plus.mText2.set_text(u"플러스");
+        s.form.voice.ttsText.set_text(u"음성");
+        s.form.voice.TTSFileTxt.set_text(u"c:\\A b.WAV");
+        s.form.fax.FAX1.add_row(u"c:\\1.TXT", {});
+        s.form.fax.FAX1.add_row(u"c:\\2.doc", {});
         s.add(u"a", kind.tab == 4 ? u"021112222" : u"01011112222");
         s.send();
         EXPECT_EQ(s.registered(arguments), Lines{kind.arguments + std::string(" 20270705090500")});
@@ -201,10 +201,10 @@ TEST(SendKinds, ATextThatIsNoKindIsNotSubmittedAndItsRowsFail) {
 TEST(SendSubject, IsOneLineAndNeverEmpty) {
     Sending s;
     s.add_many(1);
-    s.form.subjectText.set_text(u" 여러\r\n줄 ");
+    s.form.subject.subjectText.set_text(u" 여러\r\n줄 ");
     s.send();
-    s.form.ListView1.set_checked(0, true);
-    s.form.subjectText.set_text(u"\r\n");
+    s.form.recipients.ListView1.set_checked(0, true);
+    s.form.subject.subjectText.set_text(u"\r\n");
     s.send();
     EXPECT_EQ(s.registered([](const Registration& r) { return r.s_subject; }), (Lines{"여러줄", "제목없음"}));
 }

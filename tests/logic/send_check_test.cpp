@@ -28,21 +28,21 @@ struct Refusal {
 TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsMended) {
     const auto voice = [](Sending& s, int kind, int source) {
         s.form.TabStrip1.select(kind);
-        s.form.TabStrip2.select(source);
+        s.form.voice.TabStrip2.select(source);
     };
     const auto fax = [](Sending& s, std::initializer_list<const char16_t*> documents) {
         s.form.TabStrip1.select(4);
-        s.form.FAXBttn1.set_enabled(true);
+        s.form.fax.FAXBttn1.set_enabled(true);
         s.files.files[u"c:\\a.txt"] = "a";
-        for (const char16_t* path : documents) s.form.FAX1.add_row(path, {});
+        for (const char16_t* path : documents) s.form.fax.FAX1.add_row(path, {});
     };
     const Refusal refusals[] = {
         {"the sender's name alone", [](Sending& s) { s.type(u" [홍길동] "); }, u"메시지 내용을 입력하십시오!",
          u"mText1"},
-        {"no speech", [&](Sending& s) { voice(s, 2, 1), s.form.ttsText.set_text(u" \r\n "); },
+        {"no speech", [&](Sending& s) { voice(s, 2, 1), s.form.voice.ttsText.set_text(u" \r\n "); },
          u"음성으로 변환할 TTS내용을 입력하십시오.", u"ttsText"},
         {"a sound file that has gone",
-         [&](Sending& s) { voice(s, 3, 3), s.form.TTSFileTxt.set_text(u"c:\\a.wav"); },
+         [&](Sending& s) { voice(s, 3, 3), s.form.voice.TTSFileTxt.set_text(u"c:\\a.wav"); },
          u"첨부할 WAV파일을 선택하여 주십시오.", u""},
         {"no document", [&](Sending& s) { fax(s, {}); }, u"보낼문서를 지정하여 주십시오.", u"FAXBttn1"},
         {"a document that has gone",
@@ -57,7 +57,7 @@ TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsMended) {
         {"a fixed line for a text with voice",
          [&](Sending& s) {
              voice(s, 2, 1);
-             s.form.ttsText.set_text(u"음성");
+             s.form.voice.ttsText.set_text(u"음성");
              s.add(u"b", u"0212345678");
          },
          MOBILE_ONLY, u"ListView1"},
@@ -78,7 +78,7 @@ TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsMended) {
         EXPECT_EQ(utf8(s.desktop.boxes[0].text), utf8(refusal.words));
         EXPECT_EQ(s.desktop.boxes[0].icon, BoxIcon::exclamation);
         EXPECT_EQ(utf8(s.form.focused() ? s.form.focused()->name() : Text()), utf8(refusal.focus));
-        EXPECT_FALSE(s.form.PBar1.visible());
+        EXPECT_FALSE(s.form.recipients.PBar1.visible());
         EXPECT_TRUE(s.desktop.forms.empty());
     }
 }
@@ -86,9 +86,9 @@ TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsMended) {
 TEST(SendCheck, TellsTheFirstOfSeveralFaults) {
     Sending s;
     s.state.session.gLoggedIn = false;
-    s.form.mText1.set_text(u"");
-    s.form.Option2.set_chosen(true);
-    s.form.Combo1.set_list_index(9);
+    s.form.text.mText1.set_text(u"");
+    s.form.schedule.Option2.set_chosen(true);
+    s.form.schedule.Combo1.set_list_index(9);
     const auto told = [&](Text words) {
         s.desktop.expect_box(std::move(words));
         s.click();
@@ -99,17 +99,17 @@ TEST(SendCheck, TellsTheFirstOfSeveralFaults) {
     s.files.folders.clear();
     told(u"메시지 내용을 입력하십시오!");
     EXPECT_TRUE(s.files.folders.contains(u"c:\\temp"));
-    s.form.mText1.set_text(u"안녕");
+    s.form.text.mText1.set_text(u"안녕");
     told(u"받는사람을 입력하여 주십시오!");
     s.add(u"a", u"1", false);
     told(u"받는사람을 선택하여 주십시오.");
     s.add(u"b", u"01011112222");
     s.add(u"c", u"12345678");
     told(NO_AREA_CODE);
-    s.form.ListView1.set_checked(2, false);
+    s.form.recipients.ListView1.set_checked(2, false);
     told(u"예약 전송은 현재 시간에서 30분 후부터 가능합니다!");
     EXPECT_EQ(utf8(s.desktop.boxes.back().title), "시간 확인");
-    s.form.Option1.set_chosen(true);
+    s.form.schedule.Option1.set_chosen(true);
     s.send();
     EXPECT_EQ(s.carrier.registrations.size(), 1u);
 }
@@ -118,9 +118,9 @@ TEST(SendCheck, ARecordingIsSavedForTheCarrierAndWithoutOneTheClickEndsSilently)
     for (const int kind : {2, 3}) {
         Sending s;
         s.form.TabStrip1.select(kind);
-        s.form.TabStrip2.select(2);
+        s.form.voice.TabStrip2.select(2);
         s.add(u"a", u"01011112222");
-        s.form.RFK1.open();
+        s.form.voice.RFK1.open();
         s.click();
         EXPECT_TRUE(s.desktop.boxes.empty());
         EXPECT_TRUE(s.files.files.empty());
@@ -132,16 +132,27 @@ TEST(SendCheck, ARecordingIsSavedForTheCarrierAndWithoutOneTheClickEndsSilently)
     }
 }
 
+TEST(SendCheck, LeavesASemicolonInANameToTheCarrierAndMindsNoFileInTheSoundFoldersPlace) {
+    Sending s;
+    s.files.files[u"c:\\temp"] = "no folder";
+    s.files.files[u"z:\\가 나;'다'.txt"] = "text";
+    s.form.TabStrip1.select(4);
+    s.form.fax.FAX1.add_row(u"z:\\가 나;'다'.txt", {});
+    s.add(u"a", u"025551234");
+    s.send();
+    EXPECT_EQ(utf8(s.carrier.registrations.at(0).s_attach_file), "z:\\가 나;'다'.txt;");
+}
+
 TEST(SendCheck, CompletesSubjectAndSender) {
     Sending s;
-    s.form.subjectText.set_text(u"");
-    s.form.txtUserName.set_text(u" 홍길동 ");
-    s.form.txtCallback.set_text(u"  ");
+    s.form.subject.subjectText.set_text(u"");
+    s.form.sender.txtUserName.set_text(u" 홍길동 ");
+    s.form.sender.txtCallback.set_text(u"  ");
     s.add(u"a", u"01011112222");
     s.send();
-    EXPECT_EQ(utf8(s.form.subjectText.text()), "[홍길동]안녕하세요");
-    EXPECT_EQ(utf8(s.form.txtUserName.text()), "홍길동");
-    EXPECT_EQ(utf8(s.form.txtCallback.text()), "02-999-0000");
+    EXPECT_EQ(utf8(s.form.subject.subjectText.text()), "[홍길동]안녕하세요");
+    EXPECT_EQ(utf8(s.form.sender.txtUserName.text()), "홍길동");
+    EXPECT_EQ(utf8(s.form.sender.txtCallback.text()), "02-999-0000");
     EXPECT_EQ(utf8(s.carrier.registrations.at(0).s_callback), "029990000");
 }
 
@@ -155,11 +166,11 @@ TEST(SendBox, ShowsWhatIsAboutToGo) {
          " 회신번호      : 02-123-4567\r\n 발송대상      : a(010-1111-2222)"},
         {[](Sending& s) {
              s.type(Text(81, u'a'));
-             s.form.subjectText.set_text(u"인사");
-             s.form.Option2.set_chosen(true);
-             s.form.DTP1.set_value(make_time(2027, 7, 5));
-             s.form.Combo1.set_list_index(9);
-             s.form.Combo2.set_list_index(5);
+             s.form.subject.subjectText.set_text(u"인사");
+             s.form.schedule.Option2.set_chosen(true);
+             s.form.schedule.DTP1.set_value(make_time(2027, 7, 5));
+             s.form.schedule.Combo1.set_list_index(9);
+             s.form.schedule.Combo2.set_list_index(5);
              s.add(u"b", u"01022223333");
              s.add(u"c", u"01033334444", false);
              s.add(u"d", u"01044445555");
@@ -170,18 +181,18 @@ TEST(SendBox, ShowsWhatIsAboutToGo) {
          " 발송대상      : a(010-1111-2222)외 2건"},
         {[](Sending& s) {
              s.form.TabStrip1.select(2);
-             s.form.subjectText.set_text(u"인사");
-             s.form.ttsText.set_text(u"음성");
-             s.form.Check2.set_checked(true);
+             s.form.subject.subjectText.set_text(u"인사");
+             s.form.voice.ttsText.set_text(u"음성");
+             s.form.reply.Check2.set_checked(true);
          },
          "문자플러스(TTS)",
          "\r\n 메시지제목   : 인사\r\n 메시지구분   : 문자플러스(TTS)\r\n 발송예약시간: 즉시전송\r\n"
          " 답변받기      : 아니오\r\n 발송대상      : a(010-1111-2222)"},
         {[](Sending& s) {
              s.form.TabStrip1.select(3);
-             s.form.ttsText.set_text(u"음성");
-             s.form.Check1.set_checked(true);
-             s.form.Combo4.set_list_index(2);
+             s.form.voice.ttsText.set_text(u"음성");
+             s.form.text.Check1.set_checked(true);
+             s.form.reply.Combo4.set_list_index(2);
          },
          "음성메시지(TTS)",
          "\r\n 메시지제목   : 인사\r\n 메시지구분   : 음성메시지(TTS)\r\n 발송예약시간: 즉시전송\r\n"
@@ -257,10 +268,10 @@ TEST(ScheduleCheck, AsksForTheLeadByTheDigitsOfDayHourMinuteAndSecond) {
         s.clock.set(row.now);
         s.files.files[s.app_ini] = std::string("[SET]\r\nP_TIME=") + row.saved + "\r\n";
         s.add(u"a", u"01011112222");
-        s.form.Option2.set_chosen(true);
-        s.form.DTP1.set_value(make_time(2026, 11, row.day, 15));
-        s.form.Combo1.set_list_index(row.hour);
-        s.form.Combo2.set_list_index(row.minute);
+        s.form.schedule.Option2.set_chosen(true);
+        s.form.schedule.DTP1.set_value(make_time(2026, 11, row.day, 15));
+        s.form.schedule.Combo1.set_list_index(row.hour);
+        s.form.schedule.Combo2.set_list_index(row.minute);
         if (row.refused_below == nullptr) {
             s.send();
         } else {

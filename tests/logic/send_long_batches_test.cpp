@@ -8,7 +8,7 @@ using namespace platform;
 using tests::Sending;
 using tests::utf8;
 using Lines = std::vector<std::string>;
-using Registration = RecordingCarrier::Registration;
+using Registration = tests::RecordingCarrier::Registration;
 
 Text content(const Registration& r) { return r.s_sms_content; }
 Text schedule(const Registration& r) { return r.s_schedule_time; }
@@ -46,10 +46,10 @@ TEST(SendLongBatches, KeepTheOrderOfThePiecesByTheMinute) {
     Sending later;
     later.type(Text(240, u'a'));
     later.add_many(1);
-    later.form.Option2.set_chosen(true);
-    later.form.DTP1.set_value(last_minute);
-    later.form.Combo1.set_list_index(23);
-    later.form.Combo2.set_list_index(59);
+    later.form.schedule.Option2.set_chosen(true);
+    later.form.schedule.DTP1.set_value(last_minute);
+    later.form.schedule.Combo1.set_list_index(23);
+    later.form.schedule.Combo2.set_list_index(59);
     later.send();
     EXPECT_EQ(later.registered(schedule), over_midnight);
 }
@@ -57,7 +57,7 @@ TEST(SendLongBatches, KeepTheOrderOfThePiecesByTheMinute) {
 TEST(SendLongBatches, GoOverAllRowsForEachPieceAndMarkThemByTheLast) {
     Sending s;
     s.type(Text(81, u'a'));
-    s.form.subjectText.set_text(u"긴 글");
+    s.form.subject.subjectText.set_text(u"긴 글");
     s.add_many(150);
     s.carrier.results[{"submit", 1}] = 5;
     s.carrier.results[{"submit", 4}] = 8;
@@ -95,8 +95,8 @@ TEST(SendLongBatches, MorePiecesThanTheProgressCanShowEndTheJobWithItsError) {
     Text text;
     // 43 pieces that are a byte short of full, and one more: expected are 42.
     for (int i = 0; i < 43; ++i) text += u"가a" + Text(38, u'가');
-    s.form.Check1.set_checked(true);
-    s.form.mText1.set_text(text + u"가");
+    s.form.text.Check1.set_checked(true);
+    s.form.text.mText1.set_text(text + u"가");
     s.add_many(1);
     s.send_in_vain(u"오류번호:380");
     EXPECT_EQ(s.desktop.boxes.back().icon, BoxIcon::critical);

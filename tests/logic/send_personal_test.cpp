@@ -8,12 +8,12 @@ using namespace platform;
 using tests::Sending;
 using tests::utf8;
 using Lines = std::vector<std::string>;
-using Registration = RecordingCarrier::Registration;
+using Registration = tests::RecordingCarrier::Registration;
 
 struct Personal : Sending {
     explicit Personal(const Text& text) {
-        form.Check1.set_checked(true);
-        form.mText1.set_text(text);
+        form.text.Check1.set_checked(true);
+        form.text.mText1.set_text(text);
     }
 };
 
@@ -47,19 +47,19 @@ TEST(SendPersonal, IsChosenByTheTickAndAPlaceholderTogetherWithATextMessage) {
         const char16_t* text;
         std::size_t submits;
         const char* first;
-        int kind = compose::TEXT_MESSAGE;
+        compose::MessageKind kind = compose::MessageKind::text;
     } rows[] = {
         {true, u"{직위}님", 2, "님"},
         {true, u"안녕", 1, "안녕"},
         {false, u"{이름}님", 1, "{이름}님"},
-        {true, u"{이름}", 1, "", compose::VOICE_MESSAGE},
+        {true, u"{이름}", 1, "", compose::MessageKind::voice},
     };
     for (const auto& row : rows) {
         Sending s;
-        s.form.Check1.set_checked(row.ticked);
-        s.form.mText1.set_text(row.text);
-        s.form.ttsText.set_text(row.text);
-        if (row.kind != compose::TEXT_MESSAGE) s.form.TabStrip1.select(row.kind);
+        s.form.text.Check1.set_checked(row.ticked);
+        s.form.text.mText1.set_text(row.text);
+        s.form.voice.ttsText.set_text(row.text);
+        if (row.kind != compose::MessageKind::text) s.form.choose(row.kind);
         s.add(u"이름없음", u"01011112222");
         s.add_many(1);
         s.send();
@@ -70,10 +70,10 @@ TEST(SendPersonal, IsChosenByTheTickAndAPlaceholderTogetherWithATextMessage) {
 
 TEST(SendPersonal, CutsEachRecipientsOwnTextAndStartsTheScheduleAnew) {
     Personal s(u"{이름}" + Text(70, u'a'));
-    s.form.Option2.set_chosen(true);
-    s.form.DTP1.set_value(make_time(2027, 7, 5));
-    s.form.Combo1.set_list_index(23);
-    s.form.Combo2.set_list_index(59);
+    s.form.schedule.Option2.set_chosen(true);
+    s.form.schedule.DTP1.set_value(make_time(2027, 7, 5));
+    s.form.schedule.Combo1.set_list_index(23);
+    s.form.schedule.Combo2.set_list_index(59);
     s.add(Text(20, u'n'), u"01011112222");
     s.add(Text(10, u'm'), u"01022223333");
     s.send();
@@ -125,7 +125,7 @@ void send_singles(Sending& s, const Text& kind) {
     s.expect_report();
     send::frmZentSend job(s.platform, s.state, s.form);
     job.load();
-    job.MSGSendCount = static_cast<int>(s.form.ListView1.checked_count());
+    job.MSGSendCount = static_cast<int>(s.form.recipients.ListView1.checked_count());
     job.SEND_SINGLES(kind);
 }
 
@@ -149,7 +149,7 @@ TEST(SendSingles, FailATextThatIsTooLongInsteadOfCuttingIt) {
 TEST(SendSingles, SendAnyKindWholeToOneRecipientASubmit) {
     Sending s;
     s.type(Text(81, u'a'));
-    s.form.txtCallback.set_text(u"");
+    s.form.sender.txtCallback.set_text(u"");
     s.add_many(120);
     send_singles(s, u"문자메시지");
     EXPECT_EQ(s.carrier.registrations.size(), 120u);

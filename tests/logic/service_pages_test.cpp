@@ -37,7 +37,7 @@ struct ServicePages : testing::Test, tests::MainWindow {
     std::string open(int page) {
         seen.clear();
         tests::read_next_page(desktop, seen);
-        form.KTSMS_LINK(page);
+        form.session.KTSMS_LINK(page);
         return seen.empty() ? "" : seen.front();
     }
 };
@@ -93,7 +93,7 @@ TEST_F(ServicePages, AreToldHowTheBodyIsWrittenAndHoldHandOversOffWhileTheyAreOp
         EXPECT_TRUE(state.forms.gWebFormOpen);
         web.Command1.Click.raise();
     });
-    form.KTSMS_LINK(0);
+    form.session.KTSMS_LINK(0);
     EXPECT_FALSE(state.forms.gWebFormOpen);
 }
 
@@ -101,14 +101,14 @@ TEST_F(ServicePages, FollowEachOtherInOneForm) {
     write_links();
     log_in_as(u"demo");
     desktop.in_form<service::frmWeb>(u"frmWeb", [&](service::frmWeb& web) {
-        form.KTSMS_LINK(service::CARD_MANAGER_INBOX);
+        form.session.KTSMS_LINK(service::CARD_MANAGER_INBOX);
         EXPECT_TRUE(web.loaded() && state.forms.gWebFormOpen);
         EXPECT_EQ(utf8(web.caption()), "팩스수신");
         EXPECT_EQ(utf8(web.WebBrowser.navigation().address), "http://s/inbox");
         EXPECT_EQ(web.WebBrowser.navigation().body, service::post_body(state));
         web.escape_pressed();
     });
-    form.KTSMS_LINK(0);
+    form.session.KTSMS_LINK(0);
     EXPECT_EQ(desktop.forms, std::vector<Text>{u"frmWeb"});
     EXPECT_EQ(open(1).substr(0, 12), "요금조회");
 }
@@ -157,7 +157,7 @@ TEST_F(ServicePages, HandOutDataOfAHarmlessNameWhereTheUserWantsIt) {
         EXPECT_EQ(said(), "파일을 저장하지 못하였습니다. 다시 받아 주십시오. x.wav");
         web.escape_pressed();
     });
-    form.KTSMS_LINK(0);
+    form.session.KTSMS_LINK(0);
 }
 
 TEST_F(ServicePages, AskTheUserToLogInFirstAndStayAwayWhenHeGivesUp) {
@@ -182,17 +182,17 @@ TEST_F(ServicePages, EachLinkReadsItsAddressAtTheClickAndGoesItsWay) {
         login.Command5.Click.raise();
         login.escape_pressed();
     });
-    form.cmdGoPondira.Click.raise();
-    form.TOPLogo.Click.raise();
+    form.session.cmdGoPondira.Click.raise();
+    form.session.TOPLogo.Click.raise();
     // Without addresses the user's browser opens empty, and the shell gets nothing that it could open.
     EXPECT_EQ(shell.pages, (std::vector<Text>{u"about:blank", u"about:blank"}));
 
     write_links();
     shell.pages.clear();
-    form.cmdGoPondira.Click.raise();
-    form.TOPLogo.Click.raise();
+    form.session.cmdGoPondira.Click.raise();
+    form.session.TOPLogo.Click.raise();
     form.mnuAbout.Click.raise();
-    form.cmdLogin.Click.raise();
+    form.session.cmdLogin.Click.raise();
     EXPECT_EQ(shell.pages, (std::vector<Text>{u"http://s/", u"http://m/", u"http://m/", u"http://s/"}));
     EXPECT_EQ(seen, Lines{"KT 폰디라 아이디/비밀번호 찾기|http://s/find|"});
     EXPECT_TRUE(shell.opened.empty());
@@ -221,13 +221,13 @@ TEST_F(ServicePages, TheGuidanceHandsOutTheApplicationAndOpensNoPageBehindIt) {
         guidance.Command2.Click.raise();
     };
     desktop.in_form<service::frmPondiraReg>(u"frmPondiraReg", guide);
-    form.cmdRegister.Click.raise();
+    form.session.cmdRegister.Click.raise();
     desktop.in_form<service::frmPondiraReg>(u"frmPondiraReg", guide);
     in_login([](gateway::frmZentLogin& login) {
         login.Command3.Click.raise();
         login.escape_pressed();
     });
-    form.cmdLogin.Click.raise();
+    form.session.cmdLogin.Click.raise();
     EXPECT_EQ(desktop.forms, (std::vector<Text>{u"frmPondiraReg", u"frmZentLogin", u"frmPondiraReg"}));
 }
 

@@ -21,7 +21,10 @@ Samples seconds(double count, std::int16_t sample = 1000) {
 }
 
 struct Recording : testing::Test {
-    Recording() { control.open(); }
+    Recording() {
+        files.folders = {u"c:\\temp", u"z:\\home"};
+        control.open();
+    }
 
     void record(double count, std::int16_t sample = 1000) {
         control.record();
@@ -36,12 +39,12 @@ struct Recording : testing::Test {
                (control.can_play() ? "p" : "-");
     }
 
-    VirtualClock clock;
-    ScriptedDesktop desktop{clock};
-    MemoryFiles files;
-    ScriptedRecorder machine;
+    tests::VirtualClock clock;
+    tests::ScriptedDesktop desktop{clock};
+    tests::MemoryFiles files;
+    tests::ScriptedRecorder machine;
     struct Panel : Form {
-        Panel(ScriptedDesktop& desktop, ScriptedRecorder& machine, Files& files)
+        Panel(tests::ScriptedDesktop& desktop, tests::ScriptedRecorder& machine, Files& files)
             : Form(desktop, u"frmPanel"), control(*this, u"RFK1", machine, files) {}
         SoundRecorder control;
     } panel{desktop, machine, files};
@@ -137,10 +140,10 @@ TEST_F(Recording, NeedsAMicrophoneThatMayComeLater) {
 }
 
 TEST(RecordingNowhere, AsksNothingOfTheMachineBeforeItIsSeenAndSaysWhatIsMissing) {
-    VirtualClock clock;
-    ScriptedDesktop desktop{clock};
-    MemoryFiles files;
-    ScriptedRecorder machine;
+    tests::VirtualClock clock;
+    tests::ScriptedDesktop desktop{clock};
+    tests::MemoryFiles files;
+    tests::ScriptedRecorder machine;
     machine.installed = false;
     Recording::Panel panel(desktop, machine, files);
     EXPECT_TRUE(panel.control.SaveWave(u"c:\\temp\\", u"tmp.wav"));

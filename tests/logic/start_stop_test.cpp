@@ -13,7 +13,7 @@ using namespace platform;
 using tests::utf8;
 using Forms = std::vector<Text>;
 
-struct Entry : testing::Test, TestPlatform {
+struct Entry : testing::Test, tests::TestPlatform {
     bool enter() {
         return app::entry_routine(platform, state, [this] {
             shown_with_folders = files.folders;
@@ -21,7 +21,7 @@ struct Entry : testing::Test, TestPlatform {
         });
     }
     int shown = 0;
-    std::set<Text> shown_with_folders;
+    tests::MemoryFiles::Paths shown_with_folders;
 };
 
 TEST_F(Entry, TheFirstInstancePreparesFoldersAndStateAndThenShowsTheMainWindow) {
@@ -29,7 +29,7 @@ TEST_F(Entry, TheFirstInstancePreparesFoldersAndStateAndThenShowsTheMainWindow) 
     EXPECT_TRUE(enter());
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(shown_with_folders,
-              (std::set<Text>{u"c:\\temp", u"z:\\app\\내모음함", u"z:\\app\\내모음함\\내모음함"}));
+              (tests::MemoryFiles::Paths{u"c:\\temp", u"z:\\app\\내모음함", u"z:\\app\\내모음함\\내모음함"}));
     EXPECT_EQ(utf8(state.session.gInfoServiceNumber), "03030xxxxxxx") << "what the first bind goes out with";
     EXPECT_EQ(state.session.gServiceState, 3);
     EXPECT_EQ(utf8(state.sender.gSavedSenderName), "Hong");
@@ -96,11 +96,11 @@ TEST_F(MainWindowLife, LoadingFillsTheControlsFromTheClock) {
     clock.set(make_time(2026, 12, 31, 23, 5, 59));
     form.load();
     EXPECT_EQ(state.window.gMinTrackX, 698) << "697.5 pixels";
-    EXPECT_EQ(utf8(form.STBar1.panel(4).text), "버전:" + utf8(core::deployment::version()));
-    EXPECT_EQ(form.DTP1.value(), make_time(2026, 12, 31));
-    EXPECT_EQ(utf8(form.Combo1.text() + u":" + form.Combo2.text()), "23:05");
-    EXPECT_EQ(form.Combo1.rows().size(), 24u);
-    EXPECT_EQ(form.Combo2.rows().size(), 60u);
+    EXPECT_EQ(utf8(form.session.STBar1.panel(4).text), "버전:" + utf8(core::deployment::version()));
+    EXPECT_EQ(form.schedule.DTP1.value(), make_time(2026, 12, 31));
+    EXPECT_EQ(utf8(form.schedule.Combo1.text() + u":" + form.schedule.Combo2.text()), "23:05");
+    EXPECT_EQ(form.schedule.Combo1.rows().size(), 24u);
+    EXPECT_EQ(form.schedule.Combo2.rows().size(), 60u);
     EXPECT_TRUE(desktop.clipboard.empty()) << "filling a list inserts nothing";
 }
 
@@ -109,7 +109,7 @@ TEST(MainWindowLoad, TheAutoLoginMarkIsOnForOneAndForNothingElse) {
         tests::MainWindow window;
         window.save_setting(u"LOGIN", u"AUTOLOGIN", value);
         window.form.load();
-        EXPECT_EQ(window.form.mnuAutoLogin.checked(), Text(value) == u"1") << utf8(value);
+        EXPECT_EQ(window.form.session.mnuAutoLogin.checked(), Text(value) == u"1") << utf8(value);
     }
 }
 
@@ -206,7 +206,7 @@ TEST(Stop, AutoLoginOffBlanksThePasswordAndKeepsTheId) {
         window.save_login(u"LOGINID", u"hong");
         window.save_login(u"LOGINPW", u"secret");
         window.form.load();
-        window.form.mnuAutoLogin.set_checked(auto_login);
+        window.form.session.mnuAutoLogin.set_checked(auto_login);
         window.form.mnuStartUpdate.set_checked(!auto_login);
         window.form.unload();
         EXPECT_EQ(window.saved_login(u"LOGINID"), "hong");
@@ -231,8 +231,8 @@ TEST(Stop, SenderAndReplyNumberAreSavedWhenTheyDifferFromWhatWasRead) {
         for (const char16_t* key : {u"ZentUserNickName", u"ZentUserPhoneID"})
             window.save_setting(u"SET", key, u"untouched");
         window.state.sender.gSavedSenderName = window.state.sender.gSavedCallback = row.read;
-        window.form.txtUserName.set_text(row.field);
-        window.form.txtCallback.set_text(row.field);
+        window.form.sender.txtUserName.set_text(row.field);
+        window.form.sender.txtCallback.set_text(row.field);
         window.form.unload();
         EXPECT_EQ(window.setting(u"SET", u"ZentUserNickName"), row.saved);
         EXPECT_EQ(window.setting(u"SET", u"ZentUserPhoneID"), row.saved);
@@ -272,8 +272,8 @@ TEST_F(MainWindowLife, StoppingClearsAwayTheFilesOfTheSessionAndNothingElse) {
     form.unload();
     files.files.erase(app_ini);
     files.files.erase(login_ini);
-    EXPECT_EQ(files.files, (std::map<Text, std::string>{{u"z:\\app\\temp\\other.txt", "x"},
-                                                        {u"z:\\app\\내모음함\\a.txt", "x"}}));
+    EXPECT_EQ(files.files, (tests::MemoryFiles::Contents{{u"z:\\app\\temp\\other.txt", "x"},
+                                                         {u"z:\\app\\내모음함\\a.txt", "x"}}));
     EXPECT_FALSE(files.folders.contains(u"z:\\app\\update_temp"));
 }
 

@@ -33,7 +33,7 @@ struct Entry : testing::Test, tests::MainWindow {
     }
     /// The user's edit at the end of the field.
     static void edit(platform::TextBox& field, const Text& text) { field.user_edit(text, text.size()); }
-    std::string counter() const { return utf8(form.mHLen1.caption()); }
+    std::string counter() const { return utf8(form.text.mHLen1.caption()); }
 };
 
 using LongMessages = Entry;
@@ -46,7 +46,7 @@ using SenderName = Entry;
 // The text message.
 
 TEST_F(LongMessages, TheCounterCountsBytesAndAPersonalisedTextIsNeitherAskedAboutNorCut) {
-    form.Check1.set_checked(true);
+    form.text.Check1.set_checked(true);
     const struct {
         Text text;
         const char* counter;
@@ -58,33 +58,33 @@ TEST_F(LongMessages, TheCounterCountsBytesAndAPersonalisedTextIsNeitherAskedAbou
         {syllables(40) + u"a", "81Bytes", true},
     };
     for (const auto& row : rows) {
-        edit(form.mText1, row.text);
+        edit(form.text.mText1, row.text);
         EXPECT_EQ(counter(), row.counter);
-        EXPECT_EQ(form.mHLen3.visible(), row.mark) << row.counter;
+        EXPECT_EQ(form.text.mHLen3.visible(), row.mark) << row.counter;
     }
-    press(form.mText1, u'b');
+    press(form.text.mText1, u'b');
     EXPECT_EQ(counter(), "82Bytes");
 }
 
 TEST_F(LongMessages, YesIsRememberedUntilTheTextFallsBelowEightyBytes) {
-    edit(form.mText1, letters(80));
+    edit(form.text.mText1, letters(80));
     EXPECT_TRUE(desktop.boxes.empty()) << "80 fit";
     expect_question(BoxAnswer::yes);
-    form.mText1.set_focus();
-    form.mText1.user_edit(letters(81), 3);
+    form.text.mText1.set_focus();
+    form.text.mText1.user_edit(letters(81), 3);
     EXPECT_EQ(desktop.boxes[0].icon, BoxIcon::question);
     EXPECT_EQ(utf8(desktop.boxes[0].title), "장문메시지 확인");
-    EXPECT_EQ(form.mText1.selection_start(), 81u);
-    EXPECT_TRUE(form.mText1.has_focus());
+    EXPECT_EQ(form.text.mText1.selection_start(), 81u);
+    EXPECT_TRUE(form.text.mText1.has_focus());
     EXPECT_EQ(counter(), "81Bytes");
 
-    press(form.mText1, u'b');
-    edit(form.mText1, letters(80));
-    edit(form.mText1, letters(81));
+    press(form.text.mText1, u'b');
+    edit(form.text.mText1, letters(80));
+    edit(form.text.mText1, letters(81));
     EXPECT_EQ(desktop.boxes.size(), 1u) << "at exactly 80 the answer still holds";
-    edit(form.mText1, letters(79));
+    edit(form.text.mText1, letters(79));
     expect_question(BoxAnswer::yes);
-    edit(form.mText1, letters(81));
+    edit(form.text.mText1, letters(81));
 }
 
 TEST_F(LongMessages, NoCutsTheEndWhereverTheExcessCameIn) {
@@ -96,20 +96,20 @@ TEST_F(LongMessages, NoCutsTheEndWhereverTheExcessCameIn) {
         {letters(75) + Text(20, u' '), letters(75)},
     };
     int lost = 0;
-    form.mText1.LostFocus.connect([&] { ++lost; });
+    form.text.mText1.LostFocus.connect([&] { ++lost; });
     for (const auto& row : rows) {
         expect_question(BoxAnswer::no);
-        form.mText1.set_focus();
+        form.text.mText1.set_focus();
         lost = 0;
-        form.mText1.user_edit(row.text, 1);
-        EXPECT_EQ(utf8(form.mText1.text()), utf8(row.cut));
-        EXPECT_EQ(form.mText1.selection_start(), row.cut.size()) << "the caret goes to the new end";
-        EXPECT_EQ(utf8(form.mText1.tag()), "");
+        form.text.mText1.user_edit(row.text, 1);
+        EXPECT_EQ(utf8(form.text.mText1.text()), utf8(row.cut));
+        EXPECT_EQ(form.text.mText1.selection_start(), row.cut.size()) << "the caret goes to the new end";
+        EXPECT_EQ(utf8(form.text.mText1.tag()), "");
         EXPECT_EQ(lost, 1) << "so that the input method lets go of its syllable";
-        EXPECT_TRUE(form.mText1.has_focus());
-        EXPECT_FALSE(form.mHLen3.visible());
+        EXPECT_TRUE(form.text.mText1.has_focus());
+        EXPECT_FALSE(form.text.mHLen3.visible());
         EXPECT_EQ(counter(), std::to_string(core::BYTE_LEN(row.cut)) + "Bytes");
-        form.mText1.set_text(u"");
+        form.text.mText1.set_text(u"");
     }
     EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::exclamation);
     EXPECT_EQ(utf8(desktop.boxes.back().title), "입력 초과");
@@ -118,50 +118,50 @@ TEST_F(LongMessages, NoCutsTheEndWhereverTheExcessCameIn) {
 TEST_F(LongMessages, AKeyEnforcesTheLimitWithoutAskingAndBackspaceDoesNot) {
     // Longer than 80 bytes without an answer, as a handler may see it.
     expect_question(BoxAnswer::yes);
-    edit(form.mText1, letters(100));
-    form.mText1.set_tag(u"");
+    edit(form.text.mText1, letters(100));
+    form.text.mText1.set_tag(u"");
 
     platform::KeyPressed backspace{platform::KEY_BACKSPACE};
-    form.mText1.KeyPress.raise(backspace);
-    EXPECT_EQ(form.mText1.text().size(), 100u);
+    form.text.mText1.KeyPress.raise(backspace);
+    EXPECT_EQ(form.text.mText1.text().size(), 100u);
 
     desktop.expect_box(Text(TOO_LONG));
     platform::KeyPressed key{u'b'};
-    form.mText1.KeyPress.raise(key);
+    form.text.mText1.KeyPress.raise(key);
     EXPECT_FALSE(key.swallowed());
-    EXPECT_EQ(utf8(form.mText1.text()), utf8(letters(80)));
+    EXPECT_EQ(utf8(form.text.mText1.text()), utf8(letters(80)));
 }
 
 // The text beside a voice message.
 
 TEST_F(ShortTexts, EndAtEightyBytesWithoutAQuestion) {
-    form.TabStrip1.select(compose::TEXT_PLUS);
-    edit(form.mText2, syllables(40));
+    form.choose(compose::MessageKind::plus);
+    edit(form.plus.mText2, syllables(40));
     EXPECT_TRUE(desktop.boxes.empty());
     desktop.expect_box(Text(TOO_LONG));
-    form.mText2.set_focus();
-    form.mText2.user_edit(syllables(41), 1);
-    EXPECT_EQ(utf8(form.mText2.text()), utf8(syllables(40)));
-    EXPECT_EQ(form.mText2.selection_start(), 40u);
-    EXPECT_TRUE(form.mText2.has_focus());
-    EXPECT_EQ(utf8(form.mHLen2.caption()), "80/80Byte");
-    form.Check1.set_checked(true);
+    form.plus.mText2.set_focus();
+    form.plus.mText2.user_edit(syllables(41), 1);
+    EXPECT_EQ(utf8(form.plus.mText2.text()), utf8(syllables(40)));
+    EXPECT_EQ(form.plus.mText2.selection_start(), 40u);
+    EXPECT_TRUE(form.plus.mText2.has_focus());
+    EXPECT_EQ(utf8(form.plus.mHLen2.caption()), "80/80Byte");
+    form.text.Check1.set_checked(true);
     desktop.expect_box(Text(TOO_LONG));
-    edit(form.mText2, letters(81));
+    edit(form.plus.mText2, letters(81));
 }
 
 TEST_F(ShortTexts, EveryKeyEnforcesTheLimitBackspaceToo) {
     // The subject changes before the text is cut, so a key that comes with it meets the excess.
     std::size_t bytes_behind_the_key = 0;
-    form.subjectText.Change.connect([&] {
+    form.subject.subjectText.Change.connect([&] {
         if (bytes_behind_the_key != 0) return;
         platform::KeyPressed backspace{platform::KEY_BACKSPACE};
-        form.mText2.KeyPress.raise(backspace);
-        bytes_behind_the_key = form.mText2.text().size();
+        form.plus.mText2.KeyPress.raise(backspace);
+        bytes_behind_the_key = form.plus.mText2.text().size();
     });
-    form.subjectText.set_tag(u"");
+    form.subject.subjectText.set_tag(u"");
     desktop.expect_box(Text(TOO_LONG));
-    edit(form.mText2, letters(81));
+    edit(form.plus.mText2, letters(81));
     EXPECT_EQ(bytes_behind_the_key, 80u);
     EXPECT_EQ(desktop.boxes.size(), 1u);
 }
@@ -169,61 +169,62 @@ TEST_F(ShortTexts, EveryKeyEnforcesTheLimitBackspaceToo) {
 // The text to be spoken.
 
 TEST_F(SpokenTexts, EndAtAThousandBytesAndTheCaretStaysWhereItWas) {
-    form.TabStrip1.select(compose::VOICE_MESSAGE);
-    edit(form.ttsText, syllables(500));
+    form.choose(compose::MessageKind::voice);
+    edit(form.voice.ttsText, syllables(500));
     EXPECT_TRUE(desktop.boxes.empty());
-    form.ttsText.select(100, 0);
+    form.voice.ttsText.select(100, 0);
     desktop.expect_box(Text(TTS_TOO_LONG));
-    form.ttsText.paste(letters(3000));
-    EXPECT_EQ(utf8(form.ttsText.text()), utf8(syllables(100) + letters(800)));
-    EXPECT_EQ(form.ttsText.selection_start(), 900u) << "no further than the end";
-    EXPECT_EQ(utf8(form.TTSHLen.caption()), "1000/1000Byte");
+    form.voice.ttsText.paste(letters(3000));
+    EXPECT_EQ(utf8(form.voice.ttsText.text()), utf8(syllables(100) + letters(800)));
+    EXPECT_EQ(form.voice.ttsText.selection_start(), 900u) << "no further than the end";
+    EXPECT_EQ(utf8(form.voice.TTSHLen.caption()), "1000/1000Byte");
 
     desktop.expect_box(Text(TTS_TOO_LONG));
-    form.ttsText.select(10, 0);
-    form.ttsText.paste(u"x");
-    EXPECT_EQ(form.ttsText.selection_start(), 11u);
-    EXPECT_EQ(utf8(form.subjectText.text()), "") << "a spoken text leads no subject";
+    form.voice.ttsText.select(10, 0);
+    form.voice.ttsText.paste(u"x");
+    EXPECT_EQ(form.voice.ttsText.selection_start(), 11u);
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "") << "a spoken text leads no subject";
 }
 
 // The subject.
 
 TEST_F(Subject, FollowsTheTextWithoutLineEndsInFifteenCharacters) {
-    edit(form.mText1, u"가\r\n나");
-    EXPECT_EQ(utf8(form.subjectText.text()), "가나");
-    edit(form.mText1, u"12345678901234567890");
-    EXPECT_EQ(utf8(form.subjectText.text()), "123456789012345");
-    EXPECT_EQ(utf8(form.subjectText.tag()), "");
-    edit(form.mText1, u"xyz");
-    EXPECT_EQ(utf8(form.subjectText.text()), "123456789012345") << "15 characters are enough";
+    edit(form.text.mText1, u"가\r\n나");
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "가나");
+    edit(form.text.mText1, u"12345678901234567890");
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "123456789012345");
+    EXPECT_EQ(utf8(form.subject.subjectText.tag()), "");
+    edit(form.text.mText1, u"xyz");
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "123456789012345") << "15 characters are enough";
 
-    form.subjectText.set_text(u"");
-    edit(form.mText2, u"12345678\r\n901234567890");
-    EXPECT_EQ(utf8(form.subjectText.text()), "12345678901234567890") << "the other text's subject is not cut";
-    EXPECT_EQ(utf8(form.subjectText.tag()), "END") << "and stands at once";
+    form.subject.subjectText.set_text(u"");
+    edit(form.plus.mText2, u"12345678\r\n901234567890");
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "12345678901234567890")
+        << "the other text's subject is not cut";
+    EXPECT_EQ(utf8(form.subject.subjectText.tag()), "END") << "and stands at once";
 }
 
 TEST_F(Subject, StandsOnceItIsLongOrAFieldIsLeftAndFollowsAgainWhenEmptied) {
-    edit(form.subjectText, Text(15, u'가'));
-    EXPECT_EQ(utf8(form.subjectText.tag()), "");
-    edit(form.subjectText, Text(16, u'가'));
-    EXPECT_EQ(utf8(form.subjectText.tag()), "END");
+    edit(form.subject.subjectText, Text(15, u'가'));
+    EXPECT_EQ(utf8(form.subject.subjectText.tag()), "");
+    edit(form.subject.subjectText, Text(16, u'가'));
+    EXPECT_EQ(utf8(form.subject.subjectText.tag()), "END");
 
-    form.Frame1[1].show();
-    for (platform::TextBox* field : {&form.subjectText, &form.mText1, &form.mText2}) {
+    form.voice.Frame1.show();
+    for (platform::TextBox* field : {&form.subject.subjectText, &form.text.mText1, &form.plus.mText2}) {
         SCOPED_TRACE(utf8(field->name()));
-        edit(form.subjectText, u"  ");
+        edit(form.subject.subjectText, u"  ");
         field->set_focus();
         form.Command1.set_focus();
-        EXPECT_EQ(utf8(form.subjectText.tag()), "") << "an empty subject does not stand";
-        edit(form.subjectText, u"제목");
+        EXPECT_EQ(utf8(form.subject.subjectText.tag()), "") << "an empty subject does not stand";
+        edit(form.subject.subjectText, u"제목");
         field->set_focus();
         form.Command1.set_focus();
-        edit(form.mText1, u"다른 글");
-        EXPECT_EQ(utf8(form.subjectText.text()), "제목");
-        edit(form.subjectText, u"");
-        edit(form.mText1, u"또 다른 글");
-        EXPECT_EQ(utf8(form.subjectText.text()), "또 다른 글");
+        edit(form.text.mText1, u"다른 글");
+        EXPECT_EQ(utf8(form.subject.subjectText.text()), "제목");
+        edit(form.subject.subjectText, u"");
+        edit(form.text.mText1, u"또 다른 글");
+        EXPECT_EQ(utf8(form.subject.subjectText.text()), "또 다른 글");
     }
 }
 
@@ -233,19 +234,19 @@ TEST_F(Subject, AnEmptyOneIsFilledFromTheTextMessageOrWithAWordForNone) {
         Text subject, text;
         const char* filled;
     } rows[] = {
-        {compose::TEXT_MESSAGE, u"제목", u"본문", "제목"},
-        {compose::TEXT_MESSAGE, u"", u" \r\n 본문\r\n둘째 줄 ", "본문둘째 줄"},
-        {compose::TEXT_MESSAGE, u"", u"12345678901234567890", "123456789012345"},
-        {compose::TEXT_MESSAGE, u"", u"\r\n\r\n", "제목없음"},
-        {compose::VOICE_MESSAGE, u"", u"본문", "제목없음"},
+        {compose::MessageKind::text, u"제목", u"본문", "제목"},
+        {compose::MessageKind::text, u"", u" \r\n 본문\r\n둘째 줄 ", "본문둘째 줄"},
+        {compose::MessageKind::text, u"", u"12345678901234567890", "123456789012345"},
+        {compose::MessageKind::text, u"", u"\r\n\r\n", "제목없음"},
+        {compose::MessageKind::voice, u"", u"본문", "제목없음"},
     };
     for (const auto& row : rows) {
-        form.TabStrip1.select(row.kind);
-        form.subjectText.set_tag(u"END");
-        form.mText1.set_text(row.text);
-        form.subjectText.set_text(row.subject);
+        form.choose(row.kind);
+        form.subject.subjectText.set_tag(u"END");
+        form.text.mText1.set_text(row.text);
+        form.subject.subjectText.set_text(row.subject);
         form.subjectText_CHECK();
-        EXPECT_EQ(utf8(form.subjectText.text()), row.filled);
+        EXPECT_EQ(utf8(form.subject.subjectText.text()), row.filled);
     }
 }
 
@@ -253,29 +254,29 @@ TEST_F(Subject, AnEmptyOneIsFilledFromTheTextMessageOrWithAWordForNone) {
 
 TEST_F(Personalised, TheFieldsListGoesWithTheCheckMarkAndUncheckingALongTextMeetsTheQuestion) {
     for (const BoxAnswer answer : {BoxAnswer::no, BoxAnswer::yes}) {
-        form.Check1.set_checked(true);
-        EXPECT_TRUE(form.Combo3.enabled() && form.Label1_4.visible());
-        edit(form.mText1, letters(200));
-        form.mText1.set_tag(u"LONG");
+        form.text.Check1.set_checked(true);
+        EXPECT_TRUE(form.text.Combo3.enabled() && form.text.Label1_4.visible());
+        edit(form.text.mText1, letters(200));
+        form.text.mText1.set_tag(u"LONG");
         expect_question(answer);
-        form.Check1.set_checked(false);
-        EXPECT_FALSE(form.Combo3.enabled() || form.Label1_4.visible());
-        EXPECT_EQ(form.mText1.text().size(), answer == BoxAnswer::no ? 80u : 200u);
+        form.text.Check1.set_checked(false);
+        EXPECT_FALSE(form.text.Combo3.enabled() || form.text.Label1_4.visible());
+        EXPECT_EQ(form.text.mText1.text().size(), answer == BoxAnswer::no ? 80u : 200u);
     }
 }
 
 TEST_F(Personalised, APlaceholderIsPastedAndTheListStaysOnIt) {
-    form.Check1.set_checked(true);
-    edit(form.mText1, u"님 안녕");
-    form.mText1.select(0, 0);
-    form.Combo3.set_list_index(1);
-    EXPECT_EQ(utf8(form.mText1.text()), "{이름}님 안녕");
+    form.text.Check1.set_checked(true);
+    edit(form.text.mText1, u"님 안녕");
+    form.text.mText1.select(0, 0);
+    form.text.Combo3.set_list_index(1);
+    EXPECT_EQ(utf8(form.text.mText1.text()), "{이름}님 안녕");
     EXPECT_EQ(utf8(desktop.clipboard), "{이름}");
-    form.Combo3.set_list_index(0);
-    form.Combo3.set_list_index(2);
-    form.Combo3.set_list_index(2);
-    EXPECT_EQ(utf8(form.mText1.text()), "{이름}{직위}{직위}님 안녕");
-    EXPECT_EQ(form.Combo3.list_index(), 2);
+    form.text.Combo3.set_list_index(0);
+    form.text.Combo3.set_list_index(2);
+    form.text.Combo3.set_list_index(2);
+    EXPECT_EQ(utf8(form.text.mText1.text()), "{이름}{직위}{직위}님 안녕");
+    EXPECT_EQ(form.text.Combo3.list_index(), 2);
 }
 
 // Sender and reply number.
@@ -286,25 +287,25 @@ TEST_F(SenderName, ANewOneTakesTheOldOnesPlaceInTheTextAndIsSaved) {
         const char16_t* name;
         const char* text;
     } rows[] = {
-        {compose::TEXT_MESSAGE, u" 이순신 ", "[ 이순신 ] 글 [ 이순신 ]"},
-        {compose::TEXT_MESSAGE, u"", "[홍길동] 글 [홍길동]"},
-        {compose::FAX_MESSAGE, u"이순신", "[홍길동] 글 [홍길동]"},
+        {compose::MessageKind::text, u" 이순신 ", "[ 이순신 ] 글 [ 이순신 ]"},
+        {compose::MessageKind::text, u"", "[홍길동] 글 [홍길동]"},
+        {compose::MessageKind::fax, u"이순신", "[홍길동] 글 [홍길동]"},
     };
     state.sender.gSavedSenderName = u"홍길동";
     for (const auto& row : rows) {
-        form.TabStrip1.select(row.kind);
-        form.txtUserName.show();
-        form.txtUserName.set_text(u"홍길동");
-        form.mText1.set_text(u"[홍길동] 글 [홍길동]");
-        form.txtUserName.set_focus();
-        form.txtUserName.user_edit(row.name);
+        form.choose(row.kind);
+        form.sender.txtUserName.show();
+        form.sender.txtUserName.set_text(u"홍길동");
+        form.text.mText1.set_text(u"[홍길동] 글 [홍길동]");
+        form.sender.txtUserName.set_focus();
+        form.sender.txtUserName.user_edit(row.name);
         form.Command1.set_focus();
-        EXPECT_EQ(utf8(form.mText1.text()), row.text);
+        EXPECT_EQ(utf8(form.text.mText1.text()), row.text);
         EXPECT_EQ(setting(u"SET", u"ZentUserNickName"), utf8(platform::trim(row.name)));
     }
-    form.TabStrip1.select(compose::TEXT_MESSAGE);
-    form.txtCallback.set_focus();
-    form.txtCallback.user_edit(u" 0311234567 ");
+    form.choose(compose::MessageKind::text);
+    form.sender.txtCallback.set_focus();
+    form.sender.txtCallback.user_edit(u" 0311234567 ");
     form.Command1.set_focus();
     EXPECT_EQ(setting(u"SET", u"ZentUserPhoneID"), "0311234567");
 }

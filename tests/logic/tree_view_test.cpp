@@ -12,8 +12,8 @@ using namespace platform;
 using tests::utf8;
 
 struct Trees : testing::Test {
-    VirtualClock clock;
-    ScriptedDesktop desktop{clock};
+    tests::VirtualClock clock;
+    tests::ScriptedDesktop desktop{clock};
     struct Window : Form {
         using Form::Form;
     } window{desktop, u"window"};

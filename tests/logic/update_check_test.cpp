@@ -149,7 +149,8 @@ TEST_F(UpdateCheck, WithoutAnAnswerOrFactsThereIsNoUpdate) {
     } rows[] = {
         {"nobody answers", [](auto& updates) { updates.internet.answers.clear(); }, false},
         {"an empty answer",
-         [](auto& updates) { updates.internet.answers[tests::SERVER] = ScriptedAnswer::ok(""); }, false},
+         [](auto& updates) { updates.internet.answers[tests::SERVER] = tests::ScriptedAnswer::ok(""); },
+         false},
         {"no facts", [](auto& updates) { updates.files.files.erase(tests::VERSION_INI); }, false},
         {"no list named",
          [](auto& updates) {

@@ -99,7 +99,7 @@ TEST_F(UpdateOffer, AYesLeavesTheNoteStartsTheInstallerAndEndsTheProcessAtOnce) 
     files.files[NOTE] = "an old and longer note that has to go whole";
     files.files.erase(app_ini);
     user_presses(&frmUpdateStart::Command1);
-    EXPECT_THROW(check_from_menu(), ProcessEnded);
+    EXPECT_THROW(check_from_menu(), tests::ProcessEnded);
     EXPECT_EQ(files.files[NOTE], "[UPDATE]\r\nAUTORUN=OK\r\n");
     EXPECT_EQ(shell.opened, std::vector<Text>{INSTALLER});
     EXPECT_FALSE(files.files.contains(app_ini)) << "none of the main window's exit steps has run";
@@ -129,7 +129,7 @@ TEST_F(UpdateOffer, ANoteThatCannotBeWrittenDoesNotKeepTheUpdateFromGoingOn) {
 }
 
 TEST_F(UpdateOffer, TheNotePageIsTheOneThatTheListNames) {
-    internet.answers[tests::LIST] = ScriptedAnswer::ok(
+    internet.answers[tests::LIST] = tests::ScriptedAnswer::ok(
         "[MESSAGEFILE]\r\nUPDATNOTEFILE=http://server/note.html\r\n[UPDATE_FILE_LIST]\r\n"
         "UPDATE_FILE(1)=a;apppath;missing;2\r\n");
     desktop.in_form<frmUpdateStart>(u"frmUpdateStart", [](frmUpdateStart& start) {
@@ -198,7 +198,7 @@ TEST_F(UpdateAtStart, AYesHandsOverToTheInstaller) {
     offer_update("ums");
     files.files[INSTALLER] = "program";
     user_presses(&frmUpdateStart::Command1);
-    EXPECT_THROW(start(), ProcessEnded);
+    EXPECT_THROW(start(), tests::ProcessEnded);
     EXPECT_EQ(shell.opened, std::vector<Text>{INSTALLER});
     EXPECT_TRUE(opened.empty());
 }

@@ -22,7 +22,7 @@ struct VoiceSource : testing::Test, Sending {
         files.files[NAME] = "old";
     }
 
-    void save() { form.TTSBttn0.Click.raise(); }
+    void save() { form.voice.TTSBttn0.Click.raise(); }
 
     const Samples said = Samples(10, 1);
     const std::string wav = wav_file(said);
@@ -30,7 +30,7 @@ struct VoiceSource : testing::Test, Sending {
 
 TEST_F(VoiceSource, ARecordingIsTriedBeforeTheUserIsAskedForAName) {
     Sending nothing_recorded;
-    nothing_recorded.form.TTSBttn0.Click.raise();
+    nothing_recorded.form.voice.TTSBttn0.Click.raise();
     EXPECT_TRUE(nothing_recorded.desktop.file_questions.empty());
     files.failure = ErrorNumber::permission_denied;
     save();
@@ -74,39 +74,39 @@ TEST_F(VoiceSource, WhoeverGivesUpSavesNothing) {
 TEST_F(VoiceSource, ASoundFileIsTakenAsItIsAndTheDialogBeginsEmpty) {
     desktop.pointer = Pointer::hourglass;
     desktop.expect_file_dialog(OPEN_TITLE, u"z:\\글.txt");
-    form.TTSBttn1.Click.raise();
-    EXPECT_EQ(form.TTSFileTxt.text(), u"z:\\글.txt");
+    form.voice.TTSBttn1.Click.raise();
+    EXPECT_EQ(form.voice.TTSFileTxt.text(), u"z:\\글.txt");
     EXPECT_EQ(desktop.pointer, Pointer::normal);
     desktop.expect_file_dialog(OPEN_TITLE, std::nullopt);
-    form.TTSBttn1.Click.raise();
-    EXPECT_EQ(form.TTSFileTxt.text(), u"z:\\글.txt");
+    form.voice.TTSBttn1.Click.raise();
+    EXPECT_EQ(form.voice.TTSFileTxt.text(), u"z:\\글.txt");
     EXPECT_EQ(desktop.file_questions[1].file_name, u"");
     EXPECT_EQ(desktop.file_questions[1].purpose, FileQuestion::Purpose::open);
-    form.TTSBttn2.Click.raise();
-    EXPECT_EQ(form.TTSFileTxt.text(), u"");
+    form.voice.TTSBttn2.Click.raise();
+    EXPECT_EQ(form.voice.TTSFileTxt.text(), u"");
 }
 
 TEST_F(VoiceSource, ASoundFileIsPlayedByTheMachineAndAMissingOneIsNamed) {
-    form.TTSBttn3.Click.raise();
-    form.TTSFileTxt.set_text(NAME);
-    form.TTSBttn3.Click.raise();
+    form.voice.TTSBttn3.Click.raise();
+    form.voice.TTSFileTxt.set_text(NAME);
+    form.voice.TTSBttn3.Click.raise();
     EXPECT_EQ(shell.opened, std::vector{NAME});
     files.files.clear();
     desktop.expect_box(NAME + u"\r\n\r\n파일을 찾을 수 없습니다!");
-    form.TTSBttn3.Click.raise();
+    form.voice.TTSBttn3.Click.raise();
     EXPECT_EQ(shell.opened.size(), 1u);
-    EXPECT_EQ(form.TTSFileTxt.text(), NAME);
+    EXPECT_EQ(form.voice.TTSFileTxt.text(), NAME);
 }
 
 TEST_F(VoiceSource, IsNotRecordedOverUnlessItIsKeptSomewhereOrTheUserAgrees) {
     const Text question = u"새로 녹음하시겠습니까?";
     const auto record_again = [&] {
-        form.RFK1.record();
+        form.voice.RFK1.record();
         if (recorder.recording) recorder.speak(Samples(5, 2));
-        form.RFK1.stop();
-        return form.RFK1.recording().size();
+        form.voice.RFK1.stop();
+        return form.voice.RFK1.recording().size();
     };
-    form.RFK1.stop();
+    form.voice.RFK1.stop();
     desktop.expect_box(question, BoxAnswer::no);
     EXPECT_EQ(record_again(), 10u);
     EXPECT_EQ(desktop.boxes.back().default_answer, BoxAnswer::no);
@@ -117,8 +117,8 @@ TEST_F(VoiceSource, IsNotRecordedOverUnlessItIsKeptSomewhereOrTheUserAgrees) {
     desktop.expect_file_dialog(SAVE_TITLE, u"z:\\home\\a.wav");
     save();
     EXPECT_EQ(record_again(), 5u) << "nobody is asked";
-    form.TabStrip1.select(compose::VOICE_MESSAGE);
-    form.TabStrip2.select(2);
+    form.choose(compose::MessageKind::voice);
+    form.voice.TabStrip2.select(2);
     add(u"a", u"01011112222");
     send();
     EXPECT_EQ(record_again(), 5u) << "nobody is asked about what is sent";

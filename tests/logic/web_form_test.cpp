@@ -7,7 +7,7 @@
 namespace {
 
 TEST(WebForm, IsKnownToBeOpenAsLongAsItIs) {
-    TestPlatform machine;
+    tests::TestPlatform machine;
     service::frmWeb form(machine.platform, machine.state);
     EXPECT_FALSE(machine.state.forms.gWebFormOpen);
     form.load();
@@ -23,7 +23,7 @@ TEST(WebForm, IsKnownToBeOpenAsLongAsItIs) {
 }
 
 TEST(OpenBrowser, OpensThePageOrAnEmptyBrowser) {
-    TestPlatform machine;
+    tests::TestPlatform machine;
     service::OPEN_BROWSER(machine.platform, u"http://pondira.example");
     service::OPEN_BROWSER(machine.platform, u"");
     const std::vector<platform::Text> pages{u"http://pondira.example", u"about:blank"};

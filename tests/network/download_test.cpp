@@ -4,10 +4,10 @@
 
 #include "machine/qt/modules/network/qt_internet.h"
 #include "tests/network/event_clock.h"
-#include "tests/network/secure_server.h"
 #include "tests/support/http_server.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/other_ports.h"
+#include "tests/support/secure_server.h"
 #include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
 
@@ -25,8 +25,9 @@ using update::Download;
 constexpr const char16_t* PLACE = u"z:\\app\\update_temp\\update.ini";
 
 /// The control on a clock that stands one second behind its start, so that rates are sums.
-struct DownloadBench : TestPlatform {
+struct DownloadBench : tests::TestPlatform {
     explicit DownloadBench(const machine::qt::TransferLimits& limits = {}) : network(limits) {
+        files.folders = {u"z:\\app\\update_temp"};
         control.set_save_location(PLACE);
         control.DLComplete.connect([this] { write("DLComplete"); });
         control.DLError.connect([this](const Text& text) { write("DLError " + utf8(text)); });

@@ -1,3 +1,4 @@
+#include "addressbook/statements.h"
 #include "platform/error.h"
 #include "tests/parts/card_fixtures.h"
 #include "tests/support/utf8.h"
@@ -8,43 +9,13 @@
 namespace {
 
 using namespace platform;
+namespace statements = addressbook::statements;
 using tests::CardsOnDisk;
 using tests::CardTable;
 using tests::utf8;
 
-const Text FOLDERS = u"SELECT folder_name,f_idx,p_idx FROM [tbl_folder] order by f_idx asc";
-const Text USUAL_FOLDERS =
-    u"SELECT f_idx FROM tbl_folder where f_idx <> 1000 and p_idx <> 1000 order by f_idx";
-const Text CARD_COLUMNS_1 =
-    u"SELECT a.f_idx,a.p_idx,i_idx,FullName,CompanyName,Department,JobTitle,Company_addr,Company_zipcode,"
-    u"Cellphone,Beeper,Email,Email2,";
-const Text CARD_COLUMNS_2 = u"Company_phone1,Company_phone2,Company_fax1,Webpage,Memo_,b.folder_name FROM ";
-const Text CARD_COLUMNS_3 =
-    u"Company_phone1,Company_phone2,Company_fax1,Webpage,Memo_,Fname,Fname_photo,b.folder_name FROM ";
-const Text JOINED = u" a left outer JOIN [tbl_folder] b on a.f_idx=b.f_idx Where ";
-const Text IN_ORDER = u" ORDER BY [a.i_idx] asc";
-
-Text cards_of_folder(int folder) {
-    return CARD_COLUMNS_1 + CARD_COLUMNS_3 + u"[tbl_namecard]" + JOINED + u"[a.f_idx]=" + decimal(folder) +
-           u" AND [a.p_idx]=0" + IN_ORDER;
-}
-/// All cards, or those of a filter, for which the condition holds.
-Text cards_where(const Text& condition, const Text& filter = u"") {
-    const Text from =
-        filter.empty() ? u"[tbl_namecard]" : u"(select * from [tbl_namecard] where " + filter + u")";
-    return CARD_COLUMNS_1 + CARD_COLUMNS_2 + from + JOINED + condition + IN_ORDER;
-}
-Text matching(const Text& pattern) {
-    return u"([a.CompanyName] LIKE '" + pattern + u"' OR [a.FullName] LIKE '" + pattern +
-           u"') AND [a.p_idx]=0";
-}
-Text count_of(int folder) {
-    return u"SELECT COUNT(*) as RNO FROM [tbl_namecard] WHERE [f_idx]=" + decimal(folder);
-}
-Text filter_of(const std::vector<int>& folders) {
-    Text filter;
-    for (const int folder : folders) filter += (filter.empty() ? u"f_idx=" : u" or f_idx=") + decimal(folder);
-    return filter;
+Text cards_like(const Text& pattern, TextView filter = {}) {
+    return statements::matching_cards(filter, statements::match_clause(statements::EQUALS, pattern));
 }
 
 /// A value as the fixtures write it.
@@ -112,83 +83,23 @@ TEST(CardStatements, EveryFieldComesAsTheFileHasIt) {
     }
 }
 
-TEST(CardStatements, ListFoldersAndCountAndListCards) {
+TEST(CardStatements, FoldersOutsideTheTrashComeInTheirOrder) {
     CardsOnDisk disk;
-    for (const std::string name : {"demo", "edge", "empty", "nofolders", "orphan"}) {
-        disk.put(name);
-        const auto connection = disk.connect();
-        const CardTable folders(name + ".tbl_folder"), cards(name + ".tbl_namecard");
-
-        EXPECT_EQ(rows_of(*connection, FOLDERS, {u"folder_name", u"f_idx", u"p_idx"}),
-                  expected(folders, {u"folder_name", u"f_idx", u"p_idx"}, u"f_idx", always));
-        EXPECT_EQ(rows_of(*connection, USUAL_FOLDERS, {u"f_idx"}),
-                  expected(folders, {u"f_idx"}, u"f_idx", [&](const auto& row) {
-                      return folders.number(row, u"f_idx") != 1000 && folders.number(row, u"p_idx") != 1000;
-                  }));
-
-        std::vector<int> all_folders = {-1, 4242};
-        for (const auto& row : folders.rows) all_folders.push_back(folders.number(row, u"f_idx"));
-        for (const int folder : all_folders) {
-            const Keep in_folder = [&](const auto& row) { return cards.number(row, u"f_idx") == folder; };
-            EXPECT_EQ(rows_of(*connection, count_of(folder), {u"RNo"}),
-                      std::vector{shown(decimal(std::ranges::count_if(cards.rows, in_folder))) + " "});
-            EXPECT_EQ(rows_of(*connection, cards_of_folder(folder), CARD_FIELDS),
-                      expected(cards, CARD_FIELDS, u"i_idx", [&](const auto& row) {
-                          return in_folder(row) && cards.number(row, u"p_idx") == 0;
-                      }));
-        }
-
-        const std::vector<int> some = {all_folders.begin() + 1, all_folders.end()};
-        const Keep listed = [&](const auto& row) { return cards.number(row, u"p_idx") == 0; };
-        EXPECT_EQ(rows_of(*connection, cards_where(u"[a.p_idx]=0"), CARD_FIELDS),
-                  expected(cards, CARD_FIELDS, u"i_idx", listed));
-        EXPECT_EQ(rows_of(*connection, cards_where(u"[a.p_idx]=0", filter_of(some)), CARD_FIELDS),
-                  expected(cards, CARD_FIELDS, u"i_idx", [&](const auto& row) {
-                      return listed(row) && std::ranges::count(some, cards.number(row, u"f_idx")) > 0;
-                  }));
-    }
+    disk.put("edge");
+    const CardTable folders("edge.tbl_folder");
+    EXPECT_EQ(rows_of(*disk.connect(), statements::folders_outside_trash(), {u"f_idx"}),
+              expected(folders, {u"f_idx"}, u"f_idx", [&](const auto& row) {
+                  return folders.number(row, u"f_idx") != 1000 && folders.number(row, u"p_idx") != 1000;
+              }));
 }
 
-TEST(CardStatements, SearchesMatchNamesAndCompaniesInEveryMode) {
+TEST(CardStatements, WildCardsInASearchAreTheDatabases) {
     CardsOnDisk disk;
     disk.put("edge");
     const auto connection = disk.connect();
-    const CardTable cards("edge.tbl_namecard");
-
-    // Without a wild card in it, a text is looked for in the plain way.
-    const std::vector<int> folders = {10, 20, 40, 60, 61, 62, 63};
-    int hits = 0;
-    for (const Text typed :
-         {u"한", u"김", u"jo", u"It", u"회사", u"이름회사", u"없는이름", u"이름 또는 회사"}) {
-        const auto column_matches = [&](const auto& row, TextView column, int mode) {
-            const auto& value = cards.at(row, column);
-            if (!value) return false;
-            const Text lower = lower_case(*value), wanted = lower_case(typed);
-            if (mode == 0) return lower.starts_with(wanted);
-            return mode == 1 ? contains(lower, wanted) : lower == wanted;
-        };
-        const Text patterns[] = {typed + u"%", u"%" + typed + u"%", typed};
-        for (int mode = 0; mode < 3; ++mode) {
-            const Keep found = [&](const auto& row) {
-                return cards.number(row, u"p_idx") == 0 &&
-                       (column_matches(row, u"CompanyName", mode) || column_matches(row, u"FullName", mode));
-            };
-            const auto everywhere = rows_of(*connection, cards_where(matching(patterns[mode])), CARD_FIELDS);
-            EXPECT_EQ(everywhere, expected(cards, CARD_FIELDS, u"i_idx", found)) << utf8(patterns[mode]);
-            hits += static_cast<int>(everywhere.size());
-            EXPECT_EQ(
-                rows_of(*connection, cards_where(matching(patterns[mode]), filter_of(folders)), CARD_FIELDS),
-                expected(cards, CARD_FIELDS, u"i_idx", [&](const auto& row) {
-                    return found(row) && std::ranges::count(folders, cards.number(row, u"f_idx")) > 0;
-                }));
-        }
-    }
-    EXPECT_GT(hits, 100);
-
     const auto companies = [&](const Text& pattern) {
         std::string joined;
-        for (const auto& row : rows_of(*connection, cards_where(matching(pattern)), {u"CompanyName"}))
-            joined += row;
+        for (const auto& row : rows_of(*connection, cards_like(pattern), {u"CompanyName"})) joined += row;
         return joined;
     };
     const std::string every_listed_one = companies(u"%");
@@ -204,31 +115,30 @@ TEST(CardStatements, OnlyReadAndAreRefusedWhenBroken) {
     disk.put("edge");
     const auto connection = disk.connect();
     for (const Text& broken :
-         {cards_where(matching(u"O'Brien%")), cards_where(matching(u"[%")), cards_where(u""),
-          cards_where(u"[a.p_idx]=0", u"f_idx= or f_idx=2"), Text(u""),
-          Text(u"select nothing from tbl_folder"), Text(u"select * from tbl_cards"),
-          Text(u"select 1; select 2"), Text(u"select ?"), Text(u"delete from tbl_folder"),
-          Text(u"drop table tbl_folder"), Text(u"pragma encoding"), Text(u"attach ':memory:' as x"),
-          Text(u"select randomblob(9)"),
+         {cards_like(u"O'Brien%"), cards_like(u"[%"), statements::matching_cards(u"", u""),
+          statements::all_cards(u"f_idx= or f_idx=2"), Text(u""), Text(u"select nothing from tbl_folder"),
+          Text(u"select * from tbl_cards"), Text(u"select 1; select 2"), Text(u"select ?"),
+          Text(u"delete from tbl_folder"), Text(u"drop table tbl_folder"), Text(u"pragma encoding"),
+          Text(u"attach ':memory:' as x"), Text(u"select randomblob(9)"),
           Text(u"select * from sqlite_master a, pragma_table_info('tbl_folder')"),
           Text(u"with recursive x(n) as (select 1 union all select n+1 from x) select n from x")}) {
         EXPECT_EQ(tests::error_number([&] { connection->open_recordset(broken); }), -2147217900)
             << utf8(broken);
     }
-    EXPECT_EQ(connection->open_recordset(FOLDERS)->record_count(), 23);
+    EXPECT_EQ(connection->open_recordset(statements::folders())->record_count(), 23);
 
     connection->close();
     EXPECT_EQ(connection->state(), CONNECTION_CLOSED);
-    EXPECT_EQ(tests::error_number([&] { connection->open_recordset(FOLDERS); }), 3709);
+    EXPECT_EQ(tests::error_number([&] { connection->open_recordset(statements::folders()); }), 3709);
 }
 
 TEST(CardStatements, GiveFieldsByNameInAnyCaseWithTheProvidersTypes) {
     CardsOnDisk disk;
     disk.put("edge");
     const auto connection = disk.connect();
-    const auto count = connection->open_recordset(count_of(10));
+    const auto count = connection->open_recordset(statements::card_count(u"10"));
     EXPECT_EQ(count->field(u"rno").type, FIELD_LONG);
-    const auto cards = connection->open_recordset(cards_where(u"[a.p_idx]=0", u"f_idx=10"));
+    const auto cards = connection->open_recordset(statements::all_cards(u"f_idx=10"));
     EXPECT_EQ(cards->field(u"F_IDX").type, FIELD_LONG);
     EXPECT_EQ(cards->field(u"fullname").type, FIELD_TEXT);
     EXPECT_EQ(cards->field(u"Memo_").type, FIELD_MEMO);
@@ -242,10 +152,10 @@ TEST(CardStatements, TakeAFilterOfTenThousandFolders) {
     CardsOnDisk disk;
     disk.put("edge");
     const auto connection = disk.connect();
-    std::vector<int> folders(10'000);
-    for (std::size_t i = 0; i < folders.size(); ++i) folders[i] = static_cast<int>(i);
+    std::vector<Text> folders;
+    for (int folder = 0; folder < 10'000; ++folder) folders.push_back(decimal(folder));
     const CardTable cards("edge.tbl_namecard");
-    EXPECT_EQ(rows_of(*connection, cards_where(u"[a.p_idx]=0", filter_of(folders)), CARD_FIELDS),
+    EXPECT_EQ(rows_of(*connection, statements::all_cards(statements::folder_filter(folders)), CARD_FIELDS),
               expected(cards, CARD_FIELDS, u"i_idx", [&](const auto& row) {
                   const int folder = cards.number(row, u"f_idx");
                   return cards.number(row, u"p_idx") == 0 && folder >= 0 && folder < 10'000;
@@ -270,12 +180,11 @@ TEST(CardStatements, KeepTheFilesOrderAmongCardsOfOnePlace) {
             joined += std::get<Text>(rows->field(i, rows->column(u"FullName").value()).value) + u" ";
         return utf8(joined);
     };
-    EXPECT_EQ(names(cards_of_folder(9)), utf8(every_second));
-    EXPECT_EQ(names(cards_where(u"[a.p_idx]=0")), utf8(all));
-    EXPECT_EQ(
-        names(cards_where(u"[a.p_idx]=0", u"f_idx=9 or f_idx=8 or f_idx=7 or f_idx=6 or f_idx=5 or f_idx=4")),
-        utf8(all));
-    EXPECT_EQ(names(cards_where(matching(u"%"), u"f_idx=9")), utf8(every_second));
+    EXPECT_EQ(names(statements::cards_of_folder(u"9")), utf8(every_second));
+    EXPECT_EQ(names(statements::all_cards(u"")), utf8(all));
+    EXPECT_EQ(names(statements::all_cards(u"f_idx=9 or f_idx=8 or f_idx=7 or f_idx=6 or f_idx=5 or f_idx=4")),
+              utf8(all));
+    EXPECT_EQ(names(cards_like(u"%", u"f_idx=9")), utf8(every_second));
 }
 
 }  // namespace

@@ -1,17 +1,19 @@
 #pragma once
 
 #include "standin/database.h"
+#include "tests/support/temporary_folder.h"
 
 #include <cstdint>
 #include <cstring>
 #include <dlfcn.h>
-#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace tests {
 
 using Int = std::int32_t;
 using Notify11 = Int (*)(Int, Int, Int, Int, Int, Int, Int, Int, Int, Int, Int);
@@ -68,16 +70,6 @@ class Given {
 /// Runs in a folder of its own, with the carrier's files in it.
 class CarrierTest : public testing::Test {
   protected:
-    CarrierTest() : before_(std::filesystem::current_path()) {
-        std::string pattern = (std::filesystem::temp_directory_path() / "carrier-XXXXXX").string();
-        folder = mkdtemp(pattern.data());
-        std::filesystem::current_path(folder);
-    }
-    ~CarrierTest() override {
-        std::filesystem::current_path(before_);
-        std::filesystem::remove_all(folder);
-    }
-
     /// Writes carrier.ini with the account demo and `more` lines.
     static void configure(std::string_view more = "") {
         std::ofstream("carrier.ini")
@@ -116,8 +108,7 @@ class CarrierTest : public testing::Test {
         return rows;
     }
 
-    std::filesystem::path folder;
-
-  private:
-    std::filesystem::path before_;
+    TemporaryFolder folder;
 };
+
+}  // namespace tests

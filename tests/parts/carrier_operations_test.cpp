@@ -5,7 +5,10 @@
 
 namespace {
 
-using CarrierOperations = CarrierTest;
+using CarrierOperations = tests::CarrierTest;
+using tests::CarrierLibrary;
+using tests::Given;
+using tests::Int;
 
 TEST_F(CarrierOperations, LetInNobodyButTheHolderOfTheAccount) {
     {
@@ -47,7 +50,7 @@ TEST_F(CarrierOperations, RefuseMoreThanTheLimitsAndAttachmentsThatAreNotThere) 
     std::filesystem::create_directories("drive_c/Temp/내모음");
     std::ofstream("drive_c/Temp/TMP.wav");
     std::ofstream("drive_c/Temp/내모음/A.wav");
-    std::string absolute = "z:" + (folder / "drive_c/Temp/TMP.wav").string() + ";";
+    std::string absolute = "z:" + (folder.path() / "drive_c/Temp/TMP.wav").string() + ";";
     std::replace(absolute.begin(), absolute.end(), '/', '\\');
     CarrierLibrary library;
     ASSERT_EQ(bind(library), 1);
@@ -117,44 +120,6 @@ TEST_F(CarrierOperations, RefuseToRunOnAnOrderTheyDoNotUnderstand) {
         configure(std::string("[failures]\n") + line + "\n");
         CarrierLibrary library;
         EXPECT_EQ(bind(library), 153) << line;
-    }
-}
-
-TEST_F(CarrierOperations, WriteIntoTheInfoBuffersWhatWasOrdered) {
-    const std::string hong = "\xC8\xAB\xB1\xE6\xB5\xBF";
-    const std::string long_name = hong + hong + hong + hong + hong + hong + hong;  // 42 bytes
-    struct Case {
-        const char* what;
-        std::string lines;
-        std::string user_name;  // every byte written into the 40 and behind
-    };
-    const std::string koreans = "홍길동홍길동홍길동홍길동홍길동홍길동홍길동";
-    const std::string account = "[account demo]\npassword=demo1234\nuser_name=";
-    const std::vector<Case> cases = {
-        {"plain", account + "홍길동\n", hong + '\0'},
-        {"cut at a whole character", account + koreans + "\n", long_name.substr(0, 38) + '\0'},
-        {"no NUL", account + "홍길동\n[failures]\nno_nul=1\n", hong + std::string(34, ' ')},
-        {"no NUL, cut", account + "x" + koreans + "\n[failures]\nno_nul=1\n",
-         "x" + long_name.substr(0, 38) + ' '},
-        {"overrun", account + "홍길동\n[failures]\noverrun=8\n",
-         hong + std::string(34, ' ') + std::string(7, '#') + '\0'},
-        {"overrun, no NUL", account + "홍길동\n[failures]\noverrun=8\nno_nul=1\n",
-         hong + std::string(34, ' ') + std::string(8, '#')},
-    };
-    for (const Case& each : cases) {
-        std::ofstream("carrier.ini") << each.lines;
-        CarrierLibrary library;
-        ASSERT_EQ(bind(library), 1);
-        std::array<std::string, 4> buffers;
-        buffers.fill(std::string(60, '~'));
-        EXPECT_EQ(library.user_info(Given("demo"), Given(""), Given(""), Given(""), buffers[0].data(),
-                                    buffers[1].data(), buffers[2].data(), buffers[3].data(), nullptr),
-                  1);
-        EXPECT_EQ(buffers[1], each.user_name + std::string(60 - each.user_name.size(), '~')) << each.what;
-        const std::size_t more = each.user_name.size() > 20 ? each.user_name.size() - 40 : 0;
-        const bool filled = each.lines.find("[failures]") != std::string::npos;
-        const std::size_t written = filled ? 20 + more : 1;
-        EXPECT_EQ(buffers[3].find('~'), written) << each.what << ": the callback's buffer has 20 bytes";
     }
 }
 

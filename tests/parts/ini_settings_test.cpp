@@ -100,40 +100,4 @@ TEST_F(IniSettingsTest, WhatIsThereAlreadyIsNotWrittenAgain) {
     EXPECT_EQ(fs::last_write_time(on_disk), fs::file_time_type());
 }
 
-TEST_F(IniSettingsTest, AFullDiskAndAReadOnlyFolderKeepTheFile) {
-    const std::string before = "[SET]\r\nP_TIME=30\r\n" + std::string(10000, ';');
-    put(on_disk, before);
-    tests::ChildProcess full([&] {
-        tests::limit_file_size(5000, false);
-        return error_number([&] { settings.write(zent_ini, "SET", "P_TIME", "60"); });
-    });
-    EXPECT_EQ(full.wait(), 61);
-
-    fs::permissions(on_disk, fs::perms(0444));
-    fs::permissions(application, fs::perms(0555));
-    fs::permissions(folder.path(), fs::perms(0755));
-    tests::ChildProcess read_only([&] {
-        if (::getuid() == 0 && ::setuid(65534) != 0) return 1;
-        return error_number([&] { settings.write(zent_ini, "SET", "P_TIME", "60"); });
-    });
-    EXPECT_EQ(read_only.wait(), 70);
-    fs::permissions(application, fs::perms(0755));
-    EXPECT_TRUE(bytes_of(on_disk) == before);
-    EXPECT_EQ(names_in(application), std::set<std::string>{"zent.ini"});
-}
-
-TEST_F(IniSettingsTest, AKillInTheMiddleOfAWriteLeavesTheOldFile) {
-    const std::string before = "[SET]\r\nP_TIME=30\r\n" + std::string(100'000, ';');
-    put(on_disk, before);
-    for (const rlim_t bytes : {0, 17, 99'999}) {
-        tests::ChildProcess writer([&] {
-            tests::limit_file_size(bytes, true);
-            settings.write(zent_ini, "SET", "P_TIME", "60");
-            return 0;
-        });
-        EXPECT_EQ(writer.wait(), -SIGXFSZ);
-        EXPECT_TRUE(bytes_of(on_disk) == before) << bytes;
-    }
-}
-
 }  // namespace

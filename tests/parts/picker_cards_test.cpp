@@ -19,7 +19,7 @@ using tests::CardTable;
 using tests::utf8;
 using Rows = std::vector<std::string>;
 
-struct PickerCards : testing::Test, TestPlatform {
+struct PickerCards : testing::Test, tests::TestPlatform {
     tests::CardsOnDisk disk;
     const std::string folder = disk.folder.path().string();
     machine::posix::PosixFiles files_on_disk{machine::posix::Paths(folder), folder + "/windows"};
@@ -32,7 +32,7 @@ struct PickerCards : testing::Test, TestPlatform {
             act(picker);
             picker.unload();
         });
-        frmSendMan(machine, state, form).ShowEnter(u"문자메시지");
+        frmSendMan(machine, state, form.recipients, form.Timer1).ShowEnter(u"문자메시지");
     }
 
     static Rows names(const frmSendMan& picker) {
@@ -110,22 +110,41 @@ TEST_F(PickerCards, TheTreeTheCountsAndEveryFoldersCardsAreThoseOfTheDatabase) {
     }
 }
 
-TEST_F(PickerCards, ASearchFindsNamesAndCompaniesOutsideTheTrash) {
-    const Written written("demo");
-    pick("demo", [&](frmSendMan& picker) {
-        for (const char16_t* text : {u"차오름", u"예호", u"(주)", u"없는 사람"}) {
-            picker.Combo4.set_list_index(1);
-            picker.Text1.set_text(text);
-            picker.Command1.Click.raise();
-            EXPECT_EQ(names(picker), written.names([&](const auto& row) {
-                const auto holds = [&](platform::TextView column) {
-                    return platform::contains(written.cards.at(row, column).value_or(u""), text);
-                };
-                return written.shown.contains(written.cards.number(row, u"f_idx")) &&
-                       (holds(u"FullName") || holds(u"CompanyName"));
-            })) << utf8(text);
-        }
-    });
+TEST_F(PickerCards, ASearchFindsNamesAndCompaniesOutsideTheTrashInEveryMode) {
+    const std::function<bool(const Text&, const Text&)> modes[] = {
+        [](const Text& value, const Text& typed) { return value.starts_with(typed); },
+        [](const Text& value, const Text& typed) { return platform::contains(value, typed); },
+        [](const Text& value, const Text& typed) { return value == typed; },
+    };
+    const std::pair<const char*, std::vector<Text>> databases[] = {
+        {"demo", {u"차오름", u"예호", u"(주)", u"없는 사람"}},
+        {"edge", {u"jo", u"It", u"회사", u"이름회사", u"없는이름"}},
+    };
+    for (const auto& [database, texts] : databases) {
+        const Written written(database);
+        std::size_t found = 0;
+        pick(database, [&, &searched_for = texts](frmSendMan& picker) {
+            for (const Text& typed : searched_for) {
+                for (std::size_t mode = 0; mode < std::size(modes); ++mode) {
+                    const auto matches = [&](const CardTable::Row& row, platform::TextView column) {
+                        const auto& value = written.cards.at(row, column);
+                        return value &&
+                               modes[mode](platform::lower_case(*value), platform::lower_case(typed));
+                    };
+                    picker.Combo4.set_list_index(static_cast<int>(mode));
+                    picker.Text1.set_text(typed);
+                    picker.Command1.Click.raise();
+                    EXPECT_EQ(names(picker), written.names([&](const auto& row) {
+                        return written.shown.contains(written.cards.number(row, u"f_idx")) &&
+                               (matches(row, u"FullName") || matches(row, u"CompanyName"));
+                    })) << utf8(typed)
+                        << " in mode " << mode;
+                    found += names(picker).size();
+                }
+            }
+        });
+        EXPECT_GT(found, 10U) << database;
+    }
 }
 
 TEST_F(PickerCards, ADamagedDatabaseIsToldAndShowsNoPartOfItsCards) {
@@ -136,7 +155,7 @@ TEST_F(PickerCards, ADamagedDatabaseIsToldAndShowsNoPartOfItsCards) {
         EXPECT_EQ(picker.ListView2.row_count(), 0u);
         picker.unload();
     });
-    frmSendMan(machine, state, form).ShowEnter(u"문자메시지");
+    frmSendMan(machine, state, form.recipients, form.Timer1).ShowEnter(u"문자메시지");
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ std::int32_t notify_11(std::int32_t, std::int32_t, std::int32_t, std::int32_t, s
 }
 
 /// The carrier's stand-in in the current directory, a folder of the test's own.
-class PosixCarrierLibraryTest : public CarrierTest {
+class PosixCarrierLibraryTest : public tests::CarrierTest {
   protected:
     std::int32_t bind() {
         return library.fn_x_bind(1, user_id, password, domain, 1, notify, 0,
@@ -127,6 +127,14 @@ TEST_F(PosixCarrierLibraryTest, EveryArgumentArrivesInItsPlace) {
                                                 "127.0.0.1", "13", "한", "20261122203900", "0212345678", "14",
                                                 "1", "kim:0101234;", "100000", "tts", "2", "a.wav;A.WAV;"}));
     EXPECT_EQ(submit.s_sms_content, std::string(100000, 's'));
+    EXPECT_EQ(ledger("SELECT operation, result, user_id, data_type, data_sub_type, submit_sequence, subject,"
+                     " schedule_time, callback, reply_flag, dest_addr_count, recipient_count, dest_addr,"
+                     " length(sms_content), tts_content, attach_file_count, attach_file"
+                     " FROM registration ORDER BY id"),
+              (Rows{"fn_x_submit|1|demo|11||13|한|20261122203900|0212345678||1|1|kim:0101234;|100000||2|"
+                    "a.wav;A.WAV;",
+                    "fn_x_submit_2|1|demo|11|12|13|한|20261122203900|0212345678|14|1|1|kim:0101234;|100000|"
+                    "tts|2|a.wav;A.WAV;"}));
 }
 
 TEST_F(PosixCarrierLibraryTest, BuffersComeBackInTheirOwnLengthWhateverTheLibraryWrote) {

@@ -27,11 +27,10 @@ class SavedTextsOnDisk : public testing::Test, protected tests::FilesOnDisk {
   protected:
     SavedTextsOnDisk() { core::make_saved_texts_folders(platform); }
 
-    TestPlatform machine;
-    ScriptedDesktop& desktop = machine.desktop;
+    tests::TestPlatform machine;
+    tests::ScriptedDesktop& desktop = machine.desktop;
     platform::Platform platform = tests::with(machine.platform, {.files = &files});
-    compose::frmZent main{platform, machine.state, {}};
-    saved_texts::frmMyMsgBox box{platform, main};
+    saved_texts::frmMyMsgBox box{platform, [](const platform::Text&, const platform::Text&) {}};
     const fs::path root = application / "내모음함";
     const fs::path first = root / "내모음함";
 };
@@ -108,37 +107,6 @@ TEST_F(SavedTextsOnDisk, AMessageWithoutPermissionIsToldAndHidesNoOther) {
     });
     EXPECT_EQ(child.wait(), 0);
     fs::permissions(root / "잠김", fs::perms(0700));
-}
-
-TEST_F(SavedTextsOnDisk, AKilledProgramLeavesEveryTextWholeButTheEditedOne) {
-    const std::string kept(500'000, 'k');
-    const std::string edited(500'000, 'e');
-    put(first / "가.txt", kept);
-    put(first / "나.txt", edited);
-    for (int kills = 0; kills < 8; ++kills) {
-        tests::Pipe begun;
-        tests::ChildProcess writer([&] {
-            desktop.any_box = platform::BoxAnswer::yes;
-            box.load();
-            const auto row = column(box.ListView2)[0] == "나" ? 0U : 1U;
-            choose(box.ListView2, row);
-            for (;;) {
-                begun.tell();
-                box.txtText.set_text(box.txtText.text() + u"e");
-                box.Command2.Click.raise();
-            }
-            return 0;
-        });
-        for (int edits = 0; edits <= kills; ++edits) ASSERT_TRUE(begun.wait());
-        writer.kill();
-        EXPECT_EQ(bytes_of(first / "가.txt"), kept);
-        // Gone, or whole: an edit removes the old file first.
-        if (fs::exists(first / "나.txt")) {
-            EXPECT_GE(bytes_of(first / "나.txt").size(), edited.size());
-        } else {
-            put(first / "나.txt", edited);
-        }
-    }
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include "gateway/frmAutoLogin.h"
 #include "gateway/frmZentLogin.h"
 #include "machine/qt/binders/screen_faults.h"
-#include "machine/qt/desktop/qt_desktop.h"
 #include "machine/qt/typing/text_conversion.h"
 #include "saved_texts/frmMyMsgBox.h"
 #include "send/confirmation.h"
@@ -14,7 +13,7 @@
 #include "service/frmAbout.h"
 #include "service/frmPondiraReg.h"
 #include "service/frmWeb.h"
-#include "tests/support/test_platform.h"
+#include "tests/support/windows_on_doubles.h"
 #include "update/frmUpdate.h"
 #include "update/frmUpdateStart.h"
 
@@ -34,30 +33,27 @@ namespace {
 
 using platform::Form;
 
-/// The whole system over doubles, but with real windows.
-struct System {
-    TestPlatform machine;
-    machine::qt::Screens screens = machine::qt::program_screens();
-    machine::qt::QtDesktop desktop{screens, machine.files};
-    platform::Platform platform = machine.on(desktop);
-    compose::frmZent main{platform, machine.state, compose::MainDoors{}};
+/// The main window and whatever opens above it.
+struct System : tests::WindowsOnDoubles {
+    compose::frmZent main{platform, state, {}};
 
     std::vector<std::unique_ptr<Form>> dialogs() {
         std::vector<std::unique_ptr<Form>> forms;
-        forms.push_back(std::make_unique<gateway::frmZentLogin>(platform, machine.state, main.Timer1));
-        forms.push_back(std::make_unique<gateway::frmAutoLogin>(platform, machine.state));
+        forms.push_back(std::make_unique<gateway::frmZentLogin>(platform, state, main.Timer1));
+        forms.push_back(std::make_unique<gateway::frmAutoLogin>(platform, state));
         forms.push_back(std::make_unique<service::frmAbout>(platform));
         forms.push_back(std::make_unique<service::frmPondiraReg>(platform));
-        forms.push_back(std::make_unique<service::frmWeb>(platform, machine.state));
+        forms.push_back(std::make_unique<service::frmWeb>(platform, state));
         forms.push_back(std::make_unique<compose::frmSet1>(platform));
         forms.push_back(std::make_unique<compose::frmXTip>(platform));
-        forms.push_back(std::make_unique<send::frmSBox>(platform, machine.state));
-        forms.push_back(std::make_unique<send::frmZentSend>(platform, machine.state, main));
+        forms.push_back(std::make_unique<send::frmSBox>(platform, state));
+        forms.push_back(std::make_unique<send::frmZentSend>(platform, state, main));
         forms.push_back(std::make_unique<send::frmSendEndBox>(platform, main));
-        forms.push_back(std::make_unique<addressbook::frmSendMan>(platform, machine.state, main));
-        forms.push_back(std::make_unique<saved_texts::frmMyMsgBox>(platform, main));
-        forms.push_back(std::make_unique<update::frmUpdate>(platform, machine.state));
-        forms.push_back(std::make_unique<update::frmUpdateStart>(platform, machine.state));
+        forms.push_back(
+            std::make_unique<addressbook::frmSendMan>(platform, state, main.recipients, main.Timer1));
+        forms.push_back(std::make_unique<saved_texts::frmMyMsgBox>(platform, nullptr));
+        forms.push_back(std::make_unique<update::frmUpdate>(platform, state));
+        forms.push_back(std::make_unique<update::frmUpdateStart>(platform, state));
         return forms;
     }
 };
@@ -154,7 +150,7 @@ void expect_pictures(const QWidget& window) {
     for (const auto* action : window.findChildren<QAction*>()) expect_picture(*action, action->icon());
 }
 
-TEST(AllScreens, have_a_widget_for_every_control_and_a_control_for_every_widget) {
+TEST(AllScreens, HaveAWidgetForEveryControlAndAControlForEveryWidget) {
     System system;
     auto forms = system.dialogs();
     std::vector<Form*> all{&system.main};
@@ -167,7 +163,7 @@ TEST(AllScreens, have_a_widget_for_every_control_and_a_control_for_every_widget)
     }
 }
 
-TEST(AllScreens, show_every_dialog_whole) {
+TEST(AllScreens, ShowEveryDialogWhole) {
     System system;
     system.main.load();
     for (const auto& form : system.dialogs()) {
@@ -182,7 +178,7 @@ TEST(AllScreens, show_every_dialog_whole) {
     settle();
 }
 
-TEST(AllScreens, show_the_main_window_whole_at_its_smallest) {
+TEST(AllScreens, ShowTheMainWindowWholeAtItsSmallest) {
     System system;
     compose::frmZent& form = system.main;
     form.show();
@@ -194,10 +190,10 @@ TEST(AllScreens, show_the_main_window_whole_at_its_smallest) {
     form.Option2.set_chosen(true);
     QWidget& panel = *window.findChild<QWidget*>(QStringLiteral("_messagePanel"));
     std::optional<QRect> panel_place;
-    for (int kind = compose::TEXT_MESSAGE; kind <= compose::FAX_MESSAGE; ++kind) {
+    for (compose::MessageKind kind = compose::MessageKind::text; kind <= compose::MessageKind::fax; ++kind) {
         for (int source = 1; source <= 3; ++source) {
             SCOPED_TRACE(testing::Message() << "kind " << kind << ", source " << source);
-            form.TabStrip1.select(kind);
+            form.choose(kind);
             form.TabStrip2.select(source);
             window.resize(smallest);
             expect_good_screen(window);
@@ -211,10 +207,10 @@ TEST(AllScreens, show_the_main_window_whole_at_its_smallest) {
     settle();
 }
 
-TEST(AllScreens, have_the_emoticons_as_one_stop_in_which_arrows_move) {
+TEST(AllScreens, HaveTheEmoticonsAsOneStopInWhichArrowsMove) {
     System system;
     system.main.show();
-    system.main.TabStrip1.select(compose::TEXT_MESSAGE);
+    system.main.choose(compose::MessageKind::text);
     settle();
     QWidget& window = window_of(system.main);
     const auto emoticon = [&](int index) {
@@ -235,7 +231,7 @@ TEST(AllScreens, have_the_emoticons_as_one_stop_in_which_arrows_move) {
     settle();
 }
 
-TEST(AllScreens, have_a_picture_of_its_own_for_every_kind_of_document) {
+TEST(AllScreens, HaveAPictureOfItsOwnForEveryKindOfDocument) {
     System system;
     compose::frmZent& form = system.main;
     form.show();

@@ -13,18 +13,20 @@ class BadDraft : public KindsTest {
     void SetUp() override {
         log_in();
         user.in_window("frmZent", [](QWidget& window) {
-            choose_tab(window, "TabStrip1", compose::FAX_MESSAGE);
+            choose_tab(window, "TabStrip1", compose::MessageKind::fax);
             add_recipient(window, QStringLiteral("025551234"));
         });
     }
 
     std::string documents() {
         std::string paths;
-        for (std::size_t row = 0; row < form().FAX1.row_count(); ++row)
-            paths += utf8(form().FAX1.row(row).text()) + "\n";
+        for (std::size_t row = 0; row < form().fax.FAX1.row_count(); ++row)
+            paths += utf8(form().fax.FAX1.row(row).text()) + "\n";
         return paths;
     }
-    std::string status() { return utf8(form().ListView1.row(0).sub_item(compose::RECIPIENT_STATUS)); }
+    std::string status() {
+        return utf8(form().recipients.ListView1.row(0).sub_item(compose::RECIPIENT_STATUS));
+    }
 };
 
 TEST_F(BadDraft, ADocumentOfTwoGigabytesIsMeasuredAndNotRead) {
@@ -36,7 +38,7 @@ TEST_F(BadDraft, ADocumentOfTwoGigabytesIsMeasuredAndNotRead) {
     read_report();
     close_program();
     run();
-    EXPECT_EQ(utf8(form().FAXFileSize1.caption()), "2,097,152KB");
+    EXPECT_EQ(utf8(form().fax.FAXFileSize1.caption()), "2,097,152KB");
     EXPECT_EQ(ledger("attach_file"), std::vector{carrier_path(big) + ";"});
 }
 
@@ -55,7 +57,7 @@ TEST_F(BadDraft, ADocumentThatHasGoneIsNamedBeforeAndRefusedByTheCarrierAfterThe
     close_program();
     run();
     EXPECT_TRUE(status().starts_with("등록실패X")) << status();
-    EXPECT_TRUE(form().ListView1.row(0).checked());
+    EXPECT_TRUE(form().recipients.ListView1.row(0).checked());
     EXPECT_EQ(told.toStdString(), program_path(gone) + "\n\n위 파일을 찾을 수 없습니다. 확인하여 주십시오.");
     EXPECT_EQ(documents(), program_path(gone) + "\n");
 }
@@ -81,7 +83,7 @@ TEST_F(BadDraft, ACancelledDialogChangesNothing) {
     for (const char* button : {"FAXBttn1", "TTSBttn1"}) {
         user.in_window("frmZent", [button](QWidget& window) {
             if (button == std::string("TTSBttn1")) {
-                choose_tab(window, "TabStrip1", compose::VOICE_MESSAGE);
+                choose_tab(window, "TabStrip1", compose::MessageKind::voice);
                 choose_tab(window, "TabStrip2", 3);
                 type_into(window, "TTSFileTxt", QStringLiteral("a.wav"));
             }
@@ -92,7 +94,7 @@ TEST_F(BadDraft, ACancelledDialogChangesNothing) {
     close_program();
     run();
     EXPECT_EQ(documents(), program_path(document) + "\n");
-    EXPECT_EQ(utf8(form().TTSFileTxt.text()), "a.wav");
+    EXPECT_EQ(utf8(form().voice.TTSFileTxt.text()), "a.wav");
 }
 
 TEST_F(BadDraft, AFileInThePlaceOfTheSoundFolderStandsInNobodysWay) {

@@ -26,7 +26,7 @@ class ControlTest : public ScreenTest {
     QAction& action(const char* name) { return *find("_centre").window()->findChild<QAction*>(name); }
 };
 
-TEST_F(ControlTest, a_tab_raises_its_click_each_time_and_once) {
+TEST_F(ControlTest, ATabRaisesItsClickEachTimeAndOnce) {
     std::vector<int> clicks;
     form.TabStrip1.Click.connect([&] { clicks.push_back(form.TabStrip1.selected()); });
     auto& tabs = find<QTabBar>("TabStrip1");
@@ -42,7 +42,7 @@ TEST_F(ControlTest, a_tab_raises_its_click_each_time_and_once) {
     EXPECT_EQ(tabs.currentIndex(), 0);
 }
 
-TEST_F(ControlTest, checks_and_options_are_what_their_handlers_leave_them) {
+TEST_F(ControlTest, ChecksAndOptionsAreWhatTheirHandlersLeaveThem) {
     std::vector<std::string> events;
     form.Check1.Click.connect([&] { events.push_back(form.Check1.checked() ? "on" : "off"); });
     form.Option1.Click.connect([&] { events.push_back("1"), form.Option2.set_chosen(false); });
@@ -64,7 +64,7 @@ TEST_F(ControlTest, checks_and_options_are_what_their_handlers_leave_them) {
     EXPECT_FALSE(find<QCheckBox>("Check1").isChecked());
 }
 
-TEST_F(ControlTest, combos_show_their_rows_and_raise_a_click_for_each_choice) {
+TEST_F(ControlTest, CombosShowTheirRowsAndRaiseAClickForEachChoice) {
     auto& list = find<QComboBox>("Combo3");
     for (const char16_t* row : {u"선택해주세요.", u"{이름}", u"{직위}"}) form.Combo3.add_row(row);
     EXPECT_EQ(list.currentIndex(), -1) << "the first row is not chosen by itself";
@@ -91,7 +91,7 @@ TEST_F(ControlTest, combos_show_their_rows_and_raise_a_click_for_each_choice) {
     EXPECT_EQ(field.currentText(), "");
 }
 
-TEST_F(ControlTest, bars_and_menus_raise_their_clicks_and_keep_what_the_handlers_set) {
+TEST_F(ControlTest, BarsAndMenusRaiseTheirClicksAndKeepWhatTheHandlersSet) {
     std::vector<std::string> events;
     form.Toolbar1.ButtonClick.connect([&](int number) {
         events.push_back("tool " + std::to_string(number));
@@ -129,7 +129,7 @@ TEST_F(ControlTest, bars_and_menus_raise_their_clicks_and_keep_what_the_handlers
     EXPECT_FALSE(find<QMenu>("mnuSubPopup").menuAction()->isVisible());
 }
 
-TEST_F(ControlTest, another_day_keeps_the_time_of_day) {
+TEST_F(ControlTest, AnotherDayKeepsTheTimeOfDay) {
     form.DTP1.set_value(platform::make_time(2010, 3, 1, 13, 5, 7));
     auto& date = find<QDateEdit>("DTP1");
     EXPECT_EQ(date.date(), QDate(2010, 3, 1));
@@ -140,7 +140,7 @@ TEST_F(ControlTest, another_day_keeps_the_time_of_day) {
     EXPECT_EQ(date.date(), QDate(1969, 12, 31));
 }
 
-TEST_F(ControlTest, the_wheel_passes_over_every_choice_that_the_user_has_not_gone_to) {
+TEST_F(ControlTest, TheWheelPassesOverEveryChoiceThatTheUserHasNotGoneTo) {
     form.Combo3.add_row(u"00");
     form.Combo3.add_row(u"01");
     form.txtUserName.add_row(u"Hong");
@@ -163,7 +163,7 @@ TEST_F(ControlTest, the_wheel_passes_over_every_choice_that_the_user_has_not_gon
     EXPECT_NE(form.DTP1.value(), platform::make_time(2010, 3, 1, 13, 5, 7));
 }
 
-TEST_F(ControlTest, a_caption_leaves_the_shortcut_that_the_screen_gives) {
+TEST_F(ControlTest, ACaptionLeavesTheShortcutThatTheScreenGives) {
     auto& button = find<QPushButton>("Command2");
     button.setShortcut(QKeySequence("Ctrl+Q"));
     form.Command2.set_caption(u"끝내기");
@@ -172,7 +172,7 @@ TEST_F(ControlTest, a_caption_leaves_the_shortcut_that_the_screen_gives) {
     EXPECT_EQ(button.shortcut(), QKeySequence("Alt+X"));
 }
 
-TEST(ClockTest, a_tick_is_not_run_inside_itself_and_may_end_its_ticker) {
+TEST(ClockTest, ATickIsNotRunInsideItselfAndMayEndItsTicker) {
     machine::qt::QtClock clock;
     int depth = 0, deepest = 0, ticks = 0;
     std::unique_ptr<platform::Ticker> ticker = clock.every(1, [&] {
@@ -187,7 +187,7 @@ TEST(ClockTest, a_tick_is_not_run_inside_itself_and_may_end_its_ticker) {
     EXPECT_EQ(ticker, nullptr);
 }
 
-TEST(KoreanTranslatorTest, the_menus_of_text_fields_are_korean) {
+TEST(KoreanTranslatorTest, TheMenusOfTextFieldsAreKorean) {
     machine::qt::KoreanTranslator translator;
     QCoreApplication::installTranslator(&translator);
     QLineEdit field;

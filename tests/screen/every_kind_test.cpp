@@ -27,13 +27,13 @@ class EveryKind : private Microphone, public KindsTest {
         choose_tab(window, "TabStrip1", tab);
         if (source > 0) choose_tab(window, "TabStrip2", source);
         type_into(window, "subjectText", QStringLiteral("안내"));
-        if (tab == compose::TEXT_MESSAGE) {
+        if (tab == compose::MessageKind::text) {
             type_into(window, "mText1", QStringLiteral("회의"));
             type_into(window, "txtCallback", QStringLiteral("02-123-4567"));
         }
-        if (tab == compose::TEXT_PLUS) type_into(window, "mText2", QStringLiteral("전화"));
+        if (tab == compose::MessageKind::plus) type_into(window, "mText2", QStringLiteral("전화"));
         if (source == 1) type_into(window, "ttsText", QStringLiteral("음성"));
-        if (source == 1 && !form().Check2.checked()) {
+        if (source == 1 && !form().reply.Check2.checked()) {
             QTest::keyClick(window.findChild<QWidget*>(QStringLiteral("Check2")), Qt::Key_Space);
             QTest::keyClick(window.findChild<QWidget*>(QStringLiteral("Combo4")), Qt::Key_3);
         }
@@ -47,7 +47,7 @@ class EveryKind : private Microphone, public KindsTest {
     }
 
     void record() {
-        const auto& control = form().RFK1;
+        const auto& control = form().voice.RFK1;
         user.in_window(
             "frmZent", [](QWidget& window) { press(window, "_record"); },
             [&] { return control.can_record(); });
@@ -121,14 +121,14 @@ TEST_F(EveryKind, ReachesTheCarrierWithAllItsArguments) {
     EXPECT_EQ(ledger(ALL_BUT_TIME), expected);
     EXPECT_EQ(ledger("schedule_time"), times);
     EXPECT_EQ(ledger("result"), std::vector<std::string>(std::size(kinds) * 2, "1"));
-    EXPECT_EQ(form().ListView1.checked_count(), 0U);
+    EXPECT_EQ(form().recipients.ListView1.checked_count(), 0U);
 }
 
 TEST_F(EveryKind, AFaxWaitsAQuarterOfAMinuteWithAStopButtonThatAnswers) {
     put(folder.path() / "a.txt", "text");
     log_in();
     user.in_window("frmZent", [](QWidget& window) {
-        choose_tab(window, "TabStrip1", compose::FAX_MESSAGE);
+        choose_tab(window, "TabStrip1", compose::MessageKind::fax);
         // More than one fax, so that there is something left to stop.
         for (int i = 0; i < 101; ++i) add_recipient(window, QStringLiteral("02555%1").arg(1000 + i));
     });

@@ -1,15 +1,14 @@
 // The main window at the byte limit of its texts, while syllables are unfinished.
 
 #include "compose/main_form.h"
-#include "core/app_state.h"
 #include "core/byte_length.h"
 #include "machine/qt/typing/text_conversion.h"
 #include "machine/qt/widgets/message_edit.h"
 #include "send/send_check.h"
 #include "tests/screen/program_fixture.h"
 #include "tests/screen/screen_fixture.h"
-#include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
+#include "tests/support/windows_on_doubles.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -24,8 +23,8 @@
 namespace tests {
 namespace {
 
-using compose::TEXT_MESSAGE;
-using compose::TEXT_PLUS;
+using compose::MessageKind::plus;
+using compose::MessageKind::text;
 using platform::Text;
 
 /// What an input method does when the field ends a composition, or the focus goes where no text is.
@@ -83,13 +82,13 @@ class InputMethod : public QObject {
     QEvent* own_ = nullptr;
 };
 
-/// The main window with one of its texts in the works. Of what is around it the desktop alone is real.
-struct Draft {
+/// The main window with one of its texts in the works.
+struct Draft : WindowsOnDoubles {
     Draft(int kind, Manner manner) : method(manner), kind(kind) {
         state.session.gLoggedIn = true;
         form.show();
         QCoreApplication::processEvents();
-        form.TabStrip1.select(kind);
+        form.choose(kind);
         form.txtCallback.set_text(u"02-123-4567");
         form.ListView1.add_row(u"", {u"김", u"010-1234-5678", u"", u""}, true);
         form.ttsText.set_text(u"안내");
@@ -100,8 +99,8 @@ struct Draft {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    platform::TextBox& field() { return kind == TEXT_MESSAGE ? form.mText1 : form.mText2; }
-    const char* field_name() const { return kind == TEXT_MESSAGE ? "mText1" : "mText2"; }
+    platform::TextBox& field() { return kind == compose::MessageKind::text ? form.mText1 : form.mText2; }
+    const char* field_name() const { return kind == compose::MessageKind::text ? "mText1" : "mText2"; }
 
     void write(const Text& text) {
         field().set_focus();
@@ -128,22 +127,11 @@ struct Draft {
     }
 
     BoxPlayer boxes;
-    machine::qt::Screens screens = machine::qt::program_screens();
     HastyClock clock;
-    TestPlatform machine;
-    machine::qt::QtDesktop desktop{screens, machine.files};
-    platform::Platform platform = with(machine.platform, {.desktop = &desktop, .clock = &clock});
-    core::AppState& state = machine.state;
+    platform::Platform hasty = with(platform, {.clock = &clock});
     InputMethod method;
     int kind;
-    compose::frmZent form{platform,
-                          state,
-                          {.send = [this] { send::check_and_send(platform, state, form); },
-                           .pick_recipients = {},
-                           .NEW_SENDMAN_LOAD = {},
-                           .saved_texts = {},
-                           .update_check = {},
-                           .update_check_at_start = {}}};
+    compose::frmZent form{hasty, state, {.send = [this] { send::check_and_send(hasty, state, form); }}};
 };
 
 /// A line end counts two bytes, and there are none in the subject.
@@ -210,7 +198,7 @@ class HangulLimits : public DeskTest {
         EXPECT_EQ(edit.textCursor().position(), machine::qt::shown_position(c.after, caret));
 
         const auto bytes = core::BYTE_LEN(c.after);
-        if (draft.kind == TEXT_MESSAGE) {
+        if (draft.kind == compose::MessageKind::text) {
             EXPECT_EQ(utf8(draft.form.mHLen1.caption()), std::to_string(bytes) + "Bytes");
             EXPECT_EQ(draft.form.mHLen3.visible(), bytes > compose::TEXT_LIMIT);
         } else {
@@ -283,8 +271,8 @@ void click_subject_of_its_own(Draft& draft) {
     click_subject(draft);
 }
 
-TEST_F(HangulLimits, a_text_message_asks_once_and_neither_loses_nor_doubles_a_syllable) {
-    play(TEXT_MESSAGE,
+TEST_F(HangulLimits, ATextMessageAsksOnceAndNeitherLosesNorDoublesASyllable) {
+    play(compose::MessageKind::text,
          {
              {"to exactly 80", AT_78, han, "", AT_78 + u"한", u"가나다라한"},
              {"over, yes", AT_79, han, "Y", AT_79 + u"한", u"가나다라a한"},
@@ -307,52 +295,34 @@ TEST_F(HangulLimits, a_text_message_asks_once_and_neither_loses_nor_doubles_a_sy
          });
 }
 
-TEST_F(HangulLimits, the_answer_about_a_long_text_holds_down_to_80_bytes) {
-    play(TEXT_MESSAGE, {
-                           {"at exactly 80", AT_78,
-                            [](Draft& draft) {
-                                for (const char* syllable : {"한", "글"}) draft.method.compose(syllable, "");
-                                draft.key(Qt::Key_Backspace);
-                                EXPECT_EQ(draft.form.mText1.tag(), u"LONG");
-                                EXPECT_FALSE(draft.form.mHLen3.visible());
-                                draft.method.compose("말", "");
-                            },
-                            "Y", AT_78 + u"한말", u"가나다라한글"},
-                           {"below it is asked again", AT_79,
-                            [](Draft& draft) {
-                                draft.type_han();
-                                draft.key(Qt::Key_Backspace);
-                                EXPECT_EQ(draft.form.mText1.tag(), u"");
-                                draft.type_han();
-                            },
-                            "YN!", AT_79, u"가나다라a한"},
-                           {"backspace above takes jamo and syllables without a word", AT_79,
-                            [](Draft& draft) {
-                                for (const char* syllable : {"한", "글"}) draft.method.compose(syllable, "");
-                                for (const char* step : {"ㅁ", "마", "ㅁ", ""})
-                                    draft.method.compose("", step);
-                                draft.key(Qt::Key_Backspace);
-                            },
-                            "Y", AT_79 + u"한", u"가나다라a한"},
-                       });
+TEST_F(HangulLimits, BackspaceInALongTextTakesLettersAndSyllablesWithoutAWord) {
+    play(compose::MessageKind::text, {{"above the limit", AT_79,
+                                       [](Draft& draft) {
+                                           for (const char* syllable : {"한", "글"})
+                                               draft.method.compose(syllable, "");
+                                           for (const char* step : {"ㅁ", "마", "ㅁ", ""})
+                                               draft.method.compose("", step);
+                                           draft.key(Qt::Key_Backspace);
+                                       },
+                                       "Y", AT_79 + u"한", u"가나다라a한"}});
 }
 
-TEST_F(HangulLimits, a_placeholder_goes_behind_the_unfinished_syllable_of_an_unlimited_text) {
-    play(TEXT_MESSAGE, {{"chosen by the mouse", AT_79,
-                         [](Draft& draft) {
-                             draft.form.Check1.set_checked(true);
-                             draft.leave_han_unfinished();
-                             press("Combo3");
-                             QWidget* rows = find<QComboBox>("Combo3").view();
-                             QTest::keyClick(rows, Qt::Key_Down);
-                             QTest::keyClick(rows, Qt::Key_Return);
-                             EXPECT_EQ(draft.form.Combo3.list_index(), 1);
-                         },
-                         "", AT_79 + u"한{이름}", u"가나다라a한"}});
+TEST_F(HangulLimits, APlaceholderGoesBehindTheUnfinishedSyllableOfAnUnlimitedText) {
+    play(compose::MessageKind::text, {{"chosen by the mouse", AT_79,
+                                       [](Draft& draft) {
+                                           draft.form.Check1.set_checked(true);
+                                           draft.leave_han_unfinished();
+                                           press("Combo3");
+                                           QWidget* rows = find<QComboBox>("Combo3").view();
+                                           QTest::keyClick(rows, Qt::Key_Down);
+                                           QTest::keyClick(rows, Qt::Key_Return);
+                                           EXPECT_EQ(draft.form.Combo3.list_index(), 1);
+                                       },
+                                       "", AT_79 + u"한{이름}", u"가나다라a한"}});
 }
 
-TEST_F(HangulLimits, a_plus_message_warns_and_is_cut) {
-    play(TEXT_PLUS,
+TEST_F(HangulLimits, APlusMessageWarnsAndIsCut) {
+    play(compose::MessageKind::plus,
          {
              {"to exactly 80", AT_78, han, "", AT_78 + u"한", u"가나다라한"},
              {"over", AT_79, han, "!", AT_79, u"가나다라a"},
@@ -364,19 +334,20 @@ TEST_F(HangulLimits, a_plus_message_warns_and_is_cut) {
          });
 }
 
-TEST_F(HangulLimits, a_click_into_the_subject_ends_the_syllable_first) {
+TEST_F(HangulLimits, AClickIntoTheSubjectEndsTheSyllableFirst) {
     const std::vector<Case> both{
         {"below", AT_74, click_subject, "", AT_74 + u"한", u"가나한"},
         {"to exactly 80", AT_78, click_subject, "", AT_78 + u"한", u"가나다라한"},
     };
-    play(TEXT_MESSAGE, both);
-    play(TEXT_MESSAGE, {{"over, yes", AT_79, click_subject, "Y", AT_79 + u"한", u"가나다라a한"},
-                        {"over, no", AT_79, click_subject_of_its_own, "N!", AT_79, OWN_SUBJECT}});
-    play(TEXT_PLUS, both);
-    play(TEXT_PLUS, {{"over", AT_79, click_subject, "!", AT_79, u"가나다라a"}});
+    play(compose::MessageKind::text, both);
+    play(compose::MessageKind::text,
+         {{"over, yes", AT_79, click_subject, "Y", AT_79 + u"한", u"가나다라a한"},
+          {"over, no", AT_79, click_subject_of_its_own, "N!", AT_79, OWN_SUBJECT}});
+    play(compose::MessageKind::plus, both);
+    play(compose::MessageKind::plus, {{"over", AT_79, click_subject, "!", AT_79, u"가나다라a"}});
 }
 
-TEST_F(HangulLimits, a_key_that_comes_while_the_question_is_open_opens_no_second_box) {
+TEST_F(HangulLimits, AKeyThatComesWhileTheQuestionIsOpenOpensNoSecondBox) {
     const auto end_by_period = [](Draft& draft) {
         auto& edit = find<machine::qt::MessageEdit>("mText1");
         draft.boxes.meanwhile = [&] {
@@ -384,13 +355,13 @@ TEST_F(HangulLimits, a_key_that_comes_while_the_question_is_open_opens_no_second
         };
         draft.type_han();
     };
-    play(TEXT_MESSAGE, {
-                           {"yes", AT_79, end_by_period, "Y", AT_79 + u"한.", u"가나다라a한"},
-                           {"no", AT_79, end_by_period, "N!", AT_79, u"가나다라a"},
-                       });
+    play(compose::MessageKind::text, {
+                                         {"yes", AT_79, end_by_period, "Y", AT_79 + u"한.", u"가나다라a한"},
+                                         {"no", AT_79, end_by_period, "N!", AT_79, u"가나다라a"},
+                                     });
 }
 
-TEST_F(HangulLimits, the_rest_of_a_shortcut_does_not_answer_the_question) {
+TEST_F(HangulLimits, TheRestOfAShortcutDoesNotAnswerTheQuestion) {
     const auto hold_ctrl = [](Draft& draft) {
         draft.boxes.meanwhile = [] {
             const auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
@@ -401,14 +372,14 @@ TEST_F(HangulLimits, the_rest_of_a_shortcut_does_not_answer_the_question) {
         };
         draft.type_han();
     };
-    play(TEXT_MESSAGE, {{"no", AT_79, hold_ctrl, "N!", AT_79, u"가나다라a"}});
+    play(compose::MessageKind::text, {{"no", AT_79, hold_ctrl, "N!", AT_79, u"가나다라a"}});
 }
 
-TEST_F(HangulLimits, another_kind_begins_its_text_whatever_was_unfinished) {
+TEST_F(HangulLimits, AnotherKindBeginsItsTextWhateverWasUnfinished) {
     for (const Manner manner : {Manner::silent, Manner::commits_again}) {
         for (const std::string boxes : {"Y", "N!"}) {
             SCOPED_TRACE(boxes);
-            Draft draft(TEXT_MESSAGE, manner);
+            Draft draft(compose::MessageKind::text, manner);
             expect_boxes(draft, boxes);
             draft.form.txtUserName.set_text(u"홍");
             draft.write(AT_79);
@@ -418,19 +389,19 @@ TEST_F(HangulLimits, another_kind_begins_its_text_whatever_was_unfinished) {
                 QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(kind - 1).center());
                 settle();
             };
-            click_tab(TEXT_PLUS);
+            click_tab(compose::MessageKind::plus);
             EXPECT_EQ(draft.boxes.asked.size(), boxes.size());
             EXPECT_EQ(draft.form.mText1.text(), boxes == "Y" ? AT_79 + u"한" : AT_79);
             EXPECT_EQ(draft.form.subjectText.text(), boxes == "Y" ? u"가나다라a한" : u"가나다라a");
 
-            draft.kind = TEXT_PLUS;
+            draft.kind = compose::MessageKind::plus;
             const Text plus = u"[홍]\r\n\r\n\r\n\r\n☎통화를눌러확인하세요";
             EXPECT_EQ(draft.form.mText2.text(), plus);
             EXPECT_EQ(find<machine::qt::MessageEdit>("mText2").committed_text(),
                       machine::qt::shown_text(plus));
             draft.field().set_focus();
             draft.leave_han_unfinished();
-            click_tab(TEXT_MESSAGE);
+            click_tab(compose::MessageKind::text);
             EXPECT_EQ(draft.form.mText2.text(), u"한" + plus);
             EXPECT_EQ(draft.form.mText1.text(), u"[홍]");
             EXPECT_EQ(find<machine::qt::MessageEdit>("mText1").committed_text(), "[홍]");
@@ -467,7 +438,7 @@ class HangulSending : public HangulLimits {
     }
 };
 
-TEST_F(HangulSending, what_goes_is_the_text_with_the_syllable) {
+TEST_F(HangulSending, WhatGoesIsTheTextWithTheSyllable) {
     struct Sent {
         int kind;
         Text before;
@@ -476,11 +447,11 @@ TEST_F(HangulSending, what_goes_is_the_text_with_the_syllable) {
     };
     const Text syllables(39, u'가');
     for (const auto& [kind, before, boxes, texts] : std::vector<Sent>{
-             {TEXT_MESSAGE, syllables, "", {syllables + u"한"}},
-             {TEXT_MESSAGE, syllables + u"a", "Y", {syllables + u"a", u"한"}},
-             {TEXT_MESSAGE, syllables + u"a", "N!", {syllables + u"a"}},
-             {TEXT_PLUS, syllables, "", {syllables + u"한"}},
-             {TEXT_PLUS, syllables + u"a", "!", {syllables + u"a"}},
+             {compose::MessageKind::text, syllables, "", {syllables + u"한"}},
+             {compose::MessageKind::text, syllables + u"a", "Y", {syllables + u"a", u"한"}},
+             {compose::MessageKind::text, syllables + u"a", "N!", {syllables + u"a"}},
+             {compose::MessageKind::plus, syllables, "", {syllables + u"한"}},
+             {compose::MessageKind::plus, syllables + u"a", "!", {syllables + u"a"}},
          }) {
         for (const Manner manner : {Manner::silent, Manner::commits_again}) {
             const bool by_key = manner == Manner::commits_again;

@@ -1,6 +1,4 @@
-#include "machine/qt/typing/text_conversion.h"
 #include "machine/qt/widgets/message_edit.h"
-#include "platform/text/cp949.h"
 #include "tests/screen/screen_fixture.h"
 
 #include <QAction>
@@ -10,7 +8,6 @@
 namespace tests {
 namespace {
 
-using platform::BoxAnswer;
 using platform::Text;
 
 /// Typing into the message field, whose Change handler is written down.
@@ -25,37 +22,14 @@ class HangulTest : public ScreenTest {
         });
     }
 
-    void cut_to(std::size_t bytes) {
-        Text text = form.mText1.text();
-        while (platform::cp949_length(text) > bytes) text.pop_back();
-        form.mText1.set_text(text);
-        form.mText1.set_caret_to_end();
-        form.Picture2.set_focus();
-    }
-
-    /// The main window's rule: more than 80 bytes are asked about, and on No are cut, each time with a bounce
-    /// of the focus.
-    void ask_beyond_80_bytes() {
-        on_change = [this] {
-            if (platform::cp949_length(form.mText1.text()) <= 80 || agreed) return;
-            agreed = desktop.message_box(
-                         {.text = u"80?", .title = u"", .buttons = platform::BoxButtons::yes_no}) ==
-                     BoxAnswer::yes;
-            if (!agreed) return cut_to(80);
-            form.mText1.set_caret_to_end();
-            form.Picture2.set_focus();
-        };
-    }
-
     QString shown() { return edit().committed_text(); }
     machine::qt::MessageEdit& edit() { return find<machine::qt::MessageEdit>("mText1"); }
 
     std::vector<Text> changes;
     std::function<void()> on_change = [] {};
-    bool agreed = false;
 };
 
-TEST_F(HangulTest, only_committed_syllables_are_text_and_each_is_one_change) {
+TEST_F(HangulTest, OnlyCommittedSyllablesAreTextAndEachIsOneChange) {
     compose("", "ㅎ");
     compose("", "하");
     compose("", "한");
@@ -69,44 +43,12 @@ TEST_F(HangulTest, only_committed_syllables_are_text_and_each_is_one_change) {
     EXPECT_EQ(form.mText1.selection_start(), 2u);
 }
 
-TEST_F(HangulTest, a_cut_in_the_change_handler_takes_the_excess_alone) {
+TEST_F(HangulTest, AfterACutTheNextSyllableStartsAnew) {
     on_change = [this] {
-        if (platform::cp949_length(form.mText1.text()) > 80) cut_to(80);
-    };
-    struct Case {
-        const char* name;
-        Text before;
-        const char* commit;
-        const char* unfinished;
-        Text after;
-    };
-    const Text forty(40, u'가');
-    const Text thirty_nine(39, u'가');
-    for (const Case& c : std::vector<Case>{
-             {"the syllable fits", thirty_nine, "한", "", thirty_nine + u"한"},
-             {"the syllable fits and the next is begun", thirty_nine, "한", "ㄱ", thirty_nine + u"한"},
-             {"the syllable is too much", forty, "한", "", forty},
-             {"the syllable is too much and the next is begun", forty, "한", "ㄱ", forty},
-             {"half of it would fit", thirty_nine + u"a", "한", "ㄱ", thirty_nine + u"a"},
-         }) {
-        SCOPED_TRACE(c.name);
-        form.mText1.set_text(c.before);
+        if (form.mText1.text().size() <= 2) return;
+        form.mText1.set_text(form.mText1.text().substr(0, 2));
         form.mText1.set_caret_to_end();
-        compose("", "하");
-        compose(c.commit, c.unfinished);
-        settle();
-        EXPECT_EQ(form.mText1.text(), c.after);
-        EXPECT_EQ(shown(), machine::qt::to_qstring(c.after));
-        EXPECT_EQ(form.mText1.selection_start(), c.after.size());
-        EXPECT_EQ(QApplication::focusWidget(), &edit());
-        compose("", "");
-        form.mText1.set_text(u"");
-    }
-}
-
-TEST_F(HangulTest, after_a_cut_the_next_syllable_starts_anew) {
-    on_change = [this] {
-        if (form.mText1.text().size() > 2) cut_to(4);
+        form.Picture2.set_focus();
     };
     compose("가나다", "ㄹ");
     EXPECT_EQ(shown(), "가나");
@@ -119,41 +61,7 @@ TEST_F(HangulTest, after_a_cut_the_next_syllable_starts_anew) {
     EXPECT_EQ(shown(), "가ㄹ");
 }
 
-TEST_F(HangulTest, the_question_about_a_long_text_neither_loses_nor_doubles_a_syllable) {
-    struct Case {
-        const char* name;
-        QMessageBox::StandardButton answer;
-        const char* unfinished;
-        Text after;
-    };
-    const Text forty(40, u'가');
-    for (const Case& c : std::vector<Case>{
-             {"yes", QMessageBox::Yes, "", forty + u"한"},
-             {"yes, with the next syllable begun", QMessageBox::Yes, "ㄱ", forty + u"한ㄱ"},
-             {"no", QMessageBox::No, "", forty},
-             {"no, with the next syllable begun", QMessageBox::No, "ㄱ", forty},
-         }) {
-        SCOPED_TRACE(c.name);
-        on_change = [] {};
-        agreed = false;
-        form.mText1.set_text(forty);
-        form.mText1.set_caret_to_end();
-        ask_beyond_80_bytes();
-        boxes.answers = {c.answer};
-        boxes.asked.clear();
-        compose("한", c.unfinished);
-        settle();
-        EXPECT_EQ(boxes.asked.size(), 1u);
-        EXPECT_EQ(form.mText1.text(), c.after);
-        EXPECT_EQ(shown(), machine::qt::to_qstring(c.after));
-        EXPECT_EQ(form.mText1.selection_start(), c.after.size());
-        EXPECT_EQ(QApplication::focusWidget(), &edit());
-        form.mText1.set_focus();
-        EXPECT_TRUE(form.mText1.has_focus());
-    }
-}
-
-TEST_F(HangulTest, what_is_pressed_in_mid_composition_acts_once_on_the_finished_text) {
+TEST_F(HangulTest, WhatIsPressedInMidCompositionActsOnceOnTheFinishedText) {
     std::vector<Text> seen;
     const auto note = [&] { seen.push_back(form.mText1.text()); };
     form.Command1.Click.connect(note);
@@ -194,7 +102,7 @@ TEST_F(HangulTest, what_is_pressed_in_mid_composition_acts_once_on_the_finished_
     }
 }
 
-TEST_F(HangulTest, an_input_method_that_commits_late_counts_as_an_edit_after_the_handlers) {
+TEST_F(HangulTest, AnInputMethodThatCommitsLateCountsAsAnEditAfterTheHandlers) {
     form.mText1.set_text(u"가");
     form.mText1.set_caret_to_end();
     changes.clear();
@@ -224,7 +132,7 @@ TEST_F(HangulTest, an_input_method_that_commits_late_counts_as_an_edit_after_the
     EXPECT_EQ(shown(), "새");
 }
 
-TEST_F(HangulTest, setting_another_text_in_mid_composition_ends_it) {
+TEST_F(HangulTest, SettingAnotherTextInMidCompositionEndsIt) {
     compose("가", "ㄴ");
     form.mText1.set_text(u"다른 글");
     compose("ㄴ", "");
@@ -236,7 +144,7 @@ TEST_F(HangulTest, setting_another_text_in_mid_composition_ends_it) {
     EXPECT_EQ(shown(), "다다른 글");
 }
 
-TEST_F(HangulTest, a_click_into_the_field_keeps_the_syllable) {
+TEST_F(HangulTest, AClickIntoTheFieldKeepsTheSyllable) {
     form.mText1.set_text(u"가나");
     form.mText1.set_caret_to_end();
     compose("", "다");
@@ -252,7 +160,7 @@ TEST_F(HangulTest, a_click_into_the_field_keeps_the_syllable) {
     EXPECT_EQ(form.HText1.text(), u"한");
 }
 
-TEST_F(HangulTest, one_line_fields_and_editable_boxes_follow_the_same_order) {
+TEST_F(HangulTest, OneLineFieldsAndEditableBoxesFollowTheSameOrder) {
     form.HText1.set_focus();
     std::vector<Text> texts;
     form.HText1.Change.connect([&] {

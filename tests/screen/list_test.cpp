@@ -50,7 +50,7 @@ class ListTest : public ScreenTest {
 
 using Rows = std::vector<std::size_t>;
 
-TEST_F(ListTest, the_selected_rows_and_the_selected_item_are_the_users) {
+TEST_F(ListTest, TheSelectedRowsAndTheSelectedItemAreTheUsers) {
     struct Step {
         const char* name;
         std::function<void()> act;
@@ -72,7 +72,7 @@ TEST_F(ListTest, the_selected_rows_and_the_selected_item_are_the_users) {
     }
 }
 
-TEST_F(ListTest, the_selection_by_code_shows_once_the_handler_is_through) {
+TEST_F(ListTest, TheSelectionByCodeShowsOnceTheHandlerIsThrough) {
     struct Step {
         const char* name;
         std::function<void()> act;
@@ -97,7 +97,7 @@ TEST_F(ListTest, the_selection_by_code_shows_once_the_handler_is_through) {
     }
 }
 
-TEST_F(ListTest, sorting_keeps_the_selection_on_its_rows) {
+TEST_F(ListTest, SortingKeepsTheSelectionOnItsRows) {
     list.select_item(1);
     list.sort(1, platform::ListView::SortOrder::descending);
     settle();
@@ -107,7 +107,7 @@ TEST_F(ListTest, sorting_keeps_the_selection_on_its_rows) {
     EXPECT_EQ(view().header()->sectionSize(0), 60) << "columns keep their widths";
 }
 
-TEST_F(ListTest, checks_are_the_users_alone_by_mouse_and_by_space) {
+TEST_F(ListTest, ChecksAreTheUsersAloneByMouseAndBySpace) {
     std::vector<std::pair<std::size_t, bool>> checks;
     list.ItemCheck.connect([&](std::size_t row) { checks.emplace_back(row, list.row(row).checked()); });
     list.set_checked(3, false);
@@ -121,7 +121,7 @@ TEST_F(ListTest, checks_are_the_users_alone_by_mouse_and_by_space) {
     EXPECT_EQ(list.checked_count(), 2u);
 }
 
-TEST_F(ListTest, keys_columns_and_buttons_reach_the_handlers) {
+TEST_F(ListTest, KeysColumnsAndButtonsReachTheHandlers) {
     std::vector<std::string> events;
     list.KeyDown.connect([&](KeyPressed& key) { events.push_back("down " + std::to_string(key.code)); });
     list.KeyPress.connect([&](KeyPressed& key) {
@@ -153,7 +153,7 @@ TEST_F(ListTest, keys_columns_and_buttons_reach_the_handlers) {
                                                 "right", "double"}));
 }
 
-TEST_F(ListTest, a_menu_asked_for_by_a_key_opens_at_the_current_row) {
+TEST_F(ListTest, AMenuAskedForByAKeyOpensAtTheCurrentRow) {
     list.MouseUp.connect([this](MouseButton button) {
         if (button == MouseButton::right) desktop.popup_menu(form, form.mnuSubPopup);
     });
@@ -174,7 +174,7 @@ TEST_F(ListTest, a_menu_asked_for_by_a_key_opens_at_the_current_row) {
     EXPECT_EQ(opened, view().viewport()->mapToGlobal(row.bottomLeft()));
 }
 
-TEST_F(ListTest, a_screen_reader_always_finds_a_name_and_a_current_row) {
+TEST_F(ListTest, AScreenReaderAlwaysFindsANameAndACurrentRow) {
     const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&view());
     ASSERT_NE(accessible, nullptr);
     EXPECT_EQ(accessible->text(QAccessible::Name), "받는 사람");
@@ -187,7 +187,7 @@ TEST_F(ListTest, a_screen_reader_always_finds_a_name_and_a_current_row) {
     EXPECT_TRUE(view().currentIndex().isValid());
 }
 
-TEST_F(ListTest, rows_that_come_one_by_one_are_scrolled_to_once) {
+TEST_F(ListTest, RowsThatComeOneByOneAreScrolledToOnce) {
     for (int i = 0; i < 20000; ++i) {
         list.deselect_item();
         const std::size_t row = list.add_row(u"", {u"이름", u"01012345678"}, true);

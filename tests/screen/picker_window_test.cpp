@@ -25,7 +25,7 @@ struct PickerWindow : DeskTest {
     machine::qt::Screens screens = machine::qt::program_screens();
     machine::qt::QtDesktop desktop{screens, picking.files};
     platform::Platform platform = picking.on(desktop);
-    frmSendMan picker{platform, picking.state, picking.form};
+    frmSendMan picker{platform, picking.state, picking.form.recipients, picking.form.Timer1};
 
     PickerWindow() {
         picking.folders = {{2, 1, u"거래처"}, {3, 2, u"서울"}, {4, 1, u"친구"}};
@@ -62,7 +62,7 @@ struct PickerWindow : DeskTest {
     QWidget& window() { return *tree().window(); }
 };
 
-TEST_F(PickerWindow, every_way_to_a_folder_tells_it_once) {
+TEST_F(PickerWindow, EveryWayToAFolderTellsItOnce) {
     show([this] {
         std::vector<std::string> chosen;
         picker.TreeView1.NodeClick.connect(
@@ -85,7 +85,7 @@ TEST_F(PickerWindow, every_way_to_a_folder_tells_it_once) {
     });
 }
 
-TEST_F(PickerWindow, the_tree_shows_what_becomes_of_its_nodes) {
+TEST_F(PickerWindow, TheTreeShowsWhatBecomesOfItsNodes) {
     show([this] {
         EXPECT_EQ(node(2).data().toString(), "거래처(1)");
         EXPECT_TRUE(tree().isExpanded(node(1)));
@@ -105,7 +105,7 @@ TEST_F(PickerWindow, the_tree_shows_what_becomes_of_its_nodes) {
     });
 }
 
-TEST_F(PickerWindow, a_right_click_and_the_menu_key_open_the_trees_menu) {
+TEST_F(PickerWindow, ARightClickAndTheMenuKeyOpenTheTreesMenu) {
     show([this] {
         const auto connected = picking.cards.connected.size();
         const auto pick_from_menu = [] {
@@ -126,7 +126,7 @@ TEST_F(PickerWindow, a_right_click_and_the_menu_key_open_the_trees_menu) {
     });
 }
 
-TEST_F(PickerWindow, enter_searches_in_the_search_line_and_confirms_elsewhere) {
+TEST_F(PickerWindow, EnterSearchesInTheSearchLineAndConfirmsElsewhere) {
     show([this] {
         auto& text = find<QLineEdit>("Text1");
         EXPECT_EQ(text.text(), "이름 또는 회사");
@@ -149,7 +149,7 @@ TEST_F(PickerWindow, enter_searches_in_the_search_line_and_confirms_elsewhere) {
     });
 }
 
-TEST_F(PickerWindow, a_buttons_key_presses_it_at_once_and_swallows_no_escape) {
+TEST_F(PickerWindow, AButtonsKeyPressesItAtOnceAndSwallowsNoEscape) {
     show([this] {
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row(0));
         QTest::keyClick(&list(), Qt::Key_A, Qt::AltModifier);
@@ -159,7 +159,7 @@ TEST_F(PickerWindow, a_buttons_key_presses_it_at_once_and_swallows_no_escape) {
     });
 }
 
-TEST_F(PickerWindow, a_double_click_adds_and_stays_and_escape_leaves) {
+TEST_F(PickerWindow, ADoubleClickAddsAndStaysAndEscapeLeaves) {
     show([this] {
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row(1));
         EXPECT_EQ(window().windowTitle(), "발송대상 선택-3/5/2");
@@ -168,13 +168,13 @@ TEST_F(PickerWindow, a_double_click_adds_and_stays_and_escape_leaves) {
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row(2));
         QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, row(2));
         EXPECT_TRUE(picker.loaded());
-        EXPECT_EQ(picking.form.ListView1.row_count(), 1u);
+        EXPECT_EQ(picking.form.recipients.ListView1.row_count(), 1u);
         QTest::keyClick(&list(), Qt::Key_Escape);
         EXPECT_FALSE(picker.loaded());
     });
 }
 
-TEST_F(PickerWindow, columns_share_the_room_also_when_the_window_changes) {
+TEST_F(PickerWindow, ColumnsShareTheRoomAlsoWhenTheWindowChanges) {
     const auto columns = [this] {
         std::vector<int> widths;
         for (int i = 0; i < list().header()->count(); ++i) widths.push_back(list().header()->sectionSize(i));
@@ -196,7 +196,7 @@ TEST_F(PickerWindow, columns_share_the_room_also_when_the_window_changes) {
         u"음성메시지");
 }
 
-TEST_F(PickerWindow, is_painted_while_a_long_list_fills) {
+TEST_F(PickerWindow, IsPaintedWhileALongListFills) {
     show([this] {
         struct Painted : QObject {
             explicit Painted(QWidget& bar) : bar(bar) { bar.installEventFilter(this); }
@@ -216,7 +216,7 @@ TEST_F(PickerWindow, is_painted_while_a_long_list_fills) {
     });
 }
 
-TEST_F(PickerWindow, a_mouse_that_moves_over_it_ends_the_filling_of_a_long_list) {
+TEST_F(PickerWindow, AMouseThatMovesOverItEndsTheFillingOfALongList) {
     show([this] {
         struct Mover : QObject {
             explicit Mover(QWidget& bar) : bar(bar) { bar.installEventFilter(this); }

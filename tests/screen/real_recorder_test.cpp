@@ -131,14 +131,14 @@ TEST_F(RealRecorder, NoticesAMicrophoneThatGoesAndComes) {
 }
 
 TEST_F(RealRecorder, SendsWhatWasSaidToTheCarrier) {
-    platform::SoundRecorder& control = application.main_form().RFK1;
+    platform::SoundRecorder& control = application.main_form().voice.RFK1;
     log_in();
     user.in_window("frmZent", [](QWidget& window) {
         const auto choose = [&](const char* tabs, int tab) {
             auto& bar = *window.findChild<QTabBar*>(QString::fromLatin1(tabs));
             QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(tab - 1).center());
         };
-        choose("TabStrip1", compose::VOICE_MESSAGE);
+        choose("TabStrip1", compose::MessageKind::voice);
         choose("TabStrip2", 2);
         type_into(window, "subjectText", QStringLiteral("인사"));
         type_into(window, "HText1_0", QStringLiteral("홍길동"));

@@ -2,7 +2,7 @@
 
 #include "compose/main_form.h"
 #include "tests/screen/screen_fixture.h"
-#include "tests/support/test_platform.h"
+#include "tests/support/windows_on_doubles.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -14,11 +14,11 @@ namespace {
 using platform::Samples;
 using platform::SAMPLES_A_SECOND;
 
-struct RecorderPanel : tests::DeskTest {
+struct RecorderPanel : tests::DeskTest, tests::WindowsOnDoubles {
     RecorderPanel() {
         form.show();
         settle();
-        form.TabStrip1.select(compose::VOICE_MESSAGE);
+        form.choose(compose::MessageKind::voice);
     }
     ~RecorderPanel() override {
         form.unload();
@@ -35,11 +35,7 @@ struct RecorderPanel : tests::DeskTest {
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);
     }
 
-    TestPlatform machine;
-    machine::qt::Screens screens = machine::qt::program_screens();
-    machine::qt::QtDesktop desktop{screens, machine.files};
-    platform::Platform platform = machine.on(desktop);
-    compose::frmZent form{platform, machine.state, compose::MainDoors{}};
+    compose::frmZent form{platform, state, {}};
 };
 
 TEST_F(RecorderPanel, LooksForTheMicrophoneOnceTheUserSeesIt) {
@@ -82,7 +78,7 @@ TEST_F(RecorderPanel, RecordsStopsAndPlaysByOneKey) {
 
 TEST_F(RecorderPanel, ShowsEveryMessageWholeInTheSmallestWindow) {
     machine.recorder.installed = false;
-    form.TabStrip1.select(compose::TEXT_PLUS);
+    form.choose(compose::MessageKind::plus);
     form.TabStrip2.select(2);
     QWidget& window = *find("RFK1").window();
     window.resize(window.minimumSize());

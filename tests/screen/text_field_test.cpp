@@ -12,7 +12,7 @@ namespace {
 using platform::KeyPressed;
 using platform::Text;
 
-TEST(TextConversionTest, places_are_the_same_on_both_sides_of_every_kind_of_line_end) {
+TEST(TextConversionTest, PlacesAreTheSameOnBothSidesOfEveryKindOfLineEnd) {
     struct Case {
         Text program;
         QString shown;
@@ -56,7 +56,7 @@ class TextFieldTest : public ScreenTest {
     std::function<void(KeyPressed&)> on_key = [](KeyPressed&) {};
 };
 
-TEST_F(TextFieldTest, keys_raise_a_key_press_and_then_a_change_with_the_caret_in_the_programs_places) {
+TEST_F(TextFieldTest, KeysRaiseAKeyPressAndThenAChangeWithTheCaretInTheProgramsPlaces) {
     QTest::keyClicks(&edit(), "ab");
     QTest::keyClick(&edit(), Qt::Key_Return);
     QTest::keyClick(&edit(), Qt::Key_C);
@@ -77,7 +77,7 @@ TEST_F(TextFieldTest, keys_raise_a_key_press_and_then_a_change_with_the_caret_in
     EXPECT_EQ(changes.size(), 7u);
 }
 
-TEST_F(TextFieldTest, a_swallowed_key_changes_nothing_and_a_cut_before_the_key_stands) {
+TEST_F(TextFieldTest, ASwallowedKeyChangesNothingAndACutBeforeTheKeyStands) {
     QTest::keyClicks(&edit(), "abc");
     on_key = [](KeyPressed& key) { key.swallow(); };
     QTest::keyClicks(&edit(), "d");
@@ -92,7 +92,7 @@ TEST_F(TextFieldTest, a_swallowed_key_changes_nothing_and_a_cut_before_the_key_s
     EXPECT_EQ(edit().committed_text(), "ae");
 }
 
-TEST_F(TextFieldTest, what_is_pasted_is_plain_text_and_one_change_without_a_key_press_of_its_own) {
+TEST_F(TextFieldTest, WhatIsPastedIsPlainTextAndOneChangeWithoutAKeyPressOfItsOwn) {
     auto* rich = new QMimeData;
     rich->setHtml("<b>가</b><br>나");
     rich->setText(QString("가\r나\u2028다\r\n") + QChar(u'\0') + "라");
@@ -109,7 +109,7 @@ TEST_F(TextFieldTest, what_is_pasted_is_plain_text_and_one_change_without_a_key_
     EXPECT_EQ(form.HText1.text(), u"가나다라") << "one line has no line ends";
 }
 
-TEST_F(TextFieldTest, text_and_selection_set_by_code_show_and_raise_one_change) {
+TEST_F(TextFieldTest, TextAndSelectionSetByCodeShowAndRaiseOneChange) {
     form.mText1.set_text(u"가\r\n나다");
     EXPECT_EQ(edit().committed_text(), "가\n나다");
     EXPECT_EQ(edit().textCursor().position(), 0);
@@ -125,7 +125,7 @@ TEST_F(TextFieldTest, text_and_selection_set_by_code_show_and_raise_one_change) 
     EXPECT_EQ(form.mText1.text(), u"가\r\n나다");
 }
 
-TEST_F(TextFieldTest, a_handler_that_sets_the_text_again_wins) {
+TEST_F(TextFieldTest, AHandlerThatSetsTheTextAgainWins) {
     form.mText1.Change.connect([this] {
         if (form.mText1.text() == u"x") form.mText1.set_text(u"y");
     });
@@ -136,7 +136,7 @@ TEST_F(TextFieldTest, a_handler_that_sets_the_text_again_wins) {
     EXPECT_EQ(form.mText1.text(), u"yz");
 }
 
-TEST_F(TextFieldTest, enter_in_a_one_line_field_is_its_handlers) {
+TEST_F(TextFieldTest, EnterInAOneLineFieldIsItsHandlers) {
     auto& field = find<QLineEdit>("HText1_0");
     form.HText1.KeyPress.connect([this](KeyPressed& key) {
         if (key.code != platform::KEY_ENTER) return;

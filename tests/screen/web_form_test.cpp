@@ -2,7 +2,7 @@
 
 #include "service/frmWeb.h"
 #include "tests/screen/screen_fixture.h"
-#include "tests/support/test_platform.h"
+#include "tests/support/windows_on_doubles.h"
 
 #include <QLabel>
 #include <QProgressBar>
@@ -11,9 +11,9 @@
 
 namespace {
 
-struct WebForm : tests::DeskTest {
+struct WebForm : tests::DeskTest, tests::WindowsOnDoubles {
     void open(const platform::Text& address) {
-        form = std::make_unique<service::frmWeb>(platform, machine.state);
+        form = std::make_unique<service::frmWeb>(platform, state);
         form->load();
         form->WebBrowser.Navigate(address, "code=1", u"Content-Type: text/plain\r\n");
         form->show();
@@ -21,10 +21,6 @@ struct WebForm : tests::DeskTest {
     }
     const QLabel& notice() const { return *find("WebBrowser").findChild<QLabel*>(); }
 
-    TestPlatform machine;
-    machine::qt::Screens screens = machine::qt::program_screens();
-    machine::qt::QtDesktop desktop{screens, machine.files};
-    platform::Platform platform = machine.on(desktop);
     std::unique_ptr<service::frmWeb> form;
 };
 

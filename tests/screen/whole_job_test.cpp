@@ -13,7 +13,7 @@ using Strings = std::vector<std::string>;
 
 class WholeJob : public ProgramTest {
   protected:
-    const platform::ListView& recipients() { return application.main_form().ListView1; }
+    const platform::ListView& recipients() { return application.main_form().recipients.ListView1; }
 
     void write_draft(QWidget& window, int count) {
         type_into(window, "mText1", QStringLiteral("오늘 오후 3시 회의"));

@@ -16,7 +16,7 @@ using platform::BoxButtons;
 
 using WindowTest = ScreenTest;
 
-TEST_F(WindowTest, the_form_hears_of_its_window_and_the_window_of_its_form) {
+TEST_F(WindowTest, TheFormHearsOfItsWindowAndTheWindowOfItsForm) {
     auto& window = find("_centre");
     QWidget& frame = *window.window();
     EXPECT_EQ(form.activations, 1) << "once for the first showing, whenever the desktop activates it";
@@ -34,7 +34,7 @@ TEST_F(WindowTest, the_form_hears_of_its_window_and_the_window_of_its_form) {
     EXPECT_TRUE(frame.isMaximized());
 }
 
-TEST_F(WindowTest, escape_and_the_frames_close_are_the_forms_to_answer) {
+TEST_F(WindowTest, EscapeAndTheFramesCloseAreTheFormsToAnswer) {
     QWidget& frame = *find("_centre").window();
     form.stays_open = true;
     QTest::keyClick(&find("mText1"), Qt::Key_Escape);
@@ -48,7 +48,7 @@ TEST_F(WindowTest, escape_and_the_frames_close_are_the_forms_to_answer) {
     EXPECT_FALSE(frame.isVisible());
 }
 
-TEST_F(WindowTest, a_modal_form_starts_where_its_handlers_want_and_may_close_in_its_own_button) {
+TEST_F(WindowTest, AModalFormStartsWhereItsHandlersWantAndMayCloseInItsOwnButton) {
     auto ask = std::make_unique<frmAsk>(desktop);
     ask->Text1.set_text(u"hong");
     ask->load();
@@ -77,14 +77,14 @@ TEST_F(WindowTest, a_modal_form_starts_where_its_handlers_want_and_may_close_in_
     EXPECT_TRUE(form.loaded());
 }
 
-TEST_F(WindowTest, a_form_that_closes_in_its_first_activation_returns) {
+TEST_F(WindowTest, AFormThatClosesInItsFirstActivationReturns) {
     frmAsk ask(desktop);
     ask.on_activate = [&] { ask.unload(); };
     ask.show_modal();
     EXPECT_FALSE(ask.loaded());
 }
 
-TEST_F(WindowTest, the_focus_goes_with_the_user_and_stays_with_its_control_under_a_box) {
+TEST_F(WindowTest, TheFocusGoesWithTheUserAndStaysWithItsControlUnderABox) {
     std::vector<std::string> events;
     const auto follow = [&](platform::Control& control, const std::string& name) {
         control.GotFocus.connect([&events, name] { events.push_back("+" + name); });
@@ -123,7 +123,7 @@ TEST_F(WindowTest, the_focus_goes_with_the_user_and_stays_with_its_control_under
     EXPECT_NE(QApplication::focusWidget(), &find("Combo3"));
 }
 
-TEST_F(WindowTest, boxes_show_plain_text_korean_buttons_and_give_the_cautious_answer) {
+TEST_F(WindowTest, BoxesShowPlainTextKoreanButtonsAndGiveTheCautiousAnswer) {
     desktop.set_application_title(u"폰디라");
     struct Case {
         BoxButtons buttons;
@@ -158,7 +158,7 @@ TEST_F(WindowTest, boxes_show_plain_text_korean_buttons_and_give_the_cautious_an
     }
 }
 
-TEST_F(WindowTest, a_menu_opens_right_below_its_control_and_tells_what_was_picked) {
+TEST_F(WindowTest, AMenuOpensRightBelowItsControlAndTellsWhatWasPicked) {
     bool deleted = false;
     form.mnuDelete.Click.connect([&] { deleted = true; });
     const QWidget& control = find("TabStrip1");
@@ -173,7 +173,7 @@ TEST_F(WindowTest, a_menu_opens_right_below_its_control_and_tells_what_was_picke
     EXPECT_TRUE(deleted);
 }
 
-TEST_F(WindowTest, the_hourglass_is_a_state) {
+TEST_F(WindowTest, TheHourglassIsAState) {
     desktop.set_pointer(platform::Pointer::hourglass);
     desktop.set_pointer(platform::Pointer::hourglass);
     ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
@@ -186,7 +186,7 @@ std::vector<QString> faults_of(platform::Form& form, QWidget& window) {
     return machine::qt::screen_faults(form, window, files);
 }
 
-TEST_F(WindowTest, long_work_leaves_it_painted_and_nothing_else_happens) {
+TEST_F(WindowTest, LongWorkLeavesItPaintedAndNothingElseHappens) {
     struct : QObject {
         bool eventFilter(QObject*, QEvent* event) override {
             paintings += event->type() == QEvent::Paint;
@@ -208,7 +208,7 @@ TEST_F(WindowTest, long_work_leaves_it_painted_and_nothing_else_happens) {
     EXPECT_GE(ticks, 1) << "the timer runs on afterwards";
 }
 
-TEST_F(WindowTest, a_test_finds_what_is_wrong_between_a_form_and_its_screen) {
+TEST_F(WindowTest, ATestFindsWhatIsWrongBetweenAFormAndItsScreen) {
     frmSample whole(desktop);
     EXPECT_EQ(faults_of(whole, *screens.build(u"frmSample")), std::vector<QString>{});
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <netinet/in.h>
+#include <regex>
 #include <stdexcept>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -10,10 +11,20 @@ namespace tests {
 
 namespace {
 
+/// How many bytes the request has by what its head says, or 0 while the head is not whole.
+std::size_t length_of(const std::string& request) {
+    static const std::regex body_length("\r\ncontent-length: *([0-9]+)", std::regex::icase);
+    const std::size_t head = request.find("\r\n\r\n");
+    if (head == std::string::npos) return 0;
+    std::smatch found;
+    const std::string lines = request.substr(0, head);
+    return head + 4 + (std::regex_search(lines, found, body_length) ? std::stoul(found[1]) : 0);
+}
+
 std::string read_request(int client) {
     std::string request;
     std::array<char, 4096> bytes{};
-    while (request.find("\r\n\r\n") == std::string::npos) {
+    for (std::size_t length = 0; length == 0 || request.size() < length; length = length_of(request)) {
         const ssize_t got = ::recv(client, bytes.data(), bytes.size(), 0);
         if (got <= 0) break;
         request.append(bytes.data(), static_cast<std::size_t>(got));
@@ -50,14 +61,18 @@ HttpServer::HttpServer(std::function<void(HttpClient&)> answer)
         throw std::runtime_error("no server on the loopback device");
     }
     port_ = ntohs(address.sin_port);
-    thread_ = std::thread([this] { serve(); });
+    listening_ = std::thread([this] { listen(); });
 }
 
 HttpServer::~HttpServer() {
     ending_ = true;
     ::shutdown(listener_, SHUT_RDWR);
-    if (const int client = client_; client >= 0) ::shutdown(client, SHUT_RDWR);
-    thread_.join();
+    listening_.join();
+    {
+        const std::lock_guard lock(mutex_);
+        for (const int client : clients_) ::shutdown(client, SHUT_RDWR);
+    }
+    for (std::thread& thread : serving_) thread.join();
     ::close(listener_);
 }
 
@@ -65,18 +80,27 @@ platform::Text HttpServer::url(platform::TextView path) const {
     return u"http://127.0.0.1:" + platform::decimal(port_) + platform::Text(path);
 }
 
-void HttpServer::serve() {
-    for (;;) {
+void HttpServer::listen() {
+    while (!ending_) {
         const int socket = ::accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
-        if (socket < 0 || ending_) break;
-        client_ = socket;
-        HttpClient client(socket, read_request(socket));
-        ++requests_;
-        if (!ending_) answer_(client);
-        client_ = -1;
-        ::shutdown(socket, SHUT_WR);
-        ::close(socket);
+        if (socket < 0) continue;
+        const std::lock_guard lock(mutex_);
+        clients_.insert(socket);
+        serving_.emplace_back([this, socket] { serve(socket); });
     }
+}
+
+void HttpServer::serve(int socket) {
+    HttpClient client(socket, read_request(socket));
+    // A browser opens connections that it may never use.
+    if (!client.request.empty()) {
+        ++requests_;
+        answer_(client);
+    }
+    const std::lock_guard lock(mutex_);
+    clients_.erase(socket);
+    ::shutdown(socket, SHUT_WR);
+    ::close(socket);
 }
 
 }  // namespace tests

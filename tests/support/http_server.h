@@ -4,13 +4,16 @@
 
 #include <atomic>
 #include <functional>
+#include <mutex>
+#include <set>
 #include <string>
 #include <string_view>
 #include <thread>
+#include <vector>
 
 namespace tests {
 
-/// One client of a server, before which its request has been read.
+/// One client of a server, after its request has been read.
 class HttpClient {
   public:
     explicit HttpClient(int socket, std::string request) : socket_(socket), request(std::move(request)) {}
@@ -24,11 +27,11 @@ class HttpClient {
     int socket_;
 
   public:
-    /// The head of the request.
+    /// The whole request, as far as it came.
     std::string request;
 };
 
-/// A server on the loopback device that does to each client what a test says, in a thread of its own. The
+/// A server on the loopback device that does to each client what a test says, in a thread for each. The
 /// connection is closed afterwards.
 class HttpServer {
   public:
@@ -42,21 +45,25 @@ class HttpServer {
         return [bytes](HttpClient& client) { client.send(bytes); };
     }
 
+    int port() const { return port_; }
     /// An address of the server; the path begins with a slash.
     platform::Text url(platform::TextView path = u"/update.ini") const;
     /// How many requests have come.
     int requests() const { return requests_; }
 
   private:
-    void serve();
+    void listen();
+    void serve(int socket);
 
     std::function<void(HttpClient&)> answer_;
     int listener_;
     int port_ = 0;
     std::atomic<int> requests_ = 0;
-    std::atomic<int> client_ = -1;
     std::atomic<bool> ending_ = false;
-    std::thread thread_;
+    std::mutex mutex_;
+    std::set<int> clients_;
+    std::vector<std::thread> serving_;
+    std::thread listening_;
 };
 
 }  // namespace tests

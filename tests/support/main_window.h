@@ -26,10 +26,10 @@ struct MainWindow : TestPlatform {
     compose::frmZent form{platform, state, main_doors()};
 
     /// The window as it stands before the first tick, with a kind chosen and a sender's name.
-    void compose_as(platform::TextView sender, int kind = compose::TEXT_MESSAGE) {
+    void compose_as(platform::TextView sender, compose::MessageKind kind = compose::MessageKind::text) {
         form.load();
-        form.txtUserName.set_text(platform::Text(sender));
-        form.TabStrip1.select(kind);
+        form.sender.txtUserName.set_text(platform::Text(sender));
+        form.choose(kind);
     }
 
     /// What the user does in the manual login the next time that it opens.

@@ -9,9 +9,18 @@
 #include <utility>
 #include <vector>
 
-/// A file system in memory. Paths match without regard to ASCII case.
+namespace tests {
+
+/// A file system in memory. Paths match without regard to ASCII case. Folders that files are put into by a
+/// test are there without having been made.
 class MemoryFiles : public platform::Files {
   public:
+    struct WithoutCase {
+        bool operator()(const platform::Text& left, const platform::Text& right) const;
+    };
+    using Contents = std::map<platform::Text, std::string, WithoutCase>;
+    using Paths = std::set<platform::Text, WithoutCase>;
+
     platform::Text application_directory() const override { return u"z:\\app"; }
     platform::Text windows_directory() const override { return u"z:\\windows"; }
     platform::Text system_directory() const override { return u"z:\\windows\\system"; }
@@ -41,11 +50,11 @@ class MemoryFiles : public platform::Files {
     /// Every file that was read or written, in order.
     mutable std::vector<platform::Text> touched;
 
-    std::map<platform::Text, std::string> files;
-    std::set<platform::Text> folders;
-    std::set<platform::Text> links;
+    Contents files;
+    Paths folders;
+    Paths links;
     /// When files were written last; the others at `now`.
-    std::map<platform::Text, platform::LocalTime> dates;
+    std::map<platform::Text, platform::LocalTime, WithoutCase> dates;
     platform::LocalTime now = platform::make_time(2026, 11, 23, 10, 0, 0);
 
     /// The program is killed at the change after so many.
@@ -55,6 +64,12 @@ class MemoryFiles : public platform::Files {
     std::optional<std::pair<int, platform::ErrorNumber>> changes_until_failure;
 
   private:
-    void fail_when_missing(const platform::Text& folder) const;
+    bool holds_anything(const platform::Text& folder) const;
+    void expect_folder(const platform::Text& path) const;
+    void expect_file(const platform::Text& path) const;
+    void expect_place_for_file(const platform::Text& path) const;
+    void expect_place_for_folder(const platform::Text& path) const;
     void before_change();
 };
+
+}  // namespace tests

@@ -38,7 +38,7 @@ struct Picking : MainWindow {
             act(picker);
             picker.escape_pressed();
         });
-        addressbook::frmSendMan(platform, state, form).ShowEnter(kind);
+        addressbook::frmSendMan(platform, state, form.recipients, form.Timer1).ShowEnter(kind);
     }
 
     /// The last statement that was sent.
@@ -47,8 +47,8 @@ struct Picking : MainWindow {
     /// Name, number and title of every recipient.
     std::vector<std::string> recipients() const {
         std::vector<std::string> rows;
-        for (std::size_t row = 0; row < form.ListView1.row_count(); ++row) {
-            const platform::ListItem& item = form.ListView1.row(row);
+        for (std::size_t row = 0; row < form.recipients.ListView1.row_count(); ++row) {
+            const platform::ListItem& item = form.recipients.ListView1.row(row);
             rows.push_back(utf8(item.sub_item(compose::RECIPIENT_NAME) + u"|" +
                                 item.sub_item(compose::RECIPIENT_NUMBER) + u"|" +
                                 item.sub_item(compose::RECIPIENT_TITLE)));

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace tests {
+
 using platform::decode_cp949;
 
 namespace {
@@ -28,29 +30,53 @@ std::int32_t RecordingCarrier::result(const std::string& operation) {
     return told == results.end() ? 1 : told->second;
 }
 
-std::int32_t RecordingCarrier::fn_x_bind(std::int32_t, std::string& user_id, std::string& password,
-                                         std::string&, std::int32_t, platform::CarrierCallback, std::int32_t,
+void RecordingCarrier::take(std::initializer_list<std::string*> texts) {
+    if (at_call) at_call();
+    for (std::string* text : texts) {
+        arguments.push_back(*text);
+        if (scribbles && !text->empty()) text->front() = '#';
+    }
+}
+
+std::int32_t RecordingCarrier::fn_x_bind(std::int32_t one, std::string& user_id, std::string& password,
+                                         std::string& domain, std::int32_t five,
+                                         platform::CarrierCallback six, std::int32_t seven,
                                          platform::CarrierCallback) {
     bound_user = decode_cp949(user_id);
     bound_password = decode_cp949(password);
+    bind_numbers = {one, five, seven};
+    notify = six;
+    take({&user_id, &password, &domain});
     return result("bind");
 }
 
-std::int32_t RecordingCarrier::fn_x_unbind(std::string&, std::string&) { return result("unbind"); }
+std::int32_t RecordingCarrier::fn_x_unbind(std::string& user_id, std::string& password) {
+    take({&user_id, &password});
+    return result("unbind");
+}
 
-std::int32_t RecordingCarrier::fn_x_money_status(std::string&, std::string&, std::string&, std::string&,
+std::int32_t RecordingCarrier::fn_x_money_status(std::string& user_id, std::string& domain,
+                                                 std::string& number, std::string& address,
                                                  MoneyStatus& status) {
+    take({&user_id, &domain, &number, &address});
     const std::int32_t code = result("money_status");
     if (code == 1) {
         status.service_type = service_type;
         status.service_state = service_state;
+        // What nobody knows the meaning of, each of a value of its own.
+        status.field1 = 11;
+        status.field4 = 44;
+        status.field5 = 55;
     }
     return code;
 }
 
-std::int32_t RecordingCarrier::fn_x_user_info(std::string&, std::string&, std::string&, std::string&,
-                                              std::string& service_number, std::string& user_name,
-                                              std::string& sender_name, std::string& callback) {
+std::int32_t RecordingCarrier::fn_x_user_info(std::string& user_id, std::string& domain, std::string& number,
+                                              std::string& address, std::string& service_number,
+                                              std::string& user_name, std::string& sender_name,
+                                              std::string& callback) {
+    take({&user_id, &domain, &number, &address});
+    arguments.insert(arguments.end(), {service_number, user_name, sender_name, callback});
     const std::int32_t code = result("user_info");
     if (code == 1) {
         fill(service_number, info_service_number);
@@ -92,3 +118,5 @@ void RecordingCarrier::record(const Submit& submit, bool submit_2) {
                              .s_attach_file_count = submit.s_attach_file_count,
                              .s_attach_file = decode_cp949(submit.s_attach_file)});
 }
+
+}  // namespace tests

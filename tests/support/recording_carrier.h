@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+namespace tests {
+
 /// A carrier that writes down what it is asked and answers as told.
 class RecordingCarrier : public platform::CarrierLibrary {
   public:
@@ -40,29 +42,39 @@ class RecordingCarrier : public platform::CarrierLibrary {
     std::map<std::pair<std::string, int>, std::int32_t> results;
     /// Operations that the library lacks.
     std::set<std::string> missing;
-    /// Called at every submit, before it is answered.
+    /// Called at every submit, before it is answered, and at every other call.
     std::function<void()> at_submit;
+    std::function<void()> at_call;
+    /// Whether the texts that a call hands over come back rewritten, as a library may do.
+    bool scribbles = false;
 
     /// The names of the operations in the order of the calls.
     std::vector<std::string> calls;
     std::vector<Registration> registrations;
     platform::Text bound_user, bound_password;
+    /// The texts of all calls but the submits, as bytes; the numbers and the first callback of the last bind.
+    std::vector<std::string> arguments;
+    std::vector<std::int32_t> bind_numbers;
+    platform::CarrierCallback notify = nullptr;
 
     int count(const std::string& operation) const;
 
-    std::int32_t fn_x_bind(std::int32_t, std::string& user_id, std::string& password, std::string&,
-                           std::int32_t, platform::CarrierCallback, std::int32_t,
-                           platform::CarrierCallback) override;
-    std::int32_t fn_x_unbind(std::string&, std::string&) override;
-    std::int32_t fn_x_money_status(std::string&, std::string&, std::string&, std::string&,
-                                   MoneyStatus& status) override;
-    std::int32_t fn_x_user_info(std::string&, std::string&, std::string&, std::string&,
-                                std::string& service_number, std::string& user_name, std::string& sender_name,
-                                std::string& callback) override;
+    std::int32_t fn_x_bind(std::int32_t one, std::string& user_id, std::string& password, std::string& domain,
+                           std::int32_t five, platform::CarrierCallback six, std::int32_t seven,
+                           platform::CarrierCallback eight) override;
+    std::int32_t fn_x_unbind(std::string& user_id, std::string& password) override;
+    std::int32_t fn_x_money_status(std::string& user_id, std::string& domain, std::string& number,
+                                   std::string& address, MoneyStatus& status) override;
+    std::int32_t fn_x_user_info(std::string& user_id, std::string& domain, std::string& number,
+                                std::string& address, std::string& service_number, std::string& user_name,
+                                std::string& sender_name, std::string& callback) override;
     std::int32_t fn_x_submit(Submit& submit) override;
     std::int32_t fn_x_submit_2(Submit& submit) override;
 
   private:
+    void take(std::initializer_list<std::string*> texts);
     std::int32_t result(const std::string& operation);
     void record(const Submit& submit, bool submit_2);
 };
+
+}  // namespace tests

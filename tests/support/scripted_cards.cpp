@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace tests {
+
 namespace {
 
 using platform::CardField;
@@ -63,3 +65,5 @@ std::unique_ptr<platform::CardConnection> ScriptedCards::connect(const platform:
     if (refusal) throw *refusal;
     return std::make_unique<Connection>(*this);
 }
+
+}  // namespace tests

@@ -7,6 +7,8 @@
 #include <optional>
 #include <vector>
 
+namespace tests {
+
 /// What a statement gives: the names of its columns and rows of as many fields.
 struct ScriptedRows {
     std::vector<platform::Text> columns;
@@ -38,3 +40,5 @@ class ScriptedCards : public platform::CardSource {
 
     std::unique_ptr<platform::CardConnection> connect(const platform::Text& connection_string) override;
 };
+
+}  // namespace tests

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+namespace tests {
+
 using platform::BoxAnswer;
 using platform::Text;
 
@@ -114,3 +116,5 @@ Text ScriptedDesktop::input_box(const platform::InputBox& box) {
     expected_inputs_.pop_front();
     return answer;
 }
+
+}  // namespace tests

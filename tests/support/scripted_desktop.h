@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+namespace tests {
+
 /// A user who follows a script: what he answers to each box and does in each modal form, in order. A box that
 /// the script does not expect fails the test, and so does a form that stays open with nothing left to happen.
 class ScriptedDesktop : public platform::Desktop {
@@ -96,3 +98,5 @@ class ScriptedDesktop : public platform::Desktop {
     std::deque<ExpectedInput> expected_inputs_;
     std::map<platform::Text, std::deque<std::function<void(platform::Form&)>>> acts_;
 };
+
+}  // namespace tests

@@ -3,10 +3,27 @@
 #include "platform/error.h"
 #include "platform/text/text.h"
 
+namespace tests {
+
 using platform::ErrorNumber;
 using platform::RuntimeError;
 using platform::Text;
 using platform::TextView;
+
+namespace {
+
+/// The address with its scheme, which may be left out.
+Text web_address(const Text& url) {
+    Text address = platform::trim(url);
+    if (address.find(u"://") == Text::npos) address = u"http://" + address;
+    if (!address.starts_with(u"http://") && !address.starts_with(u"https://"))
+        throw RuntimeError(ErrorNumber::protocol_not_supported);
+    if (address.ends_with(u"://") || platform::contains(address, u" "))
+        throw RuntimeError(ErrorNumber::request_not_completed);
+    return address;
+}
+
+}  // namespace
 
 class ScriptedInternet::ScriptedTransfer : public platform::Transfer {
   public:
@@ -17,7 +34,7 @@ class ScriptedInternet::ScriptedTransfer : public platform::Transfer {
         rounds_ = 2;
         place_ = 0;
         net_.asked.push_back(url);
-        const auto found = net_.answers.find(url);
+        const auto found = net_.answers.find(web_address(url));
         answer_ = found == net_.answers.end() ? ScriptedAnswer{} : found->second;
     }
 
@@ -36,7 +53,7 @@ class ScriptedInternet::ScriptedTransfer : public platform::Transfer {
     Text header(TextView name) const override {
         const Text whole = header() + Text(platform::CRLF);
         const Text start = Text(platform::CRLF) + Text(name) + u": ";
-        const std::size_t at = whole.find(start);
+        const std::size_t at = platform::lower_case(whole).find(platform::lower_case(start));
         if (at == Text::npos) return {};
         const std::size_t begin = at + start.size();
         return whole.substr(begin, whole.find(platform::CRLF, begin) - begin);
@@ -76,3 +93,5 @@ class ScriptedInternet::ScriptedTransfer : public platform::Transfer {
 std::unique_ptr<platform::Transfer> ScriptedInternet::make_transfer() {
     return std::make_unique<ScriptedTransfer>(*this);
 }
+
+}  // namespace tests

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+namespace tests {
+
 /// What a server of the script answers.
 struct ScriptedAnswer {
     /// The header without the empty line at its end; none for a server that nobody reaches.
@@ -37,3 +39,5 @@ class ScriptedInternet : public platform::Internet {
   private:
     class ScriptedTransfer;
 };
+
+}  // namespace tests

@@ -5,6 +5,8 @@
 
 #include <stdexcept>
 
+namespace tests {
+
 /// A microphone into which the test speaks, and a loudspeaker of which it says how far it is.
 class ScriptedRecorder : public platform::Recorder {
   public:
@@ -64,3 +66,5 @@ class ScriptedRecorder : public platform::Recorder {
 
     Listener* listener_ = nullptr;
 };
+
+}  // namespace tests

@@ -18,7 +18,7 @@ namespace tests {
 
 /// The main window of a user who is logged in, with a send button that works and a draft without recipients.
 struct Sending : TestPlatform {
-    compose::frmZent form{platform, state, main_doors()};
+    compose::frmZent form{platform, state, {.send = [this] { send::check_and_send(platform, state, form); }}};
 
     /// What the last report said, and whether it offered the results.
     std::string report;
@@ -28,29 +28,29 @@ struct Sending : TestPlatform {
         form.load();
         state.session.gLoggedIn = true;
         state.session.gInfoCallback = u"02-999-0000         ";
-        form.txtUserName.set_text(u"홍길동");
-        form.txtCallback.set_text(u"02-123-4567");
-        form.TabStrip1.select(compose::TEXT_MESSAGE);
-        form.mText1.set_text(u"[홍길동]안녕하세요");
-        form.subjectText.set_text(u"인사");
+        form.sender.txtUserName.set_text(u"홍길동");
+        form.sender.txtCallback.set_text(u"02-123-4567");
+        form.choose(compose::MessageKind::text);
+        form.text.mText1.set_text(u"[홍길동]안녕하세요");
+        form.subject.subjectText.set_text(u"인사");
     }
 
     void type(const platform::Text& text) {
-        if (!form.Check1.checked() && platform::cp949_length(text) > compose::TEXT_LIMIT) {
+        if (!form.text.Check1.checked() && platform::cp949_length(text) > compose::TEXT_LIMIT) {
             desktop.expect_box(u"80Byte이상 입력하시겠습니까?", platform::BoxAnswer::yes);
         }
-        form.mText1.set_text(text);
+        form.text.mText1.set_text(text);
     }
 
     void record(const platform::Samples& samples) {
-        form.RFK1.open();
-        form.RFK1.record();
+        form.voice.RFK1.open();
+        form.voice.RFK1.record();
         recorder.speak(samples);
     }
 
     void add(const platform::Text& name, const platform::Text& number, bool checked = true,
              const platform::Text& title = {}) {
-        form.ListView1.add_row(u"", {name, number, u"", title}, checked);
+        form.recipients.ListView1.add_row(u"", {name, number, u"", title}, checked);
     }
     /// Names "a1", "a2" and so on.
     void add_many(int count) {
@@ -96,13 +96,13 @@ struct Sending : TestPlatform {
     }
 
     std::string status(std::size_t row) const {
-        return utf8(form.ListView1.row(row).sub_item(compose::RECIPIENT_STATUS));
+        return utf8(form.recipients.ListView1.row(row).sub_item(compose::RECIPIENT_STATUS));
     }
     /// For each row an "x" while it is checked, otherwise a "-".
     std::string marks() const {
         std::string text;
-        for (std::size_t row = 0; row < form.ListView1.row_count(); ++row) {
-            text += form.ListView1.row(row).checked() ? 'x' : '-';
+        for (std::size_t row = 0; row < form.recipients.ListView1.row_count(); ++row) {
+            text += form.recipients.ListView1.row(row).checked() ? 'x' : '-';
         }
         return text;
     }
@@ -113,16 +113,6 @@ struct Sending : TestPlatform {
         std::vector<std::string> lines;
         for (const auto& registration : carrier.registrations) lines.push_back(utf8(shown(registration)));
         return lines;
-    }
-
-  private:
-    compose::MainDoors main_doors() {
-        return {.send = [this] { send::check_and_send(platform, state, form); },
-                .pick_recipients = {},
-                .NEW_SENDMAN_LOAD = {},
-                .saved_texts = {},
-                .update_check = {},
-                .update_check_at_start = {}};
     }
 };
 

@@ -12,6 +12,8 @@
 #include "tests/support/scripted_recorder.h"
 #include "tests/support/virtual_clock.h"
 
+namespace tests {
+
 /// The process has ended: nothing behind it runs.
 struct ProcessEnded {};
 
@@ -53,5 +55,7 @@ struct TestPlatform {
     platform::Text login_ini = u"z:\\windows\\zent.ini";
 
     /// The same machine with another desktop.
-    platform::Platform on(platform::Desktop& other) { return tests::with(platform, {.desktop = &other}); }
+    platform::Platform on(platform::Desktop& other) { return with(platform, {.desktop = &other}); }
 };
+
+}  // namespace tests

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace tests {
+
 namespace {
 
 constexpr long long A_DAY = 24LL * 60 * 60 * 1000;
@@ -83,3 +85,5 @@ void VirtualClock::advance_to(long long milliseconds) {
     now_ += std::chrono::seconds(milliseconds / 1000 - elapsed_ / 1000);
     elapsed_ = milliseconds;
 }
+
+}  // namespace tests

@@ -6,6 +6,8 @@
 #include <memory>
 #include <vector>
 
+namespace tests {
+
 /// A clock that stands until a test moves it. Timers fire while it moves, pauses are written down.
 class VirtualClock : public platform::Clock {
   public:
@@ -38,3 +40,5 @@ class VirtualClock : public platform::Clock {
     long long elapsed_ = 0;
     std::vector<std::weak_ptr<Entry>> entries_;
 };
+
+}  // namespace tests

@@ -1,5 +1,6 @@
 // A page that tries whatever a page may not do, and the form that closes all the same.
 
+#include "tests/support/secure_server.h"
 #include "tests/web/web_fixture.h"
 
 #include <QAbstractButton>
@@ -9,14 +10,12 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QMessageBox>
-#include <QSslKey>
-#include <QSslServer>
 #include <QTimer>
 
 namespace {
 
 using tests::comes;
-using tests::LoopbackServer;
+using tests::PageServer;
 using tests::WebForm;
 
 constexpr char HTML[] = "Content-Type: text/html; charset=utf-8\r\n";
@@ -25,16 +24,6 @@ QByteArray bytes_of(const char* file) {
     QFile in(QStringLiteral(WEB_FIXTURES "/") + QString::fromLatin1(file));
     EXPECT_TRUE(in.open(QIODevice::ReadOnly)) << file;
     return in.readAll();
-}
-
-/// A server with a certificate that nobody has signed but itself.
-std::unique_ptr<QTcpServer> server_with_own_certificate() {
-    QSslConfiguration own = QSslConfiguration::defaultConfiguration();
-    own.setLocalCertificate(QSslCertificate(bytes_of("own_certificate.pem")));
-    own.setPrivateKey(QSslKey(bytes_of("own_key.pem"), QSsl::Rsa));
-    auto server = std::make_unique<QSslServer>();
-    server->setSslConfiguration(own);
-    return server;
 }
 
 /// What anything has put into the user's home, but for caches and the certificates' library.
@@ -95,9 +84,12 @@ constexpr Attempt ATTEMPTS[] = {
 };
 
 TEST(HostilePage, IsRefusedWhateverItTries) {
-    LoopbackServer closed(server_with_own_certificate());
-    LoopbackServer server;
-    server.serve("/", bytes_of("hostile.html").replace("https:HTTPS", "https:" + closed.address("/")), HTML);
+    const tests::SecureServer closed;
+    PageServer server;
+    server.serve("/",
+                 bytes_of("hostile.html")
+                     .replace("https:HTTPS", QByteArray::fromStdString(platform::to_utf8(closed.url()))),
+                 HTML);
     server.serve("/attachment", "evil", "Content-Disposition: attachment; filename=evil.desktop\r\n");
     server.serve("/locked", "", "WWW-Authenticate: Basic realm=\"x\"\r\n", "401 Unauthorized");
     server.serve("/redirect", "", "Location: mailto:a@b.example\r\n", "302 Found");
@@ -108,15 +100,15 @@ TEST(HostilePage, IsRefusedWhateverItTries) {
     web.open("http:" + server.address("/"));
     ASSERT_TRUE(web.loaded());
     for (const Attempt& attempt : ATTEMPTS) {
-        const qsizetype before = server.requests_of("/did");
+        const auto before = server.requests_of("/did");
         web.click();
         ASSERT_TRUE(comes([&] { return server.requests_of("/did") > before; })) << attempt.what;
         EXPECT_EQ(server.request("/did")->body.toStdString(),
                   std::string(attempt.what) + " = " + attempt.outcome);
         EXPECT_EQ(windows_shown(), 1) << attempt.what;
     }
-    EXPECT_EQ(server.request("/socket"), nullptr);
-    EXPECT_TRUE(closed.requests().isEmpty());
+    EXPECT_FALSE(server.request("/socket"));
+    EXPECT_EQ(closed.requests, 0);
     EXPECT_EQ(files_at_home(), "");
     EXPECT_EQ(web.view().url().toEncoded(), "http:" + server.address("/"));
     web.press(Qt::Key_Escape);
@@ -124,13 +116,12 @@ TEST(HostilePage, IsRefusedWhateverItTries) {
 }
 
 TEST(HostilePage, WithACertificateOfItsOwnIsNotShown) {
-    LoopbackServer server(server_with_own_certificate());
-    server.serve("/", "<p>evil", HTML);
+    const tests::SecureServer server;
     WebForm web;
-    web.open("https:" + server.address("/"), "code=1");
+    web.open(QByteArray::fromStdString(platform::to_utf8(server.url())), "code=1");
     ASSERT_TRUE(web.loaded());
     EXPECT_NE(web.text().find("ERR_CERT"), std::string::npos) << web.text();
-    EXPECT_TRUE(server.requests().isEmpty());
+    EXPECT_EQ(server.requests, 0);
 }
 
 TEST(HostilePage, IsNotGoneToOutsideOfTheWeb) {
@@ -146,7 +137,7 @@ TEST(HostilePage, IsNotGoneToOutsideOfTheWeb) {
 }
 
 TEST(HostilePage, ThatNeverStopsAskingIsLeftAlone) {
-    LoopbackServer server;
+    PageServer server;
     server.serve("/",
                  "<script>let asked = 0; onbeforeunload = (e) => e.preventDefault();"
                  "setTimeout(() => { for (;;) { alert(`<b>${++asked}</b>`); confirm('?'); } })</script>",

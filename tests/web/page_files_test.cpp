@@ -15,7 +15,7 @@
 namespace {
 
 using tests::comes;
-using tests::LoopbackServer;
+using tests::PageServer;
 using tests::WebForm;
 
 constexpr char HTML[] = "Content-Type: text/html; charset=utf-8\r\n";
@@ -59,7 +59,7 @@ struct PageFiles : testing::Test {
     /// Whether everything that was on its way from the page has arrived.
     bool settled() {
         server.serve("/settled", "");
-        const qsizetype before = server.requests_of("/settled");
+        const auto before = server.requests_of("/settled");
         web->view().page()->runJavaScript(QStringLiteral("fetch('/settled')"));
         return comes([&] { return server.requests_of("/settled") > before; });
     }
@@ -68,7 +68,7 @@ struct PageFiles : testing::Test {
     std::vector<std::string> proposals;
     std::function<void()> while_asked = [] {};
     QTimer user;
-    LoopbackServer server;
+    PageServer server;
     std::unique_ptr<WebForm> web;
 };
 
@@ -168,7 +168,7 @@ TEST_F(PageFiles, ALinkForAnotherWindowOpensInTheSameView) {
         ASSERT_TRUE(comes([this] { return web->view().url().path() == QStringLiteral("/popup"); }));
         EXPECT_TRUE(web->view().history()->canGoBack());
     }
-    EXPECT_EQ(server.request("/unasked"), nullptr);
+    EXPECT_FALSE(server.request("/unasked"));
 
     open(link("href=file:///etc/passwd target=_blank"));
     web->click();

@@ -9,14 +9,14 @@
 
 namespace {
 
-using tests::LoopbackServer;
+using tests::PageServer;
 using tests::ReceivedRequest;
 using tests::WebForm;
 
 constexpr char HTML[] = "Content-Type: text/html; charset=utf-8\r\n";
 
 TEST(Page, GetsThePostedBytesAndNothingElseOfTheUser) {
-    LoopbackServer server;
+    PageServer server;
     server.serve("/result.jsp", "<title>x</title><p>&#48156;&#49569;",
                  QByteArray(HTML) + "Set-Cookie: session=secret; Max-Age=86400\r\n");
     const std::string body =
@@ -26,7 +26,7 @@ TEST(Page, GetsThePostedBytesAndNothingElseOfTheUser) {
         WebForm web;
         web.open("http:" + server.address("/result.jsp"), body);
         ASSERT_TRUE(web.loaded());
-        const ReceivedRequest& request = server.requests().back();
+        const ReceivedRequest request = server.requests().back();
         EXPECT_EQ(request.method, "POST");
         EXPECT_EQ(request.body,
                   "code=07190533026&userid=\xC8\xAB\xB1\xE6\xB5\xBF\x8C\x63&domain=pondira.example");
@@ -37,11 +37,11 @@ TEST(Page, GetsThePostedBytesAndNothingElseOfTheUser) {
         EXPECT_EQ(web.text(), "발송");
         web.form.unload();
     }
-    EXPECT_EQ(server.requests().size(), 2);
+    EXPECT_EQ(server.requests().size(), 2U);
 }
 
 TEST(Page, WithoutABodyIsOnlyAskedFor) {
-    LoopbackServer server;
+    PageServer server;
     // As pages of that time are: no word of their code page.
     server.serve("/find", "<p>" + QByteArray::fromStdString(platform::encode_cp949(u"아이디 찾기")),
                  "Content-Type: text/html\r\n");
@@ -54,11 +54,11 @@ TEST(Page, WithoutABodyIsOnlyAskedFor) {
     server.serve("/next", "<p>x", HTML);
     web.form.WebBrowser.Navigate(platform::from_utf8(("http:" + server.address("/next")).toStdString()), {},
                                  {});
-    EXPECT_TRUE(tests::comes([&] { return server.request("/next") != nullptr; }));
+    EXPECT_TRUE(tests::comes([&] { return server.request("/next").has_value(); }));
 }
 
 TEST(Page, ThatCannotBeLoadedShowsTheEnginesErrorAndTheFormCloses) {
-    LoopbackServer* server = new LoopbackServer;
+    PageServer* server = new PageServer;
     const QByteArray address = server->address("/");
     delete server;
     for (const bool by_escape : {true, false}) {
@@ -77,7 +77,7 @@ TEST(Page, ThatCannotBeLoadedShowsTheEnginesErrorAndTheFormCloses) {
 }
 
 TEST(Page, CannotKeepEscapeForItself) {
-    LoopbackServer server;
+    PageServer server;
     server.serve("/", "<input autofocus onkeydown='event.preventDefault()'>", HTML);
     WebForm web;
     web.open("http:" + server.address("/"));
@@ -89,7 +89,7 @@ TEST(Page, CannotKeepEscapeForItself) {
 }
 
 TEST(Page, WhoseProcessDiesSaysSo) {
-    LoopbackServer server;
+    PageServer server;
     server.serve("/", "<p>x", HTML);
     WebForm web;
     web.open("http:" + server.address("/"));
@@ -103,7 +103,7 @@ TEST(Page, WhoseProcessDiesSaysSo) {
 }
 
 TEST(Page, FillsTheFormAboveTheButton) {
-    LoopbackServer server;
+    PageServer server;
     server.serve("/", "<p>x", HTML);
     WebForm web;
     web.open("http:" + server.address("/"));

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "machine/qt/desktop/qt_desktop.h"
 #include "service/frmWeb.h"
-#include "tests/support/test_platform.h"
-#include "tests/web/loopback_server.h"
+#include "tests/support/windows_on_doubles.h"
+#include "tests/web/page_server.h"
 
 #include <QTest>
 #include <QWebEngineView>
@@ -18,13 +17,9 @@ template <class Condition>
     return QTest::qWaitFor(condition, FOREVER);
 }
 
-/// The program's browser form with the real engine, on a machine of doubles.
-struct WebForm {
-    TestPlatform machine;
-    machine::qt::Screens screens = machine::qt::program_screens();
-    machine::qt::QtDesktop desktop{screens, machine.files};
-    platform::Platform platform = machine.on(desktop);
-    service::frmWeb form{platform, machine.state};
+/// The program's browser form with the real engine.
+struct WebForm : WindowsOnDoubles {
+    service::frmWeb form{platform, state};
 
     ~WebForm();
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "tests/support/http_server.h"
+
 #include <QByteArray>
 #include <QHash>
-#include <QList>
-#include <QTcpServer>
-#include <memory>
+#include <optional>
 
 namespace tests {
 
@@ -17,12 +17,9 @@ struct ReceivedRequest {
     QByteArray body;
 };
 
-/// A web server of this process. It writes down what it is asked and gives what it was told to.
-class LoopbackServer {
+/// A server of pages. It writes down what it is asked and gives what it was told to.
+class PageServer {
   public:
-    /// Takes over a server that does not listen yet, one with certificates or a plain one.
-    explicit LoopbackServer(std::unique_ptr<QTcpServer> server = std::make_unique<QTcpServer>());
-
     /// Answers the path with this; `head` is further lines of the answer's head. More bytes than there are
     /// may be `missing`, for which the client then waits.
     void serve(const QByteArray& path, const QByteArray& body, const QByteArray& head = "",
@@ -30,17 +27,23 @@ class LoopbackServer {
     /// The address of the path without its scheme, as "//127.0.0.1:1234/path".
     QByteArray address(const QByteArray& path) const;
 
-    const QList<ReceivedRequest>& requests() const { return requests_; }
+    std::vector<ReceivedRequest> requests() const;
     /// The last request of the path, or none.
-    const ReceivedRequest* request(const QByteArray& path) const;
-    qsizetype requests_of(const QByteArray& path) const;
+    std::optional<ReceivedRequest> request(const QByteArray& path) const;
+    std::ptrdiff_t requests_of(const QByteArray& path) const;
 
   private:
-    void take(QIODevice& connection, QByteArray& received);
+    struct Answer {
+        QByteArray bytes = "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n";
+        bool is_whole = true;
+    };
 
-    std::unique_ptr<QTcpServer> server_;
-    QHash<QByteArray, QByteArray> answers_;
-    QList<ReceivedRequest> requests_;
+    void answer(HttpClient& client);
+
+    mutable std::mutex mutex_;
+    QHash<QByteArray, Answer> answers_;
+    std::vector<ReceivedRequest> requests_;
+    HttpServer server_{[this](HttpClient& client) { answer(client); }};
 };
 
 }  // namespace tests

@@ -11,7 +11,7 @@
 
 namespace tests {
 
-/// A server that answers one request behind a certificate that nobody but this test has signed.
+/// A server behind a certificate that nobody but the tests has signed.
 struct SecureServer {
     SecureServer() {
         QFile certificate_file(QStringLiteral(ZENT_FIXTURES "/tls/loopback.pem"));
@@ -25,8 +25,9 @@ struct SecureServer {
         server.setSslConfiguration(configuration);
         QObject::connect(&server, &QTcpServer::pendingConnectionAvailable, [this] {
             auto* client = server.nextPendingConnection();
-            QObject::connect(client, &QTcpSocket::readyRead, client, [client] {
+            QObject::connect(client, &QTcpSocket::readyRead, client, [this, client] {
                 if (!client->readAll().contains("\r\n\r\n")) return;
+                ++requests;
                 client->write("HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\nsecret");
             });
         });
@@ -36,6 +37,7 @@ struct SecureServer {
         return u"https://127.0.0.1:" + platform::decimal(server.serverPort()) + u"/";
     }
 
+    int requests = 0;
     QSslCertificate certificate;
     QSslServer server;
 };

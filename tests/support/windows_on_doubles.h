@@ -1,0 +1,18 @@
+#pragma once
+
+#include "core/app_state.h"
+#include "platform/qt/qt_desktop.h"
+#include "tests/support/test_platform.h"
+
+namespace tests {
+
+/// Real windows of the program's screens on a machine whose other parts are doubles.
+struct WindowsOnDoubles {
+    TestPlatform machine;
+    platform::qt::Screens screens = platform::qt::program_screens();
+    platform::qt::QtDesktop desktop{screens, machine.files};
+    platform::Platform platform = machine.on(desktop);
+    core::AppState& state = machine.state;
+};
+
+}  // namespace tests
