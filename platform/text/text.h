@@ -1,8 +1,8 @@
 #pragma once
 
-#include <concepts>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace platform {
@@ -41,8 +41,9 @@ bool equal_without_case(TextView a, TextView b);
 Text from_ascii(std::string_view ascii);
 
 /// The number in decimal, with a leading minus sign when negative.
-template <std::integral Number>
+template <class Number>
 Text decimal(Number number) {
+    static_assert(std::is_integral_v<Number>);
     return from_ascii(std::to_string(number));
 }
 
