@@ -132,6 +132,15 @@ TEST(SendCheck, ARecordingIsSavedForTheCarrierAndWithoutOneTheClickEndsSilently)
     }
 }
 
+TEST(SendCheck, AMissingSoundFolderThatCannotBeMadeStandsInNobodysWay) {
+    Sending s;
+    s.files.folders.clear();
+    s.files.failure = ErrorNumber::path_access;
+    s.add(u"a", u"01011112222");
+    s.send();
+    EXPECT_EQ(s.carrier.registrations.size(), 1u);
+}
+
 TEST(SendCheck, CompletesSubjectAndSender) {
     Sending s;
     s.form.subjectText.set_text(u"");
