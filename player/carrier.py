@@ -18,6 +18,7 @@ FAX = {**_LONGER, "data_type": 5}
 
 REGISTERED = 1
 NO_CONNECTION = 5
+NO_ATTACHMENT = 16
 
 
 def registration(kind, subject, recipients, attachments=(), **columns):

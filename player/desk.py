@@ -24,6 +24,8 @@ class Desk:
         self.app = results / "app"
         self.carrier = Carrier(self.app)
         self.pictures = []
+        # What is remembered of a page or a label may be older than what is on the screen.
+        pyatspi.Registry.getDesktop(0).set_cache_mask(pyatspi.Atspi.Cache.NONE)
         self.program = None
 
     # The program.
@@ -89,8 +91,6 @@ class Desk:
             found = pyatspi.findDescendant(window, lambda thing: self._matches(thing, name, role))
             if found is not None:
                 return found
-            # What the bus says of it now, for the next look: a page that has just come is not in what it said before.
-            window.clear_cache()
         return None
 
     @staticmethod
@@ -130,12 +130,15 @@ class Desk:
 
     def fill(self, field, text):
         """Writes in place of what the field holds."""
-        self.wait("the focus", lambda: self._focused(field))
+        self.give_focus(field)
         # A program that is slow to learn the keyboard's map takes a syllable for another one: then once more.
         self.wait(f"'{text}' in its field", lambda: self._written(field, text))
 
-    def _focused(self, field):
+    def give_focus(self, field):
         # A window that is just being given back by a box over it may miss a click.
+        self.wait("the focus", lambda: self._clicked_into(field))
+
+    def _clicked_into(self, field):
         self.click(field)
         return self._soon(lambda: field.getState().contains(pyatspi.STATE_FOCUSED))
 
@@ -176,9 +179,11 @@ class Desk:
         return main
 
     def add_recipient(self, main, name, number):
-        self.fill(self.find("이름", "text", main), name)
+        name_field = self.find("이름", "text", main)
+        self.fill(name_field, name)
+        self.fill(self.find("받는 번호", "text", main), number)
         self.keys("Return")
-        self.write(f"{number}\n")
+        self.wait(f"{name} in the list", lambda: self.text_of(name_field) == "")
 
     def start_anew(self, main):
         self.click(self.find("새로작성", "push button", main))
@@ -189,7 +194,7 @@ class Desk:
     def schedule(self, main):
         """Schedules the draft for the last minute of an hour in some years; returns when, as the carrier has it."""
         self.click(self.find("예약전송", "check box", main))
-        self.click(self.find("발송예약 시간", "spin button", main))
+        self.give_focus(self.find("발송예약 시간", "spin button", main))
         # In four years there is every day that is in this one.
         self.keys("Home", "Up", "Up", "Up", "Up", "End", "Tab", "Home", "Tab", "End")
         today = datetime.date.today()
@@ -199,10 +204,14 @@ class Desk:
         """The draft is no longer scheduled."""
         self.click(self.find("즉시전송", "check box", main))
 
-    def start_sending(self, main, confirmation=None):
-        """Sends the draft, up to the window that tells how far the job is."""
+    def ask_to_send(self, main):
+        """Sends the draft, up to the question whether it is right, which Enter says."""
         self.click(self.find("보내기", "push button", main))
         self.window("메시지 발송확인")
+
+    def start_sending(self, main, confirmation=None):
+        """Sends the draft, up to the window that tells how far the job is."""
+        self.ask_to_send(main)
         if confirmation:
             self.picture(confirmation)
         self.keys("Return")

@@ -1,8 +1,8 @@
 """What the other scenes have not sent yet of every kind at once and by schedule.
 
-The recording, the sound file and the documents of the scenes before still lie in the draft.
+The recording and the sound file of the scenes before still lie in the draft.
 """
-from carrier import AT_ONCE, FAX, SOUND, SPEECH, TEXT, TEXT_AND_SOUND, TEXT_AND_SPEECH, path_of, registration
+from carrier import AT_ONCE, SOUND, SPEECH, TEXT, TEXT_AND_SOUND, TEXT_AND_SPEECH, path_of, registration
 
 LATER = "by schedule"
 CALLBACK = {"callback": "0212345678"}
@@ -17,7 +17,6 @@ def drafts(home):
     spoken = {"음성으로 바꿀 문자": "음성"}
     sms, tts = {"sms_content": "전화"}, {"tts_content": "음성"}
     file = [path_of(home / "0303 번호로 녹음한 안내문.wav")]
-    documents = [path_of(home / name) for name in ("사무실 약도.jpg", "견적서.hwp")]
     both = [AT_ONCE, LATER]
     return [
         ("문자메시지", None, text, [LATER], "0101111000", TEXT, [], {"sms_content": "회의", **CALLBACK}),
@@ -26,7 +25,6 @@ def drafts(home):
         ("문자플러스", "파일첨부", beside, both, "0104444000", TEXT_AND_SOUND, file, sms),
         ("음성메시지", "TTS", spoken, both, "0255555000", SPEECH, [], {**tts, **CALLBACK}),
         ("음성메시지", "마이크녹음", {}, [LATER], "0266666000", SOUND, RECORDING, CALLBACK),
-        ("팩스메시지", None, {}, [LATER], "0277777000", FAX, documents, {}),
     ]
 
 
