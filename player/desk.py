@@ -157,8 +157,14 @@ class Desk:
         return True
 
     def tick(self, box):
-        self.click(box)
-        self.wait("the tick", lambda: box.getState().contains(pyatspi.STATE_CHECKED))
+        """Ticks a box, or chooses one of several."""
+        self.wait("the tick", lambda: self._clicked_on(box))
+
+    def _clicked_on(self, box):
+        ticked = lambda: box.getState().contains(pyatspi.STATE_CHECKED)
+        if not ticked():
+            self.click(box)
+        return self._soon(ticked)
 
     def choose_file(self, title, name, picture=None):
         """Picks a file of the user's own folder in the file dialog of that title."""
@@ -193,7 +199,7 @@ class Desk:
 
     def schedule(self, main):
         """Schedules the draft for the last minute of an hour in some years; returns when, as the carrier has it."""
-        self.click(self.find("예약전송", "check box", main))
+        self.tick(self.find("예약전송", "check box", main))
         self.give_focus(self.find("발송예약 시간", "spin button", main))
         # In four years there is every day that is in this one.
         self.keys("Home", "Up", "Up", "Up", "Up", "End", "Tab", "Home", "Tab", "End")
@@ -202,7 +208,7 @@ class Desk:
 
     def send_at_once(self, main):
         """The draft is no longer scheduled."""
-        self.click(self.find("즉시전송", "check box", main))
+        self.tick(self.find("즉시전송", "check box", main))
 
     def ask_to_send(self, main):
         """Sends the draft, up to the question whether it is right, which Enter says."""
