@@ -63,7 +63,7 @@ constexpr CarrierKind FAX_CONTENTS[] = {
     {FAX_MESSAGE,                Content::documents,  1,    5,   2,  1,    false,   false, false, false},
 };
 
-constexpr std::array<KindOfMessage, 4> KINDS = {{
+constexpr std::array<KindOfMessage, MESSAGE_KINDS> KINDS = {{
     // kind, caption                       panel         text   sender reply  number        columns and numbers of the picker  pauses        at the carrier
     {MessageKind::text,  TEXT_MESSAGE,  Panel::text,  false, true,  false, TEXT_NUMBER,  TEXT_COLUMNS,  TEXT_NUMBERS,       USUAL_PAUSES, TEXT_CONTENTS},
     {MessageKind::plus,  u"문자플러스",  Panel::voice, true,  false, true,  TEXT_NUMBER,  TEXT_COLUMNS,  TEXT_NUMBERS,       USUAL_PAUSES, PLUS_CONTENTS},
@@ -72,13 +72,22 @@ constexpr std::array<KindOfMessage, 4> KINDS = {{
 }};
 // clang-format on
 
+/// The kind's place in the table, counted from 0.
+constexpr std::size_t row_of(MessageKind kind) { return static_cast<std::size_t>(kind) - 1; }
+
+constexpr bool rows_stand_in_order() {
+    for (std::size_t row = 0; row < KINDS.size(); ++row) {
+        if (row_of(KINDS[row].kind) != row) return false;
+    }
+    return true;
+}
+static_assert(rows_stand_in_order(), "a kind of message lacks its row");
+
 }  // namespace
 
-const std::array<KindOfMessage, 4>& kinds_of_message() { return KINDS; }
+const std::array<KindOfMessage, MESSAGE_KINDS>& kinds_of_message() { return KINDS; }
 
-const KindOfMessage& kind_of(MessageKind kind) {
-    return *std::ranges::find(KINDS, kind, &KindOfMessage::kind);
-}
+const KindOfMessage& kind_of(MessageKind kind) { return KINDS[row_of(kind)]; }
 
 const KindOfMessage* find_kind(TextView caption) {
     const auto* found = std::ranges::find(KINDS, caption, &KindOfMessage::caption);

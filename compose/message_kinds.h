@@ -13,7 +13,9 @@ namespace compose {
 inline constexpr std::size_t TEXT_LIMIT = 80;
 
 /// The kinds of message in the order of their tabs, of which the first is number 1.
-enum class MessageKind { text = 1, plus = 2, voice = 3, fax = 4 };
+enum class MessageKind { text = 1, plus = 2, voice = 3, fax = 4, last = fax };
+
+inline constexpr std::size_t MESSAGE_KINDS = static_cast<std::size_t>(MessageKind::last);
 
 /// The panels of the main window (`frmZent::Frame1`), one of which shows.
 enum class Panel { text = 0, voice = 1, fax = 2 };
@@ -81,7 +83,7 @@ struct KindOfMessage {
 };
 
 /// In the order of the tabs.
-const std::array<KindOfMessage, 4>& kinds_of_message();
+const std::array<KindOfMessage, MESSAGE_KINDS>& kinds_of_message();
 
 const KindOfMessage& kind_of(MessageKind kind);
 

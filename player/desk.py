@@ -1,4 +1,5 @@
 """The desk of a user: finds what is on the screen by the names that a screen reader says, and acts with real keys and clicks."""
+import datetime
 import os
 import re
 import subprocess
@@ -6,9 +7,12 @@ import time
 
 import pyatspi
 
+from carrier import Carrier
+from expect import PATIENCE, Unexpected, wait_for
+
 # Milliseconds between characters: Hangul is typed by changing the keyboard's map, which programs learn with a delay.
-TYPING_DELAY = "100"
-PATIENCE = 30  # seconds until something that ought to appear is missed
+TYPING_DELAY = "15"
+HANGUL_DELAY = "60"
 
 
 class Desk:
@@ -17,18 +21,21 @@ class Desk:
         # The user's own folder, where the scenes lay the files that he picks.
         self.home = results / "home"
         self.home.mkdir(exist_ok=True)
+        self.app = results / "app"
+        self.carrier = Carrier(self.app)
         self.pictures = []
+        # What is remembered of a page or a label may be older than what is on the screen.
+        pyatspi.Registry.getDesktop(0).set_cache_mask(pyatspi.Atspi.Cache.NONE)
         self.program = None
 
     # The program.
 
     def start(self):
         korean = {"HOME": str(self.home), "LC_TIME": "ko_KR.UTF-8", "LC_NUMERIC": "ko_KR.UTF-8"}
-        self.program = subprocess.Popen(["./zent"], cwd=self.results / "app", env={**os.environ, **korean})
+        self.program = subprocess.Popen(["./zent"], cwd=self.app, env={**os.environ, **korean})
 
     def close_program(self):
-        active = lambda window: window.getState().contains(pyatspi.STATE_ACTIVE)
-        self._wait("the focus in a window", lambda: any(active(window) for window in self.windows()))
+        self._wait_for_focus()
         self.keys("alt+F4")
         self.program.wait(PATIENCE)
 
@@ -45,18 +52,39 @@ class Desk:
 
     def find(self, name, role=None, within=None):
         """Waits for something shown whose name begins with `name`."""
-        return self._wait(f"'{name}'", lambda: self._search(name, role, within))
+        return self.wait(f"'{name}'", lambda: self._search(name, role, within))
 
     def window(self, title):
         """Waits for a window whose title contains `title`."""
-        return self._wait(f"window '{title}'", lambda: next((w for w in self.windows() if title in w.name), None))
+        return self.wait(f"window '{title}'", lambda: next((w for w in self.windows() if title in w.name), None))
 
     def window_called(self, title):
         """Waits for a window whose whole title this is."""
-        return self._wait(f"window '{title}'", lambda: next((w for w in self.windows() if w.name == title), None))
+        return self.wait(f"window '{title}'", lambda: next((w for w in self.windows() if w.name == title), None))
 
     def gone(self, title):
-        self._wait(f"the end of window '{title}'", lambda: all(title not in w.name for w in self.windows()))
+        self.wait(f"the end of window '{title}'", lambda: all(title not in w.name for w in self.windows()))
+        self._wait_for_focus()
+
+    def _wait_for_focus(self):
+        """Until a window of the program has the focus: what is clicked or typed before is lost."""
+        active = lambda window: window.getState().contains(pyatspi.STATE_ACTIVE)
+        self.wait("the focus in a window", lambda: any(active(window) for window in self.windows()))
+
+    @staticmethod
+    def text_of(field):
+        return field.queryText().getText(0, -1)
+
+    def rows(self, name, within):
+        """The rows of the list of that name, for each whether it is ticked and what its other cells say."""
+        things = list(self.find(name, "tree", within))
+        columns = [thing.getRoleName() for thing in things].count("table column header")
+        cells = things[columns:]
+        return [
+            [cells[first].getState().contains(pyatspi.STATE_CHECKED)]
+            + [cell.name for cell in cells[first + 1 : first + columns]]
+            for first in range(0, len(cells), columns)
+        ]
 
     def _search(self, name, role, within):
         for window in [within] if within is not None else list(self.windows()):
@@ -76,16 +104,15 @@ class Desk:
         except Exception:  # it went away meanwhile
             return False
 
-    def _wait(self, what, look):
-        end = time.monotonic() + PATIENCE
-        while time.monotonic() < end:
+    def wait(self, what, look):
+        """Waits until `look` finds something while the program runs, and returns it."""
+
+        def look_while_it_runs():
             if self.program.poll() is not None:
-                raise RuntimeError(f"the program ended while {what} was awaited")
-            found = look()
-            if found:
-                return found
-            time.sleep(0.1)
-        raise RuntimeError(f"{what} never came")
+                raise Unexpected(f"the program ended while {what} was awaited")
+            return look()
+
+        return wait_for(what, look_while_it_runs)
 
     # Keys, clicks, pictures.
 
@@ -94,22 +121,50 @@ class Desk:
 
     def write(self, text):
         """Types the text; a line end presses Enter and a tab Tab."""
-        for piece in re.split("([\n\t])", text):
+        for piece in re.findall("\n|\t|[ -~]+|[^\n\t -~]+", text):
             if piece in ("\n", "\t"):
                 self.keys("Return" if piece == "\n" else "Tab")
-            elif piece:
-                subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", TYPING_DELAY, piece], check=True)
+            else:
+                delay = TYPING_DELAY if piece.isascii() else HANGUL_DELAY
+                subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", delay, piece], check=True)
 
     def fill(self, field, text):
         """Writes in place of what the field holds."""
+        self.give_focus(field)
+        # A program that is slow to learn the keyboard's map takes a syllable for another one: then once more.
+        self.wait(f"'{text}' in its field", lambda: self._written(field, text))
+
+    def give_focus(self, field):
+        # A window that is just being given back by a box over it may miss a click.
+        self.wait("the focus", lambda: self._clicked_into(field))
+
+    def _clicked_into(self, field):
         self.click(field)
-        self._wait("the focus", lambda: field.getState().contains(pyatspi.STATE_FOCUSED))
+        return self._soon(lambda: field.getState().contains(pyatspi.STATE_FOCUSED))
+
+    def _written(self, field, text):
         self.keys("ctrl+a")
         self.write(text)
+        return self._soon(lambda: self.text_of(field) == text)
+
+    @staticmethod
+    def _soon(look):
+        end = time.monotonic() + 1
+        while not look():
+            if time.monotonic() > end:
+                return False
+            time.sleep(0.05)
+        return True
 
     def tick(self, box):
-        self.click(box)
-        self._wait("the tick", lambda: box.getState().contains(pyatspi.STATE_CHECKED))
+        """Ticks a box, or chooses one of several."""
+        self.wait("the tick", lambda: self._clicked_on(box))
+
+    def _clicked_on(self, box):
+        ticked = lambda: box.getState().contains(pyatspi.STATE_CHECKED)
+        if not ticked():
+            self.click(box)
+        return self._soon(ticked)
 
     def choose_file(self, title, name, picture=None):
         """Picks a file of the user's own folder in the file dialog of that title."""
@@ -130,18 +185,57 @@ class Desk:
         return main
 
     def add_recipient(self, main, name, number):
-        self.fill(self.find("이름", "text", main), f"{name}\n{number}\n")
+        name_field = self.find("이름", "text", main)
+        self.fill(name_field, name)
+        self.fill(self.find("받는 번호", "text", main), number)
+        self.keys("Return")
+        self.wait(f"{name} in the list", lambda: self.text_of(name_field) == "")
 
-    def send(self, main, confirmation=None):
-        """Sends the draft and closes the report; returns when the main window is the user's again."""
+    def start_anew(self, main):
+        self.click(self.find("새로작성", "push button", main))
+        self.find("모든 내용을 삭제하고 새로 작성하시겠습니까?")
+        self.keys("alt+y")
+        self.find("전체>0>", "label", main)
+
+    def schedule(self, main):
+        """Schedules the draft for the last minute of an hour in some years; returns when, as the carrier has it."""
+        self.tick(self.find("예약전송", "check box", main))
+        self.give_focus(self.find("발송예약 시간", "spin button", main))
+        # In four years there is every day that is in this one.
+        self.keys("Home", "Up", "Up", "Up", "Up", "End", "Tab", "Home", "Tab", "End")
+        today = datetime.date.today()
+        return today.replace(year=today.year + 4).strftime("%Y%m%d005900")
+
+    def send_at_once(self, main):
+        """The draft is no longer scheduled."""
+        self.tick(self.find("즉시전송", "check box", main))
+
+    def ask_to_send(self, main):
+        """Sends the draft, up to the question whether it is right, which Enter says."""
         self.click(self.find("보내기", "push button", main))
         self.window("메시지 발송확인")
+
+    def start_sending(self, main, confirmation=None):
+        """Sends the draft, up to the window that tells how far the job is."""
+        self.ask_to_send(main)
         if confirmation:
             self.picture(confirmation)
         self.keys("Return")
-        self.window("등록완료")
+        self.gone("메시지 발송확인")
+
+    def read_report(self, picture=None):
+        """Waits for the report and closes it; returns how many recipients were registered, failed and were left."""
+        report = self.text_of(self.find("등록 결과", "text", self.window("등록완료")))
+        if picture:
+            self.picture(picture)
         self.keys("Return")
         self.gone("등록완료")
+        return [int(number) for number in re.findall(r"(?:성공|실패|중지): ([0-9]+)건", report)]
+
+    def send(self, main, confirmation=None):
+        """Sends the draft; returns what the report says once the main window is the user's again."""
+        self.start_sending(main, confirmation)
+        return self.read_report()
 
     def click(self, thing):
         box = thing.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
@@ -149,9 +243,11 @@ class Desk:
         subprocess.run(["xdotool", "mousemove", str(x), str(y), "sleep", "0.1", "click", "1"], check=True)
 
     def say(self, text):
-        """Speaks into the microphone, until all is said."""
-        voice = subprocess.run(["espeak-ng", "-v", "ko", "--stdout", text], check=True, stdout=subprocess.PIPE)
-        subprocess.run(["paplay", "--device=wire"], input=voice.stdout, check=True)
+        """Speaks into the microphone, until all is said; returns the file that was played."""
+        spoken = self.results / "spoken.wav"
+        subprocess.run(["espeak-ng", "-v", "ko", "-w", str(spoken), text], check=True)
+        subprocess.run(["paplay", "--device=wire", str(spoken)], check=True)
+        return spoken
 
     def picture(self, name):
         time.sleep(0.3)

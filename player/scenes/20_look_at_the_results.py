@@ -6,7 +6,7 @@ def play(desk):
     subject = desk.find("발송제목", "text", main).queryText().getText(0, -1)
     desk.click(desk.find("발송결과", "push button", main))
     page = desk.window_called("발송결과")
-    desk.find(subject, "link", page)
+    desk.find(subject, "link")
     desk.find("등록성공", "label", page)
     desk.picture("results")
     # The first Escape is for the open list, the second for the form.

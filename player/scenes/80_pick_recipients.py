@@ -1,8 +1,16 @@
 """Recipients out of the card manager: picked from its folders and by a search, and handed over by it in files."""
+from card_manager import hand_over
+from expect import expect
+
+# Between them stands a card without a mobile number.
+PICKED = [[True, "류예호", "01000000004", "", "Manager"], [True, "류예진", "01000000029", "", "과장"]]
+# Of a title with digits these alone are kept.
+HANDED_OVER = [[True, "박새벽", "021112222", "", "3"], [True, "이름없음", "01033334444", "", "대리"]]
 
 
 def play(desk):
     main = desk.choose_kind("문자메시지", "신제품 안내")
+    desk.start_anew(main)
     desk.click(desk.find("명함DB 불러오기", "push button", main))
     picker = desk.window("발송대상 선택-")
     desk.find("윤가희", within=picker)
@@ -11,26 +19,25 @@ def play(desk):
     desk.click(desk.find("협력사", within=picker))
     desk.picture("picker-folder")
 
-    desk.fill(desk.find("찾기", "text", picker), "차오름\n")
-    desk.find("류예호", within=picker)
+    desk.fill(desk.find("찾기", "text", picker), "차오름")
+    desk.keys("Return")
+    desk.window("발송대상 선택-135/11/")
     desk.click(desk.find("류예호", within=picker))
-    desk.keys("shift+Down", "shift+Down")
+    desk.window("발송대상 선택-135/11/1")
+    for chosen in (2, 3):
+        desk.keys("shift+Down")
+        desk.window(f"발송대상 선택-135/11/{chosen}")
     desk.picture("picker-search")
     desk.keys("alt+a")
     desk.keys("Escape")
     desk.gone("발송대상 선택-")
-    desk.find("류예호", within=main)
+    desk.find("전체>2>대상>2", "label", main)
     desk.picture("picked")
+    expect("the recipients picked", desk.rows("받는사람 목록", main), PICKED)
 
-    hand_over(desk, "3", [("박새벽", "02-111-2222", "3급 부장"), ("", "010-3333-4444", "대리"), ("류예호", "010-0000-0004", "")])
-    desk.find("박새벽", within=desk.window("[음성메시지]"))
+    repeated = ("류예호", "010-0000-0004", "")
+    hand_over(desk.app, 3, [("박새벽", "02-111-2222", "3급 부장"), ("", "010-3333-4444", "대리"), repeated])
+    main = desk.window("[음성메시지]")
+    desk.find("전체>4>대상>4", "label", main)
     desk.picture("handed-over")
-
-
-def hand_over(desk, tab, recipients):
-    """As the card manager does it: first the recipients, then the file that says so."""
-    folder = desk.results / "app" / "temp"
-    folder.mkdir(exist_ok=True)
-    lines = "".join(f"0\t{name}\t{number}\t{title}\r\n" for name, number, title in recipients)
-    (folder / "tmpman.txt").write_bytes(lines.encode("cp949"))
-    (folder / "isend.text").write_bytes(tab.encode("ascii"))
+    expect("the recipients with those handed over", desk.rows("받는사람 목록", main), PICKED + HANDED_OVER)

@@ -1,6 +1,5 @@
 """Looks for an update: the site has none; then it has one, which is put off first and then handed to the installer."""
-
-import time
+from expect import PATIENCE, expect, wait_for
 
 LOG_IN = "로그인"
 
@@ -16,12 +15,12 @@ def offer_update(app):
     facts = app / "i_version.ini"
     facts.write_text(facts.read_text().replace("/update/update.ini", "/update/due/update.ini"))
     installer = app / "i_update.exe"
-    installer.write_text('#!/bin/sh\ncat i_autorun.ini >"$(dirname "$0")/installer-was-here"\n')
+    installer.write_text("#!/bin/sh\ncat i_autorun.ini >found\nmv found installer-was-here\n")
     installer.chmod(0o755)
 
 
 def play(desk):
-    app = desk.results / "app"
+    app = desk.app
     look_for_update(desk)
     desk.find("모든 파일이 최신 버전이므로")
     desk.picture("no-update")
@@ -36,18 +35,15 @@ def play(desk):
     desk.keys("Return")
     desk.click(desk.find("닫기", "push button", offer))
     desk.gone("프로그램이 업데이트 되었습니다.")
-    assert not (app / "i_autorun.ini").exists()
+    expect("a sign for the installer", (app / "i_autorun.ini").exists(), False)
 
     look_for_update(desk)
     offer = desk.window("프로그램이 업데이트 되었습니다.")
     desk.click(desk.find("업데이트 시작", "push button", offer))
-    desk.program.wait(30)
+    desk.program.wait(PATIENCE)
     trace = app / "installer-was-here"
-    for _ in range(100):
-        if trace.exists() and trace.stat().st_size > 0:
-            break
-        time.sleep(0.1)
-    assert trace.read_text() == "[UPDATE]\nAUTORUN=OK\n"
+    wait_for("the installer", trace.exists)
+    expect("the sign that the installer finds", trace.read_text(), "[UPDATE]\nAUTORUN=OK\n")
 
     desk.start()
     desk.window(LOG_IN)

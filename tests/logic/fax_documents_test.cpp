@@ -52,10 +52,11 @@ TEST_F(FaxDocuments, AreToldByTheEndOfTheirNames) {
 }
 
 TEST_F(FaxDocuments, AreTakenFromTheDialogWithTheirPictures) {
-    pick(u"z:\\글.hwp");
+    // A semicolon is the carrier's to refuse.
+    pick(u"z:\\글;'나'.hwp");
     pick(std::nullopt);
     pick(u"z:\\사진.TIF");
-    EXPECT_EQ(listed(), "z:\\글.hwp|z:\\사진.TIF|");
+    EXPECT_EQ(listed(), "z:\\글;'나'.hwp|z:\\사진.TIF|");
     EXPECT_EQ(form.fax.FAX1.row(0).small_icon(), 4);
     EXPECT_EQ(form.fax.FAX1.row(1).small_icon(), 10);
     EXPECT_TRUE(desktop.boxes.empty());

@@ -90,6 +90,12 @@ TEST_F(PosixFilesTest, WhatIsHiddenOrNoNormalFileDoesNotExist) {
     EXPECT_FALSE(files.folder_exists(u"d:\\"));
 }
 
+TEST_F(PosixFilesTest, AFileOfTwoGigabytesIsMeasuredWithoutBeingRead) {
+    put(application / "scan.tif", "");
+    fs::resize_file(application / "scan.tif", std::uintmax_t{1} << 31);
+    EXPECT_EQ(files.length(u"scan.tif"), std::uintmax_t{1} << 31);
+}
+
 TEST_F(PosixFilesTest, AWrittenFileIsItsUsersAlone) {
     const std::string bytes("\0\r\n\xC7\xD1\x1A end", 10);
     put(application / "old.txt", "old");

@@ -1,15 +1,9 @@
 #include "tests/screen/program_fixture.h"
 
-#include "tests/support/other_ports.h"
-
-#include <QAbstractButton>
 #include <QApplication>
 #include <QInputMethodEvent>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
-#include <filesystem>
-#include <fstream>
 
 namespace tests {
 
@@ -60,20 +54,18 @@ void WindowPlayer::look() {
     step.act(*window);
 }
 
-ProgramTest::ProgramTest(platform::Recorder* microphone)
-    : platform(with(machine.platform, {.recorder = microphone})) {
+ProgramTest::ProgramTest() {
     namespace fs = std::filesystem;
     fs::copy_file(CARRIER_LIBRARY, folder.path() / "x_msggate_d.so");
     fs::copy_file(CARRIER_INI, folder.path() / "carrier.ini");
 }
-
-ProgramTest::~ProgramTest() = default;
 
 void ProgramTest::run() {
     ASSERT_TRUE(application.start());
     machine.desktop.run_until_closed(application.main_form());
 }
 
+<<<<<<< HEAD
 void ProgramTest::order(const std::string& lines) {
     std::ofstream(folder.path() / "carrier.ini", std::ios::app) << "\n" << lines << "\n";
 }
@@ -88,36 +80,14 @@ std::vector<std::string> ProgramTest::ledger(const std::string& field) const {
     return values;
 }
 
+=======
+>>>>>>> 6040514fe806bc64bf91a86ab76384f130f4c899
 void ProgramTest::log_in() {
     user.in_window("frmZentLogin", [](QWidget& window) {
         type_into(window, "Text1", QStringLiteral("demo"));
         type_into(window, "Text2", QStringLiteral("demo1234"));
         press(window, "Command1");
     });
-}
-
-void ProgramTest::send() {
-    user.in_window("frmZent", [](QWidget& window) { press(window, "Command1"); });
-    user.in_window("frmSBox", [](QWidget& window) { press(window, "Command1"); });
-}
-
-void ProgramTest::read_report() {
-    user.in_window("frmSendEndBox", [this](QWidget& window) {
-        report = text_of(window, "Text1");
-        press(window, "Command2");
-    });
-}
-
-void ProgramTest::choose_file(const std::filesystem::path& file) {
-    user.in_window("fileDialog", [file](QWidget& window) {
-        auto& name = *window.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        name.setText(QString::fromStdString(file.string()));
-        QTest::keyClick(&name, Qt::Key_Return);
-    });
-}
-
-void ProgramTest::close_program() {
-    user.in_window("frmZent", [](QWidget& window) { window.close(); });
 }
 
 void ProgramTest::type_into(QWidget& window, const char* field, const QString& text) {
@@ -134,10 +104,6 @@ void ProgramTest::type_into(QWidget& window, const char* field, const QString& t
             QCoreApplication::sendEvent(&widget, &event);
         }
     }
-}
-
-void ProgramTest::press_enter(QWidget& window, const char* field) {
-    QTest::keyClick(&find(window, field), Qt::Key_Return);
 }
 
 void ProgramTest::press(QWidget& window, const char* button) {

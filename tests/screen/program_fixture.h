@@ -2,8 +2,7 @@
 
 #include "app/application.h"
 #include "app/machine.h"
-#include "machine/qt/desktop/qt_clock.h"
-#include "standin/database.h"
+#include "platform/qt/qt_clock.h"
 #include "tests/support/temporary_folder.h"
 
 #include <QTimer>
@@ -50,46 +49,28 @@ class WindowPlayer : public QObject {
 };
 
 /// The whole program as it is installed, in a folder of its own: real windows, real files, the carrier's
-/// library and its ledger.
+/// library.
 class ProgramTest : public testing::Test {
   protected:
-    ProgramTest() : ProgramTest(nullptr) {}
-    /// With another microphone than the machine's.
-    explicit ProgramTest(platform::Recorder* microphone);
-    ~ProgramTest() override;
+    ProgramTest();
 
     /// Runs the program from its start to its end.
     void run();
-    /// Adds lines to the carrier's orders.
-    void order(const std::string& lines);
-    /// The field of every registration, in their order.
-    std::vector<std::string> ledger(const std::string& field) const;
-
-    // What the user does next.
+    /// The user logs in.
     void log_in();
-    /// Presses send in the main window and confirms.
-    void send();
-    /// Reads the report into `report` and closes it.
-    void read_report();
-    /// Picks the file in the file dialog.
-    void choose_file(const std::filesystem::path& file);
-    void close_program();
 
     /// Types in place of what the field holds.
     static void type_into(QWidget& window, const char* field, const QString& text);
-    static void press_enter(QWidget& window, const char* field);
     static void press(QWidget& window, const char* button);
     static QString text_of(QWidget& window, const char* field);
 
     TemporaryFolder folder;
     WindowPlayer user;
-    QString report;
     machine::posix::Paths paths{folder.path().string()};
     HastyClock clock;
     app::Machine machine{paths, machine::posix::PosixFiles(paths, (folder.path() / "windows").string()),
                          clock};
-    platform::Platform platform;
-    app::Application application{platform};
+    app::Application application{machine.platform};
 };
 
 }  // namespace tests

@@ -1,16 +1,16 @@
-// The recorder at a real sound server: what is spoken into the microphone is what the carrier gets.
+// The recorder at a real sound server: what is spoken into the microphone is what it hears.
 
 #include "platform/error.h"
-#include "platform/formats/wav_file.h"
-#include "tests/screen/program_fixture.h"
+#include "platform/qt/late_recorder.h"
 #include "tests/screen/sound_server.h"
 
 #include <QFile>
-#include <QTabBar>
 #include <QTest>
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <gtest/gtest.h>
+#include <memory>
 
 namespace tests {
 
@@ -64,7 +64,7 @@ struct Listener : platform::Recorder::Listener {
     bool ended = false;
 };
 
-class RealRecorder : public ProgramTest {
+class RealRecorder : public testing::Test {
   protected:
     static void SetUpTestSuite() {
         QCoreApplication::addLibraryPath(QStringLiteral(ZENT_APP_DIR));
@@ -84,7 +84,7 @@ class RealRecorder : public ProgramTest {
         ASSERT_TRUE(QTest::qWaitFor(condition, PATIENCE));
     }
 
-    platform::Recorder& recorder = machine.recorder;
+    machine::qt::LateRecorder recorder;
 
     static inline std::unique_ptr<SoundServer> server;
     static inline QString speech;
@@ -128,43 +128,6 @@ TEST_F(RealRecorder, NoticesAMicrophoneThatGoesAndComes) {
     listener.said.clear();
     wait_until([&] { return !listener.said.empty(); });
     recorder.close();
-}
-
-TEST_F(RealRecorder, SendsWhatWasSaidToTheCarrier) {
-    platform::SoundRecorder& control = application.main_form().voice.RFK1;
-    log_in();
-    user.in_window("frmZent", [](QWidget& window) {
-        const auto choose = [&](const char* tabs, int tab) {
-            auto& bar = *window.findChild<QTabBar*>(QString::fromLatin1(tabs));
-            QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(tab - 1).center());
-        };
-        choose("TabStrip1", compose::MessageKind::voice);
-        choose("TabStrip2", 2);
-        type_into(window, "subjectText", QStringLiteral("인사"));
-        type_into(window, "HText1_0", QStringLiteral("홍길동"));
-        type_into(window, "HText1_1", QStringLiteral("02-123-4567"));
-        press_enter(window, "HText1_1");
-    });
-    user.in_window(
-        "frmZent", [](QWidget& window) { press(window, "_record"); }, [&] { return control.can_record(); });
-    user.in_window(
-        "frmZent", [](QWidget&) { server->play(speech); }, [&] { return !control.recording().empty(); });
-    user.in_window(
-        "frmZent",
-        [](QWidget& window) {
-            press(window, "_stop");
-            press(window, "Command1");
-        },
-        [&] { return has_been_said(control.recording()); });
-    user.in_window("frmSBox", [](QWidget& window) { press(window, "Command1"); });
-    user.in_window("frmSendEndBox", [](QWidget& window) { press(window, "Command2"); });
-    user.in_window("frmZent", [](QWidget& window) { window.close(); });
-    run();
-
-    EXPECT_EQ(ledger("attach_file"), std::vector<std::string>{"c:\\temp\\tmp.wav;"});
-    const auto sent = bytes_of(QString::fromStdString(folder.path() / "drive_c" / "temp" / "tmp.wav"));
-    EXPECT_EQ(sent.toStdString(), platform::wav_file(control.recording()));
-    EXPECT_NEAR(seconds_of_speech(samples_of(sent), SAMPLES_A_SECOND), length, 0.1);
 }
 
 }  // namespace

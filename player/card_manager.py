@@ -1,0 +1,10 @@
+"""The card manager, which hands recipients over to the program in files."""
+
+
+def hand_over(application, tab, recipients):
+    """First the recipients, (name, number, title), then the file that says so and which tab is to open."""
+    folder = application / "temp"
+    folder.mkdir(exist_ok=True)
+    lines = "".join(f"0\t{name}\t{number}\t{title}\r\n" for name, number, title in recipients)
+    (folder / "tmpman.txt").write_bytes(lines.encode("cp949"))
+    (folder / "isend.text").write_bytes(str(tab).encode("ascii"))

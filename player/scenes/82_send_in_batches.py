@@ -1,0 +1,53 @@
+"""Two hundred and fifty recipients are three batches under numbered subjects. A batch that the carrier refuses can be
+sent again by itself, and a job that the user stops ends behind the batch that is on its way."""
+from card_manager import hand_over
+from carrier import NO_CONNECTION, TEXT, registration
+from expect import expect
+
+PEOPLE = [("김", f"0101{i:03}5678") for i in range(250)]
+FIRST, SECOND, THIRD = PEOPLE[:100], PEOPLE[100:200], PEOPLE[200:]
+
+
+def play(desk):
+    main = write_draft(desk)
+    second = desk.carrier.calls("fn_x_submit") + 2
+    with desk.carrier.ordered("failures", f"fn_x_submit@{second}={NO_CONNECTION}"):
+        expect("the report", desk.send(main), [150, 100, 0])
+    desk.carrier.expect(
+        batch("안내01", FIRST),
+        batch("안내02", SECOND, submit_sequence=2, result=NO_CONNECTION),
+        batch("안내03", THIRD, submit_sequence=3),
+    )
+    desk.find("전체>250>대상>100", "label", main)
+    desk.picture("refused-batch")
+    expect("the report", desk.send(main), [100, 0, 0])
+    desk.carrier.expect(batch("안내", SECOND))
+    desk.find("전체>250>대상>0", "label", main)
+
+    main = write_draft(desk)
+    # The stop is pressed while the carrier takes its time for the first batch.
+    with desk.carrier.ordered("delays", "fn_x_submit=1500"):
+        before = desk.carrier.calls("fn_x_bind")
+        desk.start_sending(main)
+        desk.wait("the first batch", lambda: desk.carrier.calls("fn_x_bind") > before)
+        desk.keys("ctrl+period")
+        desk.find("메시지 등록이 중지되었습니다")
+        desk.picture("stopped")
+        desk.keys("Return")
+        expect("the report", desk.read_report(), [100, 0, 150])
+    desk.carrier.expect(batch("안내01", FIRST))
+    desk.find("전체>250>대상>150", "label", main)
+
+
+def write_draft(desk):
+    main = desk.window("Cardvale 폰디라 통합메시징 서비스[")
+    desk.start_anew(main)
+    hand_over(desk.app, 1, [(name, digits, "") for name, digits in PEOPLE])
+    desk.find("전체>250>대상>250", "label", main)
+    main = desk.choose_kind("문자메시지", "안내")
+    desk.fill(desk.find("문자 내용", "text", main), "회의")
+    return main
+
+
+def batch(subject, recipients, **columns):
+    return registration(TEXT, subject, recipients, sms_content="회의", callback="0212345678", **columns)
