@@ -113,8 +113,8 @@ int main(int argc, char** argv) {
     std::printf("list of %zu messages %.1f ms, plain read of %zu bytes %.1f ms\n", box.ListView2.row_count(),
                 ours, bytes, plain);
     const bool quick =
-        bench::print_ratio_at_most("message_list time", ours / plain, "ours / plain read of the files", 2);
-    const bool lives = bench::print_ratio_at_most("message_list longest pause", longest_pause / 100,
+        bench::print_ratio_at_most("saved_texts time", ours / plain, "ours / plain read of the files", 2);
+    const bool lives = bench::print_ratio_at_most("saved_texts longest pause", longest_pause / 100,
                                                   "between two paintings / 100 ms", 1);
     box.unload();
     return quick && lives ? 0 : 1;
