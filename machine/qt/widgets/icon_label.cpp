@@ -8,7 +8,7 @@
 
 namespace machine::qt {
 
-void IconLabel::set_icon(const QString& name) {
+void IconLabel::set_picture(const QString& name) {
     name_ = name;
     icon_ = late_icon(name);
     update();

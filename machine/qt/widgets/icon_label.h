@@ -9,13 +9,13 @@ namespace machine::qt {
 class IconLabel : public QLabel {
     Q_OBJECT
     /// The picture's name among the resources, as "app".
-    Q_PROPERTY(QString icon READ icon WRITE set_icon)
+    Q_PROPERTY(QString picture READ picture WRITE set_picture)
 
   public:
     using QLabel::QLabel;
 
-    const QString& icon() const { return name_; }
-    void set_icon(const QString& name);
+    const QString& picture() const { return name_; }
+    void set_picture(const QString& name);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
