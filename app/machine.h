@@ -6,8 +6,7 @@
 #include "machine/posix/posix_shell.h"
 #include "machine/qt/desktop/keep_painted.h"
 #include "machine/qt/desktop/qt_desktop.h"
-#include "machine/qt/modules/late_recorder.h"
-#include "machine/qt/modules/lazy_internet.h"
+#include "machine/qt/modules/late_ports.h"
 #include "platform/formats/ini_settings.h"
 #include "platform/ports/platform.h"
 
@@ -38,7 +37,7 @@ struct Machine {
     machine::posix::PosixCarrierLibrary carrier;
     machine::jet::JetCardSource cards;
     machine::qt::LateRecorder recorder;
-    machine::qt::LazyInternet internet;
+    machine::qt::LateInternet internet;
     machine::qt::Screens screens = machine::qt::program_screens();
     machine::qt::QtDesktop desktop{screens, files};
     platform::Platform platform;

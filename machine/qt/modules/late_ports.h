@@ -1,12 +1,13 @@
 #pragma once
 
+#include "platform/ports/internet.h"
 #include "platform/ports/recorder.h"
 
 #include <memory>
 
 namespace machine::qt {
 
-/// The machine's recorder, out of the module beside the program, which is loaded when it is opened.
+/// The recorder of the module `zent_sound`, which is loaded when it is opened.
 class LateRecorder : public platform::Recorder {
   public:
     void open(Listener& listener) override;
@@ -18,8 +19,18 @@ class LateRecorder : public platform::Recorder {
     void stop_playing() override { recorder_->stop_playing(); }
 
   private:
-    /// There from the first opening that did not fail; nothing else is called before.
+    /// Set by the first opening that succeeds; nothing else is called before that.
     std::unique_ptr<platform::Recorder> recorder_;
+};
+
+/// The network of the module `zent_network`, which is loaded for the first transfer.
+class LateInternet : public platform::Internet {
+  public:
+    /// Without the module, whatever is asked of the transfer raises RuntimeError 48.
+    std::unique_ptr<platform::Transfer> make_transfer() override;
+
+  private:
+    std::unique_ptr<platform::Internet> internet_;
 };
 
 }  // namespace machine::qt

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "machine/qt/modules/network/qt_internet.h"
+#include "machine/qt/modules/network/network_module.h"
 
 #include <QObject>
 
 namespace machine::qt {
 
-/// The module's one object.
-class ToolkitNetwork : public QObject, public NetworkModule {
+class NetworkPlugin : public QObject, public NetworkModule {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "zent.NetworkModule/1")
     Q_INTERFACES(machine::qt::NetworkModule)
