@@ -6,7 +6,7 @@
 #include "gateway/frmZentLogin.h"
 #include "machine/qt/binders/screen_faults.h"
 #include "machine/qt/desktop/qt_desktop.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "saved_texts/frmMyMsgBox.h"
 #include "send/frmSBox.h"
 #include "send/frmSendEndBox.h"

@@ -2,7 +2,7 @@
 
 #include "compose/main_form.h"
 #include "core/common.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/message_edit.h"
 #include "send/send_check.h"
 #include "tests/screen/program_fixture.h"

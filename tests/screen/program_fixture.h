@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/application.h"
-#include "app/machine.h"
+#include "app/desktop_machine.h"
 #include "machine/qt/desktop/qt_clock.h"
 #include "standin/database.h"
 #include "tests/support/temporary_folder.h"
@@ -86,8 +86,8 @@ class ProgramTest : public testing::Test {
     QString report;
     machine::posix::Paths paths{folder.path().string()};
     HastyClock clock;
-    app::Machine machine{paths, machine::posix::PosixFiles(paths, (folder.path() / "windows").string()),
-                         clock};
+    app::DesktopMachine machine{
+        paths, machine::posix::PosixFiles(paths, (folder.path() / "windows").string()), clock};
     platform::Platform platform;
     app::Application application{platform};
 };

@@ -2,7 +2,7 @@
 
 #include "machine/qt/look/late_icon.h"
 #include "machine/qt/typing/composition.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QAction>
 #include <QMenu>

@@ -1,7 +1,7 @@
 #include "machine/qt/binders/binder.h"
 
 #include "machine/qt/typing/composition.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QEvent>
 #include <QLabel>

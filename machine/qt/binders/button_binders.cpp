@@ -1,6 +1,6 @@
 #include "machine/qt/binders/button_binders.h"
 
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QCheckBox>
 #include <QEvent>

@@ -1,8 +1,8 @@
 #include "machine/qt/binders/combo_box_binder.h"
 
 #include "machine/qt/typing/composition.h"
+#include "machine/qt/typing/conversion.h"
 #include "machine/qt/typing/field_events.h"
-#include "machine/qt/typing/text_conversion.h"
 
 #include <QComboBox>
 #include <QLineEdit>

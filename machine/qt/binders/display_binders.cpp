@@ -1,6 +1,6 @@
 #include "machine/qt/binders/display_binders.h"
 
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/animation_player.h"
 #include "platform/error.h"
 
@@ -61,9 +61,8 @@ void ImageBinder::show(Aspect aspect) {
 
 void ImageBinder::show_picture() {
     QPixmap picture;
-    platform::ignore_errors([&] {
-        picture.loadFromData(QByteArray::fromStdString(bound().files.read(control().picture())));
-    });
+    platform::ignore_errors(
+        [&] { picture.loadFromData(QByteArray::fromStdString(bound().files.read(control().picture()))); });
     widget().setPixmap(picture);
 }
 

@@ -10,7 +10,7 @@
 #include "machine/qt/binders/text_box_binder.h"
 #include "machine/qt/binders/tree_view_binder.h"
 #include "machine/qt/binders/web_browser_binder.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/animation_player.h"
 #include "machine/qt/widgets/message_edit.h"
 #include "machine/qt/widgets/recorder_panel.h"

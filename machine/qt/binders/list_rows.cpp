@@ -1,7 +1,7 @@
 #include "machine/qt/binders/list_rows.h"
 
 #include "machine/qt/look/late_icon.h"
-#include "machine/qt/typing/twips.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QHeaderView>
 #include <QScopedValueRollback>

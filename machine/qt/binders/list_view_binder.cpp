@@ -1,7 +1,6 @@
 #include "machine/qt/binders/list_view_binder.h"
 
-#include "machine/qt/typing/key_code.h"
-#include "machine/qt/typing/twips.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QFontInfo>
 #include <QHeaderView>
@@ -77,8 +76,9 @@ ListViewBinder::ListViewBinder(BoundForm& bound, ListView& control, QTreeView& v
     : BinderOf(bound, control, view), rows_(control, view) {
     control.attach_rows(&rows_);
     set_up(view);
-    connect(&rows_.model(), &ListViewModel::checked_by_user, this,
-            [this](std::size_t row, bool checked) { act([&] { this->control().user_check(row, checked); }); });
+    connect(&rows_.model(), &ListViewModel::checked_by_user, this, [this](std::size_t row, bool checked) {
+        act([&] { this->control().user_check(row, checked); });
+    });
     connect(view.header(), &QHeaderView::sectionClicked, this,
             [this](int section) { act([&] { this->control().ColumnClick.raise(section + 1); }); });
     connect(&view, &QTreeView::doubleClicked, this,
@@ -100,7 +100,8 @@ bool ListViewBinder::filter(QObject& object, QEvent& event) {
             release_key(static_cast<QKeyEvent&>(event));
             return !is_bound_live();
         case QEvent::Resize:
-            if (&object == widget().viewport()) control().user_resized(to_twips(widget().viewport()->width()));
+            if (&object == widget().viewport())
+                control().user_resized(to_twips(widget().viewport()->width()));
             return false;
         case QEvent::MouseButtonPress:
             rows_.bring_up_to_date();
@@ -119,8 +120,8 @@ bool ListViewBinder::filter(QObject& object, QEvent& event) {
     }
 }
 
-/// The view itself handles the keys that move through the rows. It gets no letters, with which it would search
-/// the first column: that one is empty, and the handlers use letters.
+/// The view itself handles the keys that move through the rows. It gets no letters, with which it would
+/// search the first column: that one is empty, and the handlers use letters.
 bool ListViewBinder::press_key(QKeyEvent& event) {
     if (moves_through_rows(event)) return false;
     event.accept();

@@ -1,7 +1,7 @@
 #include "machine/qt/binders/list_view_model.h"
 
 #include "machine/qt/look/late_icon.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 
 namespace machine::qt {
 

@@ -1,8 +1,8 @@
 #include "machine/qt/binders/text_box_binder.h"
 
 #include "machine/qt/typing/composition.h"
+#include "machine/qt/typing/conversion.h"
 #include "machine/qt/typing/field_events.h"
-#include "machine/qt/typing/text_conversion.h"
 #include "machine/qt/widgets/message_edit.h"
 
 #include <QLineEdit>
@@ -111,8 +111,7 @@ TextBoxBinder::Selection MessageBinder::selection() const {
     return {cursor.selectionStart(), cursor.selectionEnd(), cursor.position()};
 }
 
-LineBinder::LineBinder(BoundForm& bound, TextBox& control, QLineEdit& edit)
-    : BinderOf(bound, control, edit) {
+LineBinder::LineBinder(BoundForm& bound, TextBox& control, QLineEdit& edit) : BinderOf(bound, control, edit) {
     write_back();
     // The field signals in the middle of its own work. What keys change is read when that work is over
     // (filter); what a menu changes is read in the next turn of the event loop.

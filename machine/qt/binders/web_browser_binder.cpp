@@ -1,6 +1,6 @@
 #include "machine/qt/binders/web_browser_binder.h"
 
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/web_area.h"
 #include "platform/error.h"
 
@@ -46,8 +46,8 @@ QString WebBrowserBinder::place(const QString& name) {
 void WebBrowserBinder::navigate() {
     const Navigation& to = control().navigation();
     widget().show_page({.address = to_qstring(to.address).trimmed(),
-                     .body = QByteArray::fromStdString(to.body),
-                     .header = to_qstring(to.header).toLatin1()});
+                        .body = QByteArray::fromStdString(to.body),
+                        .header = to_qstring(to.header).toLatin1()});
 }
 
 }  // namespace machine::qt

@@ -1,6 +1,6 @@
 #include "machine/qt/widgets/web_area.h"
 
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QLabel>
 #include <QProgressBar>

@@ -1,20 +1,27 @@
-#include "machine/qt/desktop/input_watch.h"
-
-#include "machine/qt/desktop/x_server.h"
+#include "machine/qt/desktop/long_work.h"
 
 #include <QCursor>
+#include <QEventLoop>
 #include <QGuiApplication>
+#include <QScopedValueRollback>
 #include <QWindow>
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <utility>
 #include <xcb/xcb.h>
 
 namespace machine::qt {
 
 namespace {
 
-/// To ask is a journey to the X server and back; a user is not quicker than this, in milliseconds.
+/// State of the process's one event loop.
+struct {
+    bool keeping_painted = false;
+    bool will_let_input_in = false;
+} event_loop;
+
+/// A question to the X server takes a round trip. A user is not quicker than this, in milliseconds.
 constexpr int BETWEEN_QUESTIONS = 10;
 
 constexpr std::uint32_t ALL_BUTTONS =
@@ -22,6 +29,41 @@ constexpr std::uint32_t ALL_BUTTONS =
 
 template <class Reply>
 using Freed = std::unique_ptr<Reply, decltype(&std::free)>;
+
+/// The program's connection to the X server; null on other desktops.
+xcb_connection_t* x_server() {
+    // The offscreen platform has the interface, too, but no server behind it.
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 != nullptr && QGuiApplication::platformName() == QStringLiteral("xcb") ? x11->connection()
+                                                                                      : nullptr;
+}
+
+/// Makes the X server send an event. Qt keeps the input that it read meanwhile and delivers it only with the
+/// next event, which might be the user's next key.
+void let_input_in() {
+    xcb_connection_t* server = x_server();
+    if (server == nullptr) return;
+    for (QWindow* window : QGuiApplication::topLevelWindows()) {
+        if (window->handle() == nullptr) continue;
+        // Appending nothing to a window's property changes nothing, but the window is notified of it.
+        xcb_change_property(server, XCB_PROP_MODE_APPEND, static_cast<xcb_window_t>(window->winId()),
+                            XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING, 8, 0, nullptr);
+        xcb_flush(server);
+        return;
+    }
+}
+
+/// Waits until the event loop runs again for other things than painting.
+void let_input_in_after_the_work() {
+    if (std::exchange(event_loop.will_let_input_in, true)) return;
+    QMetaObject::invokeMethod(
+        qGuiApp,
+        [] {
+            event_loop.will_let_input_in = false;
+            if (!event_loop.keeping_painted) let_input_in();
+        },
+        Qt::QueuedConnection);
+}
 
 void read_keys_and_buttons(xcb_connection_t& server, InputState& state) {
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(&server)).data->root;
@@ -43,6 +85,16 @@ InputState read_input_state() {
 }
 
 }  // namespace
+
+void keep_painted() {
+    {
+        const QScopedValueRollback<bool> keeping(event_loop.keeping_painted, true);
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+    let_input_in_after_the_work();
+}
+
+bool is_keeping_painted() { return event_loop.keeping_painted; }
 
 QtInputWatch::QtInputWatch() : at_start_(read_input_state()) { asked_.start(); }
 

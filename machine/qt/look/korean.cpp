@@ -1,5 +1,8 @@
-#include "machine/qt/look/korean_translator.h"
+#include "machine/qt/look/korean.h"
 
+#include <QApplication>
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <span>
 #include <string_view>
 
@@ -98,6 +101,20 @@ QString KoreanTranslator::translate(const char* context, const char* source, con
         if (word.english == source) return QString::fromUtf8(word.korean);
     }
     return QString();
+}
+
+void use_font_with_hangul() {
+    QFont font = QApplication::font();
+    const auto has_hangul = [](const QString& family) {
+        return QFontDatabase::writingSystems(family).contains(QFontDatabase::Korean);
+    };
+    if (has_hangul(QFontInfo(font).family())) return;
+    for (const char* family : {"Noto Sans CJK KR", "Noto Sans KR", "NanumGothic"}) {
+        if (!has_hangul(QLatin1String(family))) continue;
+        font.setFamily(QLatin1String(family));
+        QApplication::setFont(font);
+        return;
+    }
 }
 
 }  // namespace machine::qt

@@ -1,6 +1,4 @@
-#include "machine/jet/file/jet_text.h"
-
-#include "machine/jet/file/little_endian.h"
+#include "machine/jet/file/jet_values.h"
 
 namespace machine::jet {
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/ports/files.h"
+
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -21,5 +24,9 @@ void replace_file(const std::string& path, const std::string& bytes, Readers rea
 
 /// Removes what a killed program left of new files in the folder.
 void remove_remains(const std::string& folder);
+
+/// The normal file of the machine's path, open for writing from its beginning; a new one only its user may
+/// read. A link is not followed. Raises RuntimeError when it cannot be opened.
+std::unique_ptr<platform::OpenFile> open_file_for_writing(const std::string& path);
 
 }  // namespace machine::posix

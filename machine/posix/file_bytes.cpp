@@ -1,4 +1,4 @@
-#include "machine/posix/whole_file.h"
+#include "machine/posix/file_bytes.h"
 
 #include "machine/posix/file_descriptor.h"
 #include "machine/posix/file_error.h"
@@ -12,10 +12,12 @@
 #include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace machine::posix {
 
 using platform::ErrorNumber;
+using platform::OpenFile;
 using platform::RuntimeError;
 
 namespace {
@@ -23,6 +25,16 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view NEW_FILE = ".zent-new-";
+
+/// Writes all the bytes. Returns 0, or the `errno` of the write that failed.
+int write_all(int file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file, bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR) return errno;
+        if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return 0;
+}
 
 /// Writes the file and makes the disk keep it. Returns 0 or an `errno`.
 int fill(int file, std::string_view bytes) {
@@ -45,6 +57,37 @@ int open_new_file(const std::string& folder, mode_t mode, std::string& path) {
         if (file >= 0 || errno != EEXIST) return file;
     }
 }
+
+/// Small writes go to the system together.
+constexpr std::size_t BUFFER = 64 * 1024;
+
+class PosixOpenFile : public OpenFile {
+  public:
+    explicit PosixOpenFile(const std::string& path)
+        : path_(path),
+          file_(::open(path.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC,
+                       0600)) {
+        if (!file_.is_open()) throw file_error(errno, path);
+        struct stat status {};
+        if (::fstat(file_.number(), &status) != 0 || !S_ISREG(status.st_mode))
+            throw RuntimeError(ErrorNumber::path_access);
+    }
+
+    void write(std::string_view bytes) override {
+        waiting_ += bytes;
+        if (waiting_.size() >= BUFFER) flush();
+    }
+
+    void flush() override {
+        const std::string bytes = std::exchange(waiting_, {});
+        if (const int failure = write_all(file_.number(), bytes)) throw file_error(failure, path_);
+    }
+
+  private:
+    std::string path_;
+    FileDescriptor file_;
+    std::string waiting_;
+};
 
 }  // namespace
 
@@ -101,6 +144,10 @@ void remove_remains(const std::string& folder) {
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
         if (entry->path().filename().string().starts_with(NEW_FILE)) ::unlink(entry->path().c_str());
     }
+}
+
+std::unique_ptr<OpenFile> open_file_for_writing(const std::string& path) {
+    return std::make_unique<PosixOpenFile>(path);
 }
 
 }  // namespace machine::posix

@@ -4,7 +4,7 @@
 #include "machine/posix/posix_carrier_library.h"
 #include "machine/posix/posix_files.h"
 #include "machine/posix/posix_shell.h"
-#include "machine/qt/desktop/keep_painted.h"
+#include "machine/qt/desktop/long_work.h"
 #include "machine/qt/desktop/qt_desktop.h"
 #include "machine/qt/modules/late_ports.h"
 #include "platform/formats/ini_settings.h"
@@ -14,10 +14,11 @@
 
 namespace app {
 
-/// The ports made real by POSIX and Qt, over a clock that must outlive them.
-struct Machine {
-    Machine(const machine::posix::Paths& paths, machine::posix::PosixFiles machine_files,
-            platform::Clock& clock)
+/// The desktop machine: files and the carrier's library by POSIX, windows, sound and the network by Qt, cards
+/// out of the card manager's Jet file. The clock has to outlive it.
+struct DesktopMachine {
+    DesktopMachine(const machine::posix::Paths& paths, machine::posix::PosixFiles machine_files,
+                   platform::Clock& clock)
         : files(std::move(machine_files)),
           shell(paths),
           cards(paths, machine::qt::keep_painted),

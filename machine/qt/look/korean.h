@@ -17,4 +17,8 @@ class KoreanTranslator : public QTranslator {
                       int number) const override;
 };
 
+/// Chooses a font that has Hangul when the desktop's own has none; otherwise every line would mix characters
+/// of two fonts. To be called when the application exists.
+void use_font_with_hangul();
+
 }  // namespace machine::qt

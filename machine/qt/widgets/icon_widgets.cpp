@@ -1,6 +1,4 @@
-#include "machine/qt/widgets/icon_label.h"
-
-#include "machine/qt/look/late_icon.h"
+#include "machine/qt/widgets/icon_widgets.h"
 
 #include <QPainter>
 #include <QStyle>
