@@ -4,7 +4,7 @@
 
 #include "bench/ratio.h"
 #include "machine/qt/desktop/qt_desktop.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "platform/controls/form.h"
 #include "platform/controls/list_view.h"
 #include "tests/support/memory_files.h"

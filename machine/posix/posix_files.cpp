@@ -1,9 +1,8 @@
 #include "machine/posix/posix_files.h"
 
+#include "machine/posix/file_bytes.h"
 #include "machine/posix/file_error.h"
 #include "machine/posix/folder_list.h"
-#include "machine/posix/open_file.h"
-#include "machine/posix/whole_file.h"
 #include "platform/file_name.h"
 #include "platform/text/hangul.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "machine/posix/file_bytes.h"
 #include "machine/posix/paths.h"
-#include "machine/posix/whole_file.h"
 #include "platform/ports/files.h"
 
 namespace machine::posix {

@@ -1,6 +1,6 @@
 #include "machine/posix/shared_object.h"
 
-#include "machine/posix/whole_file.h"
+#include "machine/posix/file_bytes.h"
 #include "platform/error.h"
 
 #include <cstring>

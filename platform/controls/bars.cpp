@@ -31,7 +31,7 @@ void StatusBar::set_panel_text(int index, Text text) {
 }
 
 void StatusBar::set_panel_tool_tip(int index, Text text) {
-    assign(panels_[static_cast<std::size_t>(index - 1)].tool_tip, std::move(text), Aspect::tool_tip);
+    assign(panels_[static_cast<std::size_t>(index - 1)].tool_tip, std::move(text), Aspect::text);
 }
 
 void StatusBar::set_panel_picture(int index, int picture) {

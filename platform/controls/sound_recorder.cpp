@@ -25,8 +25,10 @@ SoundRecorder::~SoundRecorder() {
 
 void SoundRecorder::open() {
     if (open_) return;
-    if (!ignore_errors([this] { recorder_.open(*this); })) {
-        return warn(u"녹음 기능이 설치되어 있지 않습니다. 프로그램을 다시 설치해 주십시오.");
+    try {
+        recorder_.open(*this);
+    } catch (const RuntimeError& error) {
+        return warn(error.description());
     }
     open_ = true;
     become_idle();

@@ -1,5 +1,5 @@
 #include "machine/qt/desktop/qt_clock.h"
-#include "machine/qt/look/korean_translator.h"
+#include "machine/qt/look/korean.h"
 #include "platform/text/calendar.h"
 #include "tests/screen/screen_fixture.h"
 

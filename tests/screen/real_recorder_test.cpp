@@ -1,7 +1,7 @@
 // The recorder at a real sound server: what is spoken into the microphone is what it hears.
 
 #include "platform/error.h"
-#include "platform/qt/late_recorder.h"
+#include "machine/qt/modules/late_ports.h"
 #include "tests/screen/sound_server.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "machine/jet/file/jet_header.h"
 
-#include "machine/jet/file/little_endian.h"
+#include "machine/jet/file/jet_values.h"
 
 #include <algorithm>
 #include <array>

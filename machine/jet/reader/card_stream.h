@@ -1,6 +1,6 @@
 #pragma once
 
-#include "machine/jet/sql/card_schema.h"
+#include "machine/jet/reader/card_schema.h"
 #include "platform/text/text.h"
 
 #include <array>

@@ -1,8 +1,7 @@
 #include "machine/jet/reader/jet_tables.h"
 
 #include "machine/jet/file/jet_header.h"
-#include "machine/jet/file/jet_text.h"
-#include "machine/jet/file/little_endian.h"
+#include "machine/jet/file/jet_values.h"
 
 // Ahead of libmdb's header, which would pull it in as C.
 #include <glib.h>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "machine/jet/reader/card_schema.h"
 #include "machine/jet/reader/card_stream.h"
-#include "machine/jet/sql/card_schema.h"
 
 #include <cstdint>
 #include <functional>

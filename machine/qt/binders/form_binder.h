@@ -45,15 +45,16 @@ class FormBinder : private platform::ControlVisitor {
 
     template <class Kind>
     Kind* find(const QString& name) const;
-    template <class BinderType, class Widget, class ControlType>
+    template <class BinderType, class ControlType>
     bool try_bind(ControlType& control);
-    template <class BinderType, class Widget, class ControlType>
+    template <class BinderType, class ControlType>
     void bind(ControlType& control);
+    void add(Binder* binder);
     void add_fault(const platform::Control& control);
 
     BoundForm& bound_;
     QObject& owner_;
-    /// What the window holds, by name; while the controls are joined only.
+    /// What the window holds, by name; empty once the controls are joined.
     QMultiHash<QString, QObject*> named_;
     std::vector<Binder*> binders_;
     std::vector<QString> faults_;

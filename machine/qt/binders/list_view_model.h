@@ -4,7 +4,7 @@
 
 #include <QAbstractTableModel>
 #include <QIcon>
-#include <vector>
+#include <QList>
 
 namespace machine::qt {
 
@@ -13,11 +13,11 @@ class ListViewModel : public QAbstractTableModel {
     Q_OBJECT
 
   public:
-    /// Rows show the icons by their numbers, counted from 1.
-    ListViewModel(platform::ListView& list, std::vector<QIcon> icons, QObject* parent)
+    /// Rows show the pictures by their numbers, counted from 1.
+    ListViewModel(platform::ListView& list, QList<QIcon> pictures, QObject* parent)
         : QAbstractTableModel(parent),
           list_(&list),
-          icons_(std::move(icons)),
+          pictures_(std::move(pictures)),
           told_rows_(static_cast<int>(list.row_count())) {}
 
     /// The list goes. Nobody is told, since it may go in the midst of the view's own work; the view is closed
@@ -44,10 +44,10 @@ class ListViewModel : public QAbstractTableModel {
 
   private:
     int rows_of_list() const { return static_cast<int>(list_->row_count()); }
-    QVariant small_icon(const platform::ListItem& row) const;
+    QVariant picture(const platform::ListItem& row) const;
 
     platform::ListView* list_;
-    std::vector<QIcon> icons_;
+    QList<QIcon> pictures_;
     int told_rows_;
 };
 

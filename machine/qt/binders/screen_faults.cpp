@@ -1,7 +1,7 @@
 #include "machine/qt/binders/screen_faults.h"
 
 #include "machine/qt/binders/form_binder.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/message_edit.h"
 
 #include <QAbstractButton>

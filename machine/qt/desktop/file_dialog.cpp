@@ -1,6 +1,6 @@
 #include "machine/qt/desktop/file_dialog.h"
 
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QDir>
 #include <QFileDialog>

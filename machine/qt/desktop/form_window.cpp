@@ -1,7 +1,6 @@
 #include "machine/qt/desktop/form_window.h"
 
-#include "machine/qt/typing/text_conversion.h"
-#include "machine/qt/typing/twips.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>

@@ -1,6 +1,6 @@
 #include "machine/qt/desktop/qt_clock.h"
 
-#include "machine/qt/desktop/keep_painted.h"
+#include "machine/qt/desktop/long_work.h"
 
 #include <QDateTime>
 #include <QEventLoop>

@@ -1,13 +1,10 @@
 #include "machine/qt/desktop/qt_desktop.h"
 
+#include "machine/qt/desktop/boxes.h"
 #include "machine/qt/desktop/form_window.h"
-#include "machine/qt/desktop/input_box.h"
-#include "machine/qt/desktop/input_watch.h"
-#include "machine/qt/desktop/keep_painted.h"
-#include "machine/qt/desktop/message_box.h"
+#include "machine/qt/desktop/long_work.h"
 #include "machine/qt/typing/composition.h"
-#include "machine/qt/typing/text_conversion.h"
-#include "machine/qt/typing/twips.h"
+#include "machine/qt/typing/conversion.h"
 #include "platform/controls/bars.h"
 
 #include <QApplication>

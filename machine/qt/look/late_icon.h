@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QIcon>
+#include <QList>
 #include <QString>
 #include <functional>
 
@@ -12,5 +13,8 @@ QIcon late_icon(std::function<QIcon()> make);
 
 /// The program's own picture of the name, as "app", made late.
 QIcon late_icon(const QString& name);
+
+/// The pictures that the screen names in the widget's property `pictures`; an empty name is no picture.
+QList<QIcon> pictures_of(const QObject& widget);
 
 }  // namespace machine::qt

@@ -1,8 +1,7 @@
 #include "machine/qt/widgets/message_edit.h"
 
 #include "machine/qt/typing/composition.h"
-#include "machine/qt/typing/key_code.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QFocusEvent>
 #include <QInputMethodEvent>

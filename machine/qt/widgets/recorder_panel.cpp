@@ -1,6 +1,6 @@
 #include "machine/qt/widgets/recorder_panel.h"
 
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "platform/controls/sound_recorder.h"
 #include "ui_RecorderPanel.h"
 

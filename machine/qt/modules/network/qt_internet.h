@@ -1,6 +1,6 @@
 #pragma once
 
-#include "machine/qt/modules/network_module.h"
+#include "machine/qt/modules/network/network_module.h"
 
 #include <memory>
 

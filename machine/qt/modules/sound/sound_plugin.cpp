@@ -6,6 +6,6 @@ namespace machine::qt {
 
 using platform::Recorder;
 
-std::unique_ptr<Recorder> SoundPlugin::make_recorder() { return std::make_unique<QtRecorder>(); }
+std::unique_ptr<Recorder> SoundPlugin::make_recorder() const { return std::make_unique<QtRecorder>(); }
 
 }  // namespace machine::qt

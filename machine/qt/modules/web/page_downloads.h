@@ -1,6 +1,6 @@
 #pragma once
 
-#include "machine/qt/modules/web_engine.h"
+#include "machine/qt/modules/web/web_module.h"
 
 #include <QElapsedTimer>
 #include <QObject>

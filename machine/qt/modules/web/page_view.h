@@ -3,7 +3,7 @@
 #include "machine/qt/modules/web/guarded_page.h"
 #include "machine/qt/modules/web/narrow_profile.h"
 #include "machine/qt/modules/web/page_downloads.h"
-#include "machine/qt/modules/web_engine.h"
+#include "machine/qt/modules/web/web_module.h"
 
 #include <QObject>
 #include <QWebEngineView>
