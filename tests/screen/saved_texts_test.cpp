@@ -12,9 +12,9 @@ namespace tests {
 
 namespace {
 
-class MessageBoxWindow : public ProgramTest {
+class SavedTextsWindow : public ProgramTest {
   protected:
-    MessageBoxWindow() { std::filesystem::create_directories(first); }
+    SavedTextsWindow() { std::filesystem::create_directories(first); }
 
     using Act = WindowPlayer::Act;
     void in_main(Act act) { user.in_window("frmZent", std::move(act)); }
@@ -55,7 +55,7 @@ class MessageBoxWindow : public ProgramTest {
     std::filesystem::path first = root / "내모음함";
 };
 
-TEST_F(MessageBoxWindow, NamesACategoryWithASyllableThatIsUnfinishedWhenTheButtonIsPressed) {
+TEST_F(SavedTextsWindow, NamesACategoryWithASyllableThatIsUnfinishedWhenTheButtonIsPressed) {
     log_in();
     in_main([](QWidget& window) { press(window, "MyMsgBttn"); });
     in_box([](QWidget& window) { press(window, "Command8"); });
@@ -82,7 +82,7 @@ TEST_F(MessageBoxWindow, NamesACategoryWithASyllableThatIsUnfinishedWhenTheButto
     run();
 }
 
-TEST_F(MessageBoxWindow, SavesTheDraftAndTakesATextBackAndKeepsEveryCharacter) {
+TEST_F(SavedTextsWindow, SavesTheDraftAndTakesATextBackAndKeepsEveryCharacter) {
     std::string all;
     for (unsigned unit = 0x20; unit < 0x10000; ++unit) {
         const std::string encoded = platform::encode_cp949(platform::Text(1, static_cast<char16_t>(unit)));
