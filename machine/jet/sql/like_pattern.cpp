@@ -8,8 +8,7 @@ using platform::TextView;
 
 namespace {
 
-/// The small letter of a capital one of the Latin, Greek and Cyrillic alphabets and of the wide Latin one;
-/// every other character as it is.
+/// The small letter of a Latin, Greek, Cyrillic or full-width Latin capital; every other character unchanged.
 char16_t fold(char16_t unit) {
     if (unit < 0x80) return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
     const bool plus_32 = (unit >= 0x00C0 && unit <= 0x00DE && unit != 0x00D7) ||
@@ -57,7 +56,7 @@ std::optional<LikePattern> LikePattern::parse(TextView pattern) {
         } else if (unit == u'[') {
             const auto end = pattern.find(u']');
             if (end == TextView::npos) return std::nullopt;
-            // An empty set stands for an empty text.
+            // An empty set matches an empty text.
             if (end > 0) {
                 auto element = parse_set(pattern.substr(0, end));
                 if (!element) return std::nullopt;
@@ -74,8 +73,8 @@ std::optional<LikePattern> LikePattern::parse(TextView pattern) {
 
 bool LikePattern::matches(TextView text) const {
     std::size_t element = 0, at = 0;
-    // Behind the last `%` passed, and where the text that it stands for ends by now: only that one may have
-    // to take in more, since whatever those before it took leaves the rest the same.
+    // The element after the last `%` passed, and where the text that this `%` matches ends so far. On a
+    // mismatch only the last `%` needs to match more: giving an earlier one more cannot help.
     std::optional<std::size_t> behind_any;
     std::size_t any_end = 0;
     while (at < text.size()) {
