@@ -42,13 +42,13 @@ int fill(int file, std::string_view bytes) {
     return ::fsync(file) == 0 ? 0 : errno;
 }
 
-/// Makes the disk keep the folder's entries. A file system that cannot has the new file all the same.
+/// Makes the disk keep the folder's entries. A file system that cannot do this still has the new file.
 void sync_folder(const std::string& folder) {
     const FileDescriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (opened.is_open()) ::fsync(opened.number());
 }
 
-/// A file of a name that nothing has; -1 with `errno` on failure.
+/// Makes a file with an unused name; -1 with `errno` on failure.
 int open_new_file(const std::string& folder, mode_t mode, std::string& path) {
     for (int number = 0;; ++number) {
         path =
@@ -97,7 +97,7 @@ std::string read_whole_file(const std::string& path) {
 }
 
 std::optional<std::string> read_if_there(const std::string& path) {
-    // Looked at before it is opened, since opening alone makes some devices act.
+    // Checked before opening: some devices act when they are opened.
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0) {
         if (errno == ENOENT) return std::nullopt;
@@ -114,7 +114,7 @@ std::optional<std::string> read_if_there(const std::string& path) {
         const ssize_t got = ::read(file.number(), chunk.data(), chunk.size());
         if (got < 0 && errno != EINTR) throw file_error(errno, path);
         if (got > 0) bytes.append(chunk.data(), static_cast<std::size_t>(got));
-        // A normal file gives less than was asked for at its end alone.
+        // Only at its end does a normal file give less than was asked for.
         if (got >= 0 && static_cast<std::size_t>(got) < chunk.size()) return bytes;
     }
 }
@@ -128,7 +128,7 @@ void replace_file(const std::string& path, const std::string& bytes, Readers rea
     if (readers == Readers::as_usual && ::lstat(path.c_str(), &old) == 0 && S_ISREG(old.st_mode))
         ::fchmod(file.number(), old.st_mode & 0666);
     int failure = fill(file.number(), bytes);
-    // A link is replaced and not followed: it could lead a password into a folder that others read.
+    // A link is replaced, not followed: it could lead into a folder where others could read a password.
     if (failure == 0 && ::rename(new_file.c_str(), path.c_str()) != 0) failure = errno;
     if (failure != 0) {
         ::unlink(new_file.c_str());
@@ -139,7 +139,7 @@ void replace_file(const std::string& path, const std::string& bytes, Readers rea
 }
 
 void remove_remains(const std::string& folder) {
-    // One may hold a password that has been blanked since.
+    // They may hold a password that the user has removed since.
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
         if (entry->path().filename().string().starts_with(NEW_FILE)) ::unlink(entry->path().c_str());

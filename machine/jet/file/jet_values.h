@@ -9,11 +9,11 @@
 
 namespace machine::jet {
 
-/// The text that a text field's bytes spell: UTF-16, or, behind a mark, runs of single bytes and runs of
-/// UTF-16 with a NUL at each change. Nothing when the bytes end in the middle of a character.
+/// Decodes a text field: UTF-16, or after a mark alternating runs of single bytes and UTF-16 with a NUL at
+/// each change. Nothing when the bytes end inside a character.
 std::optional<platform::Text> decode_jet_text(std::string_view bytes);
 
-/// The number that stands at `at`, least byte first; the caller has checked that it lies within the bytes.
+/// The number at `at`, least byte first. The caller has checked the length.
 inline std::uint16_t little_endian_16(std::string_view bytes, std::size_t at) {
     return static_cast<std::uint16_t>(static_cast<unsigned char>(bytes[at]) |
                                       static_cast<unsigned char>(bytes[at + 1]) << 8);

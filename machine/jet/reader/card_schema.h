@@ -8,14 +8,14 @@
 
 namespace machine::jet {
 
-/// What the program knows of the card manager's tables: the columns that its statements name.
+/// The card manager's tables with the columns that the program's statements name.
 enum class Kind { number, text, memo };
 
 struct Column {
     std::string_view name;
     Kind kind;
-    /// Columns that are fetched and used by nothing may be of any type; those of another one are read as
-    /// NULL.
+    /// Unused columns are fetched by the statements but by nothing else. They may have another type and are
+    /// NULL then.
     bool used = true;
 };
 

@@ -10,8 +10,7 @@ using platform::TextView;
 
 namespace {
 
-/// The small letter of a capital one of the Latin, Greek and Cyrillic alphabets and of the wide Latin one;
-/// every other character as it is.
+/// The small letter of a Latin, Greek, Cyrillic or full-width Latin capital; every other character unchanged.
 char16_t fold(char16_t unit) {
     if (unit < 0x80) return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
     const bool plus_32 = (unit >= 0x00C0 && unit <= 0x00DE && unit != 0x00D7) ||
@@ -59,7 +58,7 @@ std::optional<LikePattern> LikePattern::parse(TextView pattern) {
         } else if (unit == u'[') {
             const auto end = pattern.find(u']');
             if (end == TextView::npos) return std::nullopt;
-            // An empty set stands for an empty text.
+            // An empty set matches an empty text.
             if (end > 0) {
                 auto element = parse_set(pattern.substr(0, end));
                 if (!element) return std::nullopt;

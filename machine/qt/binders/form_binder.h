@@ -15,10 +15,10 @@ class FormBinder : private platform::ControlVisitor {
     /// The binders become children of the window's.
     FormBinder(BoundForm& bound, QObject& owner);
 
-    /// Parts with the form, which may be destroyed afterwards.
+    /// Parts with the form and its controls, which may be destroyed afterwards.
     void release();
 
-    /// Controls without a widget and widgets of a wrong kind: faults of the screen that a test looks for.
+    /// Controls without a widget or with one of a wrong kind, for a test of the screen.
     const std::vector<QString>& faults() const { return faults_; }
 
   private:

@@ -81,7 +81,7 @@ void TextBoxBinder::select_as_model() {
     if (!edits_.waiting()) {
         select(shown_position(text, start), shown_position(text, end));
     } else if (start == text.size()) {
-        // Behind the end is also behind what the user has added meanwhile.
+        // The end is also the end of what the user has added meanwhile.
         const int behind = static_cast<int>(widget_text().size());
         select(behind, behind);
     }
@@ -132,7 +132,7 @@ bool LineBinder::filter(QObject&, QEvent& event) {
         });
 }
 
-/// A paste may bring line ends, which have no place in one line.
+/// A paste may contain line ends, which do not belong in one line.
 void LineBinder::join_lines() {
     const auto one_line = [](const QString& text) { return to_lines(text).remove(u'\n'); };
     if (const QString text = widget().text(); has_edit() && text != one_line(text)) {

@@ -10,7 +10,7 @@ namespace machine::qt {
 
 class MessageEdit;
 
-/// Joins a text box with its field: texts, the caret and keys, each way.
+/// Joins a text box with its field: text, caret and keys in both directions.
 class TextBoxBinder : public BinderOf<platform::TextBox, QWidget>, protected EditedField {
   public:
     TextBoxBinder(BoundForm& bound, platform::TextBox& control, QWidget& widget);
@@ -26,10 +26,10 @@ class TextBoxBinder : public BinderOf<platform::TextBox, QWidget>, protected Edi
     virtual Selection selection() const = 0;
 
     void press_key(platform::KeyPressed& key);
-    /// The widget is done with an edit or a move of the caret.
+    /// To be called after an edit or a move of the caret in the widget.
     void edited();
 
-    /// Whether the user has changed the text since it was handed over.
+    /// Whether the widget has an edit that the model does not have yet.
     bool has_edit() const { return edits_.waiting(); }
 
     void hand_over() final;

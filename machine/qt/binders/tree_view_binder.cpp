@@ -80,7 +80,7 @@ bool TreeViewBinder::filter(QObject& object, QEvent& event) {
         case QEvent::MouseButtonPress:
             return &object == widget().viewport() && press_mouse(event);
         case QEvent::MouseMove:
-            // Dragging would select nodes that nobody clicked.
+            // Dragging would choose nodes that were not clicked.
             return static_cast<QMouseEvent&>(event).buttons() != Qt::NoButton;
         case QEvent::ContextMenu:
             return open_menu(event, control().MouseDown);

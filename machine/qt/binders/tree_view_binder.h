@@ -7,7 +7,7 @@ class QTreeView;
 
 namespace machine::qt {
 
-/// Joins a tree with its view; the screen's list `pictures` has the names of the nodes' pictures.
+/// Joins a tree with its view. The screen's list `pictures` names the nodes' pictures.
 class TreeViewBinder : public BinderOf<platform::TreeView, QTreeView, ItemViewBinder>,
                        private platform::NodesView {
   public:

@@ -77,8 +77,8 @@ QMessageBox::Icon icon_of(BoxIcon icon) {
     return QMessageBox::NoIcon;
 }
 
-/// Keeps keys with Ctrl from answering. For some input methods Ctrl alone ends the syllable, and the question
-/// that this brings up would be answered by the rest of the shortcut.
+/// Ignores keys with Ctrl. With some input methods Ctrl alone ends the syllable, which may open a question,
+/// and the rest of the shortcut would answer it.
 class ShortcutsAreNoAnswers : public QObject {
   public:
     using QObject::QObject;
@@ -95,7 +95,7 @@ class ShortcutsAreNoAnswers : public QObject {
 BoxAnswer ask(const MessageBox& box, const QString& application_title, QWidget* parent) {
     QMessageBox shown(parent);
     shown.setObjectName(QStringLiteral("messageBox"));
-    // Texts hold what users have typed, and "<" is theirs.
+    // Texts contain what users have typed, and a "<" is not markup.
     shown.setTextFormat(Qt::PlainText);
     shown.setIcon(icon_of(box.icon));
     shown.setWindowTitle(box.title.empty() ? application_title : to_qstring(box.title));
@@ -121,7 +121,7 @@ namespace {
 
 constexpr int FIELD_WIDTH = 360;
 
-/// A field that knows what an input method has unfinished in it.
+/// A field that tracks an input method's unfinished syllable.
 class AnswerField : public QLineEdit {
   public:
     using QLineEdit::QLineEdit;
@@ -149,7 +149,7 @@ Text ask_for_text(const InputBox& box, QWidget* parent) {
     auto* layout = new QVBoxLayout(&window);
     layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(12);
-    // The window is as large as its content, whatever the font: a long prompt is never cut.
+    // The window fits its content with every font, so that a long prompt is never cut.
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
     auto* prompt = new QLabel(shown_text(box.prompt));
@@ -169,7 +169,7 @@ Text ask_for_text(const InputBox& box, QWidget* parent) {
     field->setFocus();
 
     QObject::connect(buttons, &QDialogButtonBox::accepted, &window, [&window, field] {
-        // The syllable that is unfinished when the user presses the button is part of the answer.
+        // A syllable that is unfinished when the button is pressed is part of the answer.
         commit_composition(*field);
         window.accept();
     });

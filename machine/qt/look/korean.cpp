@@ -83,7 +83,7 @@ constexpr Word FILE_WORDS[] = {
      "<b>\"%1\"은(는) 쓸 수 없는 이름입니다.</b><p>더 짧거나 문장 부호가 없는 다른 이름을 쓰십시오."},
 };
 
-/// The words of a place of the toolkit's; none where users do not meet it.
+/// The words of a translation context of Qt; none for contexts that users do not see.
 std::span<const Word> words_of(std::string_view place) {
     if (place == "QLineEdit" || place == "QWidgetTextControl" || place == "QAbstractSpinBox")
         return FIELD_WORDS;

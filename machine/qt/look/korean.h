@@ -4,7 +4,7 @@
 
 namespace machine::qt {
 
-/// The toolkit's own words where users meet them: the menus of text fields and the file dialog. To be
+/// Translates Qt's own words where users see them: in the menus of text fields and the file dialog. To be
 /// installed in the application.
 class KoreanTranslator : public QTranslator {
     Q_OBJECT

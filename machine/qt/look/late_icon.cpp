@@ -16,7 +16,7 @@ class LateIconEngine : public QIconEngine {
         icon().paint(painter, place, Qt::AlignCenter, mode, state);
     }
 
-    /// The size counts the screen's own pixels.
+    /// The size is in the screen's own pixels.
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
         return icon().pixmap(size, 1.0, mode, state);
     }

@@ -26,12 +26,12 @@ bool is_line_end(char16_t unit) {
            unit == QChar::ParagraphSeparator;
 }
 
-/// How many units at the place are one line end or one character.
+/// How many units form the line end or character at the position.
 std::size_t step(TextView text, std::size_t at) {
     return text[at] == u'\r' && at + 1 < text.size() && text[at + 1] == u'\n' ? 2 : 1;
 }
 
-/// How many characters of the widget the unit makes; a NUL has no place there.
+/// How many characters the widget shows for the unit: none for a NUL.
 int shown_size(char16_t unit) { return unit == u'\0' ? 0 : 1; }
 
 }  // namespace
@@ -94,7 +94,7 @@ int key_code(const QKeyEvent& event) {
         default:
             break;
     }
-    // Platforms differ in the text that they give a letter with Ctrl.
+    // Platforms give a letter with Ctrl different texts.
     if ((event.modifiers() & Qt::ControlModifier) != 0 && event.key() >= Qt::Key_A &&
         event.key() <= Qt::Key_Z) {
         return event.key() - Qt::Key_A + KEY_CTRL_A;

@@ -8,10 +8,10 @@
 
 namespace machine::qt {
 
-/// A button with a picture of the program's own, which is read when the button is first painted.
+/// A button with one of the program's pictures, which is read when the button is first painted.
 class IconButton : public QPushButton {
     Q_OBJECT
-    /// The picture's name among the resources, as "send".
+    /// The picture's name in the resources, such as "send".
     Q_PROPERTY(QString picture READ picture WRITE set_picture)
 
   public:
@@ -27,10 +27,10 @@ class IconButton : public QPushButton {
     QString name_;
 };
 
-/// A picture of the program's own, drawn anew for every scale of the desktop so that it is never blurred.
+/// One of the program's pictures, drawn for the desktop's scale so that it is never blurred.
 class IconLabel : public QLabel {
     Q_OBJECT
-    /// The picture's name among the resources, as "app".
+    /// The picture's name in the resources, such as "app".
     Q_PROPERTY(QString picture READ picture WRITE set_picture)
 
   public:

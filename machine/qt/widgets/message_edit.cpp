@@ -60,7 +60,7 @@ void MessageEdit::focusOutEvent(QFocusEvent* event) {
 }
 
 bool MessageEdit::viewportEvent(QEvent* event) {
-    // The click moves the caret away from the syllable, and the toolkit would throw it away.
+    // The click moves the caret away from the unfinished syllable, which Qt would discard.
     if (event->type() == QEvent::MouseButtonPress) commit_composition(*this);
     bool handled = false;
     work([&] { handled = QPlainTextEdit::viewportEvent(event); });
@@ -80,7 +80,7 @@ void MessageEdit::work(const std::function<void()>& step) {
     if (working_ == 0) emit edited();
 }
 
-/// For changes that come by no event of this widget, as from its context menu.
+/// For changes without an event of this widget, such as those from its context menu.
 void MessageEdit::tell_later() {
     if (working_ == 0) QMetaObject::invokeMethod(this, &MessageEdit::edited, Qt::QueuedConnection);
 }

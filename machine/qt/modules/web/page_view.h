@@ -10,7 +10,7 @@
 
 namespace machine::qt {
 
-/// One page with everything it has: its view, its profile, of which nothing is kept, and its end.
+/// One page with its view, its profile and its downloads, all of which end with it.
 class PageView : public QObject, public WebPage {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ class PageView : public QObject, public WebPage {
     std::function<void(int)> progress_;
     NarrowProfile profile_;
     PageDownloads downloads_;
-    // In this order: the page goes before its profile, and the view before its page.
+    // In this order: the page has to be destroyed before its profile, and the view before the page.
     GuardedPage page_{profile_};
     std::unique_ptr<QWebEngineView> view_;
 };

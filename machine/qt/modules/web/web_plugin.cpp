@@ -1,11 +1,11 @@
-#include "machine/qt/modules/web/web_plugin.h"
-
 #include "machine/qt/modules/web/confinement.h"
 #include "machine/qt/modules/web/page_view.h"
+#include "machine/qt/modules/web/web_module.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QLoggingCategory>
+#include <QObject>
 #include <QPalette>
 #include <QQuickWindow>
 #include <utility>
@@ -33,6 +33,20 @@ void set_up_engine() {
 
 }  // namespace
 
+/// The object that the program finds in the module.
+class WebPlugin : public QObject, public WebModule {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "zent.WebModule/1")
+    Q_INTERFACES(machine::qt::WebModule)
+
+  public:
+    QString obstacle() const override;
+    std::unique_ptr<WebPage> open(QWidget& parent, PageEvents events) override;
+
+  private:
+    bool engine_is_set_up_ = false;
+};
+
 QString WebPlugin::obstacle() const {
     if (confinement() != Confinement::impossible) return {};
     return QStringLiteral(
@@ -46,3 +60,5 @@ std::unique_ptr<WebPage> WebPlugin::open(QWidget& parent, PageEvents events) {
 }
 
 }  // namespace machine::qt
+
+#include "web_plugin.moc"
