@@ -21,11 +21,6 @@ void ToolBar::press(int index) {
     refresh(Aspect::value);
 }
 
-void ToolBar::set_button_enabled(int index, bool enabled) {
-    buttons_[static_cast<std::size_t>(index - 1)].enabled = enabled;
-    refresh(Aspect::value);
-}
-
 void StatusBar::set_panel_text(int index, Text text) {
     assign(panels_[static_cast<std::size_t>(index - 1)].text, std::move(text), Aspect::text);
 }

@@ -62,7 +62,6 @@ class TabStrip : public Control {
 
     const std::vector<Text>& captions() const { return captions_; }
     int selected() const { return selected_; }
-    const Text& selected_caption() const { return captions_[static_cast<std::size_t>(selected_ - 1)]; }
 
     /// Chooses a tab and raises Click, also for the tab that was chosen already. Run-time error 9 outside the
     /// tabs.
@@ -95,7 +94,6 @@ class ToolBar : public Control {
     const Button& button(int index) const { return buttons_[static_cast<std::size_t>(index - 1)]; }
     /// Presses the button and lets the others of the group out; raises nothing.
     void press(int index);
-    void set_button_enabled(int index, bool enabled);
 
     Event<int> ButtonClick;
 

@@ -14,7 +14,8 @@ namespace {
 
 Text minutes_and_seconds(std::size_t samples) {
     const auto seconds = static_cast<int>(samples / SAMPLES_A_SECOND);
-    return format_number(seconds / 60, u"00") + u":" + format_number(seconds % 60, u"00");
+    const int minutes = seconds / 60;
+    return format_number(minutes, u"00") + u":" + format_number(seconds % 60, u"00");
 }
 
 }  // namespace

@@ -46,7 +46,7 @@ class WebBrowser : public Control {
     const Navigation& navigation() const { return navigation_; }
 
     /// A file that grows beyond it is given up, in bytes.
-    static constexpr std::int64_t LARGEST_FILE = 100 * 1024 * 1024;
+    static constexpr std::int64_t LARGEST_FILE = std::int64_t{100} * 1024 * 1024;
 
     // One file at a time, and none that the user has not clicked for. Without a handler there is none.
     Event<PageFile&> FileOffered;

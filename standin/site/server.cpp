@@ -95,6 +95,4 @@ int Server::bind(int port) {
 
 void Server::run() { http_->server.listen_after_bind(); }
 
-void Server::stop() { http_->server.stop(); }
-
 }  // namespace standin::site

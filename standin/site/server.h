@@ -16,9 +16,8 @@ class Server {
 
     /// Takes the port, 0 for a free one, and returns it. std::runtime_error when it cannot be had.
     int bind(int port);
-    /// Answers until the process ends or `stop` is called from another thread.
+    /// Answers until the process ends.
     void run();
-    void stop();
 
   private:
     struct Http;
