@@ -24,7 +24,7 @@ const httplib::Headers page_headers = {
 
 void send(const Answer& answer, httplib::Response& response) {
     response.status = answer.status;
-    response.set_content(answer.body, answer.type.c_str());
+    response.set_content(answer.body, answer.type);
     if (!answer.file_name.empty()) {
         response.set_header("Content-Disposition",
                             "attachment; filename*=UTF-8''" + escaped_for_query(answer.file_name));
