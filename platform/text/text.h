@@ -20,7 +20,7 @@ Text right_trim(TextView text);
 /// The text with every occurrence of `what` replaced; an empty `what` replaces nothing.
 Text replace_all(TextView text, TextView what, TextView with);
 Text remove_all(TextView text, TextView what);
-/// Code that reads C strings ends a text at its NUL.
+/// The text with a blank for every NUL, because code that reads C strings would end the text there.
 Text blanks_for_nul(Text text);
 
 bool contains(TextView text, TextView what);
@@ -32,7 +32,8 @@ bool equal_without_case(TextView a, TextView b);
 /// The number in decimal, with a leading minus sign when negative.
 Text decimal(long long number);
 
-/// ASCII only in either direction: meant for keys, names of resources and test output, not for user texts.
+/// ASCII only, in both directions: for keys, names of resources and test output, not for texts that the user
+/// reads.
 Text from_ascii(std::string_view ascii);
 
 /// UTF-8 for file names and for the toolkit's side; a lone surrogate or a broken sequence becomes U+FFFD.
