@@ -4,14 +4,14 @@
 
 namespace send {
 
-/// Whom a draft goes to: the checked rows.
+/// The recipients of a draft: the checked rows.
 struct Recipients {
     int count = 0;
     platform::Text first_name;
     platform::Text first_number;
 };
 
-/// What the user reads before the message goes.
+/// What the user reads before the message is sent.
 platform::Text confirmation_text(const compose::frmZent& form, const compose::CarrierKind& kind,
                                  const Recipients& recipients);
 

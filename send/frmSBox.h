@@ -9,7 +9,7 @@
 
 namespace send {
 
-/// Shows what is about to go and asks for the last time. The answer is in `gDialogConfirmed`.
+/// Shows what is about to be sent and asks for the last time. The answer is in `gDialogConfirmed`.
 class frmSBox : public platform::Form {
   public:
     frmSBox(platform::Platform& platform, core::AppState& state);

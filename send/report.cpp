@@ -10,7 +10,7 @@ namespace {
 
 Text cases(int number) { return platform::format_number(number, u"#,##0") + u"건\r\n"; }
 
-/// Deliberately a difference of clock times, wrong for a job that passes midnight: the report tells the time
+/// Deliberately a difference of clock times, wrong for a job that passes midnight: the report shows the time
 /// as it always has.
 Text elapsed(platform::LocalTime started, platform::LocalTime now) {
     const std::chrono::duration<double, std::chrono::days::period> days =

@@ -14,8 +14,8 @@ using platform::Text;
 
 namespace {
 
-/// The lead that the user has chosen, in minutes. Too large a lead counts as 90 here and as 30 when the
-/// schedule is set; both stay.
+/// The lead that the user has chosen, in minutes. Deliberately 90 for too large a lead, though it counts as
+/// 30 when the schedule is set.
 double minimum_lead(const platform::Platform& platform) {
     return std::min(static_cast<double>(platform::round_half_even(compose::saved_schedule_lead(platform))),
                     90.0);
@@ -32,7 +32,7 @@ long long date_digits(LocalTime time) {
 }
 
 /// The digits of day, hour, minute and second between two moments, read as one number: 30 minutes are 3000
-/// and an hour 10000. Deliberately digits and no minutes: any later date passes, as users who schedule past
+/// and an hour 10000. Deliberately digits, not minutes: any later date passes, as users who schedule past
 /// midnight are used to.
 double lead_digits(LocalTime scheduled, LocalTime now) {
     return platform::leading_number(
@@ -45,7 +45,8 @@ double lead_digits(LocalTime scheduled, LocalTime now) {
 bool schedule_is_possible(const platform::Platform& platform, compose::frmZent& form) {
     if (!form.schedule.Option2.chosen()) return true;
     const double minutes = minimum_lead(platform);
-    // Deliberately without the check for a past time too: whoever switches the lead off may send at once so.
+    // Deliberately without the check for a past time too: users who turn the lead off can send at once that
+    // way.
     if (minutes == 0) return true;
     form.schedule.DT1[0].set_value(scheduled_moment(form));
     form.schedule.DT1[1].set_value(platform.clock.now());

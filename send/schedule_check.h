@@ -5,7 +5,7 @@
 
 namespace send {
 
-/// Whether the draft's schedule lies far enough ahead; tells the user when it does not. An immediate message
+/// Whether the draft's schedule lies far enough ahead; shows a box when it does not. An immediate message
 /// passes.
 bool schedule_is_possible(const platform::Platform& platform, compose::frmZent& form);
 

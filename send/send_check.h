@@ -6,8 +6,8 @@
 
 namespace send {
 
-/// The click of the main window's send button: checks the draft, asks the user and sends. The first fault
-/// ends it, told to the user with the focus where it can be mended.
+/// The click of the main window's send button: checks the draft, asks the user and sends. At the first fault
+/// nothing is sent: a box names it, and the focus goes where it can be corrected.
 void Command1_Click(platform::Platform& platform, core::AppState& state, compose::frmZent& form);
 
 }  // namespace send

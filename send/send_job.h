@@ -9,16 +9,16 @@
 
 namespace send {
 
-/// What a run of a job routine knows beside the rows.
+/// The state of one job, apart from the recipient rows.
 struct SendJob {
-    /// Null for a text that is no kind: nothing is submitted then and every row fails.
+    /// Null when no kind has the given name: then nothing is submitted and every row fails.
     const compose::CarrierKind* kind;
     compose::Pauses pauses;
     platform::LocalTime started;
 
-    /// The registration in the making; each routine fills in what its submits differ in.
+    /// The registration; each routine fills in what changes from submit to submit.
     gateway::UmsMessage message;
-    /// As the user wrote it; a batch of many goes under it and a number.
+    /// As the user wrote it. Each of several batches is sent with a number after it.
     platform::Text subject;
 
     bool account_checked = false;
@@ -26,7 +26,7 @@ struct SendJob {
     /// Pieces cut from the text so far.
     int pieces = 0;
 
-    // In recipients.
+    // Counted in recipients.
     int success = 0;
     int failure = 0;
 };
@@ -34,20 +34,20 @@ struct SendJob {
 /// Recipients gathered for one submit.
 struct Batch {
     platform::Text s_dest_addr;
-    /// Length of the address text in cp949. Kept, since measuring the whole text anew for each row would make
+    /// Length of the address text in cp949. Kept here, since measuring the whole text for each row would make
     /// a long list slow.
     std::size_t bytes = 0;
     int count = 0;
-    /// Where in the list it begins, counted from 0.
+    /// Position of its first row in the list, counted from 0.
     std::size_t first_row = 0;
 };
 
 /// The carrier cannot be reached or the account cannot be used: the job ends without a report.
 struct SessionRefused {};
 
-/// Stands in a row for which no call was made.
+/// Status of a row for which no call was made.
 inline constexpr platform::TextView NOT_REGISTERED = u"등록실패";
-/// Stands in a row whose name the text asks for in vain.
+/// Status of a row that lacks the name for which the text has a place.
 inline constexpr platform::TextView NAME_MISSING = u"등록실패(이름없음)";
 
 }  // namespace send

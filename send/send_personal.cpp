@@ -17,20 +17,20 @@ void frmZentSend::SEND_PERSONAL() {
     });
 }
 
-/// The checked rows, one after the other, until the user stops the job; here the stop is told behind the last
-/// row too.
+/// Calls `send_row` for each checked row until the user stops the job. Here, unlike with batches, a stop is
+/// shown even after the last row.
 void frmZentSend::for_each_recipient(const std::function<void(std::size_t row)>& send_row) {
     for (std::size_t row = 0; row < RecipientRows.row_count(); ++row) {
         RecipientRows.make_visible(row);
         if (RecipientRows.row(row).checked()) send_row(row);
         if (StopRequested) {
-            tell_stopped();
+            show_stopped();
             return;
         }
     }
 }
 
-/// The text for this recipient; nothing when it asks for a name that is missing.
+/// The text for this recipient; nothing when it has a place for a name that is missing.
 std::optional<Text> frmZentSend::filled_in(const Text& text, const platform::ListItem& recipient) const {
     const int title = core::FIND_COLUMN(u"직위", RecipientRows) - 1;
     return fill_placeholders(text, recipient.sub_item(compose::RECIPIENT_NAME), recipient.sub_item(title));
@@ -57,7 +57,7 @@ void frmZentSend::send_personal_row(SendJob& job, std::size_t row) {
         open_session(job);
         PBar1.set_value(core::percent(row + 1, RecipientRows.row_count()));
         result = submit(job);
-        // Deliberately the last piece alone decides: a recipient who got the end of a text is not sent all of
+        // Deliberately only the last piece decides: a recipient who got the end of a text is not sent all of
         // it again.
         if (mText1.text().empty()) count(job, result, 1);
         close_session(job);
