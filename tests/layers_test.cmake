@@ -2,7 +2,8 @@
 #   cmake -DROOT=<the project> -P layers_test.cmake
 cmake_minimum_required(VERSION 3.25)
 
-# rooms(<house> <room>:<what it may include> ...): each room may include itself and what is named, with all that this may.
+# rooms(<house> <room>:<what it may include> ...): each room may include itself, the rooms that are named, and
+# whatever those may include.
 function(rooms house)
   foreach(entry ${ARGN})
     string(REGEX MATCH "^([^:]*):(.*)$" _ "${entry}")
@@ -23,7 +24,8 @@ endfunction()
 rooms(logic platform: core:platform service:core gateway:service compose:gateway
   send:compose addressbook:compose handover:compose saved_texts:compose update:compose)
 rooms(outside platform: machine:platform standin:)
-# The rooms inside two of the houses; files beside the rooms (error, file_name; the card source) are not looked at.
+# The rooms inside two of the houses; files outside the rooms (error, file_name; the card source) are not
+# checked.
 rooms(platform text: ports:text formats:ports controls:formats)
 rooms(machine/qt screens: typing: modules: look: widgets:look,modules,typing binders:widgets desktop:binders,screens)
 

@@ -64,7 +64,7 @@ TEST(Numbers, OnlyTheDigitsStayUnlessTheyMakeZero) {
         {u"   ", u""},
         {u" 집 ", u"집"},
         {u"0-0-0", u"0-0-0"},
-        {u"１２３", u"１２３"}  // wide digits are no digits
+        {u"１２３", u"１２３"}  // full-width digits are no digits
     };
     for (const auto& row : rows) EXPECT_EQ(utf8(DIGITS_ONLY(row.typed)), utf8(row.digits));
 }
@@ -169,7 +169,7 @@ TEST_F(Columns, EveryClickTurnsTheOrderRoundAndMovesTheArrow) {
         int picture;
     } clicks[] = {
         {3, "321", 1},                                // the first click on a list that was ascending
-        {3, "123", 0}, {3, "321", 1}, {2, "321", 0},  // another column goes on turning
+        {3, "123", 0}, {3, "321", 1}, {2, "321", 0},  // another column continues to alternate
         {3, "321", 1},
     };
     for (const auto& click : clicks) {

@@ -126,7 +126,7 @@ TEST_F(Focus, AHandlerMaySendItElsewhere) {
     second.set_focus();
     EXPECT_EQ(log, (Log{"got third"})) << "the place that was passed over has no events";
 
-    // A box around a field that gives the focus back at once.
+    // A picture box around a field returns the focus at once.
     log.clear();
     PictureBox box(*this, u"box");
     box.GotFocus.connect([&] { third.set_focus(); });

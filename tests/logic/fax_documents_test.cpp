@@ -52,7 +52,7 @@ TEST_F(FaxDocuments, AreToldByTheEndOfTheirNames) {
 }
 
 TEST_F(FaxDocuments, AreTakenFromTheDialogWithTheirPictures) {
-    // A semicolon is the carrier's to refuse.
+    // Only the carrier refuses a semicolon.
     pick(u"z:\\글;'나'.hwp");
     pick(std::nullopt);
     pick(u"z:\\사진.TIF");

@@ -20,8 +20,8 @@ LocalTime time_of_fixture(const Text& text) {
     return make_time(number(0, 4), number(5, 2), number(8, 2), number(11, 2), number(14, 2), number(17, 2));
 }
 
-/// Fewer digits than fill the two right groups of a service number leave places empty with us, where the
-/// formatter that was recorded puts zeros.
+/// Whether the digits are too few for the two right groups of a service number. The program leaves their
+/// places empty; the formatter whose results were recorded puts zeros.
 bool is_short(const Text& text) {
     const auto number = text_as_number(text);
     return number && number < 1e8;
@@ -39,7 +39,7 @@ TEST(Format, GivesWhatThePlatformsFormatterGave) {
     for (const auto& row : tests::read_tsv("format.tsv")) {
         const auto field = [&](std::size_t i) { return row[i] == "\"\"" ? Text() : from_utf8(row[i]); };
         const Text input = field(1), pattern = field(2);
-        if (row[0] == "date_string") continue;  // texts become moments before they come here
+        if (row[0] == "date_string") continue;  // texts are converted to moments before they are formatted
         if (pattern == SERVICE_NUMBER && is_short(input)) continue;
         EXPECT_EQ(format_as(row[0], input, pattern), field(3)) << row[0] << ' ' << row[1] << ' ' << row[2];
         ++rows;
@@ -77,7 +77,7 @@ TEST(Format, ADifferenceShowsAsTheClockTimeOfItsPartOfADay) {
     } rows[] = {
         {start, u"00:00:00", u"000000"},
         {make_time(2008, 7, 6, 0, 0, 3), u"00:00:05", u"000000"},
-        {make_time(2008, 7, 5, 23, 29, 58), u"00:30:00", u"003000"},  // half an hour early looks like late
+        {make_time(2008, 7, 5, 23, 29, 58), u"00:30:00", u"003000"},  // the sign is lost
         {make_time(2008, 7, 7, 1, 59, 58), u"02:00:00", u"020000"},   // whole days are lost
         {make_time(2008, 7, 4, 23, 59, 59), u"23:59:59", u"235900"},
     };

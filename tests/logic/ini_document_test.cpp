@@ -29,7 +29,7 @@ std::vector<std::string> split(const std::string& text, char separator) {
 }
 
 TEST(IniDocument, ReadsWhatThePlatformRead) {
-    constexpr std::size_t LONGEST_VALUE = 254;  // what the settings give to the program
+    constexpr std::size_t LONGEST_VALUE = 254;  // the most that the settings return to the program
     for (const auto& row : tests::read_tsv("ini/read.tsv")) {
         ASSERT_NE(row[3], "directory") << "a document is bytes";
         const auto value = read(bytes_of(row[3]), bytes_of(row[4]), bytes_of(row[5]));

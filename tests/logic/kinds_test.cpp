@@ -78,7 +78,7 @@ TEST_F(Kinds, ATextThatGoesWithItsPanelFreezesNoSubjectAfterwards) {
     form.text.mText1.user_edit(u"회의", 2);
     form.choose(compose::MessageKind::fax);
     EXPECT_FALSE(form.text.mText1.has_focus());
-    // Where the focus has gone the window tells later, after boxes and other windows even.
+    // The window reports later where the focus has gone, perhaps after boxes and other windows.
     form.recipients.HText1[0].set_focus();
     EXPECT_EQ(utf8(form.subject.subjectText.text()), "회의");
     EXPECT_EQ(utf8(form.subject.subjectText.tag()), "") << "the next text leads the subject again";

@@ -28,7 +28,7 @@ struct Lists : testing::Test {
 
     Names column(int sub_item) const { return tests::column(list, sub_item); }
 
-    /// What the index is there to answer, by walking every row.
+    /// The answer that the index must give, found by walking over every row.
     std::optional<std::size_t> walk(TextView beginning) const {
         if (beginning.empty()) return std::nullopt;
         for (std::size_t row = 0; row < list.row_count(); ++row) {

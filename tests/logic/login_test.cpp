@@ -183,7 +183,7 @@ TEST_F(ManualLogin, EnterGoesToThePasswordAndThenLogsIn) {
     in_login([&](gateway::frmZentLogin& login) {
         login.Text1.set_text(u"hong");
         login.Text1.set_focus();
-        press(login.Text1, u'x');  // what was there is selected with the focus
+        press(login.Text1, u'x');  // the focus selects the old text
         press(login.Text1, u'\r');
         EXPECT_TRUE(login.Text2.has_focus());
         EXPECT_FALSE(login.Timer1.enabled());
@@ -269,7 +269,7 @@ TEST_F(ManualLogin, GoesOnWithoutAProfileButAsksForNoneWithoutAMoneyStatus) {
     EXPECT_TRUE(state.gLoggedIn);
     EXPECT_EQ(panels(), (Calls{"로그인상태", "가입자 hong[]  ", "폰디라번호   "}));
 
-    // The kind of service that counts is then the one that was known before.
+    // Then the type of service that was known before counts.
     state.gServiceType = 22;
     carrier.calls.clear();
     carrier.results[{"money_status", 1}] = 7;

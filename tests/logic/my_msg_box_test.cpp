@@ -36,7 +36,7 @@ class MyMsgBox : public testing::Test, protected tests::MainWindow {
     static Text path(const Text& category, const Text& title) {
         return ROOT + u"\\" + category + u"\\" + title + u".txt";
     }
-    /// The text on the disk.
+    /// The text of a saved file.
     std::string saved(const Text& category, const Text& title) const {
         const auto file = files.files.find(path(category, title));
         return file == files.files.end() ? "none" : utf8(platform::decode_cp949(file->second));
@@ -266,7 +266,7 @@ TEST_F(MyMsgBox, AddsACategoryUnderANameThatIsFree) {
             u"없습니다.\r\n\\ / : * ? \" < > |",
             row.answer);
         if (row.told != nullptr) desktop.expect_box(row.told);
-        // What is taken is asked for again.
+        // A name that is taken is asked for again.
         if (Text(row.answer) == u"거*래처") desktop.expect_input(u"등록할 분류명을", u"");
         box().Command8.Click.raise();
         EXPECT_EQ(box().ListView1.row_count(), 2U) << utf8(row.answer);
@@ -400,14 +400,14 @@ TEST_F(MyMsgBox, EveryShapeOfTextComesBackByteByByte) {
     }
 }
 
-/// The program is killed at each change of the disk in turn, in each operation.
+/// Kills the program at each change of the disk in turn, in each operation.
 TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited) {
     const tests::MemoryFiles::Contents all = {
         {path(FIRST, u"가"), "1"}, {path(u"분류", u"나"), "2"}, {path(u"분류", u"다"), "3"}};
     const struct {
         const char* what;
         std::function<void()> act;
-        /// What the user wants gone, or what the order of the steps exposes.
+        /// Texts that the user removes, or that the order of the steps endangers.
         std::vector<Text> at_risk;
     } operations[] = {
         {"new",
@@ -416,7 +416,7 @@ TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited)
              box().Command1.Click.raise();
          },
          {}},
-        // The old file goes before the new one is written: between the two this text is nowhere on the disk.
+        // The old file is removed before the new one is written: in between this text is nowhere on the disk.
         {"edit",
          [&] {
              write_fields(u"라", u"글");
@@ -454,7 +454,7 @@ TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited)
                 operation.act();
                 finished = true;
             } catch (const tests::MemoryFiles::Killed&) {
-                // The next start finds what is left.
+                // Then the program starts again and finds what is left.
             }
             files.changes_until_kill.reset();
             for (const auto& [file, bytes] : all) {

@@ -19,7 +19,7 @@ TEST(Number, ItsNumberIsWhatATextBeginsWith) {
         {u"-5x", -5},    {u"+5", 5},      {u"--5", 0},           {u".", 0},
         {u".5", 0.5},    {u"1.2.3", 1.2}, {u"1,234", 1},         {u"1E+2", 100},
         {u"25e-1", 2.5}, {u"5e+", 5},     {u"inf", 0},           {u"0x10", 0},
-        {u"１２", 0}  // wide digits are letters here
+        {u"１２", 0}  // full-width digits count as letters here
     };
     for (const auto& row : rows)
         EXPECT_EQ(leading_number(row.text), row.number) << testing::PrintToString(row.text);

@@ -112,8 +112,8 @@ TEST_F(Picker, AWideAndDeepTreeOfFoldersIsBuiltAtOnce) {
 
 TEST_F(Picker, ADatabaseThatDoesNotOpenIsToldAndTheWindowStaysUsable) {
     cards.refusal = RuntimeError(ErrorNumber::file_not_found);
-    desktop.expect_box(u"오류번호:53");  // by the load
-    desktop.expect_box(u"오류번호:53");  // by the counts
+    desktop.expect_box(u"오류번호:53");  // from the load
+    desktop.expect_box(u"오류번호:53");  // from the counts
     pick(TEXT, [&](frmSendMan& picker) {
         EXPECT_EQ(tree(picker), (Rows{"전체", "휴지통"}));
         desktop.expect_box(u"오류번호:53");
@@ -324,7 +324,7 @@ TEST_F(Picker, PickedRowsBecomeRecipientsWhenTheyHaveANumberThatIsNew) {
              {u"앞부분", u"", u"", u"0101111"},
              {u"안 고름", u"", u"", u"010-5555-6666"},
              {u"같은 번호", u"", u"", u"01033334444"}};
-    // It would end the list of recipients for the carrier, and a text with the title in it.
+    // A NUL would end the carrier's list of recipients, and a text with the title in it.
     const Text nul(1, u'\0');
     found.push_back({u"끊" + nul + u"김", u"과" + nul + u"장", u"", u"01077778888"});
     form.recipients.ListView1.add_row(u"", {u"기존", u"0311", u"", u""}, true);

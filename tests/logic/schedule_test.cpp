@@ -13,7 +13,7 @@ using tests::utf8;
 struct Schedule : testing::Test, tests::MainWindow {
     void SetUp() override { form.load(); }
 
-    /// The schedule as it shows.
+    /// The schedule as the user sees it.
     std::string shown() const {
         const auto date = platform::break_up(form.schedule.DTP1.value());
         return std::to_string(date.month) + "/" + std::to_string(date.day) + " " +
@@ -34,7 +34,7 @@ TEST_F(Schedule, AddingMinutesCarriesOneHourAndOneDayAndNoMore) {
         {12, 31, 23, 30, 30, "1/1 00:00"},
         {11, 23, 10, 10, -10, "11/23 10:00"},
         {11, 23, 10, 0, 119, "11/23 11:59"},
-        // Beyond the last row the minute stays while the hour moves, and an hour is lost.
+        // Beyond the last row the minute stays while the hour moves on, so an hour is lost.
         {11, 23, 12, 40, 92, "11/23 13:40"},
         {11, 23, 10, 0, 120, "11/23 11:00"},
         {11, 23, 10, 5, -10, "11/23 10:05"},

@@ -47,7 +47,7 @@ TEST(SendBatches, TokensAreNameAndDigitsWithoutTheCharactersThatPartThem) {
     EXPECT_EQ(s.carrier.registrations[0].s_dest_addr_count, 3);
 }
 
-/// A name that makes a token of so many bytes with a number of 11 digits.
+/// A name with which a number of 11 digits makes an address of so many bytes.
 Text name_of(std::size_t token_bytes) { return Text(token_bytes - 13, u'n'); }
 
 TEST(SendBatches, CloseAtTheByteLimitOfTheAddresses) {
@@ -55,8 +55,8 @@ TEST(SendBatches, CloseAtTheByteLimitOfTheAddresses) {
         std::size_t eighth_token;
         Lines batches;
     } rows[] = {
-        {256, {"8 2048", "1 300"}},  // exactly full, with the row in it
-        {257, {"7 1792", "2 557"}},  // one byte over opens the next batch with the row
+        {256, {"8 2048", "1 300"}},  // exactly full: the row is in it
+        {257, {"7 1792", "2 557"}},  // one byte too many: the row begins the next batch
         {255, {"8 2047", "1 300"}},
     };
     for (const auto& row : rows) {
@@ -136,7 +136,7 @@ TEST(SendBatches, AnImmediateJobKeepsTheMinuteOfItsStartInEveryBatch) {
     EXPECT_NE(s.report.find("걸린시간: 23:59:57"), std::string::npos) << "midnight lies between";
 }
 
-/// Every argument of a submit but the session's.
+/// Every argument of a submit except those of the session.
 Text arguments(const Registration& r) {
     return Text(r.submit_2 ? u"2 " : u"1 ") + decimal(r.s_data_type) + u" " + decimal(r.s_data_sub_type) +
            u" [" + r.s_callback + u"] " + decimal(r.s_reply_flag) + u" [" + r.s_sms_content + u"] [" +

@@ -247,8 +247,8 @@ TEST(ScheduleCheck, AsksForTheLeadByTheDigitsOfDayHourMinuteAndSecond) {
         {LATE, "", 23, 23, 40, nullptr},
         {LATE, "20", 23, 23, 29, "20"},
         {LATE, "20", 23, 23, 30, nullptr},
-        {LATE, "", 24, 0, 0, nullptr},  // 50 minutes, and another day in any case
-        {LATE, "", 23, 22, 40, "30"},   // past, though as far away as the lead
+        {LATE, "", 24, 0, 0, nullptr},  // 50 minutes, and another day anyway
+        {LATE, "", 23, 22, 40, "30"},   // in the past, though by as much as the lead
         {LATE, "", 22, 23, 59, "30"},
         {LATE, "0", 23, 22, 0, nullptr},
         {LATE, "abc", 22, 0, 0, nullptr},

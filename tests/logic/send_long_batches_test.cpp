@@ -82,7 +82,7 @@ TEST(SendLongBatches, ShowTheirProgressByExpectedPieces) {
         Sending s;
         s.type(Text(static_cast<std::size_t>(bytes), u'a'));
         s.add_many(1);
-        // The third pause is the second piece's first.
+        // The third pause is the first of the second piece.
         s.at_pause(3, [after = after_first, bytes = bytes](send::frmZentSend& job) {
             EXPECT_EQ(job.PBar1.value(), after) << bytes;
         });
@@ -93,7 +93,7 @@ TEST(SendLongBatches, ShowTheirProgressByExpectedPieces) {
 TEST(SendLongBatches, MorePiecesThanTheProgressCanShowEndTheJobWithItsError) {
     Sending s;
     Text text;
-    // 43 pieces that are a byte short of full, and one more: expected are 42.
+    // 43 pieces that are one byte short of full, and one more; 42 are expected.
     for (int i = 0; i < 43; ++i) text += u"가a" + Text(38, u'가');
     s.form.text.Check1.set_checked(true);
     s.form.text.mText1.set_text(text + u"가");

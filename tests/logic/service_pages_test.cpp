@@ -184,7 +184,7 @@ TEST_F(ServicePages, EachLinkReadsItsAddressAtTheClickAndGoesItsWay) {
     });
     form.session.cmdGoPondira.Click.raise();
     form.session.TOPLogo.Click.raise();
-    // Without addresses the user's browser opens empty, and the shell gets nothing that it could open.
+    // Without addresses the user's browser opens an empty page, and the shell opens nothing else.
     EXPECT_EQ(shell.pages, (std::vector<Text>{u"about:blank", u"about:blank"}));
 
     write_links();

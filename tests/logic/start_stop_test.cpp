@@ -50,7 +50,7 @@ TEST_F(Entry, AReadOnlyDiskDoesNotKeepTheWindowFromShowing) {
 }
 
 struct MainWindowLife : testing::Test, tests::MainWindow {
-    /// Shows the window and lets the first tick come; a manual login is cancelled.
+    /// Shows the window and waits for the first tick; a manual login is cancelled.
     void first_tick() {
         form.show();
         clock.run_for(1);
@@ -76,11 +76,11 @@ TEST(MainWindowPlacement, IsRestoredWithinTheScreenOrTheDefaultSizeIsCentred) {
          {27800, 15600, 28800, 16200}},
         {"M_MAX=0\r\nM_LEFT=99999999999999999999\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n",
          {27800, 0, 13000, 8000}},
-        {"M_MAX=0\r\nM_LEFT=5\r\nM_WIDTH=-3\r\nM_HEIGHT=8000\r\n", DEFAULT},  // nobody would see it
+        {"M_MAX=0\r\nM_LEFT=5\r\nM_WIDTH=-3\r\nM_HEIGHT=8000\r\n", DEFAULT},  // it would be invisible
         {"M_MAX=2\r\nM_LEFT=1\r\nM_TOP=2\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n", DEFAULT,
          WindowState::maximised},
         {"M_MAX=Max\r\nM_WIDTH=13000\r\n", DEFAULT, WindowState::maximised},
-        {"M_MAX=2\r\n", DEFAULT},  // never placed: not maximised either
+        {"M_MAX=2\r\n", DEFAULT},  // never placed, so not maximised either
     };
     for (const auto& row : rows) {
         tests::MainWindow window;

@@ -31,7 +31,7 @@ struct Entry : testing::Test, tests::MainWindow {
         desktop.expect_box(Text(QUESTION), answer);
         if (answer == BoxAnswer::no) desktop.expect_box(Text(TOO_LONG));
     }
-    /// The user's edit at the end of the field.
+    /// The user edits the end of the field.
     static void edit(platform::TextBox& field, const Text& text) { field.user_edit(text, text.size()); }
     std::string counter() const { return utf8(form.text.mHLen1.caption()); }
 };
@@ -116,7 +116,7 @@ TEST_F(LongMessages, NoCutsTheEndWhereverTheExcessCameIn) {
 }
 
 TEST_F(LongMessages, AKeyEnforcesTheLimitWithoutAskingAndBackspaceDoesNot) {
-    // Longer than 80 bytes without an answer, as a handler may see it.
+    // Longer than 80 bytes without an answer, as a handler may find it.
     expect_question(BoxAnswer::yes);
     edit(form.text.mText1, letters(100));
     form.text.mText1.set_tag(u"");
@@ -151,7 +151,7 @@ TEST_F(ShortTexts, EndAtEightyBytesWithoutAQuestion) {
 }
 
 TEST_F(ShortTexts, EveryKeyEnforcesTheLimitBackspaceToo) {
-    // The subject changes before the text is cut, so a key that comes with it meets the excess.
+    // The subject changes before the text is cut, so a key that arrives at that moment finds the excess.
     std::size_t bytes_behind_the_key = 0;
     form.subject.subjectText.Change.connect([&] {
         if (bytes_behind_the_key != 0) return;

@@ -46,8 +46,8 @@ TEST(Text, Utf8RoundTripsAndBrokenSequencesBecomeReplacementCharacters) {
         {"\xC7", u"\uFFFD"},                // ends in mid-character
         {"\xED\x95z", u"\uFFFDz"},          // the next character survives
         {"\x80z", u"\uFFFDz"},              // a tail without a lead
-        {"\xC0\x80z", u"\uFFFD\uFFFDz"},    // a zero in disguise
-        {"\xE0\x80\xAFz", u"\uFFFDz"},      // a slash in disguise
+        {"\xC0\x80z", u"\uFFFD\uFFFDz"},    // an overlong zero
+        {"\xE0\x80\xAFz", u"\uFFFDz"},      // an overlong slash
         {"\xED\xA0\x80z", u"\uFFFDz"},      // a surrogate
         {"\xF4\x90\x80\x80z", u"\uFFFDz"},  // beyond the last character
         {"\xFFz", u"\uFFFDz"},

@@ -1,4 +1,4 @@
-// What decides that an update is due, and what the check leaves behind.
+// When an update is due, and what the check leaves behind.
 
 #include "tests/support/updates.h"
 
@@ -31,7 +31,7 @@ TEST(UpdateDecision, IsByPresenceAndByTheTextOfTheVersion) {
         {"2.0.1", "a.dll", true, "2.0.1", false},
         {"2.0.1", "a.dll", true, "2.0.0", false},
         {"2.0.1", "a.dll", true, "2.0.2", true},
-        {"2.0.9", "a.dll", true, "2.0.10", false},  // as texts
+        {"2.0.9", "a.dll", true, "2.0.10", false},  // compared as texts
         {"2.0", "a.dll", true, "2.0.0", true},
         {"A", "a.dll", true, "a", true},
         {"2.0.1", "a.dll", false, "1.0", true},
@@ -207,8 +207,8 @@ TEST_F(UpdateCheck, KeepsItsFileInItsFolderAndClearsBothAway) {
 }
 
 TEST_F(UpdateCheck, ClosingTheWindowGivesItUpWhereverItWaits) {
-    // Waits for the server's bytes, gives the windows a turn, waits for the list's header twice, for its
-    // bytes, and for their end.
+    // The check waits for the server's bytes, lets the windows paint, waits twice for the list's header, then
+    // for its bytes and for their end.
     for (int wait = 1; wait <= 6; ++wait) {
         tests::Updates updates;
         updates.install("1");

@@ -1,4 +1,5 @@
-// What the user is asked and told about an update, from the menu and at the start, and the hand-over.
+// What the user is asked and shown about an update, from the menu and at the start, and the start of the
+// installer.
 
 #include "platform/error.h"
 #include "tests/support/updates.h"
@@ -27,7 +28,7 @@ struct Offer : tests::Updates {
         form.Timer1.set_enabled(true);
     }
 
-    /// A file that is due, and its marker.
+    /// Lets the server offer a file that is due, with its marker.
     void offer_update(const std::string& marker = "") {
         offer("UPDATE_FILE(1)=a;apppath;missing;2;;;" + marker + "\r\n");
     }
@@ -139,7 +140,7 @@ TEST_F(UpdateOffer, TheNotePageIsTheOneThatTheListNames) {
     check_from_menu();
 }
 
-/// The check while the program starts, armed by hand.
+/// The check while the program starts, which only a test can switch on.
 struct Start : Offer {
     Start() {
         form.Timer1.set_enabled(false);

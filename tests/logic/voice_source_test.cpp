@@ -15,7 +15,7 @@ const Text TRIAL = u"c:\\temp\\tmpbk.wav";
 const Text NAME = u"z:\\home\\인사.wav";
 const Text OVERWRITE = NAME + u"\r\n\r\n이미 동일한 파일이 존재합니다. 덮어쓰시겠습니까?";
 
-/// The main window's sound tabs, with a user who has recorded something and presses their buttons.
+/// The main window's tabs for a voice, with something recorded.
 struct VoiceSource : testing::Test, Sending {
     VoiceSource() {
         record(said);

@@ -1,4 +1,4 @@
-// The events of a transfer, one for one, for each thing that a server may do.
+// The exact events of a transfer for each thing that a server may do.
 
 #include "update/download.h"
 
@@ -24,7 +24,7 @@ using update::Download;
 
 constexpr const char16_t* PLACE = u"z:\\app\\update_temp\\update.ini";
 
-/// The control on a clock that stands one second behind its start, so that rates are sums.
+/// The control with a clock that stands still one second after the start, so that rates equal sums.
 struct DownloadBench : tests::TestPlatform {
     explicit DownloadBench(const machine::qt::TransferLimits& limits = {}) : network(limits) {
         files.folders = {u"z:\\app\\update_temp"};
@@ -88,7 +88,7 @@ std::string answer(const std::string& status, const std::string& body) {
 TEST(DownloadEvents, AreTheseForEachAnswer) {
     const std::string kilobyte(1024, 'k');
     const std::string page = "<html>";
-    // Without a file the time since midnight is what it has taken, and the first percentage ends it.
+    // Without a file the elapsed time is the time since midnight, and the first percentage ends the transfer.
     const std::string first_chunk_of_page = "Rate 0 Byte\nTimeLeft -10 시 0 분\nRecievedBytes 6\n";
     const char* first_chunk_of_found_page = "Rate 6 Byte\nTimeLeft 0 시 0 분\nRecievedBytes 6\n";
     const struct {

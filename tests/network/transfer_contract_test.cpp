@@ -1,5 +1,5 @@
-// What every `Transfer` does, the toolkit's and the double that the update is tested with: the same rows for
-// both.
+// What every `Transfer` does. The same rows run with the toolkit's and with the double that the update's
+// tests use.
 
 #include "platform/qt/network/qt_internet.h"
 #include "tests/support/error_number.h"
@@ -21,11 +21,11 @@ constexpr int PROTOCOL = static_cast<int>(ErrorNumber::protocol_not_supported);
 constexpr int NOT_COMPLETED = static_cast<int>(ErrorNumber::request_not_completed);
 constexpr int GIVEN_UP = static_cast<int>(ErrorNumber::dialog_cancelled);
 
-/// A network of one kind with one server.
+/// One implementation of the network, with one server.
 struct Network {
     virtual ~Network() = default;
     virtual Internet& internet() = 0;
-    /// The address where the server gives this from now on.
+    /// The address at which the server gives this answer from now on.
     virtual Text serve(const tests::ScriptedAnswer& answer) = 0;
 };
 

@@ -42,7 +42,7 @@ struct Transfers : testing::Test {
 TEST_F(Transfers, WaitForAWholeChunkHoweverSmallThePiecesThatCome) {
     HttpServer server([](HttpClient& client) {
         client.send("HTTP/1.1 200 Fine\r\nContent-Length: 6\r\n\r\n");
-        // Byte by byte, the second only once somebody has asked for the first chunk.
+        // Byte by byte; the second follows only after the first chunk has been asked for.
         for (const char byte : {'a', 'b', 'c', 'd', 'e', 'f'}) client.send(std::string(1, byte));
     });
     get(server.url());
@@ -126,7 +126,7 @@ TEST_F(Transfers, EndWhenTheyTakeTooLong) {
         const char* name;
         machine::qt::TransferLimits limits;
         std::string sent;
-        /// What comes again and again.
+        /// What the server sends again and again.
         std::string endless;
     } rows[] = {
         {"nothing", SILENCE, "", ""},

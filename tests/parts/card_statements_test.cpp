@@ -47,7 +47,7 @@ const std::vector<Text> CARD_FIELDS = {
 
 using Keep = std::function<bool(const CardTable::Row& row)>;
 
-/// What the table's rows that are kept show in the columns, in the order of `order`.
+/// The columns of those rows of the table that are kept, in the order of `order`.
 std::vector<std::string> expected(const CardTable& table, const std::vector<Text>& columns, TextView order,
                                   const Keep& keep) {
     std::vector<CardTable::Row> kept;

@@ -14,7 +14,7 @@ TEST_F(CarrierLedger, KeepsEveryReturnedCallWhenTheClientIsKilled) {
         bind(library);
         for (;;) {
             submit(library);
-            returned.tell();
+            returned.signal();
         }
         return 0;
     });

@@ -1,4 +1,5 @@
-// What every `Files` does, the real one and the double that the logic is tested with: the same rows for both.
+// What every `Files` does. The same rows run with the real one and with the double that the tests of the
+// logic use.
 
 #include "tests/support/files_on_disk.h"
 #include "tests/support/memory_files.h"
@@ -15,7 +16,7 @@ using tests::error_number;
 using tests::utf8;
 using Strings = std::vector<std::string>;
 
-/// Files of one kind, with a way to put a link there.
+/// One implementation of `Files`, with a way to make a link.
 struct Place {
     virtual ~Place() = default;
     virtual Files& files() = 0;

@@ -1,4 +1,5 @@
-// The box of saved texts in real folders, as other systems, other programs and bad luck leave them.
+// The box of saved texts in real folders, in the state in which other systems, other programs and mishaps
+// leave them.
 
 #include "core/message_box.h"
 

@@ -23,7 +23,7 @@ std::int32_t notify_11(std::int32_t, std::int32_t, std::int32_t, std::int32_t, s
     return 1;
 }
 
-/// The carrier's stand-in in the current directory, a folder of the test's own.
+/// The product's side of the library, with the stand-in's library in the current directory.
 class PosixCarrierLibraryTest : public tests::CarrierTest {
   protected:
     std::int32_t bind() {

@@ -276,9 +276,9 @@ TEST_F(PosixFilesTest, AKillAtAnyMomentLeavesTheOldFileOrTheNewOne) {
         tests::Pipe begun;
         tests::ChildProcess writer([&] {
             for (;;) {
-                begun.tell();
+                begun.signal();
                 files.write(u"zent.ini", new_file);
-                begun.tell();
+                begun.signal();
                 files.write(u"zent.ini", old_file);
             }
             return 0;

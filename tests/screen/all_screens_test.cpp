@@ -33,7 +33,7 @@ namespace {
 
 using platform::Form;
 
-/// The main window and whatever opens above it.
+/// The main window and all forms that it opens.
 struct System : tests::WindowsOnDoubles {
     compose::frmZent main{platform, state, {}};
 
@@ -78,7 +78,7 @@ QRect place_in(const QWidget& window, const QWidget& widget) {
 
 std::string name_of(const QWidget& widget) { return widget.objectName().toStdString(); }
 
-/// The room that a button's picture and text take, with the edge that the style draws around them.
+/// The width of a button's picture and text, with the edge that the style draws around them.
 int width_needed(const QAbstractButton& button) {
     if (qobject_cast<const QCheckBox*>(&button) || qobject_cast<const QRadioButton*>(&button))
         return button.sizeHint().width();
@@ -122,8 +122,8 @@ std::vector<QWidget*> tab_order(QWidget& window) {
     return order;
 }
 
-/// Tab goes down, or up to the head of the next column. A widget that the screen's order forgets comes before
-/// all others, which is a jump upwards for the one after it.
+/// Tab goes down, or up to the top of the next column. A widget missing from the screen's tab order comes
+/// before all others, so that the one after it seems to jump upwards.
 void expect_tab_order_of_a_reader(QWidget& window) {
     const auto order = tab_order(window);
     for (std::size_t i = 1; i < order.size(); ++i) {
@@ -140,7 +140,7 @@ void expect_good_screen(QWidget& window) {
     expect_tab_order_of_a_reader(window);
 }
 
-/// A misspelt picture would leave a blank place.
+/// A picture with a misspelt name would leave a blank.
 void expect_pictures(const QWidget& window) {
     const auto expect_picture = [](const QObject& object, const QIcon& icon) {
         EXPECT_TRUE(icon.isNull() || !icon.pixmap(16).isNull()) << object.objectName().toStdString();

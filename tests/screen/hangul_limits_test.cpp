@@ -1,4 +1,4 @@
-// The main window at the byte limit of its texts, while syllables are unfinished.
+// The main window's byte limits while a syllable is unfinished.
 
 #include "compose/main_form.h"
 #include "core/common.h"
@@ -27,12 +27,12 @@ using compose::MessageKind::plus;
 using compose::MessageKind::text;
 using platform::Text;
 
-/// What an input method does when the field ends a composition, or the focus goes where no text is.
+/// What an input method does when the field ends a composition, or when the focus leaves the text fields.
 enum class Manner {
     /// Nothing: it relies on the field.
     silent,
-    /// Commits what it has, though the field may have done so, and only then forgets it; and when it is told
-    /// to forget, it commits once more, to whoever has the focus by then.
+    /// Commits what it has, though the field may have done so already, and only then forgets it. When the
+    /// field resets it, it commits once more, into whichever field has the focus by then.
     commits_again,
 };
 
@@ -41,7 +41,7 @@ class InputMethod : public QObject {
     explicit InputMethod(Manner manner) : manner_(manner) { qApp->installEventFilter(this); }
 
     void compose(const QString& commit, const QString& unfinished) {
-        // A box that has just closed gives the focus back in a while.
+        // A box that has just closed returns the focus a little later.
         QCoreApplication::processEvents();
         unfinished_ = unfinished;
         send(commit, unfinished);
@@ -82,7 +82,7 @@ class InputMethod : public QObject {
     QEvent* own_ = nullptr;
 };
 
-/// The main window with one of its texts in the works.
+/// The main window while one of its texts is being written.
 struct Draft : WindowsOnDoubles {
     Draft(int kind, Manner manner) : method(manner), kind(kind) {
         state.gLoggedIn = true;
@@ -108,7 +108,7 @@ struct Draft : WindowsOnDoubles {
         field().set_caret_to_end();
     }
 
-    /// The steps of a syllable up to its end.
+    /// Types the steps of a syllable up to its end.
     void type_han() {
         leave_han_unfinished();
         method.compose("한", "");
@@ -134,7 +134,7 @@ struct Draft : WindowsOnDoubles {
     compose::frmZent form{hasty, state, {.send = [this] { send::Command1_Click(hasty, state, form); }}};
 };
 
-/// A line end counts two bytes, and there are none in the subject.
+/// Line ends, of two bytes each; the subject drops them.
 const Text LINES = [] {
     Text text;
     for (int i = 0; i < 35; ++i) text += platform::CRLF;
@@ -150,11 +150,11 @@ struct Case {
     /// The caret is at its end.
     Text before;
     std::function<void(Draft&)> act;
-    /// The boxes that open: Y and N for the question about a long text and its answer, ! for the warning.
+    /// The boxes that open: Y or N for the question about a long text with its answer, ! for the warning.
     std::string boxes;
     Text after;
     Text subject;
-    /// At the end when it is not told.
+    /// The end of the text if not given.
     std::optional<std::size_t> caret = {};
 };
 
@@ -170,7 +170,7 @@ class HangulLimits : public DeskTest {
                 c.act(draft);
                 settle();
                 check(draft, c);
-                // Nothing is left unfinished that another key would bring back.
+                // No unfinished syllable is left that another key would bring back.
                 draft.field().set_focus();
                 draft.key(Qt::Key_End, Qt::ControlModifier);
                 settle();
@@ -236,7 +236,7 @@ void han_and_the_next(Draft& draft) {
     draft.method.compose("한", "ㄱ");
 }
 
-/// In front of the letters, behind the line ends.
+/// Before the letters and after the line ends.
 void han_in_the_middle(Draft& draft) {
     draft.field().select(LINES.size(), 0);
     draft.type_han();
@@ -263,7 +263,8 @@ void click_subject(Draft& draft) {
     press("subjectText");
 }
 
-/// Too long to follow the text. One that follows may be left before or after the refusal, as desktops differ.
+/// Too long to follow the text. Whether a subject that follows is updated before or after the refusal differs
+/// between desktops.
 const Text OWN_SUBJECT = u"열다섯 글자보다 더 긴 제목";
 
 void click_subject_of_its_own(Draft& draft) {
@@ -409,7 +410,7 @@ TEST_F(HangulLimits, AnotherKindBeginsItsTextWhateverWasUnfinished) {
     }
 }
 
-/// Sends a text whose last syllable is unfinished.
+/// Sends a text with an unfinished last syllable.
 class HangulSending : public HangulLimits {
   protected:
     static void send(Draft& draft, bool by_key) {

@@ -10,7 +10,7 @@ namespace {
 
 using platform::Text;
 
-/// Typing into the message field, whose Change handler is written down.
+/// Types into the message field and records its Change events.
 class HangulTest : public ScreenTest {
   protected:
     void SetUp() override {
@@ -52,7 +52,7 @@ TEST_F(HangulTest, AfterACutTheNextSyllableStartsAnew) {
     };
     compose("가나다", "ㄹ");
     EXPECT_EQ(shown(), "가나");
-    // An input method that was told to start anew may still commit what it had.
+    // An input method that was reset may still commit what it had.
     compose("ㄹ", "");
     EXPECT_EQ(shown(), "가나");
     QTest::keyClick(&edit(), Qt::Key_Backspace);
@@ -137,7 +137,7 @@ TEST_F(HangulTest, SettingAnotherTextInMidCompositionEndsIt) {
     form.mText1.set_text(u"다른 글");
     compose("ㄴ", "");
     EXPECT_EQ(shown(), "다른 글");
-    // The same text again touches nothing.
+    // Setting the same text again changes nothing.
     compose("", "ㄷ");
     form.mText1.set_text(u"다른 글");
     compose("다", "");

@@ -23,7 +23,7 @@ class MessageBoxWindow : public ProgramTest {
         user.in_window("messageBox", [key](QWidget& window) { QTest::keyClick(window.focusWidget(), key); });
     }
 
-    /// Types behind what the body's field holds; a carriage return is the Enter key.
+    /// Types after the text of the body's field; a carriage return stands for the Enter key.
     static void type_behind(QWidget& window, const QString& text) {
         auto& field = *window.findChild<QWidget*>(QStringLiteral("txtText"));
         field.setFocus();
@@ -67,7 +67,7 @@ TEST_F(MessageBoxWindow, NamesACategoryWithASyllableThatIsUnfinishedWhenTheButto
         QTest::keyClick(&field, Qt::Key_Return);
     });
     in_box([](QWidget& window) {
-        // A field is no row to rename.
+        // F2 in a field renames no row.
         QTest::keyClick(window.findChild<QWidget*>(QStringLiteral("txtText")), Qt::Key_F2);
         list(window, "ListView1").setFocus();
         QTest::keyClick(window.focusWidget(), Qt::Key_F2);

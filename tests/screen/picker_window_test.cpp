@@ -19,7 +19,7 @@ namespace {
 using addressbook::frmSendMan;
 using platform::Text;
 
-/// The picker in its real window, over a card database of the test's.
+/// The picker in its real window, over the test's own card database.
 struct PickerWindow : DeskTest {
     Picking picking;
     machine::qt::Screens screens = machine::qt::program_screens();
@@ -32,7 +32,7 @@ struct PickerWindow : DeskTest {
         picking.found.assign(5, {.name = u"홍길동", .cellphone = u"010-1111-2222"});
     }
 
-    /// What the user does in the window until it closes.
+    /// Opens the window, lets the user do this in it, and closes it.
     void show(const std::function<void()>& act, const Text& kind = u"문자메시지") {
         QTimer look;
         QObject::connect(&look, &QTimer::timeout, [&] {

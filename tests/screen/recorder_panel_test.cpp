@@ -1,4 +1,4 @@
-// The recorder on its panel of the main window, by keys and for a screen reader.
+// The recorder's panel in the main window, used with keys and a screen reader.
 
 #include "compose/main_form.h"
 #include "tests/screen/screen_fixture.h"
@@ -25,7 +25,7 @@ struct RecorderPanel : tests::DeskTest, tests::WindowsOnDoubles {
         settle();
     }
 
-    /// Until the panel has been painted, and what follows that has happened.
+    /// Waits until the panel has been painted and the event loop is idle.
     static void paint() {
         ASSERT_TRUE(QTest::qWaitFor([] { return message() != ""; }));
     }

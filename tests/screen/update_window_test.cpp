@@ -1,4 +1,4 @@
-// The check for an update in an installation that lacks the network's module.
+// The check for an update in an installation without the network's module.
 
 #include "tests/screen/program_fixture.h"
 #include "tests/support/http_server.h"

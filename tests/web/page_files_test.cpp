@@ -1,4 +1,4 @@
-// What the user takes out of a page by a click, and the links that ask for another window.
+// Files that the user saves from a page with a click, and links that ask for another window.
 
 #include "tests/support/files_on_disk.h"
 #include "tests/web/web_fixture.h"
@@ -56,7 +56,7 @@ struct PageFiles : testing::Test {
     bool says(const char* words) const {
         return comes([&] { return said().find(words) != std::string::npos; });
     }
-    /// Whether everything that was on its way from the page has arrived.
+    /// Whether everything that was on its way from the page has arrived by now.
     bool settled() {
         server.serve("/settled", "");
         const auto before = server.requests_of("/settled");

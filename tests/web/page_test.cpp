@@ -1,4 +1,4 @@
-// A page of the service in its form: what is sent, what is seen, and the way out.
+// A page of the service in its form: what is sent, what the user sees, and how the form closes.
 
 #include "platform/text/cp949.h"
 #include "tests/web/web_fixture.h"
@@ -42,7 +42,7 @@ TEST(Page, GetsThePostedBytesAndNothingElseOfTheUser) {
 
 TEST(Page, WithoutABodyIsOnlyAskedFor) {
     PageServer server;
-    // As pages of that time are: no word of their code page.
+    // Like older pages, it does not declare its code page.
     server.serve("/find", "<p>" + QByteArray::fromStdString(platform::encode_cp949(u"아이디 찾기")),
                  "Content-Type: text/html\r\n");
     WebForm web;
