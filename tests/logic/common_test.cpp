@@ -69,7 +69,7 @@ TEST(Numbers, OnlyTheDigitsStayUnlessTheyMakeZero) {
     for (const auto& row : rows) EXPECT_EQ(utf8(DIGITS_ONLY(row.typed)), utf8(row.digits));
 }
 
-TEST(Texts, ATextOutOfAPaddedBufferLosesItsPaddingAndKeepsWhatStandsInside) {
+TEST(Texts, ATextFromAPaddedBufferLosesOnlyItsPadding) {
     const struct {
         Text buffer;
         const char* clean;
@@ -81,7 +81,7 @@ TEST(Texts, ATextOutOfAPaddedBufferLosesItsPaddingAndKeepsWhatStandsInside) {
     for (const auto& row : rows) EXPECT_EQ(utf8(CLEAN_FIXED_TEXT(row.buffer)), row.clean);
 }
 
-TEST(FieldValue, IsTheTextOfAFieldTrimmedOnTheRightForTypes10And12Alone) {
+TEST(FieldValue, IsTheTextOfAFieldTrimmedOnTheRightOnlyForTypes10And12) {
     const struct {
         platform::CardField field;
         const char16_t* value;
@@ -98,7 +98,7 @@ TEST(FieldValue, IsTheTextOfAFieldTrimmedOnTheRightForTypes10And12Alone) {
 
 struct Paths : testing::Test, tests::TestPlatform {};
 
-TEST_F(Paths, TheParentIsWhatStandsBeforeTheLastNameWithItsBackslash) {
+TEST_F(Paths, TheParentIsThePathBeforeTheLastNameWithItsBackslash) {
     const struct {
         const char16_t* path;
         const char *parent, *name;
@@ -143,7 +143,7 @@ TEST_F(Paths, AnErrorOfTheDiskMeansThatTheFileIsNotThere) {
     EXPECT_FALSE(FILE_EXISTS(machine, u"a<b"));
 }
 
-TEST_F(Paths, AFileThatTheUserTypedOpensOrIsNamedInABox) {
+TEST_F(Paths, ATypedFileOpensOrIsNamedInABox) {
     files.files[u"c:\\a.wav"] = "x";
     SHELL_OPEN(platform, u"c:\\missing.wav");
     SHELL_OPEN_CHECKED(platform, u"");
@@ -161,7 +161,7 @@ struct Columns : testing::Test, tests::TestPlatform {
     ListView list{window, u"list", {{u"선택", {}}, {u"Name", {}}, {u"번호", {}}}};
 };
 
-TEST_F(Columns, EveryClickTurnsTheOrderRoundAndMovesTheArrow) {
+TEST_F(Columns, EveryClickReversesTheOrderAndMovesTheArrow) {
     for (const char16_t* number : {u"2", u"1", u"3"}) list.add_row(u"", {u"같은이름", number});
     const struct {
         int column;

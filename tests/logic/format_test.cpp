@@ -34,7 +34,7 @@ Text format_as(const std::string& kind, const Text& input, const Text& pattern) 
     return format_number(leading_number(input), pattern);
 }
 
-TEST(Format, GivesWhatThePlatformsFormatterGave) {
+TEST(Format, AgreesWithTheRecordedFormatter) {
     int rows = 0;
     for (const auto& row : tests::read_tsv("format.tsv")) {
         const auto field = [&](std::size_t i) { return row[i] == "\"\"" ? Text() : from_utf8(row[i]); };
@@ -47,7 +47,7 @@ TEST(Format, GivesWhatThePlatformsFormatterGave) {
     EXPECT_GT(rows, 300);
 }
 
-TEST(Format, AShortServiceNumberLeavesPlacesEmpty) {
+TEST(Format, AShortServiceNumberLeavesItsPlacesEmpty) {
     const struct {
         TextView value, layout;
     } rows[] = {{u"5", u"0000--5"},
@@ -61,7 +61,7 @@ TEST(Format, AShortServiceNumberLeavesPlacesEmpty) {
     for (const auto& row : rows) EXPECT_EQ(format_service_number(row.value), row.layout);
 }
 
-TEST(Format, NumbersThatAreNoneOrRoundAwayShowAsZero) {
+TEST(Format, TextsThatAreNoNumberAndNumbersThatRoundToNothingShowAsZero) {
     EXPECT_EQ(format_number(-0.4, u"#,##0"), u"0");
     EXPECT_EQ(format_number(std::numeric_limits<double>::quiet_NaN(), u"#,##0"), u"0");
     EXPECT_EQ(format_number(9.5, u"00"), u"10");
@@ -69,7 +69,7 @@ TEST(Format, NumbersThatAreNoneOrRoundAwayShowAsZero) {
     EXPECT_EQ(format_number_text(u"1e999", u"0"), u"1e999");
 }
 
-TEST(Format, ADifferenceShowsAsTheClockTimeOfItsPartOfADay) {
+TEST(Format, AnElapsedTimeShowsAsAClockTimeWithoutItsWholeDays) {
     const LocalTime start = make_time(2008, 7, 5, 23, 59, 58);
     const struct {
         LocalTime end;

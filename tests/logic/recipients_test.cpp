@@ -49,7 +49,7 @@ using Checking = Recipients;
 using Sorting = Recipients;
 using Picking = Recipients;
 
-TEST_F(Typed, ANumberIsJudgedByTheKindAfterTheSearchForDuplicates) {
+TEST_F(Typed, ANumberIsSearchedForAsADuplicateBeforeTheKindChecksIt) {
     const struct {
         compose::MessageKind kind;
         const char16_t *name, *number;
@@ -105,7 +105,7 @@ TEST_F(Typed, ANumberIsJudgedByTheKindAfterTheSearchForDuplicates) {
     }
 }
 
-TEST_F(Typed, EnterGoesFromTheNameToTheNumberAndThenAdds) {
+TEST_F(Typed, EnterMovesFromTheNameToTheNumberAndThenAdds) {
     form.recipients.HText1[0].set_focus();
     tests::press(form.recipients.HText1[0], u'김');
     tests::press(form.recipients.HText1[0], u'\r');
@@ -117,7 +117,7 @@ TEST_F(Typed, EnterGoesFromTheNameToTheNumberAndThenAdds) {
     EXPECT_TRUE(form.recipients.HText1[0].has_focus());
 }
 
-TEST_F(Deleting, TakesTheSelectedRowsWhenTheUserSaysYes) {
+TEST_F(Deleting, RemovesTheSelectedRowsAfterAYes) {
     platform::KeyPressed other_key{65};
     platform::KeyPressed delete_key{platform::KEY_DELETE};
     const std::vector<std::function<void()>> ways = {
@@ -205,7 +205,7 @@ TEST_F(Sorting, AClickOnTheColumnOfTheCheckBoxesSortsByTheName) {
     EXPECT_EQ(form.recipients.ListView1.sort_key(), 1);
 }
 
-TEST_F(Picking, CountsAgainWhenRowsCameOrTheDialogWasConfirmed) {
+TEST_F(Picking, CountsAgainAfterNewRowsOrAConfirmedDialog) {
     bool adds = false, confirms = false;
     pick_recipients = [&] {
         if (adds) add(u"가", u"010");

@@ -48,7 +48,7 @@ TEST_F(Schedule, AddingMinutesCarriesOneHourAndOneDayAndNoMore) {
     }
 }
 
-TEST_F(Schedule, AScheduledMessageBeginsAtTheSavedLeadWithTwoMinutesMargin) {
+TEST_F(Schedule, AScheduleStartsAtTheSavedLeadPlusTwoMinutes) {
     const struct {
         const char16_t* lead;
         int hour, minute;
@@ -87,7 +87,7 @@ TEST_F(Schedule, TheTwoOptionsExcludeEachOtherAndOnlyAScheduleCanBeChanged) {
     }
 }
 
-TEST_F(Schedule, TheHiddenShortcutsKnowTheirMinutesAndActOnlyWhenShown) {
+TEST_F(Schedule, TheHiddenShortcutsActOnlyWhenShown) {
     const char* const shown_after[] = {"11/23 10:01", "11/23 10:02", "11/23 10:03",
                                        "11/23 10:04", "11/23 10:05", "11/23 10:10",
                                        "11/23 10:20", "11/23 10:30", "11/23 11:00"};
@@ -104,14 +104,14 @@ TEST_F(Schedule, TheHiddenShortcutsKnowTheirMinutesAndActOnlyWhenShown) {
     }
 }
 
-TEST_F(Schedule, TheNumberOfAnswersCanBeChosenWhileAnswersAreTaken) {
+TEST_F(Schedule, TheNumberOfRepliesCanBeChosenOnlyWhileRepliesAreOn) {
     for (const bool on : {true, false}) {
         form.reply.Check2.set_checked(on);
         EXPECT_EQ(form.reply.Combo4.enabled(), on);
     }
 }
 
-TEST_F(Schedule, TheLeadIsChosenByRowAndKeptWithItsMinutes) {
+TEST_F(Schedule, TheLeadIsChosenByRowAndSavedInMinutes) {
     const struct {
         const char16_t* saved;
         int row;

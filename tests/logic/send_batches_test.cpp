@@ -15,7 +15,7 @@ Text batch_of(const Registration& r) {
            r.s_dest_addr.substr(0, r.s_dest_addr.find(u':'));
 }
 
-TEST(SendBatches, GoByAHundredUnderNumberedSubjects) {
+TEST(SendBatches, HoldAHundredRecipientsUnderNumberedSubjects) {
     Sending s;
     s.add_many(250);
     s.send();
@@ -34,7 +34,7 @@ TEST(SendBatches, GoByAHundredUnderNumberedSubjects) {
     EXPECT_EQ(one_batch.registered(batch_of), Lines{"인사 100 a1"}) << "a single batch has the plain subject";
 }
 
-TEST(SendBatches, TokensAreNameAndDigitsWithoutTheCharactersThatPartThem) {
+TEST(SendBatches, AddressesAreNameAndDigitsWithoutTheirSeparators) {
     Sending s;
     s.add(u" 김:철수 ", u"010-1111-2222");
     s.add(u"", u"(010) 2222 3333");
@@ -80,7 +80,7 @@ TEST(SendBatches, CloseAtTheByteLimitOfTheAddresses) {
     EXPECT_EQ(hangul.carrier.registrations.size(), 2u);
 }
 
-TEST(SendBatches, AFirstTokenOfExactlyTheLimitReachesBackOverRowsThatFailed) {
+TEST(SendBatches, AFirstAddressOfExactlyTheLimitAlsoMarksEarlierFailedRows) {
     Sending s;
     s.add(u"a", u"01011112222");
     s.add(name_of(2048), u"01011112222");
@@ -100,7 +100,7 @@ TEST(SendBatches, ARecipientTooLongForAnyBatchIsLeftOut) {
     EXPECT_EQ(s.marks(), "x-");
 }
 
-TEST(SendBatches, GatheredRowsGoOutWhenTheLastRowIsNotToBeSentTo) {
+TEST(SendBatches, AnOpenBatchIsSubmittedWhenTheLastRowsAreLeftOut) {
     Sending s;
     s.add_many(2);
     s.add(u"c", u"01011112222", false);
@@ -110,7 +110,7 @@ TEST(SendBatches, GatheredRowsGoOutWhenTheLastRowIsNotToBeSentTo) {
     EXPECT_EQ(s.status(2), "");
 }
 
-TEST(SendBatches, ARefusedBatchStaysCheckedAndIsAllThatTheNextSendTries) {
+TEST(SendBatches, ARefusedBatchStaysCheckedAndOnlyItIsSentAgain) {
     Sending s;
     s.add_many(250);
     s.carrier.results[{"submit", 2}] = 5;
@@ -126,7 +126,7 @@ TEST(SendBatches, ARefusedBatchStaysCheckedAndIsAllThatTheNextSendTries) {
     EXPECT_EQ(s.marks(), std::string(250, '-'));
 }
 
-TEST(SendBatches, AnImmediateJobKeepsTheMinuteOfItsStartInEveryBatch) {
+TEST(SendBatches, EveryBatchOfAnImmediateJobHasTheMinuteOfItsStart) {
     Sending s;
     s.clock.set(make_time(2026, 12, 31, 23, 59, 58));
     s.add_many(300);
@@ -144,7 +144,7 @@ Text arguments(const Registration& r) {
            r.s_schedule_time;
 }
 
-TEST(SendKinds, GiveTheCarrierTheirCodesAndTheirFieldsAlone) {
+TEST(SendKinds, GiveTheCarrierTheirCodesAndOnlyTheirFields) {
     const struct {
         int tab, source;
         const char* arguments;
@@ -186,7 +186,7 @@ TEST(SendKinds, GiveTheCarrierTheirCodesAndTheirFieldsAlone) {
     }
 }
 
-TEST(SendKinds, ATextThatIsNoKindIsNotSubmittedAndItsRowsFail) {
+TEST(SendKinds, ForAnUnknownKindNothingIsSubmittedAndTheRowsFail) {
     Sending s;
     s.add_many(2);
     s.expect_report();

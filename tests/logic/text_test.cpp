@@ -9,20 +9,20 @@ namespace {
 
 using namespace platform;
 
-TEST(Text, TrimmingTakesBlanksAndNothingElse) {
+TEST(Text, TrimmingRemovesOnlyBlanks) {
     EXPECT_EQ(trim(u"  가 나  "), u"가 나");
     EXPECT_EQ(trim(u" \t가\t "), u"\t가\t") << "tabs are content";
     EXPECT_EQ(trim(u"\u3000가\u3000"), u"\u3000가\u3000") << "wide blanks are content";
     EXPECT_EQ(right_trim(u"  가  "), u"  가");
 }
 
-TEST(Text, ReplacingGoesOnBehindWhatItPutIn) {
+TEST(Text, ReplacingContinuesAfterTheReplacement) {
     EXPECT_EQ(replace_all(u"{이름}님 {이름}", u"{이름}", u"홍{이름}"), u"홍{이름}님 홍{이름}");
     EXPECT_EQ(replace_all(u"aaa", u"aa", u"b"), u"ba");
     EXPECT_EQ(replace_all(u"abc", u"", u"x"), u"abc");
 }
 
-TEST(Text, CaseIsFoldedForAsciiLettersAlone) {
+TEST(Text, CaseIsIgnoredOnlyForAsciiLetters) {
     EXPECT_EQ(lower_case(u"AZ[ÀÉ가"), u"az[ÀÉ가");
     EXPECT_TRUE(equal_without_case(u"ZentUserPhoneID", u"ZENTUserPhoneID"));
     EXPECT_FALSE(equal_without_case(u"a", u"ab"));

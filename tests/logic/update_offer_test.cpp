@@ -42,7 +42,7 @@ struct Offer : tests::Updates {
 
 struct UpdateOffer : testing::Test, Offer {};
 
-TEST_F(UpdateOffer, NothingDueIsSaidAndPollingGoesOn) {
+TEST_F(UpdateOffer, NothingDueIsShownAndPollingContinues) {
     internet.while_waiting = [&] { EXPECT_FALSE(form.Timer1.enabled()) << "no hand-over during the check"; };
     desktop.expect_box(UP_TO_DATE);
     check_from_menu();
@@ -51,7 +51,7 @@ TEST_F(UpdateOffer, NothingDueIsSaidAndPollingGoesOn) {
     EXPECT_EQ(desktop.forms, Forms{u"frmUpdate"});
 }
 
-TEST_F(UpdateOffer, AServerThatIsNotReachedIsNamedOnlyByTheOtherFile) {
+TEST_F(UpdateOffer, AnUnreachableServerIsNamedOnlyFromTheOtherFile) {
     internet.answers.clear();
     desktop.expect_box(NOT_REACHED);
     check_from_menu();
@@ -65,7 +65,7 @@ TEST_F(UpdateOffer, AServerThatIsNotReachedIsNamedOnlyByTheOtherFile) {
     EXPECT_TRUE(form.Timer1.enabled());
 }
 
-TEST_F(UpdateOffer, ACheckThatTheUserGaveUpSaysNothing) {
+TEST_F(UpdateOffer, ACheckThatTheUserCancelsShowsNothing) {
     internet.while_waiting = [&] { desktop.forms.clear(); };
     desktop.in_form(u"frmUpdate", [](Form& check) { check.escape_pressed(); });
     check_from_menu();
@@ -73,7 +73,7 @@ TEST_F(UpdateOffer, ACheckThatTheUserGaveUpSaysNothing) {
     EXPECT_TRUE(form.Timer1.enabled());
 }
 
-TEST_F(UpdateOffer, ARefusalTakesTheNoteAwayAndPollingStaysOff) {
+TEST_F(UpdateOffer, ANoRemovesTheNoteAndPollingStaysOff) {
     const std::function<void(frmUpdateStart&)> refusals[] = {
         [](frmUpdateStart& start) { start.Command2.Click.raise(); },
         [](frmUpdateStart& start) { start.close_requested(); },
@@ -119,7 +119,7 @@ TEST_F(UpdateOffer, WithoutAnInstallerTheUserReadsThatAllIsUpToDateAndTheNoteSta
     }
 }
 
-TEST_F(UpdateOffer, ANoteThatCannotBeWrittenDoesNotKeepTheUpdateFromGoingOn) {
+TEST_F(UpdateOffer, TheUpdateContinuesWhenTheNoteCannotBeWritten) {
     files.failure = ErrorNumber::permission_denied;
     state.gDialogConfirmed = false;
     frmUpdateStart start(platform, state);
@@ -166,7 +166,7 @@ TEST_F(UpdateAtStart, NeedsTheLocalFacts) {
     EXPECT_EQ(desktop.forms, (Forms{u"frmZent", u"frmZentLogin"}));
 }
 
-TEST(UpdateStart, SaysNothingWhenAllIsUpToDateOrTheUserRefuses) {
+TEST(UpdateStart, ShowsNothingWhenAllIsUpToDateOrTheUserRefuses) {
     for (const bool due : {false, true}) {
         Start window;
         if (due) {
@@ -180,7 +180,7 @@ TEST(UpdateStart, SaysNothingWhenAllIsUpToDateOrTheUserRefuses) {
     }
 }
 
-TEST_F(UpdateAtStart, AServerThatIsNotReachedIsToldTwiceAndTheUserLogsInByHand) {
+TEST_F(UpdateAtStart, AnUnreachableServerIsShownTwiceAndTheUserLogsInByHand) {
     internet.answers.clear();
     save_setting(u"LOGIN", u"AUTOLOGIN", u"1");
     save_login(u"LOGINID", u"hong");
@@ -195,7 +195,7 @@ TEST_F(UpdateAtStart, AServerThatIsNotReachedIsToldTwiceAndTheUserLogsInByHand) 
     EXPECT_TRUE(form.Timer1.enabled());
 }
 
-TEST_F(UpdateAtStart, AYesHandsOverToTheInstaller) {
+TEST_F(UpdateAtStart, AYesStartsTheInstaller) {
     offer_update("ums");
     files.files[INSTALLER] = "program";
     user_presses(&frmUpdateStart::Command1);

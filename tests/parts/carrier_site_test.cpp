@@ -142,7 +142,7 @@ class CarrierSite : public tests::CarrierTest {
     }
 };
 
-TEST_F(CarrierSite, ReadsAPostOfRawBytesAndNothingElse) {
+TEST_F(CarrierSite, ReadsOnlyAPostOfRawBytes) {
     const std::string long_id(300, 'a');
     const struct {
         std::string body;
@@ -170,7 +170,7 @@ TEST_F(CarrierSite, ReadsAPostOfRawBytesAndNothingElse) {
     }
 }
 
-TEST_F(CarrierSite, KnowsASubscriberByHisPostInCp949AndByItsOwnLinks) {
+TEST_F(CarrierSite, KnowsASubscriberFromAPostInCp949AndFromItsOwnLinks) {
     const Site site;
     const std::string hong = "code=1&userid=\xC8\xAB\xB1\xE6\xB5\xBF&domain=d";
     const httplib::Response page = site.post("/inbox", hong);
@@ -241,7 +241,7 @@ TEST_F(CarrierSite, FiltersByDayAndStateAndKeepsTheFilterOnTheNextPage) {
     EXPECT_EQ(subjects(site.get(list + "&day=2026-02-01").body), "");
 }
 
-TEST_F(CarrierSite, ShowsWhatAnybodyWroteAsTextAndNeverAsMarkup) {
+TEST_F(CarrierSite, ShowsMessagesAsTextAndNeverAsMarkup) {
     enter({{.time = "2026-01-05 10:00:00",
             .subject = "</a><script>alert(1)</script>",
             .content = "\" onclick='x' & <b>\x01\xED\x95\x9C"}});
@@ -260,7 +260,7 @@ TEST_F(CarrierSite, ShowsWhatAnybodyWroteAsTextAndNeverAsMarkup) {
     EXPECT_TRUE(holds(site.get("/%3Cb%3E/htm/register/default.jsp?code=1").body, "<td>&lt;b&gt;</td>"));
 }
 
-TEST_F(CarrierSite, TellsNobodyAPasswordAndNobodyAnothersRegistrations) {
+TEST_F(CarrierSite, ShowsNoPasswordsAndNoRegistrationsOfOthers) {
     enter({{.time = "2026-01-05 10:00:00", .subject = "secret", .user = "홍길동"}});
     const Site site;
     for (const char* target : {"/result", "/result/one", "/money", "/memedit", "/inbox", "/", "/company",
@@ -272,7 +272,7 @@ TEST_F(CarrierSite, TellsNobodyAPasswordAndNobodyAnothersRegistrations) {
     EXPECT_EQ(site.get(std::string("/result/one") + demo + "&id=1").status, 404);
 }
 
-TEST_F(CarrierSite, AnswersHostileRequestsAndGoesOn) {
+TEST_F(CarrierSite, AnswersHostileRequestsAndContinues) {
     const Site site;
     const std::string head = "POST /result HTTP/1.1\r\nHost: h\r\n";
     const struct {
@@ -305,7 +305,7 @@ TEST_F(CarrierSite, AnswersHostileRequestsAndGoesOn) {
     }
 }
 
-TEST_F(CarrierSite, TellsItsPortAndEndsWhenItIsToldTo) {
+TEST_F(CarrierSite, WritesItsPortAndEndsOnASignal) {
     Site site;
     site.get("/");
     int port = 0;

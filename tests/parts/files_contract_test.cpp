@@ -65,7 +65,7 @@ class FilesContract : public testing::TestWithParam<Kind> {
     Files& files = place->files();
 };
 
-TEST_P(FilesContract, NamesMatchInAnyCaseAndKeepTheirFirst) {
+TEST_P(FilesContract, NamesMatchInAnyCaseAndKeepTheirFirstSpelling) {
     files.make_folder(in(u"Box"));
     files.write(in(u"box\\알림A.TXT"), "first");
     EXPECT_EQ(files.read(in(u"BOX\\\\알림a.txt")), "first");
@@ -106,7 +106,7 @@ TEST_P(FilesContract, AFileExistsByItsNameOrAPattern) {
     EXPECT_FALSE(files.file_exists(u"d:\\a.txt"));
 }
 
-TEST_P(FilesContract, AFolderIsListedInOrderWithoutWhatLeadsElsewhere) {
+TEST_P(FilesContract, AFolderIsListedInOrderAndWithoutLinks) {
     files.make_folder(in(u"box"));
     for (const char16_t* name : {u"b.TXT", u"A.txt", u"가.txt", u"d.txtx"})
         files.write(in(u"box\\") + name, "");

@@ -41,7 +41,7 @@ TEST(JetCardSource, OpensWithTheFilesPasswordOnlyAndAFileWithoutOneWithAny) {
     }
 }
 
-TEST(JetCardSource, RefusesWhatIsNoSoundFile) {
+TEST(JetCardSource, RefusesAMissingOrDamagedFile) {
     CardsOnDisk disk;
     EXPECT_EQ(disk.error(), UNUSABLE) << "missing";
     ASSERT_EQ(::mkfifo(disk.database.c_str(), 0600), 0);
@@ -142,7 +142,7 @@ TEST(JetCardSource, ReadsOnceUntilTheFileChanges) {
     EXPECT_EQ(rows_of(*before, u"tbl_namecard"), 150) << "an open connection keeps its contents";
 }
 
-TEST(JetCardSource, ReadsAFileAgainThatWasChangedAMomentAgo) {
+TEST(JetCardSource, ReadsAFileAgainIfItChangedAMomentAgo) {
     CardsOnDisk disk;
     // Files of the same length and date, and a date in the future.
     const auto date = std::filesystem::file_time_type::clock::now() + std::chrono::hours(1);
@@ -165,7 +165,7 @@ TEST(JetCardSource, NeverChangesTheFile) {
     EXPECT_EQ(tests::names_in(disk.folder.path()), (std::set<std::string>{"CardvaleDB.vdb", "card-reader"}));
 }
 
-TEST(JetCardSource, SurvivesAReaderThatAnythingHappensTo) {
+TEST(JetCardSource, SurvivesAnyEndOfTheReader) {
     CardsOnDisk disk;
     disk.put("demo");
     for (
@@ -184,7 +184,7 @@ TEST(JetCardSource, SurvivesAReaderThatAnythingHappensTo) {
     EXPECT_EQ(disk.error(), UNUSABLE) << "no reader";
 }
 
-TEST(JetCardSource, WaitsForAReaderThatHangsNoLongerThanAllowedAndKeepsTheWindowAlive) {
+TEST(JetCardSource, KeepsPaintingWhileAReaderHangsAndGivesItUpInTime) {
     tests::TemporaryFolder folder;
     int beats = 0;
     machine::jet::JetCardSource source(

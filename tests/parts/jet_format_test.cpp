@@ -62,7 +62,7 @@ TEST(LikePattern, KnowsWildCardsAndSetsAndNoCase) {
         EXPECT_FALSE(LikePattern::parse(broken)) << utf8(broken);
 }
 
-TEST(Statement, BecomesOneThatSqliteUnderstands) {
+TEST(Statement, IsTranslatedForSqlite) {
     const struct {
         const char16_t *sent, *run;
     } rows[] = {
@@ -84,7 +84,7 @@ TEST(Statement, BecomesOneThatSqliteUnderstands) {
     }
 }
 
-TEST(JetText, IsUtf16OrRunsOfSingleBytesBehindAMark) {
+TEST(JetText, IsUtf16OrCompressedAfterAMark) {
     const struct {
         std::string_view bytes;
         const char16_t* text;
@@ -102,7 +102,7 @@ TEST(JetText, IsUtf16OrRunsOfSingleBytesBehindAMark) {
         EXPECT_FALSE(decode_jet_text(broken));
 }
 
-TEST(ConnectionString, NamesAFileAndAPassword) {
+TEST(ConnectionString, HoldsAFileAndAPassword) {
     const auto parsed = ConnectionString::parse(
         u"provider=x;Data Source=z:\\앱\\a b.vdb;jet oledb:database password=p=1;User ID=admin;;");
     EXPECT_EQ(utf8(parsed.data_source), "z:\\앱\\a b.vdb");
@@ -140,22 +140,22 @@ std::string sample_stream() {
     return stream;
 }
 
-TEST(CardStream, ComesWholeInAnyPiecesOrCountsAsNone) {
+TEST(CardStream, IsWholeInAnyPiecesOrDiscarded) {
     const std::string stream = sample_stream();
     for (const std::size_t piece : {std::size_t{1}, std::size_t{7}, stream.size()}) {
-        const Parsed taken = parse(stream, piece);
+        const Parsed result = parse(stream, piece);
         EXPECT_EQ(result.text, "F10'전체'F-71''C-72147483647'김\t수'");
         EXPECT_TRUE(result.complete);
     }
     for (std::size_t end = 0; end < stream.size(); ++end) {
-        const Parsed taken = parse(stream.substr(0, end), 16);
+        const Parsed result = parse(stream.substr(0, end), 16);
         EXPECT_TRUE(result.good) << end;
         EXPECT_FALSE(result.complete) << end;
     }
     EXPECT_FALSE(parse(stream + "x", 16).good) << "something behind the end";
 }
 
-TEST(CardStream, IsBrokenWhereItDoesNotSayWhatItShould) {
+TEST(CardStream, IsRefusedAtItsFirstFault) {
     const std::string stream = sample_stream();
     std::string wrong_count = stream_start();
     append_row(wrong_count, Table::folder, {1, 0, TextView(u"전체")});

@@ -37,7 +37,7 @@ class MessageBoxOnDisk : public testing::Test, protected tests::FilesOnDisk {
     const fs::path first = root / "내모음함";
 };
 
-TEST_F(MessageBoxOnDisk, NamesWithSpelledOutSyllablesListOpenAndAreFoundByTyping) {
+TEST_F(MessageBoxOnDisk, NamesInConjoiningLettersAreListedOpenedAndFoundByTyping) {
     const std::string apart = platform::to_utf8(platform::decompose_hangul(u"각서"));
     fs::create_directory(root / apart);
     put(root / apart / (apart + ".txt"), "\xB0\xA1");
@@ -88,7 +88,7 @@ TEST_F(MessageBoxOnDisk, NoPathLeavesTheBox) {
     EXPECT_EQ(bytes_of(folder.path() / "outside/남.txt"), "theirs");
 }
 
-TEST_F(MessageBoxOnDisk, AMessageWithoutPermissionIsToldAndHidesNoOther) {
+TEST_F(MessageBoxOnDisk, AMessageWithoutPermissionIsReportedAndHidesNoOther) {
     put(first / "가.txt", "1");
     put(first / "나.txt", "2");
     fs::create_directory(root / "잠김");

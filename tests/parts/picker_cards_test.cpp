@@ -147,7 +147,7 @@ TEST_F(PickerCards, ASearchFindsNamesAndCompaniesOutsideTheTrashInEveryMode) {
     }
 }
 
-TEST_F(PickerCards, ADamagedDatabaseIsToldAndShowsNoPartOfItsCards) {
+TEST_F(PickerCards, ADamagedDatabaseIsReportedAndShowsNoneOfItsCards) {
     disk.put_bytes("no database");
     desktop.expect_box(u"오류번호:");
     desktop.expect_box(u"오류번호:");

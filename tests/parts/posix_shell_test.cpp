@@ -55,7 +55,7 @@ struct Opener {
     PosixShell shell{Paths(folder.path()), program};
 };
 
-TEST(PosixShell, OpeningHandsThePathOverAsOneArgumentAndLeavesNoDeadProcess) {
+TEST(PosixShell, OpeningPassesThePathAsOneArgumentAndLeavesNoDeadProcess) {
     Opener opener;
     opener.shell.open(u"c:\\temp\\$(touch 나쁜) \"파일\".wav");
     const std::string path = opener.folder.path() / "drive_c/temp/$(touch 나쁜) \"파일\".wav";
@@ -86,7 +86,7 @@ TEST(PosixShell, OnlyPagesReachTheBrowser) {
     }
 }
 
-TEST(PosixShell, AProgramIsStartedByItsNameAndItsPermission) {
+TEST(PosixShell, AProgramIsStartedIfItsNameAndItsPermissionAllowIt) {
     const tests::TemporaryFolder folder;
     const fs::path answer = folder.path() / "answer";
     ::mkfifo(answer.c_str(), 0600);
@@ -120,7 +120,7 @@ TEST(PosixShell, TheProcessEndsAtOnce) {
     EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 
-TEST(PosixShell, WhatCannotBeOpenedIsSilent) {
+TEST(PosixShell, AFailureToOpenIsSilent) {
     const tests::TemporaryFolder folder;
     PosixShell shell(Paths(folder.path()), folder.path() / "no opener");
     shell.open(u"a.txt");

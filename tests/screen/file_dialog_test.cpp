@@ -92,7 +92,7 @@ TEST_F(FileDialogs, ShowTheFilesOfTheFilterAndTheNameThatWasChosenBefore) {
         in_documents + "소리.WAV");
 }
 
-TEST_F(FileDialogs, SpeakKorean) {
+TEST_F(FileDialogs, AreInKorean) {
     machine::qt::KoreanTranslator korean;
     QApplication::installTranslator(&korean);
     for (const FileQuestion* question : {&open, &save}) {

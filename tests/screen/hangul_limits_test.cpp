@@ -272,7 +272,7 @@ void click_subject_of_its_own(Draft& draft) {
     click_subject(draft);
 }
 
-TEST_F(HangulLimits, ATextMessageAsksOnceAndNeitherLosesNorDoublesASyllable) {
+TEST_F(HangulLimits, ATextMessageAsksOnceAndLosesAndDoublesNoSyllable) {
     play(compose::MessageKind::text,
          {
              {"to exactly 80", AT_78, han, "", AT_78 + u"한", u"가나다라한"},
@@ -296,7 +296,7 @@ TEST_F(HangulLimits, ATextMessageAsksOnceAndNeitherLosesNorDoublesASyllable) {
          });
 }
 
-TEST_F(HangulLimits, BackspaceInALongTextTakesLettersAndSyllablesWithoutAWord) {
+TEST_F(HangulLimits, BackspaceInALongTextRemovesLettersAndSyllablesWithoutABox) {
     play(compose::MessageKind::text, {{"above the limit", AT_79,
                                        [](Draft& draft) {
                                            for (const char* syllable : {"한", "글"})
@@ -376,7 +376,7 @@ TEST_F(HangulLimits, TheRestOfAShortcutDoesNotAnswerTheQuestion) {
     play(compose::MessageKind::text, {{"no", AT_79, hold_ctrl, "N!", AT_79, u"가나다라a"}});
 }
 
-TEST_F(HangulLimits, AnotherKindBeginsItsTextWhateverWasUnfinished) {
+TEST_F(HangulLimits, AnotherKindBeginsItsTextWithoutTheUnfinishedSyllable) {
     for (const Manner manner : {Manner::silent, Manner::commits_again}) {
         for (const std::string boxes : {"Y", "N!"}) {
             SCOPED_TRACE(boxes);
@@ -439,7 +439,7 @@ class HangulSending : public HangulLimits {
     }
 };
 
-TEST_F(HangulSending, WhatGoesIsTheTextWithTheSyllable) {
+TEST_F(HangulSending, SendsTheTextWithTheUnfinishedSyllable) {
     struct Sent {
         int kind;
         Text before;

@@ -29,7 +29,7 @@ class HangulTest : public ScreenTest {
     std::function<void()> on_change = [] {};
 };
 
-TEST_F(HangulTest, OnlyCommittedSyllablesAreTextAndEachIsOneChange) {
+TEST_F(HangulTest, OnlyCommittedSyllablesAreTextAndEachRaisesOneChange) {
     compose("", "ㅎ");
     compose("", "하");
     compose("", "한");
@@ -61,7 +61,7 @@ TEST_F(HangulTest, AfterACutTheNextSyllableStartsAnew) {
     EXPECT_EQ(shown(), "가ㄹ");
 }
 
-TEST_F(HangulTest, WhatIsPressedInMidCompositionActsOnceOnTheFinishedText) {
+TEST_F(HangulTest, AKeyOrClickDuringACompositionActsOnceOnTheFinishedText) {
     std::vector<Text> seen;
     const auto note = [&] { seen.push_back(form.mText1.text()); };
     form.Command1.Click.connect(note);
@@ -132,7 +132,7 @@ TEST_F(HangulTest, AnInputMethodThatCommitsLateCountsAsAnEditAfterTheHandlers) {
     EXPECT_EQ(shown(), "새");
 }
 
-TEST_F(HangulTest, SettingAnotherTextInMidCompositionEndsIt) {
+TEST_F(HangulTest, SettingAnotherTextEndsTheComposition) {
     compose("가", "ㄴ");
     form.mText1.set_text(u"다른 글");
     compose("ㄴ", "");
@@ -160,7 +160,7 @@ TEST_F(HangulTest, AClickIntoTheFieldKeepsTheSyllable) {
     EXPECT_EQ(form.HText1.text(), u"한");
 }
 
-TEST_F(HangulTest, OneLineFieldsAndEditableBoxesFollowTheSameOrder) {
+TEST_F(HangulTest, OneLineFieldsAndEditableListsBehaveTheSame) {
     form.HText1.set_focus();
     std::vector<Text> texts;
     form.HText1.Change.connect([&] {

@@ -62,7 +62,7 @@ struct PickerWindow : DeskTest {
     QWidget& window() { return *tree().window(); }
 };
 
-TEST_F(PickerWindow, EveryWayToAFolderTellsItOnce) {
+TEST_F(PickerWindow, EveryWayToChooseAFolderRaisesOneClick) {
     show([this] {
         std::vector<std::string> chosen;
         picker.TreeView1.NodeClick.connect(
@@ -85,7 +85,7 @@ TEST_F(PickerWindow, EveryWayToAFolderTellsItOnce) {
     });
 }
 
-TEST_F(PickerWindow, TheTreeShowsWhatBecomesOfItsNodes) {
+TEST_F(PickerWindow, TheTreeFollowsTheChangesOfItsNodes) {
     show([this] {
         EXPECT_EQ(node(2).data().toString(), "거래처(1)");
         EXPECT_TRUE(tree().isExpanded(node(1)));
@@ -149,7 +149,7 @@ TEST_F(PickerWindow, EnterSearchesInTheSearchLineAndConfirmsElsewhere) {
     });
 }
 
-TEST_F(PickerWindow, AButtonsKeyPressesItAtOnceAndSwallowsNoEscape) {
+TEST_F(PickerWindow, AShortcutPressesItsButtonAtOnceAndSwallowsNoEscape) {
     show([this] {
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row(0));
         QTest::keyClick(&list(), Qt::Key_A, Qt::AltModifier);
@@ -159,7 +159,7 @@ TEST_F(PickerWindow, AButtonsKeyPressesItAtOnceAndSwallowsNoEscape) {
     });
 }
 
-TEST_F(PickerWindow, ADoubleClickAddsAndStaysAndEscapeLeaves) {
+TEST_F(PickerWindow, ADoubleClickAddsAndEscapeCloses) {
     show([this] {
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row(1));
         EXPECT_EQ(window().windowTitle(), "발송대상 선택-3/5/2");
@@ -174,7 +174,7 @@ TEST_F(PickerWindow, ADoubleClickAddsAndStaysAndEscapeLeaves) {
     });
 }
 
-TEST_F(PickerWindow, ColumnsShareTheRoomAlsoWhenTheWindowChanges) {
+TEST_F(PickerWindow, ColumnsShareTheWidthAlsoWhenTheWindowChanges) {
     const auto columns = [this] {
         std::vector<int> widths;
         for (int i = 0; i < list().header()->count(); ++i) widths.push_back(list().header()->sectionSize(i));
@@ -216,7 +216,7 @@ TEST_F(PickerWindow, IsPaintedWhileALongListFills) {
     });
 }
 
-TEST_F(PickerWindow, AMouseThatMovesOverItEndsTheFillingOfALongList) {
+TEST_F(PickerWindow, MovingTheMouseOverItStopsTheFillingOfALongList) {
     show([this] {
         struct Mover : QObject {
             explicit Mover(QWidget& bar) : bar(bar) { bar.installEventFilter(this); }

@@ -92,7 +92,7 @@ class RealRecorder : public testing::Test {
     static inline double length = 0;
 };
 
-TEST_F(RealRecorder, TakesWhatIsSaidWithoutALossAndPlaysIt) {
+TEST_F(RealRecorder, RecordsSpeechWithoutALossAndPlaysIt) {
     Listener listener;
     recorder.open(listener);
     ASSERT_TRUE(recorder.has_microphone());
@@ -112,7 +112,7 @@ TEST_F(RealRecorder, TakesWhatIsSaidWithoutALossAndPlaysIt) {
     recorder.close();
 }
 
-TEST_F(RealRecorder, NoticesAMicrophoneThatGoesAndComes) {
+TEST_F(RealRecorder, NoticesAMicrophoneThatIsUnpluggedAndPluggedIn) {
     Listener listener;
     recorder.open(listener);
     recorder.start_recording();

@@ -16,7 +16,7 @@ using platform::BoxButtons;
 
 using WindowTest = ScreenTest;
 
-TEST_F(WindowTest, TheFormHearsOfItsWindowAndTheWindowOfItsForm) {
+TEST_F(WindowTest, FormAndWindowKeepEachOtherUpToDate) {
     auto& window = find("_centre");
     QWidget& frame = *window.window();
     EXPECT_EQ(form.activations, 1) << "once for the first showing, whenever the desktop activates it";
@@ -34,7 +34,7 @@ TEST_F(WindowTest, TheFormHearsOfItsWindowAndTheWindowOfItsForm) {
     EXPECT_TRUE(frame.isMaximized());
 }
 
-TEST_F(WindowTest, EscapeAndTheFramesCloseAreTheFormsToAnswer) {
+TEST_F(WindowTest, EscapeAndTheFramesCloseButtonReachTheForm) {
     QWidget& frame = *find("_centre").window();
     form.stays_open = true;
     QTest::keyClick(&find("mText1"), Qt::Key_Escape);
@@ -48,7 +48,7 @@ TEST_F(WindowTest, EscapeAndTheFramesCloseAreTheFormsToAnswer) {
     EXPECT_FALSE(frame.isVisible());
 }
 
-TEST_F(WindowTest, AModalFormStartsWhereItsHandlersWantAndMayCloseInItsOwnButton) {
+TEST_F(WindowTest, AModalFormStartsWithItsHandlersFocusAndMayCloseInItsOwnButton) {
     auto ask = std::make_unique<frmAsk>(desktop);
     ask->Text1.set_text(u"hong");
     ask->load();
@@ -84,7 +84,7 @@ TEST_F(WindowTest, AFormThatClosesInItsFirstActivationReturns) {
     EXPECT_FALSE(ask.loaded());
 }
 
-TEST_F(WindowTest, TheFocusGoesWithTheUserAndStaysWithItsControlUnderABox) {
+TEST_F(WindowTest, TheFocusFollowsTheUserAndStaysUnderABox) {
     std::vector<std::string> events;
     const auto follow = [&](platform::Control& control, const std::string& name) {
         control.GotFocus.connect([&events, name] { events.push_back("+" + name); });
@@ -123,7 +123,7 @@ TEST_F(WindowTest, TheFocusGoesWithTheUserAndStaysWithItsControlUnderABox) {
     EXPECT_NE(QApplication::focusWidget(), &find("Combo3"));
 }
 
-TEST_F(WindowTest, BoxesShowPlainTextKoreanButtonsAndGiveTheCautiousAnswer) {
+TEST_F(WindowTest, BoxesShowPlainTextAndKoreanButtonsAndCloseWithTheCautiousAnswer) {
     desktop.set_application_title(u"폰디라");
     struct Case {
         BoxButtons buttons;
@@ -158,7 +158,7 @@ TEST_F(WindowTest, BoxesShowPlainTextKoreanButtonsAndGiveTheCautiousAnswer) {
     }
 }
 
-TEST_F(WindowTest, AMenuOpensRightBelowItsControlAndTellsWhatWasPicked) {
+TEST_F(WindowTest, AMenuOpensDirectlyBelowItsControlAndRaisesTheClickOfItsEntry) {
     bool deleted = false;
     form.mnuDelete.Click.connect([&] { deleted = true; });
     const QWidget& control = find("TabStrip1");
@@ -173,7 +173,7 @@ TEST_F(WindowTest, AMenuOpensRightBelowItsControlAndTellsWhatWasPicked) {
     EXPECT_TRUE(deleted);
 }
 
-TEST_F(WindowTest, TheHourglassIsAState) {
+TEST_F(WindowTest, TheHourglassDoesNotNest) {
     desktop.set_pointer(platform::Pointer::hourglass);
     desktop.set_pointer(platform::Pointer::hourglass);
     ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
@@ -186,7 +186,7 @@ std::vector<QString> faults_of(platform::Form& form, QWidget& window) {
     return machine::qt::screen_faults(form, window, files);
 }
 
-TEST_F(WindowTest, LongWorkLeavesItPaintedAndNothingElseHappens) {
+TEST_F(WindowTest, LongWorkLetsItPaintAndNothingElse) {
     struct : QObject {
         bool eventFilter(QObject*, QEvent* event) override {
             paintings += event->type() == QEvent::Paint;
@@ -208,7 +208,7 @@ TEST_F(WindowTest, LongWorkLeavesItPaintedAndNothingElseHappens) {
     EXPECT_GE(ticks, 1) << "the timer runs on afterwards";
 }
 
-TEST_F(WindowTest, ATestFindsWhatIsWrongBetweenAFormAndItsScreen) {
+TEST_F(WindowTest, FaultsBetweenAFormAndItsScreenAreFound) {
     frmSample whole(desktop);
     EXPECT_EQ(faults_of(whole, *screens.build(u"frmSample")), std::vector<QString>{});
 

@@ -26,8 +26,8 @@ int RecordingCarrier::count(const std::string& operation) const {
 std::int32_t RecordingCarrier::result(const std::string& operation) {
     if (missing.contains(operation)) throw platform::RuntimeError(platform::ErrorNumber::no_such_export);
     calls.push_back(operation);
-    const auto told = results.find({operation, count(operation)});
-    return told == results.end() ? 1 : told->second;
+    const auto ordered = results.find({operation, count(operation)});
+    return ordered == results.end() ? 1 : ordered->second;
 }
 
 void RecordingCarrier::take(std::initializer_list<std::string*> texts) {

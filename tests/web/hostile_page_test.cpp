@@ -115,7 +115,7 @@ TEST(HostilePage, IsRefusedWhateverItTries) {
     EXPECT_FALSE(web.form.loaded());
 }
 
-TEST(HostilePage, WithACertificateOfItsOwnIsNotShown) {
+TEST(HostilePage, IsNotShownWithAnUntrustedCertificate) {
     const tests::SecureServer server;
     WebForm web;
     web.open(QByteArray::fromStdString(platform::to_utf8(server.url())), "code=1");
@@ -124,7 +124,7 @@ TEST(HostilePage, WithACertificateOfItsOwnIsNotShown) {
     EXPECT_EQ(server.requests, 0);
 }
 
-TEST(HostilePage, IsNotGoneToOutsideOfTheWeb) {
+TEST(HostilePage, IsNotOpenedOutsideTheWeb) {
     for (const char* address :
          {"file:///etc/passwd", "/etc/passwd", "chrome://version", "data:text/html,evil",
           "javascript:document.write('evil')", "mailto:a@b.example"}) {
@@ -136,7 +136,7 @@ TEST(HostilePage, IsNotGoneToOutsideOfTheWeb) {
     }
 }
 
-TEST(HostilePage, ThatNeverStopsAskingIsLeftAlone) {
+TEST(HostilePage, DoesNotKeepTheFormOpenByAskingEndlessly) {
     PageServer server;
     server.serve("/",
                  "<script>let asked = 0; onbeforeunload = (e) => e.preventDefault();"

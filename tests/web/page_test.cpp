@@ -15,7 +15,7 @@ using tests::WebForm;
 
 constexpr char HTML[] = "Content-Type: text/html; charset=utf-8\r\n";
 
-TEST(Page, GetsThePostedBytesAndNothingElseOfTheUser) {
+TEST(Page, GetsOnlyThePostedBytesFromTheUser) {
     PageServer server;
     server.serve("/result.jsp", "<title>x</title><p>&#48156;&#49569;",
                  QByteArray(HTML) + "Set-Cookie: session=secret; Max-Age=86400\r\n");
@@ -40,7 +40,7 @@ TEST(Page, GetsThePostedBytesAndNothingElseOfTheUser) {
     EXPECT_EQ(server.requests().size(), 2U);
 }
 
-TEST(Page, WithoutABodyIsOnlyAskedFor) {
+TEST(Page, IsFetchedWithGetWhenTheBodyIsEmpty) {
     PageServer server;
     // Like older pages, it does not declare its code page.
     server.serve("/find", "<p>" + QByteArray::fromStdString(platform::encode_cp949(u"아이디 찾기")),
@@ -76,7 +76,7 @@ TEST(Page, ThatCannotBeLoadedShowsTheEnginesErrorAndTheFormCloses) {
     }
 }
 
-TEST(Page, CannotKeepEscapeForItself) {
+TEST(Page, CannotSwallowEscape) {
     PageServer server;
     server.serve("/", "<input autofocus onkeydown='event.preventDefault()'>", HTML);
     WebForm web;

@@ -12,7 +12,7 @@
 
 namespace {
 
-TEST(KeptInput, ArrivesAfterTheWorkWithoutAnotherKeyOrTheMouse) {
+TEST(KeptInput, ArrivesAfterTheWorkWithoutFurtherInput) {
     // A button has no blinking caret, which would make the server send events.
     QPushButton button;
     bool clicked = false;
