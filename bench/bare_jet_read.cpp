@@ -1,6 +1,6 @@
 #include "bench/bare_jet_read.h"
 
-// Ahead of libmdb's header, which would pull it in as C.
+// Included before libmdb's header, which would include it inside extern "C".
 #include <glib.h>
 //
 #include <mdbtools.h>

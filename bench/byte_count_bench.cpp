@@ -1,5 +1,5 @@
-// Every key in the message field counts the text's bytes; the alternative is to convert it and count what
-// comes out.
+// Every key in the message field counts the text's bytes; the alternative is to convert it and to count the
+// bytes of the result.
 
 #include "bench/ratio.h"
 #include "platform/text/cp949.h"

@@ -1,7 +1,7 @@
-// What the picker asks of the card database at its opening: the folders, the count of each and the list of
-// all cards, over a file of 50,000 cards in 200 folders. The first opening reads the file; beside it stands a
-// bare read of the same tables by the library, which does nothing with what it read. The second finds it
-// read. Times are of the clock on the wall, since the reading is another process's.
+// The picker's queries when it opens: the folders, the count of each and the list of all cards, over a file
+// of 50,000 cards in 200 folders. The first opening reads the file; the alternative is a bare read of the
+// same tables with the library, which does nothing with the rows. The second opening finds the file already
+// read. Times are wall-clock times, since another process reads the file.
 
 #include "bench/bare_jet_read.h"
 #include "bench/ratio.h"
@@ -69,7 +69,7 @@ void open_picker(CardSource& source) {
         throw std::runtime_error("not all cards were read");
 }
 
-/// A filter of so many folders, of which the file has 200.
+/// A filter for so many of the file's 200 folders.
 Text filter_of(int folders) {
     Text filter = u"f_idx=1";
     for (int i = 2; i <= folders; ++i) filter += u" or f_idx=" + decimal(i);

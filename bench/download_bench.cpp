@@ -1,6 +1,6 @@
-// A file of 100 MB by the download control in chunks of 1024 bytes, somebody listening to each of its events,
-// beside `curl` to the same place, both as processes of their own and from one server on the loopback device;
-// and the memory that it takes beside that of a file a tenth as long.
+// Downloads a file of 100 MB with the download control in chunks of 1024 bytes, with a handler on each of its
+// events. The alternative is `curl` to the same folder; both run as processes of their own and use one server
+// on the loopback device. Also compares the memory with that for a file a tenth as long.
 
 #include "bench/ratio.h"
 #include "machine/posix/posix_files.h"
@@ -31,7 +31,7 @@ constexpr std::size_t LARGE = 100 * MEGABYTE;
 constexpr std::size_t SMALL = 10 * MEGABYTE;
 constexpr int RUNS = 7;
 
-/// The download as a process: the address, and the folder that "file" is written in.
+/// The download as a process of its own. Its arguments are the address and the folder for the file.
 int download(int argc, char** argv) {
     QCoreApplication qt(argc, argv);
     machine::posix::PosixFiles files{machine::posix::Paths(argv[2])};
@@ -60,11 +60,11 @@ int download(int argc, char** argv) {
 
 struct Cost {
     double milliseconds;
-    /// The most that was resident at a time.
+    /// The largest resident memory.
     double kilobytes;
 };
 
-/// Runs a program to its end, after which the folder's file must have the size.
+/// Runs a program to its end; afterwards the folder's file must have the size.
 Cost run(std::vector<std::string> arguments, const std::filesystem::path& folder, std::size_t size) {
     std::filesystem::remove(folder / "file");
     std::vector<char*> pointers;

@@ -1,4 +1,4 @@
-// Every new recipient is searched for first, in the sub-items of all rows; the alternative is to walk the
+// Every new recipient is first searched for in the sub-items of all rows; the alternative is to walk over the
 // rows.
 
 #include "bench/ratio.h"
@@ -20,7 +20,7 @@ class ListForm : public platform::Form {
     ListView list{*this, u"list", {{.caption = u"선택"}}, true};
 };
 
-/// Numbers in no order, as they come out of a card database.
+/// Unsorted numbers, as they come from a card database.
 Text number(int row) {
     Text digits = platform::decimal(10'000'000LL + (row * 7'919LL) % 89'999'999LL);
     return u"010" + digits;
@@ -58,7 +58,7 @@ void last_hundred(benchmark::State& state, bool by_walking) {
     ListForm form(test.desktop);
     int row = 0;
     while (row < 100'000) {
-        // As it is in life: the list is searched from its first row on.
+        // As in the program: the search begins at the list's first row.
         benchmark::DoNotOptimize(form.list.find_in_sub_items(number(row)));
         add(form.list, row++);
     }

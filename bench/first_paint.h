@@ -26,7 +26,7 @@
 
 namespace bench {
 
-/// Ends the process as soon as a window has been painted, with the number that `result` gives then.
+/// Ends the process as soon as a window has been painted, with the number that `result` returns then.
 class FirstPaint : public QObject {
   public:
     explicit FirstPaint(std::function<int()> result = [] { return 0; }) : result_(std::move(result)) {}
@@ -45,7 +45,7 @@ class FirstPaint : public QObject {
     bool painted_ = false;
 };
 
-/// The program put together as in app/main.cpp, in the folder.
+/// Shows the program, put together as in app/main.cpp, with the folder as its application directory.
 inline void show_program(const std::string& folder) {
     QApplication::setStyle(new machine::qt::DeskStyle);
     machine::qt::use_font_with_hangul();
@@ -62,7 +62,7 @@ inline void show_program(const std::string& folder) {
     if (application.start()) machine.desktop.run_until_closed(application.main_form());
 }
 
-/// Starts this program anew with the two words and waits for its first painted window.
+/// Starts this program again with the two arguments and waits for its first painted window.
 inline double milliseconds_to_first_paint(std::string what, std::string folder) {
     std::string program = "bench";
     char* arguments[] = {program.data(), what.data(), folder.data(), nullptr};
@@ -89,7 +89,7 @@ inline double median_ratio(const std::vector<double>& times, const std::vector<d
     return median(ratios);
 }
 
-/// A folder for the program's files, gone at the end.
+/// A folder for the program's files, removed at the end.
 class ScratchFolder {
   public:
     ScratchFolder() {

@@ -1,5 +1,5 @@
 // A hand-over of 100,000 recipients with the duplicate search that each of them asks for; the alternative
-// reads the same lines and adds the same rows, but searches for nobody, so its list keeps no index.
+// reads the same lines and adds the same rows, but never searches, so its list keeps no index.
 
 #include "bench/ratio.h"
 #include "handover/handover.h"
@@ -14,7 +14,7 @@ using platform::Text;
 
 constexpr int LINES = 100'000;
 
-/// Numbers in no order, as they come out of a card database.
+/// Unsorted numbers, as they come from a card database.
 std::string lines() {
     std::string all;
     for (int line = 0; line < LINES; ++line) {

@@ -1,6 +1,6 @@
 // The recipients are rows of a model that the list widget reads in place; the alternative copies each into an
-// item of a QTreeWidget. Measured is what showing costs: from rows that are there to the first painted
-// picture of them, and the memory that it takes.
+// item of a QTreeWidget. What is measured is the cost of showing: the time from present rows to their first
+// painting, and the memory.
 
 #include "bench/ratio.h"
 #include "machine/qt/desktop/qt_desktop.h"

@@ -1,7 +1,7 @@
-// Opening the picker over 50,000 cards in 200 folders, from the call to the list full and the folders
-// counted, beside a bare read of the same tables by libmdb with every column bound; opening it again, when
-// the file has not changed. And the longest time for which no window could paint itself: while it opens,
-// while all its cards become recipients, and while 100,000 recipients are handed over.
+// Opens the picker over 50,000 cards in 200 folders and measures until its list is full and the folders are
+// counted; the alternative is a bare read of the same tables with libmdb, with every column bound. Then opens
+// it again with the file unchanged. Also measures the longest time without a painting: while the picker
+// opens, while all its cards become recipients, and while 100,000 recipients are handed over.
 
 #include "addressbook/frmSendMan.h"
 #include "app/desktop_machine.h"
@@ -42,7 +42,7 @@ class Folder {
         if (mkdtemp(name) == nullptr) throw std::runtime_error("no folder");
         path_ = name;
         fs::copy_file(BIG_CARDS, cards());
-        // A file that is being written is not trusted to stay as it is.
+        // A file written just now may still be changing, so it would be read again.
         fs::last_write_time(cards(), fs::file_time_type::clock::now() - std::chrono::hours(1));
         fs::copy_file(CARD_READER, path_ / "card-reader");
     }
@@ -61,7 +61,7 @@ double read_barely(const std::string& cards) {
     return milliseconds_since(start);
 }
 
-/// A window that always has something to paint, as a busy picture has.
+/// A window that always has something to paint, like a film.
 class Busy : public QWidget {
   public:
     Busy() {
@@ -71,7 +71,7 @@ class Busy : public QWidget {
         show();
     }
 
-    /// The longest time without a paint since the last call.
+    /// The longest time without a painting since the last call.
     double longest_stretch() {
         const double longest = std::max(longest_, milliseconds_since(painted_));
         longest_ = 0;
@@ -91,14 +91,14 @@ class Busy : public QWidget {
     double longest_ = 0;
 };
 
-/// The shortest of all runs, which other programs disturbed least; of the stretches without a paint the
+/// The shortest time of all runs, which other programs disturbed least; of the times without a painting the
 /// longest of any run.
 struct Times {
     double bare = 1e9, first = 1e9, second = 1e9;
     double opening_stretch = 0, sorting_stretch = 0, picking_stretch = 0, hand_over_stretch = 0;
 };
 
-/// The program with its main window shown, and nobody asked to log in.
+/// The program with its main window shown and without a login form.
 struct Program {
     Program(const Folder& folder, platform::Clock& clock)
         : paths(folder.path()),
@@ -114,7 +114,7 @@ struct Program {
     compose::frmZent main{machine.platform, state, {}};
 };
 
-/// Opens the picker, has `act` done in it and closes it. Returns how long it took to open.
+/// Opens the picker, runs `act` and closes it. Returns how long it took to open.
 template <class Act>
 double open_picker(Program& program, Act act) {
     addressbook::frmSendMan picker(program.machine.platform, program.state, program.main.recipients,

@@ -9,7 +9,7 @@
 
 namespace bench {
 
-/// Shows the runs as usual and keeps the shortest processor time of each benchmark, the one that other
+/// Prints the runs as usual and keeps the shortest processor time of each benchmark, the one that other
 /// programs disturbed least.
 class TimeKeeper : public benchmark::ConsoleReporter {
   public:
@@ -31,7 +31,7 @@ class TimeKeeper : public benchmark::ConsoleReporter {
     std::map<std::string, double> times_;
 };
 
-/// Prints the ratio and what it is of; returns whether it is at least, or at most, the limit.
+/// Prints the ratio and what it compares. Returns whether it keeps the limit.
 inline bool print_ratio(const char* name, double ratio, const char* what, double at_least) {
     std::printf("%s ratio %.1f (%s, at least %g)\n", name, ratio, what, at_least);
     return ratio >= at_least;

@@ -1,5 +1,5 @@
 // A page of results must not slow down as the ledger grows: with 100,000 registrations of a user, the newest,
-// the refused ones of a day and those in the middle cost what they do with 1,000.
+// the refused ones of a day and those in the middle cost as much as with 1,000.
 
 #include "bench/ratio.h"
 #include "standin/ledger.h"
@@ -15,7 +15,7 @@ constexpr int SMALL = 1'000;
 constexpr int LARGE = 100'000;
 constexpr double LIMIT = 2;
 
-/// The file of a ledger of one user, a tenth of it refused.
+/// The file of a ledger for one user, in which a tenth of the registrations is refused.
 std::string ledger_of(int registrations) { return "ledger" + std::to_string(registrations); }
 
 void make_ledger(int registrations) {

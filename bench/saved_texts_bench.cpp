@@ -1,6 +1,6 @@
-// The box of saved texts keeps no index: a category is read from its files whenever it is shown. Measured is
-// the refresh of a category in its window, rows, sorting and painting included; the alternative reads the
-// same files and does nothing with them. The window has to live meanwhile.
+// The box of saved texts keeps no index: a category is read from its files whenever it is shown. What is
+// measured is the refresh of a category in its window, with rows, sorting and painting; the alternative reads
+// the same files and does nothing with them. Meanwhile the window must keep painting.
 
 #include "bench/ratio.h"
 #include "core/saved_texts_folder.h"
@@ -27,13 +27,13 @@ constexpr int ROUNDS = 7;
 /// Processor time, which other programs disturb least.
 double milliseconds_of_work() { return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
 
-/// Writes down how long the window waits to be painted.
+/// Records how long the window waits to be painted.
 class WatchedDesktop : public machine::qt::QtDesktop {
   public:
     using QtDesktop::QtDesktop;
 
     void paint() override {
-        // Delivered as what is to be painted is: not before the desktop finds that it is time.
+        // Delivered like a request to paint: not before the desktop lets the windows paint.
         if (!waiting) QCoreApplication::postEvent(&window, new QEvent(QEvent::User));
         waiting = true;
         QtDesktop::paint();

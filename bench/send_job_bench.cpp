@@ -1,5 +1,5 @@
-// A job over a long list must not slow down as the list grows: a row among 100,000 costs what one among
-// 10,000 does. The carrier answers at once and the pauses are skipped, so what is left is ours.
+// A job over a long list must not slow down as the list grows: a row among 100,000 costs as much as one among
+// 10,000. The carrier answers at once and the pauses are skipped, so only the program's own time is left.
 
 #include "bench/ratio.h"
 #include "tests/support/sending.h"

@@ -1,7 +1,7 @@
 // From the start of the process to the first painted window: the program put together as in app/main.cpp,
-// beside a bare window of the toolkit with one line of Korean and one menu. Any window in Korean pays for
-// looking up and opening its fonts, as much as for all the rest of a bare window; what is measured is what
-// this program adds. The time of a window with nothing in it is shown too.
+// beside a bare window of the toolkit with one line of Korean and one menu. Finding and opening the Korean
+// fonts costs any window as much as everything else in a bare one, so the bare window has them too and only
+// what this program adds is measured. The time of an empty window is shown as well.
 
 #include "bench/first_paint.h"
 #include "bench/ratio.h"

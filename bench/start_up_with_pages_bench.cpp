@@ -1,6 +1,6 @@
 // What the pages' engine costs the program's start: with its module beside the program, without it, and, as
-// the way not taken, with the engine linked to the program. A start that has loaded the engine when it should
-// not, or the other way round, ends the measurement.
+// the alternative that was rejected, with the engine linked to the program. A start that loads the engine
+// when it should not, or does not when it should, ends the measurement.
 
 #include "bench/first_paint.h"
 #include "bench/ratio.h"

@@ -1,4 +1,4 @@
-# What a build decides for its installation; core/deployment.h hands it to the program.
+# The settings of a deployment; core/deployment.h passes them to the program.
 set(ZENT_SERVICE_DOMAIN "pondira.example" CACHE STRING "Domain name given to the carrier with every operation")
 set(ZENT_SERVICE_SITE "http://www.pondira.example" CACHE STRING "Web site with the service's pages, without a slash at its end")
 set(ZENT_DOCUMENTS_SITE "http://www.cardvale.example/download" CACHE STRING "Folder of the maker's web site with the application documents")

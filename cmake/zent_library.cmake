@@ -5,7 +5,7 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 add_compile_options(-Wall -Wextra -Wpedantic -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  # GCC 12 sees overlapping copies in joined strings where there are none.
+  # GCC 12 warns of overlapping copies in concatenated strings where there are none.
   add_compile_options(-Wno-restrict)
 endif()
 if(ZENT_SANITIZE)
@@ -13,9 +13,9 @@ if(ZENT_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# One static library a folder, of the sources in it, linked to the folders below it alone:
+# Makes one static library from a folder's sources, linked only to the folders below it:
 #   zent_library(core core platform)   the library `core` of ./*.cpp above `platform`
-# A folder whose includes point upwards does not link, and tests/layers_test.cmake says why.
+# A folder that includes upwards does not link; tests/layers_test.cmake names the include.
 function(zent_library name)
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
   add_library(${name} STATIC ${sources})

@@ -12,10 +12,10 @@ using platform::TextView;
 
 namespace {
 
-// Deliberately "tiff" without its point: such names have always been taken.
+// Deliberately "tiff" without its dot: names that only end with these letters have always been accepted.
 constexpr std::array<TextView, 11> ENDINGS = {u".txt", u".doc", u".xls", u".ppt", u".hwp", u".gul",
                                               u".bmp", u".gif", u".jpg", u".tif", u"tiff"};
-/// In the order of their pictures.
+/// In the order of the list of pictures.
 constexpr std::array<TextView, 9> PICTURED = {u"doc", u"xls", u"ppt", u"hwp", u"gul",
                                               u"txt", u"bmp", u"gif", u"jpg"};
 

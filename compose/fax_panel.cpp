@@ -76,7 +76,7 @@ void FaxPanel::add_document() {
 void FaxPanel::FAX_SIZE_CAPTION() {
     std::uint64_t bytes = 0;
     for (std::size_t row = 0; row < FAX1.row_count(); ++row) {
-        // A document that has gone adds nothing; the user is told when the fax is sent.
+        // A missing document adds nothing here; the check before sending reports it.
         platform::ignore_errors([&] { bytes += platform_.files.length(FAX1.row(row).text()); });
     }
     FAXFileSize1.set_caption(FAX1.row_count() == 0 ? Text() : size_in_kb(bytes));

@@ -24,7 +24,7 @@ class FaxPanel {
     platform::Label FAXFileSize1;
     platform::Label Label1_3;
 
-    /// Writes how large the documents are together.
+    /// Shows the size of all documents together.
     void FAX_SIZE_CAPTION();
 
   private:

@@ -10,7 +10,7 @@ using platform::Text;
 
 namespace {
 
-/// "30 minutes ahead", as at first.
+/// "30 minutes ahead", the default.
 constexpr int DEFAULT_ROW = 2;
 
 }  // namespace

@@ -9,8 +9,8 @@
 
 namespace compose {
 
-/// The settings: how far ahead of its sending a schedule has to lie at least. The schedule that the main
-/// window shows stays; the new lead counts from the next one.
+/// The settings: the least lead of a schedule. A new lead leaves the schedule that the main window shows as
+/// it is and applies from the next one.
 class frmSet1 : public platform::Form {
   public:
     explicit frmSet1(platform::Platform& platform);

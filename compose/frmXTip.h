@@ -7,7 +7,7 @@
 
 namespace compose {
 
-/// Explains answers to a voice message with a picture that the installation brings.
+/// Explains replies to a voice message with a picture from the installation.
 class frmXTip : public platform::Form {
   public:
     explicit frmXTip(platform::Platform& platform);

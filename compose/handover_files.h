@@ -4,8 +4,8 @@
 
 namespace compose {
 
-/// The two files by which the card manager hands something over. The first says what and is the signal: the
-/// second, the recipients, is complete when the first appears.
+/// The two files of the card manager's hand-over. The first is the signal and says what is handed over; the
+/// second, with the recipients, is complete when the first appears.
 inline platform::Text isend_text(const platform::Platform& platform) {
     return platform.files.application_directory() + u"\\temp\\isend.text";
 }

@@ -10,7 +10,7 @@ using platform::Text;
 
 namespace {
 
-/// The toolbar's buttons of the kinds follow each other behind a separator.
+/// The first of the toolbar's buttons for the kinds, which follow a separator.
 constexpr int FIRST_KIND_BUTTON = 2;
 
 std::vector<platform::ToolBar::Button> toolbar_buttons() {
@@ -52,7 +52,8 @@ frmZent::frmZent(platform::Platform& platform, core::AppState& state, MainDoors 
       doors_(std::move(doors)) {
     connect();
     disable_without_door();
-    // The window is painted before its first tick chooses a kind: it shows the panel of that kind alone.
+    // The window is painted before its first tick chooses a kind: until then it shows only the panel of that
+    // kind.
     show_panel(Panel::text);
 }
 
@@ -82,18 +83,18 @@ void frmZent::connect() {
     });
     session.LoggedIn.connect([this] {
         sender.fill_from_account();
-        subject.stand();
+        subject.fix();
         text.start_if_empty();
         plus.start_if_empty();
         subject.follow_again();
     });
 }
 
-/// What leads nowhere would be a false promise: it is grey.
+/// Disables every control that would do nothing when pressed.
 void frmZent::disable_without_door() {
     text.MyMsgBttn.set_enabled(doors_.saved_texts != nullptr);
     mnuUpDate.set_enabled(doors_.update_check != nullptr);
-    // These have never done anything; the tabs and the toolbar lead to the same.
+    // These entries have no action and never had one; the tabs and the toolbar do the same.
     for (platform::Menu* entry : {&sendmenu1_0, &sendmenu1_1, &sendmenu1_2, &sendmenu1_3, &cmdPonResult,
                                   &cmdUserCharge, &mnuInBox, &cmdUserInfo2})
         entry->set_enabled(false);
@@ -114,8 +115,8 @@ void frmZent::show_kind() {
     set_caption(Text(core::APPLICATION_TITLE) + u"[" + Text(kind.caption) + u"]");
     reply.set_visible(false);
     sender.set_visible(false);
-    // The texts that are written below must not become the subject.
-    subject.stand();
+    // Otherwise the texts that are written below would become the subject.
+    subject.fix();
     Toolbar1.press(FIRST_KIND_BUTTON + TabStrip1.selected() - 1);
     show_panel(kind.panel);
     recipients.set_kind(kind);
@@ -136,7 +137,7 @@ void frmZent::show_panel(Panel panel) {
     fax.Frame1.set_visible(panel == Panel::fax);
 }
 
-/// Entering a kind throws away what stood in its text field, also what says the same as a new text.
+/// Entering a kind discards what its text field held, even if that equals a new text.
 void frmZent::start_text(MessageKind kind) {
     switch (kind) {
         case MessageKind::text:
@@ -207,8 +208,8 @@ void frmZent::apply_saved_text(const Text& saved, const Text& title) {
         const bool has_sender = !platform::trim(sender.txtUserName.text()).empty();
         text.apply((has_sender ? sender.sender_tag() : Text()) + platform::right_trim(saved));
     }
-    // Deliberately in every kind, and in the others the title alone: there it is the job's subject.
-    subject.stand();
+    // Deliberately for every kind. Those without a text message take the title alone, as the job's subject.
+    subject.fix();
     subject.subjectText.set_text(title);
 }
 

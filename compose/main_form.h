@@ -24,11 +24,11 @@
 
 namespace compose {
 
-/// The buttons of `frmZent::Toolbar1` behind those of the kinds.
+/// The buttons of `frmZent::Toolbar1` that follow those of the kinds.
 enum PageButton { RESULTS_BUTTON = 7, INBOX_BUTTON = 8, CHARGES_BUTTON = 9 };
 
-/// What the main window opens above itself. The composition root fills the doors; a control whose door nobody
-/// has filled is disabled.
+/// The functions through which the main window opens what stands above it. `app::Application` fills these
+/// doors; a control whose door is empty is disabled.
 struct MainDoors {
     /// Checks the draft and sends it.
     std::function<void()> send = {};
@@ -38,17 +38,17 @@ struct MainDoors {
     std::function<void()> NEW_SENDMAN_LOAD = {};
     /// Opens the box of saved texts.
     std::function<void()> saved_texts = {};
-    /// Looks for an update and offers it.
+    /// Checks for an update and offers it.
     std::function<void()> update_check = {};
     /// The same while the program starts; false when the server was not reached.
     std::function<bool()> update_check_at_start = {};
 };
 
-/// The main window: one draft at a time, and the draft is these controls. Sending reads them at the moment it
-/// runs.
+/// The main window. There is one draft at a time, and it consists of these controls: sending reads them while
+/// it runs.
 ///
-/// It is the frame around its rooms, which own their controls and what these do. Here stand the choice of the
-/// kind, what several rooms do together (main_form.cpp), and the window's start and stop
+/// It is the frame around its rooms, each of which owns its controls and their handlers. Here are the choice
+/// of the kind, what several rooms do together (main_form.cpp), and the window's start and end
 /// (main_form_start.cpp).
 class frmZent : public platform::Form {
   public:
@@ -88,7 +88,7 @@ class frmZent : public platform::Form {
     platform::CommonDialog Cmd1;
     /// Polls for what the card manager hands over.
     platform::Timer Timer1;
-    /// One shot after the first activation. Its tag is set by a hand-over that logs in by itself.
+    /// Fires once after the first activation. A hand-over that logs in by itself sets its tag.
     platform::Timer Timer2;
 
     Subject subject;
@@ -112,7 +112,7 @@ class frmZent : public platform::Form {
     /// alone.
     void apply_saved_text(const platform::Text& text, const platform::Text& title);
 
-    /// What is to be done before the installer takes over: nothing.
+    /// Called before the installer takes over; nothing needs to be done.
     void BEFORE_UPDATE_RUN() {}
 
   protected:
@@ -137,7 +137,7 @@ class frmZent : public platform::Form {
     void save_placement();
     void first_tick();
     void start_work();
-    /// False when a check ran and the server was not reached.
+    /// Returns false when a check ran and the server was not reached.
     bool update_check_at_start();
 
     platform::Platform& platform_;
@@ -146,7 +146,7 @@ class frmZent : public platform::Form {
     bool kind_chosen_ = false;
 };
 
-/// The kind that the window shows. Nothing else asks its tabs.
+/// The kind that the window shows. Only this function asks the tabs.
 const KindOfMessage& kind_of(const frmZent& form);
 
 /// What the draft is made of: the kind's own content, or the source of the voice that the user has chosen.

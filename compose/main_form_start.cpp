@@ -27,7 +27,7 @@ constexpr int DEFAULT_HEIGHT = 9000;
 constexpr int MINIMUM_WIDTH = 11160;
 constexpr int MINIMUM_HEIGHT = 7395;
 
-/// A setting's number of twips, kept within what a screen can be asked for.
+/// A setting as a number of twips, limited to what a window can have.
 int twips(const Text& value) {
     return static_cast<int>(std::clamp(platform::leading_number(value), -1e6, 1e6));
 }
@@ -103,7 +103,7 @@ void frmZent::start_work() {
     const bool server_reached = update_check_at_start();
     if (doors_.NEW_SENDMAN_LOAD) doors_.NEW_SENDMAN_LOAD();
     DRAFT_RESET_IF_NO_KIND();
-    // Without a network the user logs in by hand.
+    // Without a network an automatic login would fail: the user logs in by hand.
     if (!server_reached) return session.cmdLogin_Click();
     if (!Timer2.tag().empty() || state_.session.gLoggedIn) return;
 
@@ -117,7 +117,7 @@ void frmZent::start_work() {
 }
 
 bool frmZent::update_check_at_start() {
-    // Deliberately armed by nothing: the menu's mark is kept in the settings, but nobody sets this tag.
+    // Deliberately no check: the menu's mark is kept in the settings, but nothing sets this tag.
     if (platform::leading_number(mnuStartUpdate.tag()) == 0 || !doors_.update_check_at_start) return true;
     return doors_.update_check_at_start();
 }
@@ -125,7 +125,7 @@ bool frmZent::update_check_at_start() {
 void frmZent::Form_Unload() {
     voice.RFK1.stop();
     sender.save();
-    // Written for those who may read it one day; this program never does.
+    // Settings files have always had this key, though the program never reads it.
     core::write_setting(platform_, core::settings::UPDATE_CHECK_AT_START,
                         mnuStartUpdate.checked() ? u"1" : u"0");
     session.save();

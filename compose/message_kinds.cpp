@@ -40,7 +40,7 @@ constexpr TextView FAX_NUMBERS[] = {u"회사팩스", u"회사팩스2"};
 /// The service converts faxes one by one and asks for a long wait.
 constexpr Pauses FAX_PAUSES{.after_success = 15'000, .before_unbind = 500};
 
-// Of a kind with one content the carrier's name is the caption.
+// The caption of a kind with one content is also its name at the carrier.
 constexpr TextView TEXT_MESSAGE = u"문자메시지";
 constexpr TextView FAX_MESSAGE = u"팩스메시지";
 
@@ -104,7 +104,7 @@ CarrierKindOfMessage find_carrier_kind(TextView name) {
 
 const CarrierKind& carrier_kind(const KindOfMessage& kind, Content content) {
     const auto found = std::ranges::find(kind.contents, content, &CarrierKind::content);
-    // A kind that somebody adds without its codes must not be sent as another one.
+    // A new kind whose codes are missing must not be sent as another one.
     if (found == kind.contents.end())
         throw platform::RuntimeError(platform::ErrorNumber::subscript_out_of_range);
     return *found;

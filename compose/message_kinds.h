@@ -12,7 +12,7 @@ namespace compose {
 /// The most bytes of one text message, in cp949.
 inline constexpr std::size_t TEXT_LIMIT = 80;
 
-/// The kinds of message in the order of their tabs, of which the first is number 1.
+/// The kinds of message in the order of their tabs, which are counted from 1.
 enum class MessageKind { text = 1, plus = 2, voice = 3, fax = 4, last = fax };
 
 inline constexpr std::size_t MESSAGE_KINDS = static_cast<std::size_t>(MessageKind::last);
@@ -20,22 +20,23 @@ inline constexpr std::size_t MESSAGE_KINDS = static_cast<std::size_t>(MessageKin
 /// The panels of the main window (`frmZent::Frame1`), one of which shows.
 enum class Panel { text = 0, voice = 1, fax = 2 };
 
-/// What a message must hold before it can go.
+/// What a message must hold before it can be sent.
 enum class Content { text, speech, recording, sound_file, documents };
 
 /// Which numbers a message can be sent to, and how a wrong one is refused.
 struct NumberRule {
-    /// Of the number's field and column.
+    /// Caption of the number's field and column.
     platform::TextView caption;
-    /// Null where every number will do.
+    /// Null when every number is accepted.
     bool (*accepts)(platform::TextView number);
-    /// Why a number that is not accepted is refused: the second paragraph of the box.
+    /// Why a number is refused: the second paragraph of the box.
     platform::TextView refusal;
     /// What the check before sending calls such a number; empty for the caption of the list's column 2.
     platform::TextView name_when_sent;
 };
 
-/// How long a job waits within each submit, in milliseconds: the service's pacing, not ours to shorten.
+/// How long a job waits within each submit, in milliseconds: the service sets this pace, so the waits must
+/// not be shortened.
 struct Pauses {
     int after_success;
     int before_unbind;
@@ -45,9 +46,9 @@ inline constexpr Pauses USUAL_PAUSES{.after_success = 500, .before_unbind = 500}
 /// A personal text is a submit of its own for each recipient.
 inline constexpr Pauses PERSONAL_PAUSES{.after_success = 250, .before_unbind = 250};
 
-/// A kind of message with one content, as the carrier tells it apart.
+/// A kind of message with one content: the carrier has codes of its own for each.
 struct CarrierKind {
-    /// The user reads it, and the job is told what to send by it, letter for letter.
+    /// Shown to the user. The job also looks its kind up by it, letter for letter.
     platform::TextView name;
     Content content;
 
@@ -56,7 +57,7 @@ struct CarrierKind {
     std::int32_t s_data_sub_type;
     int bind_mode;
 
-    // Which fields of the draft go with it; the others go empty.
+    // Which fields of the draft are sent; the others are sent empty.
     bool callback;
     bool reply;
     bool sms;
@@ -66,10 +67,10 @@ struct CarrierKind {
 /// Everything that depends on the kind of message alone.
 struct KindOfMessage {
     MessageKind kind;
-    /// Of its tab, its button and the window.
+    /// Caption of its tab, its button and the window.
     platform::TextView caption;
     Panel panel;
-    /// The voice's panel shows a text field too.
+    /// Whether the voice's panel shows a text field too.
     bool with_text;
     bool sender_fields;
     bool reply_fields;
@@ -77,12 +78,12 @@ struct KindOfMessage {
     /// Columns of the picker's list, and those of them that hold numbers to send to.
     std::span<const platform::TextView> picker_columns;
     std::span<const platform::TextView> picker_numbers;
-    /// Of a job that sends the same to up to 100 recipients at once.
+    /// Pauses of a job that sends the same text to up to 100 recipients at once.
     Pauses pauses;
     std::span<const CarrierKind> contents;
 };
 
-/// In the order of the tabs.
+/// All kinds in the order of their tabs.
 const std::array<KindOfMessage, MESSAGE_KINDS>& kinds_of_message();
 
 const KindOfMessage& kind_of(MessageKind kind);
@@ -96,13 +97,14 @@ struct CarrierKindOfMessage {
     const CarrierKind* carrier;
 };
 
-/// The kind that the carrier's name tells; two nulls when there is none.
+/// The kind with this name at the carrier; two nulls when there is none.
 CarrierKindOfMessage find_carrier_kind(platform::TextView name);
 
-/// The kind with this content. Raises RuntimeError 9 when it cannot hold it.
+/// The carrier's codes for this content. Raises RuntimeError 9 when the kind cannot hold it.
 const CarrierKind& carrier_kind(const KindOfMessage& kind, Content content);
 
-/// The second paragraph of the box that refuses the digits as a number for the kind; empty when they will do.
+/// The second paragraph of the box that refuses the digits as a number for the kind; empty when they are
+/// accepted.
 platform::TextView fault_of_number(const KindOfMessage& kind, platform::TextView digits);
 
 /// The text of that box: what the number is called, the number, and why it is refused.

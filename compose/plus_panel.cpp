@@ -19,7 +19,7 @@ PlusPanel::PlusPanel(platform::Form& form, platform::Desktop& desktop, platform:
     Picture2.set_container(container);
     mText2.set_container(Picture2);
     mText2.Change.connect([this] { mText2_Change(); });
-    // Every key, backspace too.
+    // On every key, backspace too.
     mText2.KeyPress.connect([this](platform::KeyPressed&) { refuse_excess(); });
     mText2.LostFocus.connect([this] { subject_.freeze(); });
     Picture2.GotFocus.connect([this] { mText2.set_focus(); });
@@ -42,12 +42,12 @@ void PlusPanel::mText2_Change() {
     mHLen2.set_caption(platform::decimal(core::BYTE_LEN(mText2.text())) + u"/80Byte");
 }
 
-/// Tells that the field is too full and cuts it. The focus goes to the box around the field, which gives it
-/// back at once.
+/// Shows that the text is too long and cuts it. The focus goes to the picture box around the field, which
+/// returns it at once.
 void PlusPanel::refuse_excess() {
     Text text = mText2.text();
     if (core::BYTE_LEN(text) <= TEXT_LIMIT) return;
-    tell_text_is_cut(desktop_);
+    show_text_is_cut(desktop_);
     mText2.set_text(core::LLL(text, TEXT_LIMIT));
     mText2.set_caret_to_end();
     Picture2.set_focus();

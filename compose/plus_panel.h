@@ -10,7 +10,7 @@
 
 namespace compose {
 
-/// The text that goes with a voice: at most 80 bytes of cp949, and never a long one.
+/// The text that goes with a voice: at most 80 bytes of cp949, never sent in pieces.
 class PlusPanel {
   public:
     /// `container` is the panel of the voice.
@@ -23,9 +23,9 @@ class PlusPanel {
 
     void mText2_Change();
 
-    /// Begins a new text: the sender's name, and what to do with the voice.
+    /// Begins a new text with the sender's name and a line about the voice.
     void start();
-    /// The same unless the user has written one.
+    /// The same, unless the user has written a text.
     void start_if_empty();
 
   private:

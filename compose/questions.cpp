@@ -14,7 +14,7 @@ bool ask_for_long_text(platform::Desktop& desktop, platform::TextView yes) {
                      u"장문메시지 확인", BoxIcon::question);
 }
 
-void tell_text_is_cut(platform::Desktop& desktop) {
+void show_text_is_cut(platform::Desktop& desktop) {
     core::warn(desktop, u"입력하신 문자가 80Byte를 넘었습니다.\r\n한 번에 80Byte까지만 전송이 가능합니다.",
                u"입력 초과");
 }

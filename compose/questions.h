@@ -6,13 +6,14 @@
 
 namespace compose {
 
-/// Whether a text above TEXT_LIMIT is to go in pieces. `yes` names the answer in the question's own words.
+/// Asks whether a text above TEXT_LIMIT is to be sent in pieces. `yes` is what the question calls that
+/// answer.
 bool ask_for_long_text(platform::Desktop& desktop, platform::TextView yes);
 
-/// Tells that a text above TEXT_LIMIT is cut.
-void tell_text_is_cut(platform::Desktop& desktop);
+/// Shows that a text above TEXT_LIMIT is cut.
+void show_text_is_cut(platform::Desktop& desktop);
 
-/// Asks for the selected rows and removes them. Returns whether they are gone.
+/// Asks whether to remove the selected rows, and removes them after a yes. Returns whether it has.
 bool remove_selected_rows(platform::Desktop& desktop, platform::ListView& list);
 
 }  // namespace compose

@@ -113,7 +113,7 @@ void RecipientList::add_typed() {
     const Text number_caption(kind_->number.caption);
     if (number.empty()) return refuse_number(number_caption + u"를(을) 입력하여 주십시오!");
 
-    // Before the number is judged: a few digits that begin a listed number are a duplicate, not a short
+    // Before the number is checked: a few digits that begin a listed number are a duplicate, not a short
     // number.
     if (point_at_duplicate(number)) return;
     if (const platform::TextView fault = fault_of_number(*kind_, number); !fault.empty())
@@ -137,7 +137,7 @@ bool RecipientList::point_at_duplicate(const Text& number) {
     ListView1.deselect_item();
     ListView1.make_visible(*hit);
     ListView1.select_item(*hit);
-    // The message names column 2, the name, though numbers were compared; users and their support know it so.
+    // Deliberately the caption of column 2, the name, though numbers were compared: support knows the box so.
     core::warn(platform_.desktop, u"이미 동일한 " + ListView1.column(2).caption + u"가 존재합니다.");
     return true;
 }
@@ -173,7 +173,7 @@ void RecipientList::CHECK_SELECTED_ITEMS(bool checked) {
 }
 
 void RecipientList::row_checked(std::size_t row) {
-    // Ticked again, a failed row is one that has not been sent yet.
+    // A failed row that is ticked again counts as not sent yet.
     if (ListView1.row(row).checked()) ListView1.set_sub_item(row, RECIPIENT_STATUS, u"");
     RECIPIENT_COUNT_CAPTION();
 }

@@ -24,7 +24,7 @@ inline constexpr int RECIPIENT_TITLE = 4;
 /// Stands for a recipient without a name.
 inline constexpr platform::TextView NO_NAME = u"이름없음";
 
-/// Who is written to: typed, picked from the cards, or handed over by the card manager.
+/// The recipients: typed, picked from the cards, or handed over by the card manager.
 class RecipientList {
   public:
     /// `pick` opens the picker; without one its button and its menu entry are grey.
@@ -47,14 +47,14 @@ class RecipientList {
     platform::Menu mnusubpopup5;
     platform::Menu mnusubpopup9;
 
-    /// The kind whose numbers are typed from now on.
+    /// Sets the kind of message whose numbers are typed from now on.
     void set_kind(const KindOfMessage& kind);
 
-    /// Adds a checked row at the end, selected and in view. Returns false, with nothing added, when the
-    /// number begins one that is listed: it counts as listed too. An empty name becomes NO_NAME.
+    /// Adds a checked row at the end, selected and in view. Returns false and adds nothing when a listed
+    /// number begins with this one: it counts as a duplicate. An empty name becomes NO_NAME.
     bool add(platform::Text name, const platform::Text& number, platform::Text title);
 
-    /// Writes how many rows there are and how many are checked.
+    /// Shows how many rows there are and how many are checked.
     void RECIPIENT_COUNT_CAPTION();
 
   private:

@@ -8,7 +8,7 @@
 
 namespace compose {
 
-/// Whether the recipient of a voice may answer by pressing a number, and how many there are to press.
+/// Whether the recipients of a voice may reply by pressing a number, and how many numbers there are.
 class ReplyBox {
   public:
     /// `container` is the panel of the voice.

@@ -60,7 +60,7 @@ void SchedulePanel::choose_schedule() {
     show_schedule(controls(), platform_.clock.now());
 
     double lead = saved_schedule_lead(platform_);
-    // Too large a lead counts as 30 here and as 90 when the draft is checked; both stay.
+    // Deliberately 30 for too large a lead, though it counts as 90 when the draft is checked.
     if (lead > 90) lead = 30;
     // A margin, so that the lead still holds when the message is finished.
     if (lead > 0) lead += 2;

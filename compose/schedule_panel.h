@@ -11,7 +11,7 @@
 
 namespace compose {
 
-/// When a message goes.
+/// When a message is to be sent.
 class SchedulePanel {
   public:
     SchedulePanel(platform::Form& form, platform::Platform& platform);
@@ -23,7 +23,7 @@ class SchedulePanel {
     platform::ComboBox Combo1;
     platform::ComboBox Combo2;
     platform::Label Label2_3;
-    /// A shortcut list that has never been shown; its rows and its handler are there all the same.
+    /// A list of shortcuts that is never shown, though it has rows and a handler.
     platform::ComboBox Combo6;
     platform::CommandButton Command6;
     /// Scratch values of the check before sending.
@@ -32,7 +32,7 @@ class SchedulePanel {
     /// Fills the lists of hours and minutes and shows the present time.
     void load();
 
-    /// Moves the schedule shown forward by minutes, with one hour's carry only.
+    /// Moves the schedule shown forward and carries at most one hour (see `add_schedule_minutes`).
     void RESERVE_TIME_ADD(int minutes);
 
     /// Asks how far ahead a schedule has to lie.

@@ -18,13 +18,12 @@ void fill_hours_and_minutes(const ScheduleControls& schedule);
 /// Shows the moment.
 void show_schedule(const ScheduleControls& schedule, platform::LocalTime moment);
 
-/// Moves the moment shown forward. Only one hour's carry is made: with more than an hour to add late in an
-/// hour, the minute has no row to go to and stays while the hour has moved. Schedules have always come out
-/// so.
+/// Moves the moment shown forward. Deliberately carries at most one hour: when more than an hour is added
+/// late in an hour, the list of minutes has no row for the sum, so the minute stays while the hour moves on.
 void add_schedule_minutes(const ScheduleControls& schedule, int minutes);
 
-/// The least lead of a schedule in minutes as the user has set it, 30 at first. Beyond 90 each reader has its
-/// own rule.
+/// The least lead of a schedule in minutes as the user has set it, 30 by default. Each caller has its own
+/// rule for more than 90.
 double saved_schedule_lead(const platform::Platform& platform);
 
 }  // namespace compose

@@ -9,7 +9,7 @@ using platform::Text;
 
 namespace {
 
-/// `first` and `second` as rows; the field shows what is saved, or `otherwise`.
+/// Fills the list with `first` and `second`. The field shows `saved`, or `otherwise` when that is empty.
 void fill(ComboBox& field, const Text& first, const Text& second, const Text& saved, const Text& otherwise) {
     field.clear();
     field.add_row(gateway::CLEAN_FIXED_TEXT(first));
@@ -29,8 +29,8 @@ Sender::Sender(platform::Form& form, platform::Platform& platform, core::AppStat
       state_(state) {
     txtUserName.GotFocus.connect([this] { txtUserName.set_tag(u"[" + txtUserName.text() + u"]"); });
     txtUserName.LostFocus.connect([this] { name_left(); });
-    // Deliberately under a key spelled otherwise than the one written at the end: settings files have always
-    // had both, and keys are found whatever their case.
+    // Deliberately a key in another spelling than the one that `save` writes: settings files have always had
+    // either, and the case of a key does not count.
     txtCallback.LostFocus.connect([this] { save_callback(core::settings::SENDER_NUMBER_LEFT); });
 }
 

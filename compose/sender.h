@@ -9,7 +9,7 @@
 
 namespace compose {
 
-/// Who sends: the name that opens a text, and the number that its recipient can call back.
+/// The sender: the name that begins a text, and the number that recipients can call back.
 class Sender {
   public:
     Sender(platform::Form& form, platform::Platform& platform, core::AppState& state);
@@ -19,20 +19,20 @@ class Sender {
     platform::Label Label2_1;
     platform::ComboBox txtCallback;
 
-    /// "[" and the name and "]", as it stands in front of a text.
+    /// The name in brackets, as texts begin with it.
     platform::Text sender_tag() const;
 
     void set_visible(bool visible);
 
-    /// Offers the account's names and numbers; the saved ones are chosen.
+    /// Offers the account's names and numbers and chooses the saved ones.
     void fill_from_account();
-    /// Offers the account's number where the user has left the field empty.
+    /// Puts the account's number into the field if the user has left it empty.
     void fill_empty_callback();
 
-    /// Writes name and number to the settings where the user has changed them.
+    /// Writes name and number to the settings if the user has changed them.
     void save();
 
-    /// The user has changed the name: the tag that texts begin with, before and after.
+    /// Raised when the user has changed the name, with the sender tag before and after.
     platform::Event<const platform::Text&, const platform::Text&> Renamed;
 
   private:

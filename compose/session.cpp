@@ -35,7 +35,7 @@ Session::Session(platform::Form& form, platform::Platform& platform, core::AppSt
       state_(state),
       polling_(polling) {
     cmdLogOut.set_enabled(false);
-    // The panels are empty until the first login, and never say what a click on them does.
+    // The panels are empty until the first login and never say what a click does, so each has a tool tip.
     STBar1.set_panel_tool_tip(1, u"로그인하기");
     STBar1.set_panel_tool_tip(2, u"가입자 정보변경");
     STBar1.set_panel_tool_tip(3, u"팩스수신");
@@ -91,7 +91,7 @@ void Session::AUTO_LOGIN_START() {
     }
 }
 
-/// Here "1" alone is on, unlike everywhere else.
+/// Only "1" counts as on here, unlike in other settings.
 void Session::read_auto_login_mark() {
     const Text value = core::read_setting(platform_, core::settings::AUTO_LOGIN);
     mnuAutoLogin.set_tag(value == u"1" ? u"1" : u"0");
@@ -100,8 +100,8 @@ void Session::read_auto_login_mark() {
 
 void Session::go_on_after_login() {
     state_.session.gSubmitSequence = 1;
-    // After an automatic login, which does not look at the kind of service, the buttons alone say that this
-    // one is of no use: the user stays logged in.
+    // The automatic login does not check the type of service. For one that cannot send only the buttons
+    // change: the user stays logged in.
     if (state_.session.gServiceType < core::SERVICE_PRO || state_.session.gServiceType > core::SERVICE_POP) {
         SET_LOGIN_BUTTONS(false);
         return;

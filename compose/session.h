@@ -10,10 +10,10 @@
 
 namespace compose {
 
-/// Who is logged in, as the status bar and the file menu show it, and the ways to the service's pages.
+/// The user's login as the status bar and the file menu show it, and the ways to the service's pages.
 class Session {
   public:
-    /// `polling` stands still while the user logs in by hand.
+    /// `polling` is stopped while the user logs in by hand.
     Session(platform::Form& form, platform::Platform& platform, core::AppState& state,
             platform::Timer& polling);
 
@@ -29,15 +29,15 @@ class Session {
     void cmdLogOut_Click();
     void AUTO_LOGIN_START();
     void SET_LOGIN_BUTTONS(bool logged_in);
-    /// Shows a service::ServicePage; who is not logged in logs in first or sees none.
+    /// Shows a service::ServicePage; a user who is not logged in has to log in first.
     void KTSMS_LINK(int index);
 
     /// Shows the version, and whether the automatic login is on.
     void load();
-    /// Keeps the menu's mark; without the automatic login the password goes.
+    /// Saves the menu's mark. Without the automatic login the saved password is blanked.
     void save();
 
-    /// The account's data are there to be shown.
+    /// Raised when the account's data are there to be shown.
     platform::Event<> LoggedIn;
 
   private:

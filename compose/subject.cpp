@@ -24,13 +24,13 @@ void Subject::follow(const Text& body, std::size_t limit) {
 }
 
 void Subject::freeze() {
-    if (!platform::trim(subjectText.text()).empty()) stand();
+    if (!platform::trim(subjectText.text()).empty()) fix();
 }
 
 void Subject::subject_changed() {
     const std::size_t length = platform::trim(subjectText.text()).size();
     if (length == 0) follow_again();
-    if (length > LENGTH) stand();
+    if (length > LENGTH) fix();
 }
 
 void Subject::fill_empty(const Text& body) {

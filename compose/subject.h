@@ -6,7 +6,7 @@
 
 namespace compose {
 
-/// The sending's title. It follows the text that is written until it stands: its tag is "END" then.
+/// The subject of a message. It follows the text until it is fixed, which its tag "END" says.
 class Subject {
   public:
     explicit Subject(platform::Form& form);
@@ -15,20 +15,20 @@ class Subject {
     platform::TextBox subjectText;
     platform::Label Label3_1;
 
-    /// Takes the text's beginning as the subject unless that stands; `limit` counts characters.
+    /// Makes the beginning of the text the subject unless the subject is fixed; `limit` counts characters.
     void follow(const platform::Text& body, std::size_t limit = platform::Text::npos);
 
-    /// A subject that is there stands from now on.
+    /// Fixes a subject that is not empty.
     void freeze();
 
-    // While texts are written by the program they must not become the subject.
-    void stand() { subjectText.set_tag(u"END"); }
+    // Fixes the subject: texts that the program writes must not change it.
+    void fix() { subjectText.set_tag(u"END"); }
     void follow_again() { subjectText.set_tag(u""); }
 
     /// Fills an empty subject with the beginning of the text, or with "제목없음".
     void fill_empty(const platform::Text& body);
 
-    /// The length of a subject that a text gives, in characters.
+    /// The most characters of a subject that is taken from a text.
     static constexpr std::size_t LENGTH = 15;
 
   private:

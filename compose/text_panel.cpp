@@ -20,7 +20,8 @@ struct Emoticon {
     platform::TextView caption;
 };
 
-/// Caption and inserted text in one, in the order of the screen. The heart stands twice.
+/// Each is both the caption and the text that it inserts, in the order of the screen. The heart is meant to
+/// be there twice.
 constexpr std::array EMOTICONS = {
     Emoticon{27, u"(*_*)"},      Emoticon{26, u"(=_=;)"},
     Emoticon{25, u"(-.-)Zzz.."}, Emoticon{24, u"(^0^) (~0~)"},
@@ -124,22 +125,22 @@ void TextPanel::mText1_Change() {
     }
     const std::size_t bytes = core::BYTE_LEN(mText1.text());
     mHLen1.set_caption(platform::decimal(bytes) + u"Bytes");
-    // Below the limit the question is armed again; at exactly 80 bytes the answer still holds.
+    // Below the limit the user is to be asked again; at exactly 80 bytes the answer still holds.
     if (bytes < TEXT_LIMIT) mText1.set_tag(u"");
     mHLen3.set_visible(bytes > TEXT_LIMIT);
 }
 
-/// Tells that the field is full and cuts it. The focus goes to the box around the field, which gives it back
-/// at once.
+/// Shows that the field is full and cuts it. The focus goes to the picture box around the field, which
+/// returns it at once.
 void TextPanel::refuse_excess() {
-    tell_text_is_cut(platform_.desktop);
+    show_text_is_cut(platform_.desktop);
     Text text = mText1.text();
     mText1.set_text(core::LLL(text, TEXT_LIMIT));
     mText1.set_caret_to_end();
     Picture2.set_focus();
 }
 
-/// Enforces only: the question about a long message is the change handler's.
+/// Only enforces the limit; the Change handler asks about a long message.
 void TextPanel::mText1_KeyPress(KeyPressed& key) {
     if (key.code == platform::KEY_BACKSPACE) return;
     if (mText1.tag().empty() && !Check1.checked() && core::BYTE_LEN(mText1.text()) > TEXT_LIMIT)
@@ -160,12 +161,12 @@ void TextPanel::apply(Text text) {
         if (ask_for_long_text(platform_.desktop, u"[확인]을 하시면")) {
             mText1.set_tag(u"LONG");
         } else {
-            tell_text_is_cut(platform_.desktop);
+            show_text_is_cut(platform_.desktop);
             text = core::LLL(text, TEXT_LIMIT);
         }
     }
     mText1.set_text(text);
-    // The answer held for this text; the user's next edit of it is asked about anew.
+    // The answer was for this text only: the user is asked again at the next edit.
     mText1.set_tag(u"");
 }
 
@@ -185,7 +186,7 @@ void TextPanel::save() {
     const Text subject = subject_.subjectText.text();
     Text title = subject;
     try {
-        // Asked for first: a wildcard in the subject would find other texts below.
+        // Checked first: a wildcard in the subject would match other texts below.
         core::check_saved_text_name(platform_, core::DEFAULT_CATEGORY, subject);
         for (int i = 1;
              core::FILE_EXISTS(platform_, core::saved_text_path(platform_, core::DEFAULT_CATEGORY, title));

@@ -28,16 +28,16 @@ class TextPanel {
     platform::CheckBox Check1;
     platform::ComboBox Combo3;
     platform::Label Label1_4;
-    /// The emoticons; Index counts down from 27, as they stand on the screen.
+    /// The emoticons, numbered downwards from 27 in the order of the screen.
     std::deque<platform::CommandButton> mBttn1;
     platform::CommandButton MyMsgBttn;
     platform::CommandButton MySave;
 
     void mText1_Change();
 
-    /// Begins a new text: the sender's name alone.
+    /// Begins a new text with the sender's name alone.
     void start();
-    /// The same unless the user has written one.
+    /// The same, unless the user has written a text.
     void start_if_empty();
 
     /// Puts the sender's new name where the old one stands.
@@ -46,7 +46,7 @@ class TextPanel {
     /// The text without the sender's name, trimmed.
     platform::Text body() const;
 
-    /// Takes a saved text; one that is too long is asked about first.
+    /// Makes a saved text the message. Asks first when it is too long.
     void apply(platform::Text text);
 
   private:

@@ -51,7 +51,7 @@ VoicePanel::VoicePanel(platform::Form& form, platform::Platform& platform, platf
       platform_(platform),
       dialog_(dialog) {
     fill_panels();
-    // It has never led anywhere; the text above says what is meant.
+    // The button has no action and never had one; the text above it gives the guidance.
     TTSBttn4.set_enabled(false);
 
     TabStrip2.Click.connect([this] { show_source(); });
@@ -67,13 +67,13 @@ VoicePanel::VoicePanel(platform::Form& form, platform::Platform& platform, platf
     TTSBttn1.Click.connect([this] { platform::ignore_errors([this] { choose_sound_file(); }); });
     TTSBttn2.Click.connect([this] { TTSFileTxt.set_text(u""); });
     TTSBttn3.Click.connect([this] {
-        take_machine_path();
+        translate_machine_path();
         core::SHELL_OPEN_CHECKED(platform_, TTSFileTxt.text());
     });
     show_source();
 }
 
-/// A control is on the screen, and can have the focus, only with the panel that holds it.
+/// A control is visible, and can have the focus, only together with the panel that holds it.
 void VoicePanel::fill_panels() {
     const auto fill = [](platform::Control& panel, std::initializer_list<platform::Control*> controls) {
         for (platform::Control* control : controls) control->set_container(panel);
@@ -124,7 +124,7 @@ void VoicePanel::stop_hidden_recording() {
 }
 
 void VoicePanel::save_recording() {
-    // A trial, so that nobody is asked for a name when there is nothing to save.
+    // A trial, so that the user is not asked for a name when there is nothing to save.
     const Text trial = u"tmpbk.wav";
     if (RFK1.SaveWave(Text(core::SOUND_FOLDER), trial)) return;
     core::DELETE_FILE(platform_, Text(core::SOUND_FOLDER) + trial);
@@ -134,7 +134,7 @@ void VoicePanel::save_recording() {
     if (!RFK1.SaveWave(core::PARENT_DIR(platform_, path), core::FILE_NAME_OF(path))) RFK1.set_kept();
 }
 
-void VoicePanel::take_machine_path() {
+void VoicePanel::translate_machine_path() {
     if (const Text path = platform::trim(TTSFileTxt.text()); path.starts_with(u'/'))
         TTSFileTxt.set_text(platform_.files.path_of(platform::to_utf8(path)));
 }

@@ -44,10 +44,10 @@ class VoicePanel {
 
     void ttsText_Change();
 
-    /// A sound file's path as the machine writes it, pasted perhaps, becomes the program's.
-    void take_machine_path();
+    /// Rewrites a sound file's path that the user pasted as the operating system spells it.
+    void translate_machine_path();
 
-    /// Nobody is recorded without seeing it.
+    /// Stops a recording whose panel is hidden: nobody is recorded without seeing it.
     void stop_hidden_recording();
 
   private:
@@ -62,7 +62,7 @@ class VoicePanel {
     platform::CommonDialog& dialog_;
 };
 
-/// Which source the panel shows. Nothing else asks its tabs.
+/// The source that the panel shows. Only this function asks its tabs.
 Content voice_source_of(const VoicePanel& panel);
 
 }  // namespace compose

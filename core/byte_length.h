@@ -9,8 +9,8 @@ namespace core {
 /// Bytes of the text in cp949. Every limit of a message is counted with this and never by characters.
 std::size_t BYTE_LEN(platform::TextView text);
 
-/// Trims the text at its right, in place, and returns as much of its beginning as fits into the bytes of
-/// cp949. A character that would straddle the limit goes whole, so the result can be a byte shorter.
+/// Trims the end of the text in place and returns the longest beginning that fits into `limit` bytes of
+/// cp949. No character is split, so the result can be a byte shorter than the limit.
 platform::Text LLL(platform::Text& text, std::size_t limit);
 
 }  // namespace core

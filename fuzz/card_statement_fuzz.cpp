@@ -14,7 +14,7 @@ namespace {
 using platform::Text;
 using platform::TextView;
 
-/// The plain way: which beginnings of the text match which beginnings of the pattern.
+/// The simple way: which beginnings of the text match which beginnings of the pattern.
 bool matches_plainly(TextView pattern, TextView text) {
     std::vector<char> reach(text.size() + 1, 0);
     reach[0] = 1;
@@ -45,7 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const Text statement = machine::jet::sqlite_statement(input);
         fuzz::check(machine::jet::sqlite_statement(statement) == statement, "a rewritten statement stays");
     } catch (const platform::RuntimeError&) {
-        // Broken, and said so.
+        // A faulty statement that was refused.
     }
     machine::jet::ConnectionString::parse(input);
 

@@ -8,28 +8,28 @@ namespace {
 
 using namespace machine::jet;
 
-struct Taken {
+struct Parsed {
     std::string rows;
     bool good = true, complete = false;
 };
 
-/// Writes the rows that are taken out of the stream once more.
-Taken take(std::string_view stream, std::size_t piece) {
-    Taken taken;
-    CardStreamParser parser([&](Table table, const Row& row) { append_row(taken.rows, table, row); });
-    for (; !stream.empty() && taken.good; stream.remove_prefix(std::min(piece, stream.size())))
-        taken.good = parser.feed(stream.substr(0, piece));
-    taken.complete = parser.is_complete();
-    return taken;
+/// Writes the rows that were parsed from the stream back as a stream.
+Parsed parse(std::string_view stream, std::size_t piece) {
+    Parsed parsed;
+    CardStreamParser parser([&](Table table, const Row& row) { append_row(parsed.rows, table, row); });
+    for (; !stream.empty() && parsed.good; stream.remove_prefix(std::min(piece, stream.size())))
+        parsed.good = parser.feed(stream.substr(0, piece));
+    parsed.complete = parser.is_complete();
+    return parsed;
 }
 
 }  // namespace
 
-/// A stream is taken the same in whatever pieces it comes, and a whole one is what its rows would be written
-/// as.
+/// A stream gives the same rows in whatever pieces it arrives, and a whole stream equals its rows written
+/// again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view stream(reinterpret_cast<const char*>(data), size);
-    const Taken whole = take(stream, size + 1), pieces = take(stream, 7);
+    const Parsed whole = parse(stream, size + 1), pieces = parse(stream, 7);
     fuzz::check(whole.rows == pieces.rows && whole.good == pieces.good && whole.complete == pieces.complete,
                 "pieces make no difference");
     if (whole.complete) {

@@ -9,7 +9,7 @@
 
 namespace fuzz {
 
-/// Stops the fuzzer at an input for which something that must hold does not.
+/// Stops the fuzzer at an input for which the condition does not hold.
 inline void check(bool holds, const char* what) {
     if (holds) return;
     std::fprintf(stderr, "does not hold: %s\n", what);

@@ -18,7 +18,7 @@ std::string_view take_line(std::string_view& rest) {
     return line;
 }
 
-/// Whether names can be found again once they are written.
+/// Whether names can be found again after they are written.
 bool can_be_written(std::string_view section, std::string_view key) {
     const auto start = key.find_first_not_of(" \t\v\f");
     const bool like_another_line =

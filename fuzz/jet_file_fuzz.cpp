@@ -1,5 +1,6 @@
-// The input is what is changed of a sound card database: three bytes for where, one that is written there.
-// The program that reads it is a process of its own; whatever happens to it, there are all cards or an error.
+// The input is damage to an intact card database: three bytes for a position and one byte to write there,
+// again and again. The program that reads it is a process of its own; whatever happens to it, the result must
+// be all cards or an error.
 
 #include "fuzz/check.h"
 #include "platform/error.h"
@@ -31,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                     "all folders are there");
         fuzz::check(rows_of(*connection, u"tbl_namecard") == static_cast<int>(cards), "all cards are there");
     } catch (const platform::RuntimeError&) {
-        // Told in a box, instead of a part of the cards.
+        // An error, which a box shows: better than a part of the cards.
     }
     return 0;
 }

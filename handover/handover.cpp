@@ -26,7 +26,8 @@ void HandOver::NEW_SENDMAN_LOAD() {
     if (state_.forms.gSendFormOpen) return;
     if (!core::FILE_EXISTS(platform_, compose::isend_text(platform_))) return left_over_.reset();
     form_.Timer1.set_enabled(false);
-    // Choosing the tab anew every half second would empty the draft each time, and a page could not be left.
+    // Files that could not be deleted are taken in only once: choosing the tab every half second would empty
+    // the draft each time, and the user could not leave a page.
     if (!left_over_ || *left_over_ != files()) take_in();
     delete_quietly(compose::isend_text(platform_));
     delete_quietly(compose::tmpman_txt(platform_));

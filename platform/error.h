@@ -26,7 +26,7 @@ enum class ErrorNumber {
     no_such_export = 453,
     library_not_loaded = 48,
     dialog_cancelled = 32755,
-    // Of the card database, as its provider numbers them.
+    // Errors of the card database, as its provider numbers them.
     no_current_record = 3021,
     no_such_field = 3265,
     connection_closed = 3709,
@@ -54,8 +54,8 @@ class RuntimeError : public std::exception {
     std::string what_;
 };
 
-/// Runs one step of a handler that goes on at its next statement: a RuntimeError of the step is swallowed and
-/// nothing else is. Returns whether the step ran to its end.
+/// Runs one step of a handler that goes on even if the step fails: swallows a RuntimeError, and no other
+/// exception. Returns whether the step ran to its end.
 template <class Step>
 bool ignore_errors(Step&& step) {
     try {

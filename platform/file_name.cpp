@@ -10,14 +10,14 @@ namespace platform {
 
 namespace {
 
-/// In UTF-8, by which Linux file systems count.
+/// In UTF-8, whose bytes Linux file systems count.
 constexpr std::size_t MOST_BYTES = 255;
 
 char16_t upper_case_unit(char16_t unit) {
     return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - u'a' + u'A') : unit;
 }
 
-/// Names that mean a device elsewhere, with any extension.
+/// Names that mean a device on other systems, with any extension.
 bool is_device(TextView name) {
     Text stem = lower_case(right_trim(name.substr(0, name.find(u'.'))));
     for (const TextView device : {u"con", u"prn", u"aux", u"nul"}) {
@@ -30,7 +30,7 @@ bool is_device(TextView name) {
 
 bool is_forbidden(char16_t unit) { return unit < u' ' || FORBIDDEN_IN_NAMES.find(unit) != TextView::npos; }
 
-/// Control characters, and those that turn the direction of a text round or take no room.
+/// Control characters, and characters that reverse the direction of a text or have no width.
 bool is_invisible(char16_t unit) {
     constexpr std::pair<char16_t, char16_t> RANGES[] = {{0x7F, 0x9F},     {0xAD, 0xAD},     {0x200B, 0x200F},
                                                         {0x2028, 0x202E}, {0x2060, 0x206F}, {0xFEFF, 0xFEFF}};

@@ -1,8 +1,8 @@
-"""The card manager, which hands recipients over to the program in files."""
+"""The card manager, which hands over recipients to the program in files."""
 
 
 def hand_over(application, tab, recipients):
-    """First the recipients, (name, number, title), then the file that says so and which tab is to open."""
+    """Writes the recipients, (name, number, title), and then the signal, which names the tab to open."""
     folder = application / "temp"
     folder.mkdir(exist_ok=True)
     lines = "".join(f"0\t{name}\t{number}\t{title}\r\n" for name, number, title in recipients)

@@ -1,13 +1,13 @@
-"""The carrier's stand-in: what has reached its ledger, and orders to it."""
+"""The carrier's stand-in: reads its ledger and gives it orders."""
 import contextlib
 import datetime
 import sqlite3
 
 from expect import expect
 
-# What the ledger has for a time that lies at the click that sent the message.
+# Stands for the time of the click that sent the message.
 AT_ONCE = "at once"
-# The kinds of message: the operation and its codes, and what stands in the fields that a draft leaves empty.
+# The kinds of message: the operation, its codes, and the values of the fields that a draft leaves empty.
 TEXT = {"operation": "fn_x_submit", "data_type": 1, "data_sub_type": None, "reply_flag": None, "tts_content": None}
 _LONGER = {"operation": "fn_x_submit_2", "data_sub_type": 2, "reply_flag": 0, "tts_content": ""}
 TEXT_AND_SPEECH = {**_LONGER, "data_type": 7, "data_sub_type": 1}
@@ -22,7 +22,7 @@ NO_ATTACHMENT = 16
 
 
 def registration(kind, subject, recipients, attachments=(), **columns):
-    """A row of the ledger: registered and at once, unless `columns` say otherwise. Recipients are (name, digits)."""
+    """A row of the ledger: registered, to be sent at once, unless `columns` say otherwise. Recipients are (name, digits)."""
     return {
         "user_id": "demo",
         "submit_sequence": 1,
@@ -41,7 +41,7 @@ def registration(kind, subject, recipients, attachments=(), **columns):
 
 
 def path_of(file):
-    """A file as the program names it to the carrier."""
+    """A file's path as the program gives it to the carrier."""
     return "z:" + str(file).replace("/", "\\").lower()
 
 
@@ -52,20 +52,20 @@ class Carrier:
         self._seen = 0
 
     def expect(self, *registrations):
-        """These and no others have been asked for since the last look."""
+        """Expects these registrations, and no others, since the last look."""
         rows = self._rows("SELECT * FROM registration WHERE id > ? ORDER BY id", self._seen)
         self._seen = rows[-1]["id"] if rows else self._seen
         expect("the carrier's ledger", [_as_expected(row) for row in rows], list(registrations))
 
     def calls(self, operation):
         """How often the program has called the operation."""
-        # A process has numbers of its own, and the program may have been started anew.
+        # Each process counts its own calls, and the program may have been restarted.
         last = self._rows("SELECT nth, process FROM call WHERE operation = ? ORDER BY id DESC LIMIT 1", operation)
         return last[0]["nth"] if last else 0
 
     @contextlib.contextmanager
     def ordered(self, section, line):
-        """For a while the carrier has this order beside the others."""
+        """Gives the stand-in this order, beside the others, for the length of the block."""
         before = self._orders.read_text()
         self._orders.write_text(f"{before}\n[{section}]\n{line}\n")
         try:
@@ -86,7 +86,7 @@ def _as_expected(row):
     columns = {name: row[name] for name in row.keys() if name not in ("id", "call", "time", "recipient_count")}
     called = datetime.datetime.fromisoformat(row["time"])
     scheduled = datetime.datetime.strptime(row["schedule_time"], "%Y%m%d%H%M%S")
-    # It is the minute in which the job began.
+    # The minute in which the job began.
     if datetime.timedelta() <= called - scheduled < datetime.timedelta(minutes=2):
         columns["schedule_time"] = AT_ONCE
     return columns

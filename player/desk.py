@@ -18,13 +18,13 @@ HANGUL_DELAY = "60"
 class Desk:
     def __init__(self, results):
         self.results = results
-        # The user's own folder, where the scenes lay the files that he picks.
+        # The user's own folder, where the scenes put the files that the user picks.
         self.home = results / "home"
         self.home.mkdir(exist_ok=True)
         self.app = results / "app"
         self.carrier = Carrier(self.app)
         self.pictures = []
-        # What is remembered of a page or a label may be older than what is on the screen.
+        # A cached page or label may be older than what the screen shows.
         pyatspi.Registry.getDesktop(0).set_cache_mask(pyatspi.Atspi.Cache.NONE)
         self.program = None
 
@@ -59,7 +59,7 @@ class Desk:
         return self.wait(f"window '{title}'", lambda: next((w for w in self.windows() if title in w.name), None))
 
     def window_called(self, title):
-        """Waits for a window whose whole title this is."""
+        """Waits for a window with exactly this title."""
         return self.wait(f"window '{title}'", lambda: next((w for w in self.windows() if w.name == title), None))
 
     def gone(self, title):
@@ -67,7 +67,7 @@ class Desk:
         self._wait_for_focus()
 
     def _wait_for_focus(self):
-        """Until a window of the program has the focus: what is clicked or typed before is lost."""
+        """Waits until a window of the program has the focus: clicks and keys before that are lost."""
         active = lambda window: window.getState().contains(pyatspi.STATE_ACTIVE)
         self.wait("the focus in a window", lambda: any(active(window) for window in self.windows()))
 
@@ -76,7 +76,7 @@ class Desk:
         return field.queryText().getText(0, -1)
 
     def rows(self, name, within):
-        """The rows of the list of that name, for each whether it is ticked and what its other cells say."""
+        """The rows of the list of that name: for each whether it is ticked, then the texts of its other cells."""
         things = list(self.find(name, "tree", within))
         columns = [thing.getRoleName() for thing in things].count("table column header")
         cells = things[columns:]
@@ -120,7 +120,7 @@ class Desk:
         subprocess.run(["xdotool", "key", "--clearmodifiers", "--delay", "60", *keys], check=True)
 
     def write(self, text):
-        """Types the text; a line end presses Enter and a tab Tab."""
+        """Types the text; a line end presses Enter, a tab character Tab."""
         for piece in re.findall("\n|\t|[ -~]+|[^\n\t -~]+", text):
             if piece in ("\n", "\t"):
                 self.keys("Return" if piece == "\n" else "Tab")
@@ -129,13 +129,13 @@ class Desk:
                 subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", delay, piece], check=True)
 
     def fill(self, field, text):
-        """Writes in place of what the field holds."""
+        """Replaces the field's text by typing."""
         self.give_focus(field)
-        # A program that is slow to learn the keyboard's map takes a syllable for another one: then once more.
+        # A program that learns the keyboard's map late gets wrong syllables; then the text is typed again.
         self.wait(f"'{text}' in its field", lambda: self._written(field, text))
 
     def give_focus(self, field):
-        # A window that is just being given back by a box over it may miss a click.
+        # A window may miss a click just after a box over it has closed.
         self.wait("the focus", lambda: self._clicked_into(field))
 
     def _clicked_into(self, field):
@@ -157,7 +157,7 @@ class Desk:
         return True
 
     def tick(self, box):
-        """Ticks a box, or chooses one of several."""
+        """Ticks a check box, or chooses an option."""
         self.wait("the tick", lambda: self._clicked_on(box))
 
     def _clicked_on(self, box):
@@ -167,7 +167,7 @@ class Desk:
         return self._soon(ticked)
 
     def choose_file(self, title, name, picture=None):
-        """Picks a file of the user's own folder in the file dialog of that title."""
+        """Picks a file from the user's own folder in the file dialog with that title."""
         dialog = self.window(title)
         self.click(self.find(name, "table cell", dialog))
         if picture:
@@ -178,7 +178,7 @@ class Desk:
     # What most scenes do.
 
     def choose_kind(self, kind, subject):
-        """Clicks the kind's tab, writes the subject and returns the main window, which shows the kind."""
+        """Clicks the kind's tab, writes the subject and returns the main window."""
         self.click(self.find(kind, "page tab", self.window("[")))
         main = self.window(f"[{kind}]")
         self.fill(self.find("발송제목", "text", main), subject)
@@ -198,25 +198,25 @@ class Desk:
         self.find("전체>0>", "label", main)
 
     def schedule(self, main):
-        """Schedules the draft for the last minute of an hour in some years; returns when, as the carrier has it."""
+        """Schedules the draft for the last minute of an hour, years ahead; returns that time in the carrier's spelling."""
         self.tick(self.find("예약전송", "check box", main))
         self.give_focus(self.find("발송예약 시간", "spin button", main))
-        # In four years there is every day that is in this one.
+        # Four years ahead every date of this year exists, 29 February too.
         self.keys("Home", "Up", "Up", "Up", "Up", "End", "Tab", "Home", "Tab", "End")
         today = datetime.date.today()
         return today.replace(year=today.year + 4).strftime("%Y%m%d005900")
 
     def send_at_once(self, main):
-        """The draft is no longer scheduled."""
+        """Chooses to send the draft at once."""
         self.tick(self.find("즉시전송", "check box", main))
 
     def ask_to_send(self, main):
-        """Sends the draft, up to the question whether it is right, which Enter says."""
+        """Presses send and waits for the question whether the draft is right, which Enter answers with yes."""
         self.click(self.find("보내기", "push button", main))
         self.window("메시지 발송확인")
 
     def start_sending(self, main, confirmation=None):
-        """Sends the draft, up to the window that tells how far the job is."""
+        """Sends the draft and waits for the window that shows the job's progress."""
         self.ask_to_send(main)
         if confirmation:
             self.picture(confirmation)
@@ -224,7 +224,7 @@ class Desk:
         self.gone("메시지 발송확인")
 
     def read_report(self, picture=None):
-        """Waits for the report and closes it; returns how many recipients were registered, failed and were left."""
+        """Waits for the report and closes it; returns how many recipients were registered, failed and were stopped."""
         report = self.text_of(self.find("등록 결과", "text", self.window("등록완료")))
         if picture:
             self.picture(picture)
@@ -233,7 +233,7 @@ class Desk:
         return [int(number) for number in re.findall(r"(?:성공|실패|중지): ([0-9]+)건", report)]
 
     def send(self, main, confirmation=None):
-        """Sends the draft; returns what the report says once the main window is the user's again."""
+        """Sends the draft and returns the numbers of the report, once the main window can be used again."""
         self.start_sending(main, confirmation)
         return self.read_report()
 
@@ -243,7 +243,7 @@ class Desk:
         subprocess.run(["xdotool", "mousemove", str(x), str(y), "sleep", "0.1", "click", "1"], check=True)
 
     def say(self, text):
-        """Speaks into the microphone, until all is said; returns the file that was played."""
+        """Speaks into the microphone to the end; returns the sound file that was played."""
         spoken = self.results / "spoken.wav"
         subprocess.run(["espeak-ng", "-v", "ko", "-w", str(spoken), text], check=True)
         subprocess.run(["paplay", "--device=wire", str(spoken)], check=True)

@@ -1,7 +1,7 @@
-"""What a scene says must have come of it. A difference ends the play, with both sides told."""
+"""What a scene expects as its outcome. A difference ends the play and shows both sides."""
 import time
 
-PATIENCE = 30  # seconds until something that ought to come is missed
+PATIENCE = 30  # seconds to wait for something expected
 
 
 class Unexpected(Exception):
@@ -9,7 +9,7 @@ class Unexpected(Exception):
 
 
 def expect(what, found, expected):
-    """Of two lists or two dictionaries only what differs is told."""
+    """Ends the play when the two differ. Of lists and dictionaries only the differences are shown."""
     if found != expected:
         raise Unexpected(what + "".join(_differences(found, expected, "")))
 

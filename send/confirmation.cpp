@@ -11,7 +11,7 @@ using platform::Text;
 
 namespace {
 
-// The blanks in the labels make the colons stand below each other.
+// The blanks in the labels align the colons.
 
 Text kind_line(const compose::frmZent& form, const compose::CarrierKind& kind) {
     const bool is_long = kind.content == compose::Content::text &&
@@ -26,7 +26,8 @@ Text schedule_line(const compose::frmZent& form) {
            form.schedule.Combo1.text() + u"시" + form.schedule.Combo2.text() + u"분)";
 }
 
-/// Deliberately by `Check1`, though the job asks for replies by `Check2`: users know these lines as they are.
+/// Deliberately asks `Check1`, though the job asks `Check2` about replies: users know these lines as they
+/// are.
 Text reply_lines(const compose::frmZent& form) {
     if (!form.text.Check1.checked()) return u" 답변받기      : 아니오";
     return u" 답변받기      : 예" + Text(CRLF) + u" 답변개수      : " + form.reply.Combo4.text();

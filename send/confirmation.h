@@ -10,7 +10,7 @@
 
 namespace send {
 
-/// Whom a draft goes to: the checked rows.
+/// The recipients of a draft: the checked rows.
 struct Recipients {
     int count = 0;
     platform::Text first_name;

@@ -1,5 +1,5 @@
-// A text in pieces of one message each, every piece a minute behind the one before: nothing else keeps their
-// order.
+// A text cut into pieces of one message each. Every piece is scheduled a minute after the one before, since
+// nothing else keeps them in order.
 
 #include "compose/schedule_time.h"
 #include "core/byte_length.h"
@@ -11,7 +11,7 @@ namespace send {
 
 using platform::Text;
 
-/// The first piece goes when the draft says, or now.
+/// The first piece goes at the draft's schedule, or now.
 void frmZentSend::begin_pieces(SendJob& job, const Text& text) {
     mText1.set_text(text);
     job.pieces = 0;
@@ -39,7 +39,7 @@ void frmZentSend::next_piece(SendJob& job) {
 Text frmZentSend::CUT_NEXT_PIECE() {
     Text text = mText1.text();
     Text piece = core::LLL(text, compose::TEXT_LIMIT);
-    // Deliberately trimmed at its end only: a blank that opens a piece is the user's.
+    // Deliberately trimmed at its end only: a blank at the start of a piece is the user's.
     mText1.set_text(platform::right_trim(text.substr(piece.size())));
     return piece;
 }

@@ -5,7 +5,7 @@
 
 namespace send {
 
-/// 14 digits, year to minute and two zeros, as the carrier takes a schedule.
+/// A schedule as the carrier takes it: 14 digits, from the year to the minute, then two zeros.
 platform::Text schedule_digits(const platform::DatePicker& date, const platform::ComboBox& hour,
                                const platform::ComboBox& minute);
 

@@ -20,15 +20,15 @@ namespace send {
 
 /// The window of a send job. Half a second after its activation it runs one of four routines, which all do
 /// the same for their recipients, one submit after the other: open a session with the carrier, register, wait
-/// for the service's pace, note the result in the rows, close the session. They differ in how they group the
-/// recipients and what they do with the text:
+/// as the service demands, write the result into the rows, close the session. They differ in how they group
+/// the recipients and what they do with the text:
 ///
 ///     SEND_BATCHES        up to 100 recipients a submit, the text whole
 ///     SEND_LONG_BATCHES   the same once for every piece of a text that is too long for one message
 ///     SEND_PERSONAL       one recipient a submit, the text filled in for each and cut into pieces
-///     SEND_SINGLES        one recipient a submit, the text filled in, too long a text being a failure
+///     SEND_SINGLES        one recipient a submit, the text filled in; too long a text fails
 ///
-/// What they share stands in job_steps.cpp; each has a file of its own.
+/// What they share is in job_steps.cpp; each has a file of its own.
 class frmZentSend : public platform::Form {
   public:
     frmZentSend(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form);
@@ -65,9 +65,9 @@ class frmZentSend : public platform::Form {
     /// Nothing calls it yet; it is the one-recipient form of SEND_BATCHES.
     void SEND_SINGLES(const platform::Text& kind_name);
 
-    /// Takes the next message of at most 80 bytes off `mText1`; no character is split.
+    /// Cuts the next message of at most 80 bytes from `mText1`; no character is split.
     platform::Text CUT_NEXT_PIECE();
-    /// Moves the working schedule on by less than an hour.
+    /// Moves the working schedule forward by less than an hour.
     void ADD_SCHEDULE_MINUTES(int minutes);
 
   protected:
@@ -98,17 +98,17 @@ class frmZentSend : public platform::Form {
     void close_session(const SendJob& job);
     static void count(SendJob& job, const platform::Text& result, int recipients);
     void write_status(std::size_t first_row, std::size_t end_row, const platform::Text& status);
-    void tell_stopped();
+    void show_stopped();
     void report(const SendJob& job);
     void SEND_FINISHED();
 
     // Recipients in batches: send_batches.cpp.
     void pass_over_rows(SendJob& job, Batch& batch, PassOptions options);
-    bool gather(Batch& batch, std::size_t& current) const;
+    bool add_to_batch(Batch& batch, std::size_t& current) const;
     void submit_batch(SendJob& job, Batch& batch, std::size_t current, bool leaves_trace);
 
     // Recipients one by one: send_personal.cpp, send_singles.cpp.
-    /// The user has asked for personal messages, and the kind shown knows them.
+    /// Whether the user has asked for personal messages and the current kind allows them.
     bool is_personal() const;
     void for_each_recipient(const std::function<void(std::size_t row)>& send_row);
     std::optional<platform::Text> filled_in(const platform::Text& text,
@@ -117,7 +117,7 @@ class frmZentSend : public platform::Form {
     void send_single_row(SendJob& job, std::size_t row);
 
     // Texts in pieces: cutting.cpp.
-    /// The working schedule becomes the draft's.
+    /// Sets the working schedule to the draft's.
     void take_schedule();
     void begin_pieces(SendJob& job, const platform::Text& text);
     void next_piece(SendJob& job);

@@ -17,6 +17,7 @@ using platform::Text;
 
 namespace {
 
+/// Deliberately with its misspelt word: support knows the box so.
 constexpr platform::TextView FAILURE_MESSAGE =
     u"메시지 등록을 실패하였습니다. 원인은 다음과 같습니다.\r\n\r\n"
     u"원인 1) 인터넷 연결이 안된 경우.\r\n"
@@ -71,7 +72,7 @@ void frmZentSend::open_session(SendJob& job) {
     throw SessionRefused();
 }
 
-/// Registers the job's message and, when the carrier has taken it, waits. Returns what the rows are to show.
+/// Registers the job's message and, if the carrier accepts it, waits. Returns the status for the rows.
 Text frmZentSend::submit(SendJob& job, platform::TextView without_call) {
     wait_cursor();
     Text result = job.kind != nullptr ? gateway_.UMS_SEND_START(job.message) : Text(without_call);
@@ -105,7 +106,7 @@ void frmZentSend::write_status(std::size_t first_row, std::size_t end_row, const
     }
 }
 
-void frmZentSend::tell_stopped() {
+void frmZentSend::show_stopped() {
     normal_cursor();
     core::warn(platform_.desktop, u"메시지 등록이 중지되었습니다");
 }
@@ -123,7 +124,7 @@ void frmZentSend::report(const SendJob& job) {
     box.show_modal();
 }
 
-/// Leaves the window as it stands behind the report: the film on its first picture, the button as a way out.
+/// Prepares the window to stay behind the report: the film at rest, the button ready to close it.
 void frmZentSend::SEND_FINISHED() {
     if (core::open_film(platform_, Animation1, SendAnimationPath)) Animation1.stop();
     Command1.set_caption(u"닫기");

@@ -25,8 +25,8 @@ std::optional<Text> fill_placeholders(Text text, const Text& name, const Text& t
         if (name.empty() || name == compose::NO_NAME) return std::nullopt;
         text = platform::replace_all(text, NAME_PLACEHOLDER, name);
     }
-    // Deliberately no failure for an empty title, unlike the name: most cards have none, and their owners
-    // still get the message.
+    // Deliberately no failure for an empty title, unlike the name: most cards have none, and the people on
+    // them still get the message.
     return platform::replace_all(text, TITLE_PLACEHOLDER, title);
 }
 

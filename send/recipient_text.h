@@ -7,11 +7,11 @@
 
 namespace send {
 
-/// Whether the text greets its recipient by name or by title.
+/// Whether the text has a place for the recipient's name or title.
 bool has_placeholder(const platform::Text& text);
 
-/// The text with the recipient's name and title in the places that ask for them; nothing when it asks for a
-/// name and there is none.
+/// The text with the recipient's name and title in their places; nothing when it has a place for the name and
+/// there is none.
 std::optional<platform::Text> fill_placeholders(platform::Text text, const platform::Text& name,
                                                 const platform::Text& title);
 

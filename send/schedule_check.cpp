@@ -13,8 +13,8 @@ using platform::Text;
 
 namespace {
 
-/// The lead that the user has chosen, in minutes. Too large a lead counts as 90 here and as 30 when the
-/// schedule is set; both stay.
+/// The lead that the user has chosen, in minutes. Deliberately 90 for too large a lead, though it counts as
+/// 30 when the schedule is set.
 double minimum_lead(const platform::Platform& platform) {
     return std::min(static_cast<double>(platform::round_half_even(compose::saved_schedule_lead(platform))),
                     90.0);
@@ -31,7 +31,7 @@ long long date_digits(LocalTime time) {
 }
 
 /// The digits of day, hour, minute and second between two moments, read as one number: 30 minutes are 3000
-/// and an hour 10000. Deliberately digits and no minutes: any later date passes, as users who schedule past
+/// and an hour 10000. Deliberately digits, not minutes: any later date passes, as users who schedule past
 /// midnight are used to.
 double lead_digits(LocalTime scheduled, LocalTime now) {
     return platform::leading_number(

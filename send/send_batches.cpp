@@ -31,23 +31,23 @@ void frmZentSend::SEND_BATCHES(const Text& kind_name) {
     });
 }
 
-/// Goes once over the rows and submits a batch whenever one is full. `current` is the number of the row, from
-/// 1, that is being looked at.
+/// Goes once over the rows and submits a batch whenever one is full. `current` is the number of the present
+/// row, counted from 1.
 void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options) {
     const std::size_t rows = RecipientRows.row_count();
     std::size_t current = 0;
     while (current != rows) {
         ++current;
         if (options.leaves_trace) RecipientRows.make_visible(current - 1);
-        if (gather(batch, current)) submit_batch(job, batch, current, options.leaves_trace);
+        if (add_to_batch(batch, current)) submit_batch(job, batch, current, options.leaves_trace);
         if (options.shows_progress) PBar1.set_progress(current, rows);
         if (current == rows) {
-            // The last rows were left out after others had been gathered.
+            // The last rows were left out, but the batch holds earlier ones.
             if (!batch.s_dest_addr.empty()) submit_batch(job, batch, current, options.leaves_trace);
         } else if (StopRequested) {
-            // Deliberately not looked at behind the last row: everything is done there. What was gathered for
-            // the open batch stays unsent and checked.
-            tell_stopped();
+            // Deliberately not checked after the last row: everything is done there. The recipients of the
+            // open batch stay unsent and checked.
+            show_stopped();
             return;
         }
     }
@@ -56,7 +56,7 @@ void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options
 /// Adds the row to the batch when it is checked and has a number. Returns whether the batch is to be
 /// submitted now. A row that does not fit is not consumed (`current` is decremented) and starts the next
 /// batch.
-bool frmZentSend::gather(Batch& batch, std::size_t& current) const {
+bool frmZentSend::add_to_batch(Batch& batch, std::size_t& current) const {
     const platform::ListItem& row = RecipientRows.row(current - 1);
     if (!row.checked()) return false;
     const std::optional<Text> address = address_of(row);
@@ -72,8 +72,8 @@ bool frmZentSend::gather(Batch& batch, std::size_t& current) const {
     batch.s_dest_addr += *address;
     batch.bytes = bytes;
     ++batch.count;
-    // Deliberately without noting the first row: a token that fills a batch alone also marks rows that failed
-    // in the batch before. Users and support know the status column so.
+    // Deliberately before the first row is noted: an address that fills a batch alone also marks rows that
+    // failed in the batch before. Users and support know the status column so.
     if (bytes == ADDRESS_LIMIT) return true;
     if (batch.count == 1) batch.first_row = current - 1;
     return batch.count == RECIPIENT_LIMIT || current == RecipientRows.row_count();

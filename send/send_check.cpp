@@ -37,7 +37,7 @@ bool check_speech(const Platform& platform, frmZent& form) {
 }
 
 bool check_sound_file(const Platform& platform, frmZent& form) {
-    form.voice.take_machine_path();
+    form.voice.translate_machine_path();
     if (core::FILE_EXISTS(platform, form.voice.TTSFileTxt.text())) return true;
     core::warn(platform.desktop, u"첨부할 WAV파일을 선택하여 주십시오.");
     return false;
@@ -66,7 +66,7 @@ std::optional<Text> check_documents(const Platform& platform, frmZent& form) {
     return list;
 }
 
-/// Whether the message holds what it has to. A fax's documents come back in `documents`.
+/// Whether the message holds what it must. The list of a fax's documents is returned in `documents`.
 bool check_content(const Platform& platform, frmZent& form, Content content, Text& documents) {
     switch (content) {
         case Content::text:
@@ -89,7 +89,7 @@ bool check_content(const Platform& platform, frmZent& form, Content content, Tex
 /// What is wrong with the number for this kind of message; empty when nothing is.
 Text fault_of_recipient(const frmZent& form, const Text& number, const KindOfMessage& kind) {
     // Deliberately the caption of column 2, the name, though the number stands in column 3: support knows the
-    // messages so.
+    // boxes so.
     const Text& column = form.recipients.ListView1.column(2).caption;
     const Text digits = core::DIGITS_ONLY(number);
     if (digits.empty())

@@ -11,7 +11,7 @@ namespace send {
 
 /// State of one job (all but the recipient rows).
 struct SendJob {
-    /// Null for a text that is no kind: nothing is submitted then and every row fails.
+    /// Null when no kind has the given name: then nothing is submitted and every row fails.
     const compose::CarrierKind* kind;
     compose::Pauses pauses;
     platform::LocalTime started;
@@ -26,7 +26,7 @@ struct SendJob {
     /// Pieces cut from the text so far.
     int pieces = 0;
 
-    // In recipients.
+    // Counted in recipients.
     int success = 0;
     int failure = 0;
 };

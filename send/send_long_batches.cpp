@@ -10,8 +10,8 @@ using platform::Text;
 
 namespace {
 
-/// To the nearest, halves to even, so a text with a rest below half a message counts as one piece fewer than
-/// it has.
+/// Rounded to the nearest, halves to even: a text whose last piece is less than half full counts as one piece
+/// fewer than it has.
 std::size_t expected_pieces(const Text& text) {
     const double messages = static_cast<double>(core::BYTE_LEN(text)) / compose::TEXT_LIMIT;
     return static_cast<std::size_t>(platform::round_half_even(messages));
@@ -30,16 +30,16 @@ void frmZentSend::SEND_LONG_BATCHES() {
             state_.session.gSubmitSequence = 1;
             job.account_checked = false;
             job.batch_sequence = 0;
-            // Deliberately all but the address text, which keeps what a stopped pass had gathered: the
-            // service has always been given such a batch as it stands.
+            // Deliberately resets all but the address text, which keeps the recipients of a stopped pass: the
+            // service has always been given such a batch.
             batch.count = 0;
             batch.first_row = 0;
 
             // Deliberately only the last piece counts and marks its rows: they must stay checked until then,
-            // or the pieces behind would reach nobody. A stop ends the pass of one piece alone.
+            // or the later pieces would reach nobody. A stop ends the pass of one piece alone.
             const bool last = mText1.text().empty();
             pass_over_rows(job, batch, {.leaves_trace = last, .shows_progress = false});
-            // Deliberately unchecked: above 100 it is the error that ends such a job.
+            // Deliberately not limited: a value above 100 raises the error that ends such a job.
             if (!last) PBar1.set_progress(static_cast<std::size_t>(job.pieces), expected);
         }
     });

@@ -23,13 +23,13 @@ void frmZentSend::for_each_recipient(const std::function<void(std::size_t row)>&
         RecipientRows.make_visible(row);
         if (RecipientRows.row(row).checked()) send_row(row);
         if (StopRequested) {
-            tell_stopped();
+            show_stopped();
             return;
         }
     }
 }
 
-/// The text for this recipient; nothing when it asks for a name that is missing.
+/// The text for this recipient; nothing when it has a place for a name that is missing.
 std::optional<Text> frmZentSend::filled_in(const Text& text, const platform::ListItem& recipient) const {
     const int title = platform::FIND_COLUMN(u"직위", RecipientRows) - 1;
     return fill_placeholders(text, recipient.sub_item(compose::RECIPIENT_NAME), recipient.sub_item(title));
@@ -56,7 +56,7 @@ void frmZentSend::send_personal_row(SendJob& job, std::size_t row) {
         open_session(job);
         PBar1.set_progress(row + 1, RecipientRows.row_count());
         result = submit(job);
-        // Deliberately the last piece alone decides: a recipient who got the end of a text is not sent all of
+        // Deliberately only the last piece decides: a recipient who got the end of a text is not sent all of
         // it again.
         if (mText1.text().empty()) count(job, result, 1);
         close_session(job);

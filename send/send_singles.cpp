@@ -12,7 +12,7 @@ using platform::Text;
 namespace {
 
 constexpr platform::TextView TEXT_TOO_LONG = u"등록실패(문자초과)";
-/// Deliberately another word than in the other routines: by it support tells which one has run.
+/// Deliberately another word than in the other routines: it shows support which one has run.
 constexpr platform::TextView FAILED = u"실패";
 
 }  // namespace

@@ -7,7 +7,7 @@
 
 namespace standin {
 
-/// The entries of a cp949 list in which a ";" follows each; empty entries are left out. A ";" is never the
+/// The entries of a cp949 list in which a ";" ends each; empty entries are left out. A ";" is never the
 /// second byte of a character.
 std::vector<std::string> list_entries(std::string_view list);
 

@@ -13,11 +13,11 @@ namespace standin {
 struct Argument {
     std::string name;
     std::string kind;                         ///< "number", "text", "password", "pointer" or "callback"
-    std::optional<std::int32_t> number;       ///< of a number alone
-    std::optional<std::string> bytes;         ///< of a text; nothing for NULL
-    std::string shown;                        ///< of the kinds that are neither: "given", "NULL", the stars
-    std::optional<std::string> answer;        ///< the number that the call left here
-    std::optional<std::string> answer_bytes;  ///< the bytes that the call wrote here, its NUL among them
+    std::optional<std::int32_t> number;       ///< only for a number
+    std::optional<std::string> bytes;         ///< only for a text; nothing for NULL
+    std::string shown;                        ///< only for the others: "given", "NULL", stars
+    std::optional<std::string> answer;        ///< the number that the call wrote here
+    std::optional<std::string> answer_bytes;  ///< the bytes that the call wrote here, with its NUL
     std::string note;
 };
 
@@ -29,9 +29,9 @@ class Call {
 
     Call& number(std::string name, std::int32_t value);
     Call& text(std::string name, const char* value);
-    /// An out buffer, NUL-terminated only perhaps: no more than `size` bytes of it are read.
+    /// An out buffer, which may lack its NUL: at most `size` bytes of it are read.
     Call& buffer(std::string name, const char* value, std::size_t size);
-    /// Keeps the length alone, as stars: a ledger that somebody reads holds no passwords.
+    /// Keeps only the length, as stars: people read the ledger, so it must hold no passwords.
     Call& password(std::string name, const char* value);
     Call& pointer(std::string name, const void* value);
     Call& callback(std::string name, bool given);

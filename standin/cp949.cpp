@@ -14,11 +14,11 @@ constexpr const char* utf8 = "UTF-8";
 
 bool continues_utf8(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
 
-/// Converts all of `input`; where the converter stops, `skipped` tells how many bytes become one '?'.
+/// Converts all of `input`; where the converter stops, `skipped` returns how many bytes become one '?'.
 template <typename Skipped>
 std::string convert(std::string_view input, const char* from, const char* to, Skipped skipped) {
     const iconv_t converter = iconv_open(to, from);
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): the value by which iconv_open says no.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the value that iconv_open returns on failure.
     if (converter == reinterpret_cast<iconv_t>(-1)) {
         throw std::runtime_error(std::string("no conversion from ") + from + " to " + to);
     }

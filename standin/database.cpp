@@ -98,8 +98,8 @@ Transaction::~Transaction() {
         try {
             database_.execute("ROLLBACK");
         } catch (const std::runtime_error&) {
-            // SQLite has already taken it back itself, after a full disk for one; the first failure is the
-            // one told.
+            // SQLite has already rolled back by itself, as after a full disk. The first failure is the one to
+            // report.
         }
     }
 }

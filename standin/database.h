@@ -19,7 +19,8 @@ class Statement {
     void bind_text(int parameter, const std::optional<std::string>& text);
     void bind_bytes(int parameter, const std::optional<std::string>& bytes);
 
-    /// Goes to the next row; false when there is none, and then the statement is ready for new parameters.
+    /// Goes to the next row. Returns false when there is none; the statement is then ready for new
+    /// parameters.
     bool step();
 
     int columns() const;
@@ -41,7 +42,7 @@ class Database {
   public:
     enum class Access { read, write };
 
-    /// Opens the file; a missing one is made when it is to be written.
+    /// Opens the file. A missing one is created if it is to be written.
     Database(const std::string& path, Access access);
 
     void execute(const char* sql);
@@ -56,7 +57,7 @@ class Database {
     std::unique_ptr<sqlite3, Close> database_;
 };
 
-/// A write transaction, taken back unless committed.
+/// A write transaction, rolled back unless committed.
 class Transaction {
   public:
     explicit Transaction(Database& database);

@@ -10,17 +10,17 @@
 namespace standin {
 namespace {
 
-/// Either the six- or the eight-argument callback: which one is the client's choice, and neither is called.
+/// The callback with six or with eight arguments: the client chooses which, and neither is called.
 using Notify = void (*)();
 
-/// The process's carrier, begun at the first call.
+/// The process's carrier, made at the first call.
 Carrier& the_carrier() {
     static Carrier carrier;
     return carrier;
 }
 
-/// Runs an operation. A failure of the carrier's own (no ledger, a bad
-/// carrier.ini) becomes a result code, since nothing may be thrown into the client.
+/// Runs an operation. A failure of the stand-in itself (no ledger, a faulty carrier.ini) becomes a result
+/// code, since no exception may reach the client.
 template <typename Operation>
 std::int32_t run(Operation operation) {
     try {

@@ -63,8 +63,8 @@ CREATE INDEX IF NOT EXISTS registration_charged
     ON registration (user_id, result, data_type, time, recipient_count);
 )sql";
 
-/// Opens the file so that others may read while we write, and a process killed loses nothing that was
-/// committed.
+/// Opens the file so that others can read while this process writes, and a killed process loses nothing that
+/// was committed.
 Database open_ledger(const std::string& path) {
     Database database(path, Database::Access::write);
     database.execute("PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL;");
@@ -78,7 +78,7 @@ std::optional<std::string> readable(const std::optional<std::string>& bytes) {
     return bytes ? std::optional(utf8_from_cp949(*bytes)) : std::nullopt;
 }
 
-/// What a reader of the buffer would take for its text.
+/// The text that a reader of the buffer would find.
 std::optional<std::string> readable_answer(const Argument& argument) {
     return argument.answer_bytes
                ? readable(argument.answer_bytes->substr(0, argument.answer_bytes->find('\0')))

@@ -9,19 +9,18 @@
 
 namespace standin {
 
-/// The book of everything that was asked of the carrier, an SQLite file. A call is in it, whole, before it
-/// returns, and stays whatever happens to the process then. Texts are kept as UTF-8 to read and as the bytes
-/// that came.
+/// The record of all calls, an SQLite file. A call is in it, whole, before it returns, and stays there even
+/// if the process is killed. Texts are kept both as UTF-8, for people, and as the bytes that arrived.
 ///
-/// Tables: `call`, one row a call; `argument`, its arguments in order; `registration`, one row a submit,
-/// accepted or refused, found quickly by time, by result and by user.
+/// Tables: `call`, one row for each call; `argument`, its arguments in order; `registration`, one row for
+/// each submit, accepted or refused, with indexes by time, result and user.
 class Ledger {
   public:
-    /// Opens the file, making it when it is missing. std::runtime_error when it cannot be had.
+    /// Opens the file or creates it. Raises std::runtime_error when that fails.
     explicit Ledger(const std::string& path);
 
-    /// Enters a call with its result and, for a submit, the registration. std::runtime_error when it cannot
-    /// be written, and then nothing of it is in the ledger.
+    /// Enters a call with its result and, for a submit, the registration. Raises std::runtime_error when it
+    /// cannot be written; then none of it is in the ledger.
     void enter(const Call& call, std::int32_t result, const Submission* submission);
 
   private:

@@ -24,7 +24,7 @@ void fill(Call& call, const OutNumber& number, std::int32_t value) {
     }
 }
 
-/// What goes into a buffer of `size` bytes: the text cut to fit with its NUL, or what the faults make of it.
+/// What goes into a buffer of `size` bytes: the text, cut to fit with its NUL, or spoilt by the faults.
 std::string buffer_contents(std::string_view text, std::size_t size, const BufferFaults& faults) {
     if (!faults.no_nul && faults.overrun == 0) {
         return std::string(whole_characters(text, size - 1)) + '\0';
@@ -50,7 +50,7 @@ void fill(Call& call, const OutBuffer& buffer, std::string_view text, const Buff
 
 Carrier::Carrier() : settings_(read_settings(settings_file)), ledger_(settings_.ledger) {}
 
-/// Counts the call, takes the time it is to take, and gives the code ordered for it.
+/// Counts the call, waits for its delay, and returns the result code ordered for it.
 std::optional<std::int32_t> Carrier::begin(Call& call) {
     call.nth = ++calls_[call.operation()];
     std::this_thread::sleep_for(std::chrono::milliseconds(settings_.delay(call.operation())));

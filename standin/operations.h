@@ -15,7 +15,7 @@
 
 namespace standin {
 
-/// The carrier's result codes that the stand-in gives of itself; any other comes by order.
+/// The result codes that the stand-in gives of its own accord; carrier.ini can order any other.
 enum Result : std::int32_t {
     registered = 1,
     not_authenticated = 2,
@@ -29,23 +29,23 @@ using Notify11 = std::int32_t (*)(std::int32_t, std::int32_t, std::int32_t, std:
                                   std::int32_t, std::int32_t, std::int32_t, std::int32_t, std::int32_t,
                                   std::int32_t);
 
-/// A text buffer of the caller's that an operation fills.
+/// A text buffer of the caller that an operation fills.
 struct OutBuffer {
     const char* argument;
     char* bytes;
     std::size_t size;
 };
 
-/// A number of the caller's that an operation fills; NULL is left alone.
+/// A number of the caller that an operation fills; a NULL is left alone.
 struct OutNumber {
     const char* argument;
     std::int32_t* value;
 };
 
 /// The operations, for one process on one thread: who is bound, and what was called how often. Each takes the
-/// record of its call, enters it in the ledger and returns the result code; std::runtime_error when the
-/// ledger or carrier.ini cannot be used. An ordered code replaces the operation's own verdict, and what
-/// follows from it.
+/// record of its call, enters it in the ledger and returns the result code. Raises std::runtime_error when
+/// the ledger or carrier.ini cannot be used. An ordered code replaces the operation's own result and
+/// everything that follows from it.
 class Carrier {
   public:
     /// Reads carrier.ini and opens the ledger in the current directory.

@@ -84,7 +84,7 @@ void set_account(Account& account, std::string_view section, std::string_view ke
     }
 }
 
-/// The pieces of a value between its bars.
+/// The pieces of a value that "|" separates.
 std::vector<std::string> pieces(std::string_view value) {
     std::vector<std::string> found;
     std::size_t bar = 0;

@@ -12,7 +12,7 @@ namespace standin {
 /// A subscriber. Texts are cp949, as they go to the client.
 struct Account {
     std::string password;
-    std::int32_t type = 23;  ///< kind of service contract
+    std::int32_t type = 23;  ///< type of service contract
     std::int32_t state = 0;  ///< below 2 the service may be used
     std::string service_number;
     std::string user_name;
@@ -20,7 +20,7 @@ struct Account {
     std::string callback;
 };
 
-/// What lies in a subscriber's inbox. Texts are UTF-8: they go to the service's pages alone.
+/// A message in a subscriber's inbox. Texts are UTF-8: only the service's pages use them.
 struct Received {
     std::string time;  ///< yyyy-MM-dd HH:mm
     std::string kind;
@@ -38,7 +38,7 @@ struct Prices {
     std::int32_t fax = 50;
 };
 
-/// A result code to give instead of the operation's own, from the first to the last of these calls.
+/// A result code to return instead of the operation's own, from the `first` to the `last` call.
 struct Order {
     std::string operation;
     std::int32_t first = 1;
@@ -48,15 +48,15 @@ struct Order {
 
 /// How the out buffers of fn_x_user_info are spoilt.
 struct BufferFaults {
-    bool no_nul = false;       ///< filled to the brim, without a NUL
-    std::int32_t overrun = 0;  ///< this many bytes behind the buffer's end are written too
+    bool no_nul = false;       ///< filled to the end, without a NUL
+    std::int32_t overrun = 0;  ///< so many bytes past the buffer's end are written too
 };
 
-/// What carrier.ini says.
+/// The contents of carrier.ini.
 struct Settings {
     std::string ledger = "carrier-ledger.db";
     std::map<std::string, Account, std::less<>> accounts;               ///< by id
-    std::map<std::string, std::vector<Received>, std::less<>> inboxes;  ///< by id in UTF-8, as written
+    std::map<std::string, std::vector<Received>, std::less<>> inboxes;  ///< by id, in UTF-8 as in the file
     Prices prices;
     std::int32_t recipient_limit = 100;
     std::int32_t attachment_limit = 5;
@@ -66,15 +66,15 @@ struct Settings {
 
     /// The account of that id, NULL when there is none.
     const Account* account(std::string_view user_id) const;
-    /// The code ordered for the nth call of the operation; of several orders the first written one holds.
+    /// The code ordered for the nth call of the operation; of several orders the first one in the file holds.
     std::optional<std::int32_t> ordered_result(std::string_view operation, std::int32_t nth) const;
     /// Milliseconds that the operation takes.
     std::int32_t delay(std::string_view operation) const;
 };
 
-/// Reads the file (UTF-8). A missing file gives settings without accounts, so that nobody can bind.
-/// std::runtime_error with file and line for a line that means nothing: a misspelt order must not pass for a
-/// success.
+/// Reads the file (UTF-8). A missing file gives settings without accounts, so that nobody can bind. Raises
+/// std::runtime_error with file and line for a line that it does not understand: with a misspelt order
+/// ignored, a test would pass wrongly.
 Settings read_settings(const std::string& path);
 
 }  // namespace standin

@@ -8,7 +8,7 @@
 
 namespace standin {
 
-/// What a submit asks the carrier to register. Texts are cp949; fields that only fn_x_submit_2 carries are
+/// What a submit asks the carrier to register. Texts are cp949; fields that only fn_x_submit_2 has are
 /// optional.
 struct Submission {
     std::string user_id;
@@ -24,10 +24,10 @@ struct Submission {
     std::string sms_content;
     std::optional<std::string> tts_content;
     std::int32_t attach_file_count = 0;
-    std::string attach_file;  ///< path, ";" for each attachment
+    std::string attach_file;  ///< path and ";" for each attachment
 };
 
-/// What a call of fn_x_submit or fn_x_submit_2 asks for. A NULL text counts as an empty one.
+/// The registration that a call of fn_x_submit or fn_x_submit_2 asks for. A NULL counts as an empty text.
 Submission submission_of(const Call& call);
 
 }  // namespace standin

@@ -2,7 +2,8 @@
 #   cmake -DROOT=<the project> -P layers_test.cmake
 cmake_minimum_required(VERSION 3.25)
 
-# rooms(<house> <room>:<what it may include> ...): each room may include itself and what is named, with all that this may.
+# rooms(<house> <room>:<what it may include> ...): each room may include itself, the rooms that are named, and
+# whatever those may include.
 function(rooms house)
   foreach(entry ${ARGN})
     string(REGEX MATCH "^([^:]*):(.*)$" _ "${entry}")

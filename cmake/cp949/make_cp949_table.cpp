@@ -1,6 +1,6 @@
 // Turns cp949.txt into the C++ source of the tables that platform/text/cp949_table.h declares:
 //   make_cp949_table cp949.txt cp949_table.cpp
-// Runs once in a build, so that the program starts without building tables.
+// It runs at build time, so that the program need not build the tables when it starts.
 
 #include "platform/text/cp949_table.h"
 

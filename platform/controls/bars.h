@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// A menu or an item of one; which items lie in which menu is the screen's.
+/// A menu or one of its items. The screen decides which items lie in which menu.
 class Menu : public Control {
   public:
     Menu(Form& form, TextView name, Text caption) : Control(form, name), caption_(std::move(caption)) {}
@@ -16,7 +16,7 @@ class Menu : public Control {
     const Text& caption() const { return caption_; }
 
     bool checked() const { return checked_; }
-    /// No event.
+    /// Raises no event.
     void set_checked(bool checked) { assign(checked_, checked, Aspect::value); }
 
     Event<> Click;
@@ -26,13 +26,13 @@ class Menu : public Control {
     bool checked_ = false;
 };
 
-/// A bar of panels, counted from 1. A click on a panel comes after the mouse-down that tells the button.
+/// A row of panels, counted from 1. MouseDown comes before PanelClick and says which mouse button it was.
 class StatusBar : public Control {
   public:
     struct Panel {
         Text text;
         Text tool_tip;
-        /// Of the bar's picture list, counted from 1; 0 is none.
+        /// Number in the bar's list of pictures, counted from 1; 0 for none.
         int picture = 0;
     };
 
@@ -53,7 +53,7 @@ class StatusBar : public Control {
     std::vector<Panel> panels_;
 };
 
-/// A row of tabs, counted from 1. It shows nothing by itself: the handler of its click shows the panel.
+/// A row of tabs, counted from 1. It shows no panel by itself: the form's Click handler does.
 class TabStrip : public Control {
   public:
     TabStrip(Form& form, TextView name, std::vector<Text> captions)
@@ -63,8 +63,8 @@ class TabStrip : public Control {
     const std::vector<Text>& captions() const { return captions_; }
     int selected() const { return selected_; }
 
-    /// Chooses a tab and raises Click, also for the tab that was chosen already. Run-time error 9 outside the
-    /// tabs.
+    /// Chooses a tab and raises Click, also when the tab was already chosen. Raises RuntimeError 9 for a tab
+    /// that does not exist.
     void select(int index);
 
     Event<> Click;
@@ -80,7 +80,7 @@ class ToolBar : public Control {
     struct Button {
         /// A separator has no caption.
         Text caption;
-        /// Stays pressed until another one of its group is.
+        /// Stays pressed until another button of its group is pressed.
         bool in_group = false;
         bool pressed = false;
         bool enabled = true;
@@ -92,7 +92,7 @@ class ToolBar : public Control {
 
     int count() const { return static_cast<int>(buttons_.size()); }
     const Button& button(int index) const { return buttons_[static_cast<std::size_t>(index - 1)]; }
-    /// Presses the button and lets the others of the group out; raises nothing.
+    /// Presses the button and releases the others of its group. Raises no event.
     void press(int index);
 
     Event<int> ButtonClick;

@@ -20,7 +20,7 @@ class CommandButton : public Control {
     Text caption_;
 };
 
-/// A box that is ticked or not.
+/// A check box, ticked or not.
 class CheckBox : public Control {
   public:
     CheckBox(Form& form, TextView name, Text caption) : Control(form, name), caption_(std::move(caption)) {}
@@ -29,7 +29,7 @@ class CheckBox : public Control {
     const Text& caption() const { return caption_; }
 
     bool checked() const { return checked_; }
-    /// Raises Click when the value changes, by code as by the user.
+    /// Raises Click when the value changes, whether the user or code changes it.
     void set_checked(bool checked) {
         if (assign(checked_, checked, Aspect::value)) Click.raise();
     }
@@ -41,7 +41,7 @@ class CheckBox : public Control {
     bool checked_ = false;
 };
 
-/// One choice of several. The handlers keep the others of its group off.
+/// One choice of several. The form's handlers turn the others of its group off.
 class OptionButton : public Control {
   public:
     OptionButton(Form& form, TextView name, Text caption)
@@ -51,7 +51,7 @@ class OptionButton : public Control {
     const Text& caption() const { return caption_; }
 
     bool chosen() const { return chosen_; }
-    /// Raises Click when the option becomes the chosen one, by code as by the user.
+    /// Raises Click when the option becomes the chosen one, whether the user or code chooses it.
     void set_chosen(bool chosen) {
         if (assign(chosen_, chosen, Aspect::value) && chosen) Click.raise();
     }

@@ -6,17 +6,17 @@
 
 namespace platform {
 
-/// The file dialog of a form, which several handlers share. It keeps what was chosen last, so that a handler
-/// that asks again shows it.
+/// The file dialog of a form, shared by its handlers. It keeps the last choice, so that a handler that asks
+/// again offers it.
 class CommonDialog {
   public:
     explicit CommonDialog(Desktop& desktop) : desktop_(desktop) {}
 
-    /// Title and filter ("name|pattern|…") for a new use; no file is chosen, but one may be proposed by its
-    /// name.
+    /// Title and filter ("name|pattern|…") for the next question. The last choice is forgotten; `proposal` is
+    /// the file name to offer instead.
     void set_up(Text title, Text filter, Text proposal = {});
 
-    /// Each raises RuntimeError 32755 when the user cancels, and keeps the file name then.
+    /// Each raises RuntimeError 32755 when the user cancels; the file name then stays as it was.
     void show_open() { show(FileQuestion::Purpose::open); }
     void show_save() { show(FileQuestion::Purpose::save); }
 

@@ -10,7 +10,7 @@ namespace platform {
 class ControlVisitor;
 class Form;
 
-/// What of a control has changed; told to the widget that shows it.
+/// Which part of a control has changed, for the widget that shows it.
 enum class Aspect {
     text,
     caption,
@@ -55,14 +55,14 @@ class Control {
     bool enabled() const { return enabled_; }
     void set_enabled(bool on) { assign(enabled_, on, Aspect::enabled); }
 
-    /// The control's own setting; it is on the screen when its containers are visible too.
+    /// The control's own setting; the user sees the control only when its containers are visible too.
     bool visible() const { return visible_; }
     void set_visible(bool on);
     void show() { set_visible(true); }
     void hide() { set_visible(false); }
     bool on_screen() const;
 
-    /// A small state word that the handlers keep with the control; no event, no widget.
+    /// A small state word that the handlers keep with the control. It raises no event and is never shown.
     const Text& tag() const { return tag_; }
     void set_tag(Text tag) { tag_ = std::move(tag); }
 
@@ -72,8 +72,8 @@ class Control {
     /// The frame or box that holds the control.
     void set_container(Control& container) { container_ = &container; }
 
-    /// Moves the form's focus here and raises LostFocus and GotFocus; a hidden or disabled control stays
-    /// without it.
+    /// Moves the form's focus here and raises LostFocus and GotFocus. Does nothing on a hidden or disabled
+    /// control.
     void set_focus();
     bool has_focus() const;
 
@@ -87,7 +87,7 @@ class Control {
         if (view_ != nullptr) view_->refresh(aspect);
     }
 
-    /// Gives the field its value and tells the widget; returns whether the value is a new one.
+    /// Stores the value and refreshes the widget. Returns whether the value has changed.
     template <class T>
     bool assign(T& field, T value, Aspect aspect) {
         if (field == value) return false;

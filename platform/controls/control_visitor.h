@@ -23,7 +23,8 @@ class ToolBar;
 class TreeView;
 class WebBrowser;
 
-/// Every kind of control there is; a toolkit that shows forms has to say how it shows each.
+/// One function for each sort of control. A toolkit overrides all of them, so that a new sort does not
+/// compile until it can be shown.
 class ControlVisitor {
   public:
     virtual ~ControlVisitor() = default;

@@ -22,15 +22,15 @@ class Label : public Control {
     Text caption_;
 };
 
-/// A picture on the form: the screen's own, or that of a file.
+/// A picture on the form: the one that the screen names, or one from a file.
 class Image : public Control {
   public:
     using Control::Control;
     void accept(ControlVisitor& visitor) override;
 
-    /// Shows the picture of a file. A file that is no picture, or is not there, shows nothing.
+    /// Shows the picture in the file, or nothing when the file is missing or is no picture.
     void set_picture(Text path) { assign(picture_, std::move(path), Aspect::picture); }
-    /// Empty while the screen's own picture shows.
+    /// Path of the file; empty while the screen's own picture shows.
     const Text& picture() const { return picture_; }
 
     Event<> Click;
@@ -39,14 +39,14 @@ class Image : public Control {
     Text picture_;
 };
 
-/// How far a long operation is, from 0 to 100.
+/// How far a long operation has come, from 0 to 100.
 class ProgressBar : public Control {
   public:
     using Control::Control;
     void accept(ControlVisitor& visitor) override;
 
     int value() const { return value_; }
-    /// Run-time error 380 outside 0 to 100.
+    /// Raises RuntimeError 380 outside 0 to 100.
     void set_value(int value);
     /// Shows so many of all as hundredths, without the fraction; `of` is not 0. Run-time error 380 when more
     /// is done than was expected.
@@ -62,7 +62,7 @@ class Animation : public Control {
     using Control::Control;
     void accept(ControlVisitor& visitor) override;
 
-    /// Takes the film and stands on its first picture.
+    /// Loads the film and shows its first frame.
     void open(Text path) {
         path_ = std::move(path);
         playing_ = false;

@@ -6,8 +6,7 @@
 
 namespace platform {
 
-/// Something that happens to a control, with the handlers that wait for it, called in the order of
-/// connection.
+/// An event of a control. Its handlers run in the order in which they were connected.
 template <class... Args>
 class Event {
   public:

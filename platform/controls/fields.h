@@ -11,7 +11,7 @@
 
 namespace platform {
 
-/// A field for text. Line ends are CR LF; places are counted in characters, a line end counting two.
+/// A field for text. Line ends are CR LF; positions are counted in characters, a line end counting as two.
 class TextBox : public Control {
   public:
     using Control::Control;
@@ -21,7 +21,7 @@ class TextBox : public Control {
     /// Raises Change when the text is a different one; the caret goes to the start.
     void set_text(Text text);
 
-    /// Red, green and blue in one number; none is the desktop's own colour of text.
+    /// Red, green and blue in one number; nothing means the desktop's own text colour.
     std::optional<std::uint32_t> text_colour() const { return text_colour_; }
     void set_text_colour(std::optional<std::uint32_t> colour) {
         assign(text_colour_, colour, Aspect::colour);
@@ -33,17 +33,17 @@ class TextBox : public Control {
     void select_all() { select(0, text_.size()); }
     void set_caret_to_end() { select(text_.size(), 0); }
 
-    /// Puts the text in place of the selection, as a paste from the clipboard does: no KeyPress, but a
-    /// Change.
+    /// Replaces the selection with the text, as a paste from the clipboard does: raises Change but no
+    /// KeyPress.
     void paste(const Text& text);
 
-    /// The user's edit: the new text and where the caret is now.
+    /// The user edited the field: its new text and where the caret is now.
     void user_edit(Text text, std::size_t caret);
     /// The user moved the caret or the selection; the widget shows it already.
     void user_selection(std::size_t start, std::size_t length);
 
     Event<> Change;
-    /// Before a key changes the text. Text from an input method or a paste comes without.
+    /// Raised before a key changes the text. An input method and a paste raise none.
     Event<KeyPressed&> KeyPress;
 
   private:
@@ -53,7 +53,7 @@ class TextBox : public Control {
     std::size_t selection_length_ = 0;
 };
 
-/// Rows to choose from, with a field to type into where `Style::editable`.
+/// Rows to choose from, with a field to type into if its style is `Style::editable`.
 class ComboBox : public Control {
   public:
     enum class Style { list, editable };
@@ -66,18 +66,18 @@ class ComboBox : public Control {
 
     const std::vector<Text>& rows() const { return rows_; }
     void add_row(Text row, int item_data = 0);
-    /// Takes the rows away; the text of an editable box goes with them.
+    /// Removes the rows and, in an editable list, the text.
     void clear();
     int item_data(int index) const;
 
     /// -1 while no row is chosen.
     int list_index() const { return list_index_; }
-    /// Chooses a row and raises Click, also for the row that was chosen already. Run-time error 380 outside
-    /// the rows.
+    /// Chooses a row and raises Click, also when the row was already chosen. Raises RuntimeError 380 for a
+    /// row that does not exist.
     void set_list_index(int index);
 
     const Text& text() const { return text_; }
-    /// Editable boxes only: raises Change when the text is a different one, and no row is chosen any more.
+    /// For editable lists only: raises Change when the text is a different one; afterwards no row is chosen.
     void set_text(Text text);
 
     void user_edit(Text text);
@@ -95,7 +95,7 @@ class ComboBox : public Control {
     Text text_;
 };
 
-/// A field for a date. It holds a whole moment; what it shows of it is the day.
+/// A field for a date. Its value has a time of day as well, which it does not show.
 class DatePicker : public Control {
   public:
     using Control::Control;

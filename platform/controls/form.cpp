@@ -74,8 +74,8 @@ void Form::move_focus(Control* control) {
     Control* left = std::exchange(entered_, nullptr);
     focused_ = control;
     if (left != nullptr) left->LostFocus.raise();
-    // A handler of the loss may have sent the focus elsewhere: that place has had its event already, and this
-    // one has neither.
+    // A LostFocus handler may have moved the focus on: that control has raised its GotFocus already, and this
+    // one never had the focus.
     if (control == nullptr || focused_ != control) return;
     entered_ = control;
     control->GotFocus.raise();

@@ -10,7 +10,7 @@ class Desktop;
 
 enum class WindowState { normal = 0, minimised = 1, maximised = 2 };
 
-/// Place and size of a window on the screen, in twips (1440 to the inch, 15 to a pixel at 96 dpi).
+/// Position and size of a window on the monitor, in twips (1440 to the inch, 15 to a pixel at 96 dpi).
 struct Placement {
     int left = 0;
     int top = 0;
@@ -27,25 +27,25 @@ class FormView {
     virtual void caption_changed() = 0;
     virtual void placement_changed() = 0;
     virtual void minimum_size_changed() = 0;
-    /// Gives the window the size that its contents take and tells the form.
+    /// Resizes the window to fit its contents and reports the new size to the form.
     virtual void fit_contents() = 0;
 };
 
 /// A window of the system as a model: its controls, and the handlers of its life.
 ///
-/// A form is loaded once before it shows, activated each time its window becomes the active one, and ends
-/// with its own unload, after which it is to be thrown away. Whoever opens a form makes it, shows it and
-/// drops it.
+/// A form is loaded once before it is shown, activated each time its window becomes the active one, and
+/// unloaded once; it cannot be shown again afterwards. The code that opens a form makes, shows and destroys
+/// it.
 class Form {
   public:
     Form(Desktop& desktop, TextView name);
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
-    /// A form that is dropped while it is loaded takes its window with it, without the unload handler.
+    /// Destroying a loaded form closes its window without running the unload handler.
     virtual ~Form();
 
     const Text& name() const { return name_; }
-    /// The controls with a place on the screen, in the order of their making.
+    /// The controls that have a widget, in the order in which they were made.
     const std::vector<Control*>& controls() const { return controls_; }
 
     const Text& caption() const { return caption_; }
@@ -54,7 +54,7 @@ class Form {
     const Text& tag() const { return tag_; }
     void set_tag(Text tag) { tag_ = std::move(tag); }
 
-    /// Runs the load handler, once; showing does it too.
+    /// Runs the load handler unless it has run already. Showing the form does the same.
     void load();
     void show();
     /// Returns when the form is unloaded; a form that unloads itself while loading is never shown.
@@ -66,7 +66,7 @@ class Form {
     void set_window_state(WindowState state);
     const Placement& placement() const { return placement_; }
     void move(const Placement& placement);
-    /// Makes the window as large as what it holds, once its texts and pictures are there.
+    /// Resizes the window to fit its contents. To be called when their texts and pictures are set.
     void fit_contents();
     /// Smallest size that the user can drag the window to, in pixels.
     void set_minimum_size(int width, int height);
@@ -100,7 +100,7 @@ class Form {
   private:
     friend class Control;
     void add(Control& control) { controls_.push_back(&control); }
-    /// What is no longer on the screen has lost the focus, whenever the window tells where it went.
+    /// Takes the focus from a control that is no longer visible, without waiting for the window to report it.
     void leave_hidden();
 
     Desktop& desktop_;
@@ -110,7 +110,7 @@ class Form {
     std::vector<Control*> controls_;
     FormView* view_ = nullptr;
     Control* focused_ = nullptr;
-    /// The control that has been told of the focus; only that one is told of its loss.
+    /// The control that raised GotFocus last; only that one raises LostFocus.
     Control* entered_ = nullptr;
     Placement placement_;
     WindowState window_state_ = WindowState::normal;

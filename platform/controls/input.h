@@ -4,11 +4,11 @@ namespace platform {
 
 enum class MouseButton { left, right };
 
-/// The character codes of keys that handlers look at.
+/// Character codes of the keys that handlers ask for.
 inline constexpr int KEY_CTRL_A = 1;
 inline constexpr int KEY_BACKSPACE = 8;
 inline constexpr int KEY_ENTER = 13;
-/// Not characters: the codes of keys in key-down and key-up events.
+/// Key codes, not characters, as key-down and key-up events have them.
 inline constexpr int KEY_PAGE_UP = 33;
 inline constexpr int KEY_PAGE_DOWN = 34;
 inline constexpr int KEY_END = 35;

@@ -18,15 +18,14 @@ class ListItem {
         : text_(std::move(text)), sub_items_(std::move(sub_items)) {}
 
     const Text& text() const { return text_; }
-    /// The item text for 0; empty behind the last sub-item.
+    /// The item text for 0; empty beyond the last sub-item.
     const Text& sub_item(int index) const;
     int sub_item_count() const { return static_cast<int>(sub_items_.size()); }
-    /// The number of the row's picture in the list of pictures that the screen has for it, counted from 1; 0
-    /// for none.
+    /// Number of the row's picture in the screen's list of pictures, counted from 1; 0 for none.
     int small_icon() const { return small_icon_; }
     bool checked() const { return checked_; }
     bool selected() const { return selected_; }
-    /// Place in the list, counted from 0.
+    /// Position in the list, counted from 0.
     std::size_t position() const { return position_; }
 
   private:
@@ -40,19 +39,19 @@ class ListItem {
     bool selected_ = false;
 };
 
-/// The widget's side of a list's rows: it reads them in place and is told what becomes of them.
+/// The widget's side of a list's rows: it reads them in place, and the list calls it when they change.
 class RowsView {
   public:
     virtual ~RowsView() = default;
 
-    /// Rows have come behind those that were there.
+    /// Rows have been added at the end.
     virtual void rows_added() = 0;
-    /// Many rows go or change places: everything is to be read anew afterwards.
+    /// Many rows are about to go or change places. The widget reads all of them anew afterwards.
     virtual void rows_about_to_be_rearranged() = 0;
     virtual void rows_rearranged() = 0;
     virtual void row_changed(std::size_t row) = 0;
     virtual void row_selection_changed(std::size_t row) = 0;
-    /// Any number of rows are selected or no longer.
+    /// The selection of any number of rows has changed.
     virtual void selection_changed() = 0;
     virtual void columns_changed() = 0;
     virtual void make_visible(std::size_t row) = 0;
@@ -68,7 +67,7 @@ class ListView : public Control {
         Text caption;
         /// Picture beside the caption: 0 ascending, 1 descending.
         std::optional<int> picture = {};
-        /// In twips; 0 leaves it to the screen.
+        /// In twips; 0 keeps the screen's width.
         int width = 0;
     };
 
@@ -93,8 +92,7 @@ class ListView : public Control {
     std::size_t row_count() const { return rows_.size(); }
     const ListItem& row(std::size_t index) const { return *rows_[index]; }
 
-    /// Adds a row behind the last one, where the user sees it, whatever the list was sorted by; returns its
-    /// index.
+    /// Adds a row at the end, even if the list was sorted, and returns its index.
     std::size_t add_row(Text text, std::vector<Text> sub_items, bool checked = false);
     void remove_selected_rows();
     void clear();
@@ -102,7 +100,7 @@ class ListView : public Control {
     void set_item_text(std::size_t row, Text text);
     void set_small_icon(std::size_t row, int number);
     void set_sub_item(std::size_t row, int sub_item, Text text);
-    /// By code: raises nothing.
+    /// Raises no event.
     void set_checked(std::size_t row, bool checked);
     std::size_t checked_count() const { return checked_count_; }
 
@@ -110,7 +108,7 @@ class ListView : public Control {
     std::optional<std::size_t> selected_item() const;
     /// Makes the row the selected item and selects it; other rows keep their selection.
     void select_item(std::size_t row);
-    /// Takes the selection of the selected item away; without one nothing happens.
+    /// Deselects the selected item, if there is one.
     void deselect_item();
     void select_all();
     void make_visible(std::size_t row) const;
@@ -121,9 +119,9 @@ class ListView : public Control {
     /// 0 is the item text.
     int sort_key() const { return sort_key_; }
     SortOrder sort_order() const { return sort_order_; }
-    /// Whether the rows have been sorted since the columns were set; rows added later stand behind them.
+    /// Whether the rows have been sorted since the columns were set; rows added later stand after them.
     bool sorted() const { return sorted_; }
-    /// Sorts the rows that are there; rows with equal texts keep their order. Cases of letters are the same.
+    /// Sorts the present rows without regard to case. Rows with equal texts keep their order.
     void sort(int sort_key, SortOrder order);
 
     /// The widget that shows the rows, beside the one that shows the control's other aspects.
@@ -142,7 +140,7 @@ class ListView : public Control {
     Event<KeyPressed&> KeyUp;
     Event<MouseButton> MouseUp;
     Event<> DblClick;
-    /// The room for the columns has changed.
+    /// The width available for the columns has changed.
     Event<> Resize;
 
   private:
@@ -154,7 +152,7 @@ class ListView : public Control {
     std::vector<Column> columns_;
     bool check_boxes_;
     std::vector<std::unique_ptr<ListItem>> rows_;
-    /// Kept from the first search on: most lists are never searched.
+    /// Made at the first search, because most lists are never searched.
     mutable std::optional<PrefixIndex> index_;
     const ListItem* selected_item_ = nullptr;
     std::size_t checked_count_ = 0;

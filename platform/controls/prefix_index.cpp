@@ -134,7 +134,7 @@ void PrefixIndex::Bucket::insert(const Entry& entry) {
     chunks_.insert(chunks_.begin() + static_cast<std::ptrdiff_t>(place) + 1, std::move(upper));
 }
 
-/// The last chunk that begins at or before the entry; the first one when all begin behind it.
+/// The last chunk that begins at or before the entry; the first one when all begin after it.
 std::size_t PrefixIndex::Bucket::chunk_for(const Entry& entry) const {
     const auto behind = std::partition_point(chunks_.begin(), chunks_.end(),
                                              [&](const Chunk& chunk) { return !(entry < chunk.first); });

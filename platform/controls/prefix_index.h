@@ -12,34 +12,34 @@ namespace platform {
 
 class ListItem;
 
-/// The sub-item texts of all rows of a list in their order, to find the rows that have one beginning with a
-/// text.
+/// Finds the rows of a list that have a sub-item beginning with a text.
 ///
-/// Lists reach 100,000 rows and every new row asks for its number first. So the entries stand in sorted
-/// chunks, the first characters of each text beside the next one's: a search touches two short runs of
-/// memory, not every row. Texts wait unsorted until one with their first character is searched for: numbers
-/// are, names and titles hardly ever.
+/// Lists reach 100,000 rows, and before a row is added its number is searched for. So the sub-items stand in
+/// sorted chunks, with their first characters side by side in memory: a search reads two short runs of
+/// memory, not every row. Texts that share a first character are sorted only when such a text is searched
+/// for: numbers are, names and titles hardly ever.
 class PrefixIndex {
   public:
-    /// Enters all sub-items of a row.
+    /// Adds all sub-items of a row.
     void add(const ListItem& row);
-    /// Enters the row's sub-item under its present text; an empty one is left out, since nothing searches for
+    /// Adds the row's sub-item under its present text. An empty one is left out, since nothing searches for
     /// it.
     void add(const ListItem& row, int column);
-    /// Takes the sub-item out; to be called while it still has the text that it was entered under.
+    /// Removes the sub-item. To be called while it still has the text under which it was added.
     void remove(const ListItem& row, int column);
-    /// Takes all sub-items of a row out.
+    /// Removes all sub-items of a row.
     void remove(const ListItem& row);
 
-    /// The row that stands first in the list among those with a sub-item that begins with `prefix`, or none.
+    /// Of the rows with a sub-item that begins with `prefix`, the one that stands first in the list; null
+    /// when there is none.
     const ListItem* first_row(TextView prefix);
 
   private:
-    /// The first characters of a text, filled up with zeros; four in a number, the first one highest.
+    /// The first characters of a text, padded with zeros; four in each number, the first in the highest bits.
     using Key = std::array<std::uint64_t, 3>;
     static constexpr std::size_t KEY_CHARACTERS = 12;
 
-    /// What is searched for, ready to be compared with many texts.
+    /// A text to search for, prepared for comparison with many texts.
     struct Prefix {
         TextView text;
         Key key, mask;
@@ -61,8 +61,8 @@ class PrefixIndex {
     };
     using Entries = std::vector<Entry>;
 
-    /// A run of the entries in their order. Its first stands beside those of the other chunks: a search for
-    /// the chunk would otherwise go to far places of memory at every step.
+    /// A sorted run of the entries. The first of them is copied beside those of the other chunks: otherwise
+    /// the search for a chunk would jump through memory at every step.
     struct Chunk {
         Entry first;
         Entries entries;

@@ -60,7 +60,7 @@ void SoundRecorder::stop() {
     } else if (state_ == State::playing) {
         recorder_.stop_playing();
     }
-    // What was still on its way may have filled the recording, which is over then.
+    // The last samples may have filled the recording, which has ended it already.
     if (state_ != State::idle) become_idle();
 }
 

@@ -6,8 +6,8 @@
 
 namespace platform {
 
-/// Records a voice at the microphone, with its own buttons: one recording of up to six minutes, which can be
-/// played and saved and stays until the next one takes its place.
+/// Records a voice from the microphone, with buttons of its own. It holds one recording of up to six minutes,
+/// which can be played and saved and stays until the next one replaces it.
 class SoundRecorder : public Control, private Recorder::Listener {
   public:
     enum class State { idle, recording, playing };
@@ -19,15 +19,17 @@ class SoundRecorder : public Control, private Recorder::Listener {
     ~SoundRecorder() override;
     void accept(ControlVisitor& visitor) override;
 
-    /// Looks for the microphone. Before the user first sees the control nothing is asked of the machine.
+    /// Starts to look for the microphone. Called when the user first sees the control; before that the
+    /// machine's sound is not touched.
     void open();
 
-    /// A recording that is nowhere else is about to be replaced, unless a handler sets the flag to false.
+    /// Raised before a recording that was neither saved nor sent is replaced; a handler that sets the flag to
+    /// false prevents that.
     Event<bool&> Replacing;
-    /// The user has the recording, or its recipients do: the next one may replace it.
+    /// The recording has been saved or sent: the next one may replace it without a question.
     void set_kept() { kept_ = true; }
 
-    // The buttons; one that cannot be pressed now does nothing.
+    // The buttons. One that is not available at the moment does nothing.
     void record();
     /// Ends the recording or the playing.
     void stop();
@@ -38,17 +40,18 @@ class SoundRecorder : public Control, private Recorder::Listener {
 
     State state() const { return state_; }
     const Samples& recording() const { return recording_; }
-    /// Minutes and seconds: how much is recorded of what can be, or played of what is recorded.
+    /// In minutes and seconds: how much of the possible length is recorded, or how much of the recording is
+    /// played.
     Text time() const;
     /// How loud it is now, from 0 to 100.
     int level() const { return level_; }
     const Text& message() const { return message_; }
-    /// Whether the message tells the user of something that goes wrong.
+    /// Whether the message is a warning.
     bool message_warns() const { return message_warns_; }
 
-    /// Writes the recording into the folder, whose name ends with a backslash, as a WAV file; one that is
-    /// under way ends first. Returns false when the file stands. True when nothing is recorded or the file
-    /// cannot be written: the control's message has told the user, and the caller stops without one of its
+    /// Writes the recording into the folder, whose name ends with a backslash, as a WAV file; a recording
+    /// under way ends first. Returns false on success, and true when nothing is recorded or the file cannot
+    /// be written: the control's message then tells the user so, and the caller stops without a box of its
     /// own.
     bool SaveWave(const Text& folder, const Text& file);
 
@@ -72,7 +75,7 @@ class SoundRecorder : public Control, private Recorder::Listener {
     State state_ = State::idle;
     Samples recording_;
     bool kept_ = true;
-    /// The recording is still that of before: nothing of the new one has been heard.
+    /// The recording is still the earlier one: no sample of the new one has arrived.
     bool holds_earlier_ = false;
     std::size_t played_ = 0;
     int level_ = 0;

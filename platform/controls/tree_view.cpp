@@ -38,7 +38,7 @@ TreeNode& TreeView::insert(TreeNode* parent, Text key, Text text, int picture, T
 
 void TreeView::remove_node(TreeNode& node) {
     if (nodes_view_ != nullptr) nodes_view_->nodes_about_to_be_removed();
-    // A node always stands behind its parent.
+    // A node always stands after its parent, so that one pass finds all nodes below.
     std::set<const TreeNode*> going{&node};
     for (const auto& each : nodes_) {
         if (going.contains(each->parent_)) going.insert(each.get());

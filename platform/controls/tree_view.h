@@ -20,9 +20,9 @@ class TreeNode {
     bool expanded() const { return expanded_; }
     const TreeNode* parent() const { return parent_; }
     const std::vector<TreeNode*>& children() const { return children_; }
-    /// Place among all nodes of the tree in the order of their adding, counted from 1.
+    /// Position among all nodes of the tree in the order in which they were added, counted from 1.
     std::size_t position() const { return position_; }
-    /// Place among its siblings, counted from 0.
+    /// Position among its siblings, counted from 0.
     std::size_t row() const { return row_; }
     /// The texts from the top down to this node, joined by "/".
     Text full_path() const;
@@ -42,36 +42,36 @@ class TreeNode {
     std::size_t row_ = 0;
 };
 
-/// The widget's side of a tree's nodes: it reads them in place and is told what becomes of them.
+/// The widget's side of a tree's nodes: it reads them in place, and the tree calls it when they change.
 class NodesView {
   public:
     virtual ~NodesView() = default;
 
-    /// A node is to come behind the last child of `parent`, or at the top level.
+    /// A node is about to be added after the last child of `parent`, or at the top level.
     virtual void node_about_to_be_added(const TreeNode* parent) = 0;
     virtual void node_added() = 0;
-    /// Nodes go: everything is to be read anew afterwards.
+    /// Nodes are about to go. The widget reads all nodes anew afterwards.
     virtual void nodes_about_to_be_removed() = 0;
     virtual void nodes_removed() = 0;
     virtual void node_changed(const TreeNode& node) = 0;
     virtual void node_expanded(const TreeNode& node) = 0;
 };
 
-/// A tree of nodes with pictures, one of them selected. Texts cannot be edited by the user.
+/// A tree of nodes with pictures, one of them selected. The user cannot edit the texts.
 class TreeView : public Control {
   public:
     using Control::Control;
     void accept(ControlVisitor& visitor) override;
 
-    /// At the top level.
+    /// Adds a node at the top level.
     TreeNode& add_node(Text key, Text text, int picture, Text tag);
     TreeNode& add_child(TreeNode& parent, Text key, Text text, int picture, Text tag);
-    /// With all nodes below it.
+    /// Removes the node with all nodes below it.
     void remove_node(TreeNode& node);
     void clear();
 
     std::size_t node_count() const { return nodes_.size(); }
-    /// By its position.
+    /// The node at that position.
     TreeNode& node(std::size_t position) { return *nodes_[position - 1]; }
     const TreeNode& node(std::size_t position) const { return *nodes_[position - 1]; }
     const std::vector<TreeNode*>& top_nodes() const { return top_nodes_; }

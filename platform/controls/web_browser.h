@@ -10,27 +10,27 @@
 
 namespace platform {
 
-/// A file that a page hands out upon the user's click.
+/// A file that a page offers when the user clicks.
 struct PageFile {
     /// As the page proposes it: any text.
     Text name;
-    /// Where it goes, for the handler to fill; an empty path refuses the file.
+    /// Where to save it, filled in by the handler; an empty path refuses the file.
     Text path;
 };
 
-/// How the taking of a file ended.
+/// How saving a page's file ended.
 enum class FileEnd { whole, broken, too_large };
 
 /// Where a browser is to go, and what it sends there.
 struct Navigation {
     Text address;
-    /// Posted as it stands; without a body the page is only asked for.
+    /// Posted unchanged; with an empty body the request is a GET.
     std::string body;
-    /// Lines of the request's head, each ended by CR and LF.
+    /// Header lines of the request, each ended with CR and LF.
     Text header;
 };
 
-/// Shows a page of the service. Pages are strangers: what one may do is the business of whoever shows it.
+/// Shows a page of the service. Pages are not trusted: the widget limits what they may do.
 class WebBrowser : public Control {
   public:
     using Control::Control;
@@ -42,17 +42,17 @@ class WebBrowser : public Control {
         refresh(Aspect::value);
     }
 
-    /// The last navigation that a handler asked for; where the user has gone from there, nobody knows.
+    /// The last navigation that a handler asked for; the user may have followed links since.
     const Navigation& navigation() const { return navigation_; }
 
-    /// A file that grows beyond it is given up, in bytes.
+    /// The largest file that is accepted, in bytes; a larger one is given up.
     static constexpr std::int64_t LARGEST_FILE = std::int64_t{100} * 1024 * 1024;
 
-    // One file at a time, and none that the user has not clicked for. Without a handler there is none.
+    // One file at a time, and only after a click of the user. Without a handler every file is refused.
     Event<PageFile&> FileOffered;
-    /// So much of it has come, of how much, in bytes; 0 as long as the server has not told.
+    /// Bytes received and bytes in all; the latter is 0 if the server has not said.
     Event<std::int64_t, std::int64_t> FileReceived;
-    /// Its path is there only when it is whole.
+    /// The file is at its path only if it arrived whole.
     Event<FileEnd> FileEnded;
 
   private:

@@ -29,7 +29,7 @@ struct Chunk {
     bool is_list(std::string_view list_name) const { return name == "LIST" && body.starts_with(list_name); }
 };
 
-/// Takes the chunk at the head of `rest`, its filling byte included; nothing when it runs past the end.
+/// Takes the chunk at the head of `rest`, its padding byte included; nothing when it runs past the end.
 std::optional<Chunk> take_chunk(std::string_view& rest) {
     constexpr std::size_t head_size = 8;
     const auto size = number_at(rest, 4, 4);

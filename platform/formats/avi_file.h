@@ -20,12 +20,13 @@ struct AviFile {
     /// At least one; each holds all rows of its picture.
     std::vector<std::string_view> frames;
 
-    /// The bytes of one row of a frame, row 0 being the topmost, without the filling at the row's end.
+    /// The bytes of one row of a frame, row 0 being the topmost, without the padding at the row's end.
     std::string_view row(std::size_t frame, int y) const;
 };
 
 /// Reads the first video stream of a film. Returns nothing for bytes that are no AVI film, are damaged or cut
-/// short anywhere, are compressed or have a palette, or are larger than a busy picture has any reason to be.
+/// short anywhere, are compressed or have a palette, or are larger than any film that shows that the program
+/// is busy.
 std::optional<AviFile> read_avi(std::string_view bytes);
 
 }  // namespace platform

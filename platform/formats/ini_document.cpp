@@ -31,8 +31,8 @@ std::string_view first_line(std::string_view bytes) {
 
 char lower_case(char byte) { return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte; }
 
-/// Folds ASCII letters, but not the second byte of a character, which may look like one: 8141 and 8161 are
-/// two names.
+/// Ignores the case of ASCII letters, but not in the second byte of a character, which may look like a
+/// letter: the bytes 81 41 and 81 61 are different names.
 bool same_name(std::string_view a, std::string_view b) {
     if (a.size() != b.size()) return false;
     for (std::size_t i = 0; i < a.size(); ++i) {
@@ -45,7 +45,7 @@ bool same_name(std::string_view a, std::string_view b) {
     return true;
 }
 
-/// The name of the section that a line without blanks at its ends begins, if it does. What follows the
+/// The name of the section that a trimmed line begins; nothing for any other line. Text after the closing
 /// bracket does not count.
 std::optional<std::string_view> section_name(std::string_view line) {
     if (line.empty() || line.front() != '[') return std::nullopt;
@@ -57,7 +57,7 @@ std::optional<std::string_view> section_name(std::string_view line) {
 /// Where a key stands in a document, or where it would have to be put.
 struct Place {
     bool section_found = false;
-    std::size_t section_end = 0;                // behind the section's last line that is not blank
+    std::size_t section_end = 0;                // after the section's last line that is not blank
     std::optional<std::string_view> raw_value;  // a part of the document, to the end of the line
 };
 
@@ -76,7 +76,7 @@ Place locate(std::string_view bytes, std::string_view section, std::string_view 
         if (!place.section_found || line.empty()) continue;
         place.section_end = std::min(begin, bytes.size());
 
-        // Comments need no look of their own: their names begin with a semicolon, as no key's does.
+        // Comments need no check of their own: no key begins with a semicolon.
         const auto equals = raw_line.find('=');
         if (equals != std::string_view::npos && same_name(without_blanks(raw_line.substr(0, equals)), key)) {
             place.raw_value = raw_line.substr(equals + 1);

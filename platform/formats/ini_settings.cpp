@@ -13,7 +13,7 @@ bool is_missing(const RuntimeError& error) {
            error.number() == static_cast<int>(ErrorNumber::path_not_found);
 }
 
-/// The file's bytes, none for a file that is not there yet.
+/// The file's bytes; none when there is no file yet.
 std::string read_to_change(const Files& files, const Text& path) {
     try {
         return files.read(path);

@@ -9,7 +9,7 @@ namespace platform {
 namespace {
 
 constexpr double LOUDEST = 32768;
-/// Decibels below the loudest at which the scale begins.
+/// The scale begins this many decibels below the loudest possible sample.
 constexpr double RANGE = 60;
 
 }  // namespace

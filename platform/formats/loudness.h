@@ -4,8 +4,8 @@
 
 namespace platform {
 
-/// How loud the loudest sample is, from 0 (silence, or a hum that nobody hears) to 100 (as loud as the
-/// samples can say), as the ear counts.
+/// How loud the loudest sample is, from 0 (silence, or a hum that nobody hears) to 100 (the loudest possible
+/// sample), on a scale that suits the ear.
 int loudness(SampleView samples);
 
 }  // namespace platform

@@ -8,7 +8,7 @@ constexpr std::uint32_t PCM = 1;
 constexpr std::uint32_t CHANNELS = 1;
 constexpr std::uint32_t SAMPLE_BYTES = sizeof(Samples::value_type);
 constexpr std::uint32_t FORMAT_BYTES = 16;
-/// What stands between the length of the whole and the samples.
+/// The bytes between the field with the file's length and the samples.
 constexpr std::uint32_t HEAD_BYTES = 36;
 
 void append(std::string& bytes, std::uint32_t number, std::uint32_t size) {

@@ -5,15 +5,16 @@
 
 namespace platform {
 
-/// A function that the carrier's library may call; with how many 32-bit arguments is told where it is given
-/// away.
+/// A function that the carrier's library may call; how many 32-bit arguments it takes stands where it is
+/// passed.
 using CarrierCallback = void (*)();
 
 /// The six exports of the carrier's closed client library, arguments in the library's own order.
 ///
-/// Every text is handed over as a copy of its bytes (cp949), and what the library left in the copy, as long
-/// as the text was, replaces the text; an out buffer is a text of the buffer's length. Each call raises
-/// RuntimeError 48 when the library is not there or is none, and 453 when it lacks the export.
+/// The library may write into its arguments: it gets a copy of each text's bytes (cp949), and afterwards the
+/// copy's bytes, as many as the text had, replace the text. An out buffer is a text of the buffer's length.
+/// Each call raises RuntimeError 48 when the library is missing or cannot be loaded, and 453 when it lacks
+/// the export.
 class CarrierLibrary {
   public:
     virtual ~CarrierLibrary() = default;
@@ -26,7 +27,7 @@ class CarrierLibrary {
         std::int32_t field5 = 0;
     };
 
-    /// The texts that both submits begin or go on with.
+    /// The arguments of both submits.
     struct Submit {
         std::int32_t s_data_type = 0;
         std::int32_t s_data_sub_type = 0;
@@ -59,7 +60,7 @@ class CarrierLibrary {
                                         std::string& service_number, std::string& client_address,
                                         std::string& info_service_number, std::string& info_user_name,
                                         std::string& info_sender_name, std::string& info_callback) = 0;
-    /// Plain text messages: `s_data_sub_type`, `s_reply_flag` and `s_tts_content` are not handed over.
+    /// Plain text messages: `s_data_sub_type`, `s_reply_flag` and `s_tts_content` are not passed.
     virtual std::int32_t fn_x_submit(Submit& submit) = 0;
     virtual std::int32_t fn_x_submit_2(Submit& submit) = 0;
 };

@@ -7,13 +7,13 @@
 
 namespace platform {
 
-/// A running timer; it ends with this object.
+/// A running timer. Destroying it stops it.
 class Ticker {
   public:
     virtual ~Ticker() = default;
 };
 
-/// Time as the user sees it. A port, so that a test turns an hour of sending into milliseconds.
+/// Time as the user sees it. A port, so that a test can send for an hour in milliseconds.
 class Clock {
   public:
     virtual ~Clock() = default;
@@ -21,7 +21,7 @@ class Clock {
     virtual LocalTime now() = 0;
     /// Seconds since midnight with their fraction.
     virtual double timer() = 0;
-    /// Lets the time pass while windows paint and buttons answer, in milliseconds.
+    /// Waits for so many milliseconds; windows paint and buttons work meanwhile.
     virtual void pause(int milliseconds) = 0;
     virtual std::unique_ptr<Ticker> every(int milliseconds, std::function<void()> tick) = 0;
 };

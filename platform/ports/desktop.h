@@ -15,7 +15,7 @@ enum class BoxIcon { none, information, question, exclamation, critical };
 enum class BoxButtons { ok, yes_no, yes_no_cancel };
 enum class BoxAnswer { ok, yes, no, cancel };
 
-/// A modal message. Without a title the window shows the application's title.
+/// A message box. Without a title it shows the application's.
 struct MessageBox {
     Text text{};
     BoxIcon icon = BoxIcon::none;
@@ -33,7 +33,8 @@ struct FileQuestion {
     Text title{};
     /// Names and patterns in turn, as "Wav files|*.wav|All files|*.*"; several patterns are joined by ";".
     Text filter{};
-    /// What stands in the dialog's field at first: a path, or a name for the folder where the user was last.
+    /// What stands in the dialog's field at first: a path, or a file name in the folder where the user was
+    /// last.
     Text file_name{};
 };
 
@@ -47,7 +48,7 @@ struct InputBox {
 
 enum class Pointer { normal, hourglass };
 
-/// The screen in twips, and how many of them a pixel has.
+/// The monitor's size in twips, and how many twips a pixel has.
 struct Screen {
     int width = 0;
     int height = 0;
@@ -55,41 +56,41 @@ struct Screen {
     int twips_per_pixel_y = 15;
 };
 
-/// The user, watched while a handler runs: what he does meanwhile is heard when the handler is through.
+/// Watches for the user's input while a handler runs. The input itself is handled after the handler.
 class InputWatch {
   public:
     virtual ~InputWatch() = default;
 
-    /// Whether the user has pressed a key or a button or moved the mouse since the watch began. Never, on
-    /// desktops that do not tell.
+    /// Whether the user has pressed a key or a button or moved the mouse since the watch began. Always false
+    /// on a desktop that cannot tell.
     virtual bool input_waits() = 0;
 };
 
-/// The user's desktop: windows, boxes, the pointer, the clipboard and the event loop. A port, so that a whole
-/// session runs in a test where a script plays the user.
+/// The user's desktop: windows, boxes, the pointer, the clipboard and the event loop. A port, so that in a
+/// test a script can use the whole program in the user's place.
 class Desktop {
   public:
     virtual ~Desktop() = default;
 
-    /// Makes the form's window, not shown yet, and gives the form the size that its screen was drawn with.
+    /// Makes the form's window without showing it, and gives the form the size of its screen as drawn.
     virtual void prepare(Form& form) = 0;
     virtual void show(Form& form) = 0;
-    /// Returns when the form has been closed.
+    /// Shows the form and returns when it is closed.
     virtual void show_modal(Form& form) = 0;
     virtual void close(Form& form) = 0;
     /// Lets the user pick from the menu at the mouse pointer.
     virtual void popup_menu(Form& form, Menu& menu) = 0;
-    /// The same right below a control of the form, at its left edge.
+    /// The same, but directly below a control of the form, at its left edge.
     virtual void popup_menu_below(Form& form, Menu& menu, const Control& control) = 0;
 
     /// Returns the button that the user pressed; closing a box without one gives its cautious answer (no,
     /// cancel, ok).
     virtual BoxAnswer message_box(const MessageBox& box) = 0;
 
-    /// The full path of the user's choice; nothing when he cancels.
+    /// The full path of the user's choice; nothing when the user cancels.
     virtual std::optional<Text> ask_for_file(const FileQuestion& question) = 0;
 
-    /// Returns what the user entered; nothing when he cancelled.
+    /// Returns what the user entered; empty when the user cancels.
     virtual Text input_box(const InputBox& box) = 0;
 
     virtual void set_pointer(Pointer pointer) = 0;
@@ -97,10 +98,10 @@ class Desktop {
     virtual Screen screen() const = 0;
     virtual void set_application_title(const Text& title) = 0;
 
-    /// Handles the events that wait, once.
+    /// Handles the waiting events once.
     virtual void yield() = 0;
-    /// Lets the windows paint themselves in the midst of a long loop, but hears no user. To be called in
-    /// every round: it works only as often as an eye can tell.
+    /// Lets the windows paint during a long loop, while input waits. To be called in every round: it acts
+    /// only as often as an eye can notice.
     virtual void paint() = 0;
     virtual std::unique_ptr<InputWatch> watch_input() = 0;
 };

@@ -18,12 +18,12 @@ struct FileEntry {
     LocalTime modified;
 };
 
-/// A file that is open for writing. It is closed with this object; what was not flushed may be lost then.
+/// A file that is open for writing. Destroying it closes the file; what was not flushed may be lost.
 class OpenFile {
   public:
     virtual ~OpenFile() = default;
 
-    /// Writes at the place where the last write ended; what is written shows in the file after a flush.
+    /// Writes where the last write ended. The bytes are in the file after a flush.
     virtual void write(std::string_view bytes) = 0;
     virtual void flush() = 0;
 };
@@ -40,12 +40,11 @@ class Files {
     virtual Text windows_directory() const = 0;
     virtual Text system_directory() const = 0;
 
-    /// Whether a normal file, no folder and none that is hidden, matches the path; `*` and `?` may stand in
-    /// the name.
+    /// Whether a normal file (no folder, not hidden) matches the path; `*` and `?` may stand in the name.
     virtual bool file_exists(const Text& path) const = 0;
     virtual bool folder_exists(const Text& path) const = 0;
 
-    /// How many bytes the file has. It is not opened for that.
+    /// The file's length in bytes, found without opening it.
     virtual std::uint64_t length(const Text& path) const = 0;
 
     /// Whether the path's last component is a link that leads elsewhere.
@@ -58,28 +57,28 @@ class Files {
     virtual std::vector<Text> list_folders(const Text& folder) const = 0;
 
     virtual std::string read(const Text& path) const = 0;
-    /// Writes the whole file or leaves the old one as it was, also when the program is killed meanwhile; in
-    /// the program's own folders the file is its user's alone. Here and for folders, a new name must pass
+    /// Writes the whole file or leaves the old one as it was, also when the program is killed meanwhile. In
+    /// the program's own folders only the user can read the file. A new name, of a folder too, must pass
     /// `check_file_name`.
     virtual void write(const Text& path, const std::string& bytes) = 0;
-    /// Opens for writing from the file's beginning, for what arrives in pieces; makes it when it is missing.
-    /// What stands behind the last byte written stays.
+    /// Opens the file to be written from its beginning, for data that arrives in pieces; creates it when it
+    /// is missing. It is not truncated: bytes after the last one written stay.
     virtual std::unique_ptr<OpenFile> open_for_writing(const Text& path) = 0;
     virtual void remove(const Text& path) = 0;
-    /// Removes the files of the folder that match the pattern, hidden ones too. Links go as links, folders
-    /// stay.
+    /// Removes the files of the folder that match the pattern, hidden ones too. Of a link the link itself is
+    /// removed; folders stay.
     virtual void remove_files(const Text& folder, TextView pattern) = 0;
     virtual void make_folder(const Text& path) = 0;
     virtual void rename_folder(const Text& from, const Text& to) = 0;
-    /// RuntimeError 75 for a folder that anything is left in.
+    /// Raises RuntimeError 75 when the folder is not empty.
     virtual void remove_empty_folder(const Text& path) = 0;
     /// Removes the folder with all that is in it.
     virtual void remove_folder(const Text& path) = 0;
 
-    /// The machine's own path, in UTF-8, for what is handed to the machine or comes from it, as its dialogs
-    /// and its players do. Raises RuntimeErrors for a path that cannot be.
+    /// The path as the operating system writes it, in UTF-8, for its dialogs and players. Raises RuntimeError
+    /// for a path that cannot exist.
     virtual std::string machine_path(const Text& path) const = 0;
-    /// The program's path of the machine's.
+    /// The reverse: the program's path for one that the operating system wrote.
     virtual Text path_of(const std::string& machine_path) const = 0;
 };
 

@@ -9,35 +9,36 @@
 namespace platform {
 
 /// Fetches by HTTP, one address at a time. A failure, an answer that takes too long or is too large, and a
-/// transfer that was given up each raise a RuntimeError where the next thing is asked for.
+/// transfer that was given up each raise a RuntimeError at the next call.
 class Transfer {
   public:
     virtual ~Transfer() = default;
 
-    /// Begins a GET of the address and returns at once; one before it is given up. Redirects are not
-    /// followed. An address without a scheme is one of HTTP, and one of another scheme raises RuntimeError
-    /// 35753.
+    /// Begins a GET of the address and returns at once; an earlier transfer is given up. Redirects are not
+    /// followed. An address without a scheme means HTTP; a scheme other than HTTP raises RuntimeError 35753.
     virtual void execute(const Text& url) = 0;
     /// Whether the header of the answer is still to come.
     virtual bool still_executing() const = 0;
 
-    /// The whole header, of which the first line is "HTTP/1.1 200 OK" or the like.
+    /// The whole header. Its first line is "HTTP/1.1 200 OK" or the like.
     virtual Text header() const = 0;
     /// The value of one header, whatever its case; empty when the answer has none.
     virtual Text header(TextView name) const = 0;
 
-    /// The next so many bytes of the body, or what is left of it: fewer mean that it has ended. Windows paint
-    /// and buttons answer while it waits.
+    /// The next `size` bytes of the body; fewer when it has ended. While it waits, windows paint and buttons
+    /// work.
     virtual std::string chunk(std::size_t size) = 0;
 
-    /// A GET whole: the body, of which no more than the first `at_most` bytes are fetched.
+    /// Fetches the address with GET and returns the body, of which only the first `at_most` bytes are
+    /// fetched.
     virtual std::string open_url(const Text& url, std::size_t at_most) = 0;
 
-    /// Gives the transfer up, also one that somebody is waiting for; from then on RuntimeError 32755 says so.
+    /// Gives the transfer up, also while another call waits for it. From then on calls raise RuntimeError
+    /// 32755.
     virtual void cancel() = 0;
 };
 
-/// The network. A port, so that no test depends on one.
+/// The network. A port, so that tests need no network.
 class Internet {
   public:
     virtual ~Internet() = default;

@@ -12,7 +12,7 @@
 
 namespace platform {
 
-/// Everything that the system needs of the machine, handed to whoever needs some of it.
+/// Everything that the system needs from the machine, for the classes that need some of it.
 struct Platform {
     Desktop& desktop;
     Clock& clock;

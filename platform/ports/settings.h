@@ -11,7 +11,8 @@ class Settings {
   public:
     virtual ~Settings() = default;
 
-    /// The key's value, cut to `limit` bytes at a whole character; empty without a file, section or key.
+    /// The key's value, cut to `limit` bytes at a whole character; empty when file, section or key is
+    /// missing.
     virtual std::string read(const Text& path, const std::string& section, const std::string& key,
                              std::size_t limit) const = 0;
     /// Writes or replaces the key and keeps every other line; raises RuntimeError when the file cannot be

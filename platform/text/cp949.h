@@ -9,12 +9,12 @@
 
 namespace platform {
 
-/// The text in code page 949. A character that the page lacks gives its best fit or one question mark a code
-/// unit.
+/// The text in code page 949. A character that the page lacks becomes its closest equivalent, or one question
+/// mark for each code unit.
 std::string encode_cp949(TextView text);
 
-/// The text of code page 949 bytes. A lead byte with a trail byte that makes no character gives one question
-/// mark for both, a lead byte at the end one for itself.
+/// The text for bytes of code page 949. A lead byte with a trail byte that makes no character becomes one
+/// question mark for both; a lead byte at the end becomes one.
 Text decode_cp949(std::string_view bytes);
 
 /// The bytes of one code unit in code page 949: 1 or 2.

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Code page 949 as constant data, made from platform/tools/cp949.txt when the program is built.
+/// Code page 949 as constant data, made from cmake/cp949/cp949.txt when the program is built.
 namespace platform::cp949_table {
 
 inline constexpr unsigned char FIRST_LEAD = 0x81, LAST_LEAD = 0xFE;
@@ -15,8 +15,8 @@ inline constexpr std::size_t PAIRS = (LAST_LEAD - FIRST_LEAD + 1) * TRAILS;
 /// The byte, or the lead byte * 256 + trail byte, of every code unit.
 extern const std::array<std::uint16_t, 0x10000> ENCODE;
 
-/// How many bytes that is, 1 or 2: a table of its own, since what a message uses of it stays in the nearest
-/// cache.
+/// How many bytes that is, 1 or 2. A table of its own, because the part of it that a message uses stays in
+/// the processor's nearest cache.
 extern const std::array<std::uint8_t, 0x10000> BYTES;
 
 /// The character of every single byte; lead bytes, which are none alone, have a question mark.

@@ -11,7 +11,7 @@ constexpr TextView AM_PM = u"ampm";
 
 bool is_field_letter(char16_t letter) { return TextView(u"ymdhns").find(letter) != TextView::npos; }
 
-/// The number with zeros before it up to the width.
+/// The number, padded with zeros to the width.
 Text padded(int number, std::size_t width) {
     const Text digits = decimal(number);
     return digits.size() < width ? Text(width - digits.size(), u'0') + digits : digits;

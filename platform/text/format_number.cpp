@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-/// The whole number nearest to a number of at most 15 digits that count, in decimal digits without leading
+/// The whole number nearest to a number of at most 15 significant digits, in decimal digits without leading
 /// zeros, so none at all for 0.
 struct WholeNumber {
     bool negative = false;
@@ -36,7 +36,7 @@ WholeNumber round_to_whole(double number) {
     WholeNumber whole;
     if (!std::isfinite(number) || number == 0) return whole;
 
-    // "d.dddddddddddddde+xx": the digits that count, and where their decimal point belongs.
+    // "d.dddddddddddddde+xx": the significant digits, and where their decimal point belongs.
     std::array<char, 32> spelling{};
     const auto end = std::to_chars(spelling.data(), spelling.data() + spelling.size(), std::fabs(number),
                                    std::chars_format::scientific, DIGITS_THAT_COUNT - 1);

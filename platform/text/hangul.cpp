@@ -7,13 +7,13 @@ namespace {
 constexpr char16_t FIRST_SYLLABLE = 0xAC00;
 constexpr char16_t FIRST_LEAD = 0x1100;
 constexpr char16_t FIRST_VOWEL = 0x1161;
-/// The one before the first final consonant: a syllable without one counts as having this.
+/// The code before the first final consonant. It stands for a syllable without one.
 constexpr char16_t NO_TAIL = 0x11A7;
 constexpr int LEADS = 19;
 constexpr int VOWELS = 21;
 constexpr int TAILS = 28;
 
-/// The place of the character behind the first of its kind; a number outside the kind's for any other.
+/// Distance of the character from the first of its sort; out of the sort's range for any other character.
 int place_of(char16_t unit, char16_t first) { return unit - first; }
 
 bool is_place(int place, int count) { return place >= 0 && place < count; }

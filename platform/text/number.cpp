@@ -57,7 +57,7 @@ Spelling spell(TextView text) {
     return number;
 }
 
-/// Whether a number that no double holds is too large rather than too small. Its first digit that counts
+/// Whether a number that no double holds is too large rather than too small. Its first significant digit
 /// stands about where the exponent says, and no text is long enough to outweigh an exponent that cannot be
 /// read.
 bool is_too_large(const std::string& characters) {

@@ -6,9 +6,9 @@
 
 namespace platform {
 
-/// "Its number" of a text: the number that the text begins with, 0 without one. Blanks, tabs and line ends
-/// before it are skipped; it may have a sign, decimals and an exponent. Too large a number gives the largest
-/// double, too small a one 0; the result is always finite.
+/// The number that the text begins with; 0 when there is none. Blanks, tabs and line ends before it are
+/// skipped; it may have a sign, decimals and an exponent. A number that is too large gives the largest
+/// double, one that is too small gives 0; the result is always finite.
 double leading_number(TextView text);
 
 /// The number of a text that is a number from end to end, blanks around it and commas between its digits

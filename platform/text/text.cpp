@@ -44,8 +44,8 @@ void append_utf16(Text& out, char32_t point) {
     }
 }
 
-/// The code point at `at`, which moves behind it. A broken sequence gives the replacement character and moves
-/// behind the bytes that could have begun a character, so that the next good one is not lost.
+/// Reads the code point at `at` and moves `at` past it. A broken sequence gives the replacement character and
+/// skips only the bytes that could have begun a character, so that the next good one is not lost.
 char32_t next_point(std::string_view bytes, std::size_t& at) {
     const auto lead = static_cast<unsigned char>(bytes[at++]);
     if (lead < 0x80) return lead;

@@ -22,7 +22,7 @@ Text right_trim(TextView text);
 /// The text with every occurrence of `what` replaced; an empty `what` replaces nothing.
 Text replace_all(TextView text, TextView what, TextView with);
 Text remove_all(TextView text, TextView what);
-/// Code that reads C strings ends a text at its NUL.
+/// The text with a blank for every NUL, because code that reads C strings would end the text there.
 Text blanks_for_nul(Text text);
 
 bool contains(TextView text, TextView what);
@@ -37,7 +37,8 @@ Text with_line_feeds(TextView text);
 Text lower_case(TextView text);
 bool equal_without_case(TextView a, TextView b);
 
-/// ASCII only in either direction: meant for keys, names of resources and test output, not for user texts.
+/// ASCII only, in both directions: for keys, names of resources and test output, not for texts that the user
+/// reads.
 Text from_ascii(std::string_view ascii);
 
 /// The number in decimal, with a leading minus sign when negative.

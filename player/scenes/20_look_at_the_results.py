@@ -1,4 +1,4 @@
-"""After a send: the results page in the service's own form, with what was registered a moment ago on it."""
+"""After a send: the results page in the browser form shows what was registered a moment ago."""
 
 
 def play(desk):

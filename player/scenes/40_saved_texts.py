@@ -46,6 +46,6 @@ def write_in_a_new_category(desk, box):
 
 
 def saved_texts(desk):
-    """The texts of all files of the box, by their paths in it."""
+    """The texts of all saved files, by their paths in the box."""
     box = desk.app / "내모음함"
     return {str(file.relative_to(box)): file.read_bytes().decode("cp949") for file in box.rglob("*") if file.is_file()}

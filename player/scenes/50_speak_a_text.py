@@ -1,9 +1,9 @@
-"""A text with voice: the service speaks a text, and the recipient answers by pressing a number."""
+"""A text with voice: the service speaks a text, and the recipient replies by pressing a number."""
 from carrier import TEXT_AND_SPEECH, registration
 
 SUBJECT = "정기 모임 참석 여부"
 WORDS = "정기 모임에 오시면 1번, 못 오시면 2번을 눌러 주십시오."
-# What the program writes for him.
+# What the program writes for the user.
 TEXT_WITH_IT = "[길동상사]\r\n\r\n\r\n\r\n☎통화를눌러확인하세요"
 
 

@@ -1,4 +1,4 @@
-"""A voice message out of a sound file, by schedule."""
+"""A scheduled voice message from a sound file."""
 import math
 import struct
 import wave
@@ -38,7 +38,7 @@ def play(desk):
 
 
 def lay_sound(path):
-    """A second of the tone after which one speaks."""
+    """Writes a second of the tone after which callers speak."""
     with wave.open(str(path), "wb") as sound:
         sound.setnchannels(1)
         sound.setsampwidth(2)

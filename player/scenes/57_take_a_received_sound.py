@@ -1,4 +1,4 @@
-"""A recording by telephone: taken out of the inbox page, attached to a voice message."""
+"""A recording made by telephone: saved from the inbox page and attached to a voice message."""
 from carrier import SOUND, path_of, registration
 
 NAME = "0303 번호로 녹음한 안내문"

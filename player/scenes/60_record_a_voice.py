@@ -1,4 +1,4 @@
-"""A voice message: record at the microphone, listen to it, send."""
+"""A voice message: record with the microphone, listen to it, send."""
 import array
 import wave
 
@@ -35,7 +35,7 @@ def play(desk):
 
 
 def seconds_of_speech(path):
-    """From the first loud sample to the last."""
+    """Seconds from the first loud sample to the last."""
     with wave.open(str(path)) as sound:
         samples = array.array("h", sound.readframes(sound.getnframes()))
         loud = [i for i, sample in enumerate(samples) if abs(sample) > 500]

@@ -1,5 +1,5 @@
-"""A fax of two documents. The service converts them one by one, so the job takes its time. Then the same by schedule,
-while one of the documents goes."""
+"""A fax of two documents. The service converts them one by one, so the job takes long. Then the same by schedule,
+while one of the documents disappears."""
 from carrier import FAX, NO_ATTACHMENT, path_of, registration
 from expect import expect
 

@@ -1,6 +1,6 @@
-"""What the other scenes have not sent yet of every kind at once and by schedule.
+"""Every kind at once and by schedule, as far as the other scenes have not sent it.
 
-The recording and the sound file of the scenes before still lie in the draft.
+The recording and the sound file of earlier scenes are still in the draft.
 """
 from carrier import AT_ONCE, SOUND, SPEECH, TEXT, TEXT_AND_SOUND, TEXT_AND_SPEECH, path_of, registration
 

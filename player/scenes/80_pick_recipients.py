@@ -1,10 +1,10 @@
-"""Recipients out of the card manager: picked from its folders and by a search, and handed over by it in files."""
+"""Recipients from the card manager: picked from its folders and from a search, and handed over in its files."""
 from card_manager import hand_over
 from expect import expect
 
 # Between them stands a card without a mobile number.
 PICKED = [[True, "류예호", "01000000004", "", "Manager"], [True, "류예진", "01000000029", "", "과장"]]
-# Of a title with digits these alone are kept.
+# A title with digits keeps only these.
 HANDED_OVER = [[True, "박새벽", "021112222", "", "3"], [True, "이름없음", "01033334444", "", "대리"]]
 
 

@@ -1,5 +1,5 @@
 """Two hundred and fifty recipients are three batches under numbered subjects. A batch that the carrier refuses can be
-sent again by itself, and a job that the user stops ends behind the batch that is on its way."""
+sent again by itself, and a job that the user stops ends after the batch that is on its way."""
 from card_manager import hand_over
 from carrier import NO_CONNECTION, TEXT, registration
 from expect import expect
@@ -25,7 +25,7 @@ def play(desk):
     desk.find("전체>250>대상>0", "label", main)
 
     main = write_draft(desk)
-    # The stop is pressed while the carrier takes its time for the first batch.
+    # The stop button is pressed while the carrier is slow with the first batch.
     with desk.carrier.ordered("delays", "fn_x_submit=1500"):
         before = desk.carrier.calls("fn_x_bind")
         desk.start_sending(main)

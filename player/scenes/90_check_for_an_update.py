@@ -1,4 +1,4 @@
-"""Looks for an update: the site has none; then it has one, which is put off first and then handed to the installer."""
+"""Checks for an update: the site has none; then it has one, which is put off at first and then installed."""
 from expect import PATIENCE, expect, wait_for
 
 LOG_IN = "로그인"
@@ -11,7 +11,7 @@ def look_for_update(desk):
 
 
 def offer_update(app):
-    """From now on the site's list names a newer program, and an installer lies here."""
+    """Lets the site's list name a newer program, and puts an installer here."""
     facts = app / "i_version.ini"
     facts.write_text(facts.read_text().replace("/update/update.ini", "/update/due/update.ini"))
     installer = app / "i_update.exe"
@@ -31,7 +31,7 @@ def play(desk):
     offer = desk.window("프로그램이 업데이트 되었습니다.")
     desk.find("새로워진 점", within=offer)
     desk.picture("update")
-    # The window has opened by itself: an Enter that was meant for the draft answers nothing.
+    # The window opened by itself, so an Enter that was meant for the draft must not answer it.
     desk.keys("Return")
     desk.click(desk.find("닫기", "push button", offer))
     desk.gone("프로그램이 업데이트 되었습니다.")

@@ -1,4 +1,4 @@
-// What a month costs, computed from what was registered in it.
+// The charges of a month, computed from its registrations.
 
 #include "standin/site/kinds.h"
 #include "standin/site/pages.h"
@@ -31,7 +31,7 @@ Html bill(const std::vector<Usage>& usages, const Prices& prices, bool first_mon
             "<th class=\"number\">단가</th><th class=\"number\">금액</th></tr></thead><tbody>\n";
     for (std::size_t i = 0; i < usages.size(); ++i) {
         Usage usage = usages[i];
-        // The two kinds of voice cost the same and are one to the subscriber.
+        // The two data types of a voice cost the same and are one kind to the subscriber.
         while (i + 1 < usages.size() && kind_name(usages[i + 1].data_type) == kind_name(usage.data_type)) {
             usage.recipients += usages[++i].recipients;
         }
@@ -44,7 +44,7 @@ Html bill(const std::vector<Usage>& usages, const Prices& prices, bool first_mon
     if (usages.empty()) {
         html << "<tr><td colspan=\"4\" class=\"empty\">발송 내역이 없습니다.</td></tr>\n";
     }
-    // Messages are free up to the basic charge, which the first month does not have.
+    // Messages are free up to the basic charge. The first month has no basic charge.
     const std::int64_t basic = first_month ? 0 : prices.monthly;
     html << "</tbody><tfoot><tr>" << row("메시지 발송요금", "", "", sent) << "<tr>"
          << row("기본료", "", "", basic) << "<tr>"

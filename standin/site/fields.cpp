@@ -16,7 +16,7 @@ bool is_plain(char character) {
 
 bool all_plain(std::string_view text) { return std::all_of(text.begin(), text.end(), is_plain); }
 
-/// The visitor if each field is one that a client may have.
+/// The visitor, if every field is valid.
 std::optional<Visitor> checked(Visitor visitor) {
     const auto too_long = [](const std::string& field) { return field.size() > field_limit; };
     if (too_long(visitor.code) || too_long(visitor.user_id) || too_long(visitor.domain) ||
@@ -36,7 +36,7 @@ int hex_digit(char character) {
     return character >= 'a' && character <= 'f' ? character - 'a' + 10 : -1;
 }
 
-/// A '%' that begins no escape stands for itself.
+/// A '%' that begins no escape is kept.
 std::string unescaped(std::string_view text) {
     std::string plain;
     for (std::size_t i = 0; i < text.size(); ++i) {

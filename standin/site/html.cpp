@@ -3,7 +3,7 @@
 namespace standin::site {
 namespace {
 
-/// Neither a tab nor a line end, and nothing that a browser shows.
+/// A control character other than a tab or a line end.
 bool is_control(char character) {
     const auto byte = static_cast<unsigned char>(character);
     return (byte < 0x20 && byte != '\t' && byte != '\n' && byte != '\r') || byte == 0x7F;

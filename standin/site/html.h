@@ -7,8 +7,8 @@
 
 namespace standin::site {
 
-/// A page in the making. A literal is markup and stays as it is; everything else is text that somebody wrote,
-/// and is escaped, so that nothing out of the ledger can become markup.
+/// Builds a page. A literal is markup and stays unchanged; everything else is text and is escaped, so that
+/// nothing from the ledger can become markup.
 class Html {
   public:
     template <std::size_t size>

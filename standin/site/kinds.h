@@ -7,10 +7,10 @@
 
 namespace standin::site {
 
-/// The kind of message behind a data type, in the subscriber's words.
+/// The kind of message for a data type, in the subscriber's words.
 std::string_view kind_name(std::int64_t data_type);
 
-/// What one recipient of the kind costs, in won.
+/// The price of one recipient for a data type, in won.
 std::int32_t price(const Prices& prices, std::int64_t data_type);
 
 /// Why a registration with that result was refused.

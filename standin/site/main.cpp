@@ -1,4 +1,4 @@
-// The service's web site. It only reads, so that SIGTERM may end it at any moment.
+// The service's web site. It only reads, so SIGTERM can end it at any moment.
 
 #include "standin/settings.h"
 #include "standin/site/server.h"
@@ -28,7 +28,7 @@ struct Options {
     int port = 0;
 };
 
-/// False for arguments that mean nothing.
+/// Returns false for arguments that it does not understand.
 bool read_options(int count, char** arguments, Options& options) {
     for (int i = 1; i + 1 < count; i += 2) {
         const std::string_view name = arguments[i];
@@ -62,7 +62,8 @@ std::string this_month() {
     return month;
 }
 
-/// The file is there with the number in it or not at all: who waits for it reads no half.
+/// Writes the number under another name and then renames the file, so that a program that waits for it never
+/// reads half a number.
 void write_port(const std::string& path, int port) {
     const std::string unfinished = path + ".new";
     std::ofstream(unfinished) << port << '\n';

@@ -1,4 +1,4 @@
-// The subscriber's own data, and what he has received.
+// The subscriber's own data and inbox.
 
 #include "standin/cp949.h"
 #include "standin/site/pages.h"
@@ -37,7 +37,7 @@ void append(std::string& bytes, std::uint32_t number, int size) {
     }
 }
 
-/// A second of the tone after which one speaks, as the telephone records it: 8000 samples of 16 bits.
+/// A second of the tone after which callers speak, as the telephone records it: 8000 samples of 16 bits.
 std::string tone() {
     constexpr std::uint32_t rate = 8000;
     constexpr std::uint32_t bytes_a_second = 2 * rate;
@@ -60,7 +60,7 @@ std::string tone() {
     return wav;
 }
 
-/// What stands for a voice's title: the way to its sound.
+/// The title, which for a voice is a link to its sound.
 Html title_of(const Received& received, const Visitor& visitor) {
     Html title;
     if (received.kind != voice) {

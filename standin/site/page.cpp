@@ -80,7 +80,7 @@ Answer framed(std::string_view title, const Html& way, const Html& content, int 
     return {.status = status, .body = html.bytes()};
 }
 
-/// The visitor with his id in UTF-8, out of the post, or out of the query of a link of ours.
+/// The visitor from the post or from the query of one of this site's links, with the id in UTF-8.
 std::optional<Visitor> visitor_of(const Request& request) {
     if (request.posted.empty()) {
         return query_visitor(request.query);

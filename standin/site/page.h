@@ -27,15 +27,16 @@ struct Request {
     std::string posted;
 };
 
-/// What goes back to the browser; a page unless it says otherwise.
+/// The answer to the browser: a page, unless it says otherwise.
 struct Answer {
     int status = 200;
     std::string body;
     std::string type = "text/html; charset=utf-8";
-    std::string file_name{};  ///< in UTF-8: the browser keeps the body as a file of this name
+    std::string file_name{};  ///< in UTF-8: the browser saves the body under this name
 };
 
-/// A subscriber and what his pages show. The visitor's id is UTF-8 here, the account has no password.
+/// A subscriber and what the subscriber's pages show. The visitor's id is UTF-8 here, and the account has no
+/// password.
 struct Subscriber {
     Visitor visitor;
     Account account;
@@ -45,20 +46,20 @@ struct Subscriber {
 
 using Fields = std::vector<std::pair<std::string_view, std::string>>;
 
-/// A page of the service, with its frame: head line, and below it the content.
+/// A page of the service: its head line and below it the content.
 Answer page(std::string_view title, const Html& content, int status = 200);
-/// The same for a subscriber, with the way to his other pages; `path` is this one's.
+/// The same for a subscriber, with links to the other pages; `path` is this page's.
 Answer subscriber_page(std::string_view title, const Subscriber& subscriber, std::string_view path,
                        const Html& content);
 /// A page that says what is wrong.
 Answer refusal(int status, std::string_view title, std::string_view text);
 
-/// The path with a query of the visitor and the fields that are not empty.
+/// The path with a query that holds the visitor and the fields that are not empty.
 std::string link(std::string_view path, const Visitor& visitor, const Fields& fields);
 /// The visitor as hidden fields of a form.
 Html hidden_fields(const Visitor& visitor);
 
-/// Makes the page for the subscriber whom the request names; a refusal when it names none.
+/// Makes the page for the subscriber in the request; a refusal when there is none.
 Answer for_subscriber(const Request& request, const Sources& sources,
                       const std::function<Answer(const Subscriber&)>& make);
 

@@ -1,4 +1,4 @@
-// What everybody may see: the service, its maker, the way to a lost password, and the way in.
+// The pages for everybody: the service, its maker, the search for a lost password, and the sign-up.
 
 #include "standin/site/pages.h"
 

@@ -5,7 +5,8 @@
 namespace standin::site {
 namespace {
 
-/// Behind every time of the day or month that stands before it, since it sorts behind all that a time has.
+/// Appended to a day or month, it sorts after every time in that day or month, since no character of a time
+/// sorts after it.
 constexpr const char* end_of_period = "~";
 
 constexpr const char* listed_columns =
@@ -58,7 +59,7 @@ std::string time_of(const Database& ledger, std::int64_t id) {
     return row.step() ? row.bytes(0) : std::string();
 }
 
-/// One row more than a page has, if there are so many: it tells that the list goes on.
+/// One row more than a page holds, if there are so many: it shows that the list goes on.
 std::vector<Registration> rows_at(const Database& ledger, const Filter& filter, const Place& place) {
     std::string sql = listed_columns + conditions(filter);
     const bool from_newest = place.kind == Place::Kind::newest;
@@ -122,7 +123,7 @@ std::optional<Registration> find(const Database& ledger, const std::string& user
 }
 
 std::vector<Usage> usage(const Database& ledger, const std::string& user_id, const std::string& month) {
-    // Kind by kind, so that the index skips the other months.
+    // One data type at a time, so that the index skips the other months.
     Statement rows = ledger.prepare(
         "SELECT data_type, sum(recipient_count) FROM registration WHERE user_id = ? AND result = 1"
         " AND data_type IN (1, 2, 3, 5, 7) AND time >= ? AND time < ? GROUP BY data_type");

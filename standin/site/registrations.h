@@ -11,21 +11,21 @@ namespace standin::site {
 
 enum class State { all, registered, refused };
 
-/// Which of a user's registrations are asked for.
+/// Which of a user's registrations to list.
 struct Filter {
     std::string user_id;
     std::string day;  ///< yyyy-MM-dd, empty for every day
     State state = State::all;
 };
 
-/// Where a page begins: with the newest, or right behind or before a registration of the page left.
+/// Where a page begins: with the newest, or directly after or before a registration of the previous page.
 struct Place {
     enum class Kind { newest, older_than, newer_than };
     Kind kind = Kind::newest;
     std::int64_t id = 0;
 };
 
-/// A registration as a list shows it; texts are beginnings of what was sent.
+/// A registration as a list shows it; only the beginnings of its texts.
 struct Registration {
     std::int64_t id = 0;
     std::string time;
@@ -41,34 +41,33 @@ struct Registration {
 };
 
 inline constexpr int rows_of_a_page = 20;
-/// Counting stops here: nobody pages that far, and a count of everything would slow every page down.
+/// Counting stops here: nobody pages so far, and counting everything would slow every page down.
 inline constexpr std::int64_t count_limit = 1000;
 
 /// A page of registrations, newest first.
 struct Listing {
     std::vector<Registration> rows;
-    bool newer = false;  ///< there are some before the first row
-    bool older = false;  ///< and behind the last one
-    std::int64_t count =
-        0;  ///< of all that the filter lets through, count_limit + 1 for more than count_limit
+    bool newer = false;      ///< there are newer ones before the first row
+    bool older = false;      ///< there are older ones after the last row
+    std::int64_t count = 0;  ///< of all that pass the filter; count_limit + 1 stands for more
 };
 
-/// The page that begins at the place; what it costs does not depend on how many registrations there are.
+/// The page that begins at the place. Its cost does not depend on the number of registrations.
 Listing list(const Database& ledger, const Filter& filter, const Place& place);
 
-/// The user's registration with its texts in full; nothing when it is not his.
+/// The user's registration with its texts in full; nothing when it belongs to another user.
 std::optional<Registration> find(const Database& ledger, const std::string& user_id, std::int64_t id);
 
-/// A kind of message that was registered in a month.
+/// What was registered with one data type in a month.
 struct Usage {
     std::int64_t data_type = 0;
     std::int64_t recipients = 0;
 };
 
-/// What the user registered in the month (yyyy-MM), by kind.
+/// What the user registered in the month (yyyy-MM), by data type.
 std::vector<Usage> usage(const Database& ledger, const std::string& user_id, const std::string& month);
 
-/// The month of the user's first registration, empty without one.
+/// The month of the user's first registration; empty when there is none.
 std::string first_month(const Database& ledger, const std::string& user_id);
 
 }  // namespace standin::site

@@ -1,4 +1,4 @@
-// What was sent: the list, and one registration with everything that was asked for.
+// Results: the list of registrations, and one registration in full.
 
 #include "standin/site/kinds.h"
 #include "standin/site/pages.h"
@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t day_length = 10;
 
-/// A filter that means nothing lets everything through.
+/// A filter that is not understood lets everything through.
 Filter filter_of(const Request& request, const Subscriber& subscriber) {
     Filter filter{.user_id = subscriber.visitor.user_id, .day = query_field(request.query, "day")};
     if (filter.day.size() != day_length) {
@@ -57,7 +57,7 @@ std::string readable_schedule(const std::string& time) {
            ":" + time.substr(10, 2);
 }
 
-/// A narrow cell: the day, and below it the time.
+/// A narrow cell with the day and, below it, the time.
 Html time_cell(std::string_view time) {
     const std::size_t blank = std::min(time.find(' '), time.size());
     Html html;
@@ -155,7 +155,7 @@ Html pager(const Subscriber& subscriber, const Filter& filter, const Listing& li
     return html;
 }
 
-/// The pieces of a list that ends each with ";", one a line.
+/// The pieces of a list, each ended with ";", one on a line.
 std::string lines_of(const std::string& list) {
     std::string lines;
     for (const char character : list) {

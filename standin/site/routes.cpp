@@ -12,7 +12,7 @@ namespace {
 
 using Page = Answer (*)(const Request& request, const Sources& sources);
 
-/// A '*' stands for whatever the path has in its place: before or behind the rest.
+/// A '*' at the beginning or the end of the path stands for any text.
 struct Route {
     std::string_view path;
     Page page;

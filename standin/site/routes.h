@@ -4,7 +4,7 @@
 
 namespace standin::site {
 
-/// The answer to the request: the page of its path, or a refusal. Nothing is thrown.
+/// The answer to the request: the page at its path, or a refusal. Never throws.
 Answer answer(const Request& request, const Sources& sources);
 
 }  // namespace standin::site

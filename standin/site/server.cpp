@@ -11,8 +11,8 @@ namespace {
 constexpr const char* loopback = "127.0.0.1";
 constexpr int patience = 3;  // seconds for the rest of a request, and for a slow reader
 
-/// Nothing but our own words and style; no page of another may show ours in a frame, and the address with the
-/// user's id goes to nobody.
+/// Browsers load nothing but this site's own text and style, show it in no other site's frame, and pass the
+/// address, which holds the user's id, to nobody.
 const httplib::Headers page_headers = {
     {"Content-Security-Policy",
      "default-src 'none'; style-src 'unsafe-inline'; form-action 'self'; base-uri 'none'; frame-ancestors "
@@ -31,7 +31,7 @@ void send(const Answer& answer, httplib::Response& response) {
     }
 }
 
-/// Says no before any of a body is read: its length must be told and small.
+/// Refuses a request before its body is read unless the head gives the length and it is small.
 httplib::Server::HandlerResponse check_length(const httplib::Request& request, httplib::Response& response) {
     const bool has_length = request.has_header("Content-Length");
     if (request.has_header("Transfer-Encoding") || (request.method == "POST" && !has_length)) {
@@ -65,7 +65,7 @@ Server::Server(Sources sources) : sources_(std::move(sources)), http_(std::make_
     server.set_pre_routing_handler(check_length);
     server.Get(".*", handle);
     server.Post(".*", handle);
-    // What the library itself says no to, a line that is no request for one, gets a page as well.
+    // What the library itself refuses, such as a malformed request line, gets a page as well.
     server.set_error_handler([](const httplib::Request&, httplib::Response& response) {
         if (response.body.empty()) {
             send(refusal(response.status, "요청을 처리할 수 없습니다", "주소를 확인하여 주십시오."),
@@ -74,7 +74,7 @@ Server::Server(Sources sources) : sources_(std::move(sources)), http_(std::make_
     });
     server.set_default_headers(page_headers);
     server.set_payload_max_length(body_limit);
-    // A connection an answer: what is left of a refused body is never taken for the next request.
+    // One answer for each connection, so that the rest of a refused body is never read as the next request.
     server.set_keep_alive_max_count(1);
     server.set_keep_alive_timeout(patience);
     server.set_read_timeout(patience);

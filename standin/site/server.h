@@ -6,7 +6,7 @@
 
 namespace standin::site {
 
-/// The pages over HTTP, on loopback alone.
+/// Serves the pages over HTTP, on the loopback device only.
 class Server {
   public:
     explicit Server(Sources sources);
@@ -14,7 +14,7 @@ class Server {
     Server(const Server&) = delete;
     Server& operator=(const Server&) = delete;
 
-    /// Takes the port, 0 for a free one, and returns it. std::runtime_error when it cannot be had.
+    /// Binds the port, any free one for 0, and returns it. Raises std::runtime_error when that fails.
     int bind(int port);
     /// Answers until the process ends.
     void run();

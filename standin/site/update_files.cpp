@@ -1,13 +1,12 @@
-// What the client's update check asks for: the list of an installation with nothing due, one in which
-// something is, and the page that tells what is new. The version 2.0.0 is below that of every client, 9.0.0
-// above.
+// The files for the client's update check: a list with no update due, a list with one due, and the page that
+// says what is new. Version 2.0.0 is below that of every client, 9.0.0 above.
 
 #include "standin/site/pages.h"
 
 namespace standin::site {
 namespace {
 
-/// A list of the client itself and of a file that the installer brings and takes away again.
+/// A list with the client itself and with a file that the installer brings and removes again.
 Answer update_list(const Request& request, std::string_view version) {
     const std::string site = "http://" + request.host + "/update/";
     std::string list = "[MESSAGEFILE]\r\nUPDATNOTEFILE=" + site + "note\r\n[UPDATE_FILE_LIST]\r\n";

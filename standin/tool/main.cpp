@@ -63,7 +63,7 @@ void print_calls(const Database& ledger) {
     }
 }
 
-/// False for arguments that mean nothing.
+/// Returns false for arguments that it does not understand.
 bool read_options(int count, char** arguments, Options& options) {
     for (int i = 1; i < count; ++i) {
         const std::string_view argument = arguments[i];

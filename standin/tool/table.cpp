@@ -13,7 +13,7 @@ struct Character {
     std::size_t length;
 };
 
-/// The character that the text begins with; a byte that begins none stands for itself.
+/// The first character of the text; a byte that begins no character counts as one.
 Character first_character(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const std::size_t length = byte(0) >= 0xF0 ? 4 : byte(0) >= 0xE0 ? 3 : byte(0) >= 0xC0 ? 2 : 1;

@@ -8,11 +8,10 @@
 
 namespace standin {
 
-/// How many columns of a terminal the UTF-8 text takes; Korean and its like take two a character.
+/// How many columns of a terminal the UTF-8 text takes; a Korean character and other wide ones take two.
 std::size_t display_width(std::string_view text);
 
-/// The longest beginning of the UTF-8 text within so many columns, with an ellipsis when something is left
-/// out.
+/// The UTF-8 text, cut to so many columns, with an ellipsis when something is left out.
 std::string shortened(std::string_view text, std::size_t columns);
 
 /// The text with its control characters written out, so that a message cannot move the terminal's cursor.

@@ -68,7 +68,7 @@ TEST(AviFile, TheProductsFilmsLoadWhole) {
     }
 }
 
-TEST(AviFile, RowsComeFromTheTopWithoutTheirFillingWhicheverWayTheyLie) {
+TEST(AviFile, RowsComeFromTheTopWithoutPaddingInEitherOrderOfTheFile) {
     const auto row = [](const Film& film, std::size_t frame, int y) {
         const std::string bytes = film.bytes();
         const auto read = read_avi(bytes);
@@ -82,7 +82,7 @@ TEST(AviFile, RowsComeFromTheTopWithoutTheirFillingWhicheverWayTheyLie) {
     EXPECT_EQ(row({.bits = 32, .frame = "BGR0bgr1XYZ2123456789..."}, 0, 1), "BGR0bgr1XYZ2");
 }
 
-TEST(AviFile, ThePicturesOfTheVideoStreamAreFoundBehindASoundStream) {
+TEST(AviFile, ThePicturesOfTheVideoStreamAreFoundAfterASoundStream) {
     const std::string sound = chunk("LIST", "strl" + chunk("strh", "auds") + chunk("strf", ""));
     EXPECT_TRUE(read_avi(Film{.streams_before = sound, .frame_name = "01dc"}.bytes()));
     EXPECT_FALSE(read_avi(Film{.streams_before = sound, .frame_name = "00dc"}.bytes()));

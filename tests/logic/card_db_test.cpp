@@ -28,7 +28,7 @@ TEST_F(CardDb, EveryOpeningIsANewConnectionWithTheManagersPassword) {
               "Password=cardvale070915;Persist Security Info=True;User ID=admin");
 }
 
-TEST_F(CardDb, AFailureLeavesNothingOpenAndIsToldWhenAsked) {
+TEST_F(CardDb, AFailureLeavesNothingOpenAndIsShownWhenAsked) {
     const struct {
         std::optional<RuntimeError> refusal;
         int state;
@@ -54,7 +54,7 @@ TEST_F(CardDb, AFailureLeavesNothingOpenAndIsToldWhenAsked) {
     }
 }
 
-TEST(Statements, StandAsTheCardManagersDatabaseKnowsThem) {
+TEST(Statements, AreThoseThatTheCardManagersDatabaseUnderstands) {
     const std::string fields =
         "SELECT a.f_idx,a.p_idx,i_idx,FullName,CompanyName,Department,JobTitle,Company_addr,"
         "Company_zipcode,Cellphone,Beeper,Email,Email2,Company_phone1,Company_phone2,Company_fax1,Webpage,"
@@ -79,7 +79,7 @@ TEST(Statements, StandAsTheCardManagersDatabaseKnowsThem) {
               "SELECT COUNT(*) as RNO FROM [tbl_namecard] WHERE [f_idx]=7");
 }
 
-TEST(Statements, AMatchClauseHoldsTheTextAsItWasTyped) {
+TEST(Statements, AMatchClauseHoldsTheTextExactlyAsTyped) {
     const struct {
         const char16_t *mode, *text;
         const char* pattern;

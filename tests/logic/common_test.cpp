@@ -67,12 +67,12 @@ TEST(Numbers, OnlyTheDigitsStayUnlessTheyMakeZero) {
         {u"   ", u""},
         {u" 집 ", u"집"},
         {u"0-0-0", u"0-0-0"},
-        {u"１２３", u"１２３"}  // wide digits are no digits
+        {u"１２３", u"１２３"}  // full-width digits are no digits
     };
     for (const auto& row : rows) EXPECT_EQ(utf8(DIGITS_ONLY(row.typed)), utf8(row.digits));
 }
 
-TEST(Texts, ATextOutOfAPaddedBufferLosesItsPaddingAndKeepsWhatStandsInside) {
+TEST(Texts, ATextFromAPaddedBufferLosesOnlyItsPadding) {
     const struct {
         Text buffer;
         const char* clean;
@@ -84,7 +84,7 @@ TEST(Texts, ATextOutOfAPaddedBufferLosesItsPaddingAndKeepsWhatStandsInside) {
     for (const auto& row : rows) EXPECT_EQ(utf8(gateway::CLEAN_FIXED_TEXT(row.buffer)), row.clean);
 }
 
-TEST(FieldValue, IsTheTextOfAFieldTrimmedOnTheRightForTypes10And12Alone) {
+TEST(FieldValue, IsTheTextOfAFieldTrimmedOnTheRightOnlyForTypes10And12) {
     const struct {
         platform::CardField field;
         const char16_t* value;
@@ -101,7 +101,7 @@ TEST(FieldValue, IsTheTextOfAFieldTrimmedOnTheRightForTypes10And12Alone) {
 
 struct Paths : testing::Test, tests::TestPlatform {};
 
-TEST_F(Paths, TheParentIsWhatStandsBeforeTheLastNameWithItsBackslash) {
+TEST_F(Paths, TheParentIsThePathBeforeTheLastNameWithItsBackslash) {
     const struct {
         const char16_t* path;
         const char *parent, *name;
@@ -146,7 +146,7 @@ TEST_F(Paths, AnErrorOfTheDiskMeansThatTheFileIsNotThere) {
     EXPECT_FALSE(FILE_EXISTS(machine, u"a<b"));
 }
 
-TEST_F(Paths, AFileThatTheUserTypedOpensOrIsNamedInABox) {
+TEST_F(Paths, ATypedFileOpensOrIsNamedInABox) {
     files.files[u"c:\\a.wav"] = "x";
     SHELL_OPEN(platform, u"c:\\missing.wav");
     SHELL_OPEN_CHECKED(platform, u"");
@@ -164,7 +164,7 @@ struct Columns : testing::Test, tests::TestPlatform {
     ListView list{window, u"list", {{u"선택", {}}, {u"Name", {}}, {u"번호", {}}}};
 };
 
-TEST_F(Columns, EveryClickTurnsTheOrderRoundAndMovesTheArrow) {
+TEST_F(Columns, EveryClickReversesTheOrderAndMovesTheArrow) {
     for (const char16_t* number : {u"2", u"1", u"3"}) list.add_row(u"", {u"같은이름", number});
     const struct {
         int column;
@@ -172,7 +172,7 @@ TEST_F(Columns, EveryClickTurnsTheOrderRoundAndMovesTheArrow) {
         int picture;
     } clicks[] = {
         {3, "321", 1},                                // the first click on a list that was ascending
-        {3, "123", 0}, {3, "321", 1}, {2, "321", 0},  // another column goes on turning
+        {3, "123", 0}, {3, "321", 1}, {2, "321", 0},  // another column continues to alternate
         {3, "321", 1},
     };
     for (const auto& click : clicks) {

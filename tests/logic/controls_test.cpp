@@ -47,7 +47,7 @@ using Choices = Controls;
 using Focus = Controls;
 using Forms = Controls;
 
-TEST_F(TextBoxes, ChangeComesWithADifferentTextOnly) {
+TEST_F(TextBoxes, ChangeIsRaisedOnlyForADifferentText) {
     int changes = 0;
     first.Change.connect([&] { ++changes; });
     const struct {
@@ -71,7 +71,7 @@ TEST_F(TextBoxes, ChangeComesWithADifferentTextOnly) {
     }
 }
 
-TEST_F(TextBoxes, APasteTakesThePlaceOfTheSelectionAndTheCaretStandsBehindIt) {
+TEST_F(TextBoxes, APasteReplacesTheSelectionAndTheCaretFollowsIt) {
     const struct {
         std::size_t start, length;
         const char16_t* pasted;
@@ -94,7 +94,7 @@ TEST_F(TextBoxes, APasteTakesThePlaceOfTheSelectionAndTheCaretStandsBehindIt) {
     }
 }
 
-TEST_F(Choices, AComboTakesRowsItHasAndErrorThreeHundredEightyOtherwise) {
+TEST_F(Choices, AComboTakesItsRowsAndRaisesError380ForOthers) {
     ComboBox combo(*this, u"combo", ComboBox::Style::editable);
     combo.Click.connect([&] { log.push_back("click " + utf8(combo.text())); });
     combo.Change.connect([&] { log.push_back("change " + utf8(combo.text())); });
@@ -118,7 +118,7 @@ TEST_F(Choices, AComboTakesRowsItHasAndErrorThreeHundredEightyOtherwise) {
     EXPECT_EQ(log, (Log{"change 셋", "change 넷"}));
 }
 
-TEST_F(Focus, AHandlerMaySendItElsewhere) {
+TEST_F(Focus, AHandlerMayMoveItOn) {
     log_focus(second, "second");
     log_focus(third, "third");
     first.set_focus();
@@ -126,7 +126,7 @@ TEST_F(Focus, AHandlerMaySendItElsewhere) {
     second.set_focus();
     EXPECT_EQ(log, (Log{"got third"})) << "the place that was passed over has no events";
 
-    // A box around a field that gives the focus back at once.
+    // A picture box around a field returns the focus at once.
     log.clear();
     PictureBox box(*this, u"box");
     box.GotFocus.connect([&] { third.set_focus(); });

@@ -32,7 +32,7 @@ struct FaxDocuments : testing::Test, tests::MainWindow {
     }
 };
 
-TEST_F(FaxDocuments, AreToldByTheEndOfTheirNames) {
+TEST_F(FaxDocuments, AreKnownByTheEndOfTheirNames) {
     const struct {
         TextView path;
         bool taken;
@@ -52,7 +52,7 @@ TEST_F(FaxDocuments, AreToldByTheEndOfTheirNames) {
 }
 
 TEST_F(FaxDocuments, AreTakenFromTheDialogWithTheirPictures) {
-    // A semicolon is the carrier's to refuse.
+    // Only the carrier refuses a semicolon.
     pick(u"z:\\글;'나'.hwp");
     pick(std::nullopt);
     pick(u"z:\\사진.TIF");
@@ -63,7 +63,7 @@ TEST_F(FaxDocuments, AreTakenFromTheDialogWithTheirPictures) {
     for (const FileQuestion& question : desktop.file_questions) EXPECT_EQ(question.file_name, u"");
 }
 
-TEST_F(FaxDocuments, OfOtherFormatsTwiceTheSameAndMoreThanFiveAreRefused) {
+TEST_F(FaxDocuments, AreRefusedInOtherFormatsTwiceOrWhenMoreThanFive) {
     pick(u"z:\\보고.doc");
     refuse(u"z:\\a.exe",
            u"가능한 포맷이 아닙니다.\r\n\r\n문서파일:txt, doc, xls, ppt, hwp, gul\r\n이미지파일:bmp, gif, "
@@ -77,7 +77,7 @@ TEST_F(FaxDocuments, OfOtherFormatsTwiceTheSameAndMoreThanFiveAreRefused) {
     EXPECT_EQ(desktop.file_questions.size(), 7u) << "before the dialog";
 }
 
-TEST_F(FaxDocuments, ShowTheirSizeInWholeKilobytesAndNeverNone) {
+TEST_F(FaxDocuments, ShowTheirSizeInWholeKilobytesAndAtLeastOne) {
     const struct {
         std::size_t first, second;
         const char* shown;
@@ -103,7 +103,7 @@ TEST_F(FaxDocuments, ShowTheirSizeInWholeKilobytesAndNeverNone) {
     EXPECT_EQ(utf8(compose::size_in_kb(std::size_t{1} << 31)), "2,097,152KB");
 }
 
-TEST_F(FaxDocuments, AreDeletedOnceTheUserHasSaidYes) {
+TEST_F(FaxDocuments, AreDeletedAfterAYes) {
     form.fax.FAXBttn2.Click.raise();
     for (const char16_t* path : {u"z:\\1.txt", u"z:\\2.txt", u"z:\\3.txt"}) pick(path);
     form.fax.FAXBttn2.Click.raise();

@@ -11,7 +11,7 @@ namespace {
 
 using namespace platform;
 
-TEST(FileName, OneThatSomeSystemRefusesOrHidesIsRefused) {
+TEST(FileName, AreRefusedWhenAnySystemRefusesOrHidesThem) {
     for (const Text& good : {Text(u"인사.txt"), Text(u"console"), Text(u"com0"), Text(u"a. b"), Text(u" a"),
                              Text(85, u'한'), Text(u"com10.txt")}) {
         EXPECT_NO_THROW(check_file_name(good)) << to_utf8(good);
@@ -25,7 +25,7 @@ TEST(FileName, OneThatSomeSystemRefusesOrHidesIsRefused) {
     }
 }
 
-TEST(FileName, NamesAreListedWithoutRegardToCase) {
+TEST(FileName, AreListedWithoutRegardToCase) {
     std::vector<Text> names{u"b", u"가", u"_", u"A", u"ab", u"a", u"B1", u"나"};
     std::ranges::sort(names, name_precedes);
     EXPECT_EQ(names, (std::vector<Text>{u"A", u"a", u"ab", u"b", u"B1", u"_", u"가", u"나"}));

@@ -20,8 +20,8 @@ LocalTime time_of_fixture(const Text& text) {
     return make_time(number(0, 4), number(5, 2), number(8, 2), number(11, 2), number(14, 2), number(17, 2));
 }
 
-/// Fewer digits than fill the two right groups of a service number leave places empty with us, where the
-/// formatter that was recorded puts zeros.
+/// Whether the digits are too few for the two right groups of a service number. The program leaves their
+/// places empty; the formatter whose results were recorded puts zeros.
 bool is_short(const Text& text) {
     const auto number = text_as_number(text);
     return number && number < 1e8;
@@ -33,12 +33,12 @@ Text format_as(const std::string& kind, const Text& input, const Text& pattern) 
     return format_number(leading_number(input), pattern);
 }
 
-TEST(Format, GivesWhatThePlatformsFormatterGave) {
+TEST(Format, AgreesWithTheRecordedFormatter) {
     int rows = 0;
     for (const auto& row : tests::read_tsv("format.tsv")) {
         const auto field = [&](std::size_t i) { return row[i] == "\"\"" ? Text() : from_utf8(row[i]); };
         const Text input = field(1), pattern = field(2);
-        if (row[0] == "date_string") continue;  // texts become moments before they come here
+        if (row[0] == "date_string") continue;  // texts are converted to moments before they are formatted
         if (pattern == SERVICE_NUMBER && is_short(input)) continue;
         EXPECT_EQ(format_as(row[0], input, pattern), field(3)) << row[0] << ' ' << row[1] << ' ' << row[2];
         ++rows;
@@ -46,7 +46,7 @@ TEST(Format, GivesWhatThePlatformsFormatterGave) {
     EXPECT_GT(rows, 300);
 }
 
-TEST(Format, AShortServiceNumberLeavesPlacesEmpty) {
+TEST(Format, AShortServiceNumberLeavesItsPlacesEmpty) {
     const struct {
         TextView value, layout;
     } rows[] = {{u"5", u"0000--5"},
@@ -60,14 +60,14 @@ TEST(Format, AShortServiceNumberLeavesPlacesEmpty) {
     for (const auto& row : rows) EXPECT_EQ(format_service_number(row.value), row.layout);
 }
 
-TEST(Format, NumbersThatAreNoneOrRoundAwayShowAsZero) {
+TEST(Format, TextsThatAreNoNumberAndNumbersThatRoundToNothingShowAsZero) {
     EXPECT_EQ(format_number(-0.4, u"#,##0"), u"0");
     EXPECT_EQ(format_number(std::numeric_limits<double>::quiet_NaN(), u"#,##0"), u"0");
     EXPECT_EQ(format_number(9.5, u"00"), u"10");
     EXPECT_EQ(format_number(std::numeric_limits<double>::max(), u"0").size(), 309u);
 }
 
-TEST(Format, ADifferenceShowsAsTheClockTimeOfItsPartOfADay) {
+TEST(Format, AnElapsedTimeShowsAsAClockTimeWithoutItsWholeDays) {
     const LocalTime start = make_time(2008, 7, 5, 23, 59, 58);
     const struct {
         LocalTime end;
@@ -75,7 +75,7 @@ TEST(Format, ADifferenceShowsAsTheClockTimeOfItsPartOfADay) {
     } rows[] = {
         {start, u"00:00:00", u"000000"},
         {make_time(2008, 7, 6, 0, 0, 3), u"00:00:05", u"000000"},
-        {make_time(2008, 7, 5, 23, 29, 58), u"00:30:00", u"003000"},  // half an hour early looks like late
+        {make_time(2008, 7, 5, 23, 29, 58), u"00:30:00", u"003000"},  // the sign is lost
         {make_time(2008, 7, 7, 1, 59, 58), u"02:00:00", u"020000"},   // whole days are lost
         {make_time(2008, 7, 4, 23, 59, 59), u"23:59:59", u"235900"},
     };

@@ -42,7 +42,7 @@ struct Wrappers : testing::Test, tests::TestPlatform {
     }
 };
 
-TEST_F(Wrappers, HandOverTheSessionInCp949AndTakeBackWhatTheLibraryLeft) {
+TEST_F(Wrappers, PassTheSessionInCp949AndKeepWhatTheLibraryWrote) {
     EXPECT_TRUE(carrier_gateway.GATEWAY_BIND(0));
     EXPECT_EQ(carrier.arguments, (Texts{"\xC8\xAB"
                                         "hong",
@@ -80,7 +80,7 @@ TEST_F(Wrappers, TheModeOfABindChoosesTheFirstCallbackAndEveryCallbackAnswersOne
     EXPECT_NE(carrier.notify, six);
 }
 
-TEST_F(Wrappers, TheProfileComesBackInPaddedBuffersOfTheirLengths) {
+TEST_F(Wrappers, TheProfileArrivesInPaddedBuffersOfFixedLengths) {
     carrier.info_user_name = "\xC8\xAB\xB1\xE6\xB5\xBF";
     EXPECT_TRUE(carrier_gateway.GATEWAY_USER_INFO());
     EXPECT_EQ(carrier.arguments, (Texts{"\xC8\xAB"
@@ -108,7 +108,7 @@ TEST_F(Wrappers, ALibraryThatWritesNothingLeavesBlanks) {
     }
 }
 
-TEST_F(Wrappers, AreTrueForOneAndSayNothingAboutAnythingElse) {
+TEST_F(Wrappers, AreTrueOnlyForResultOneAndShowNoBox) {
     for (const std::int32_t result : {1, 0, 2, -1}) {
         for (const Wrapper& wrapper : wrappers()) {
             carrier.calls.clear();
@@ -146,7 +146,7 @@ struct Registrations : Wrappers {
                        .s_attach_file = u"C:\\Temp\\문서 A.WAV;"};
 };
 
-TEST_F(Registrations, OnlyAnIndexOfOneGoesThroughTheSecondSubmit) {
+TEST_F(Registrations, OnlyKindsWithIndexOneUseTheSecondSubmit) {
     state.session.gSubmitSequence = 7;
     for (const int index : {0, 1, 2}) {
         message.SMSIndex = index;
@@ -168,7 +168,7 @@ TEST_F(Registrations, OnlyAnIndexOfOneGoesThroughTheSecondSubmit) {
               (std::vector<Text>{u"홍hong", u"pondira.example", u"127.0.0.1"}));
 }
 
-TEST_F(Registrations, ARefusalIsATextAndAnErrorIsOneTooWithoutABox) {
+TEST_F(Registrations, ARefusalAndAnErrorAreTextsForTheRowsWithoutABox) {
     carrier.results[{"submit", 1}] = 8;
     EXPECT_EQ(utf8(carrier_gateway.UMS_SEND_START(message)), "등록실패X8(착신자수초과)");
     carrier.missing = {"submit"};

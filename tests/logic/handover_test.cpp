@@ -38,7 +38,7 @@ struct HandOver : testing::Test, tests::MainWindow {
     }
 };
 
-TEST_F(HandOver, RecipientsComeInAndTheirTabIsChosen) {
+TEST_F(HandOver, RecipientsAreAddedAndTheirTabIsChosen) {
     hand("4", u"x\t홍길동\t010-1111-2222\t부장\r\nx\t김:영희\t02)333-4444\t3급\r\n");
     take_in();
     EXPECT_EQ(rows(), (Rows{"홍길동|01011112222|부장", "김영희|023334444|3"}));
@@ -51,7 +51,7 @@ TEST_F(HandOver, RecipientsComeInAndTheirTabIsChosen) {
     EXPECT_TRUE(form.Timer1.enabled());
 }
 
-TEST_F(HandOver, LinesAreTakenAsFarAsTheyMakeSense) {
+TEST_F(HandOver, LinesAreReadAsFarAsTheyMakeSense) {
     const struct {
         const char* what;
         Text file;
@@ -98,7 +98,7 @@ TEST_F(HandOver, LinesAreTakenAsFarAsTheyMakeSense) {
     }
 }
 
-TEST_F(HandOver, BytesThatAreNoTextHarmNothing) {
+TEST_F(HandOver, BytesThatAreNoTextDoNoHarm) {
     hand("1", u"");
     files.files[RECIPIENTS] = "\xFF\xFE\t\x81\xFF\xC8\t0101111\xC8\t\x80\r\nx\tA\t0102222\r\n\xB1";
     take_in();
@@ -123,7 +123,7 @@ TEST_F(HandOver, TheSignalIsANumberOfSixteenBits) {
     EXPECT_EQ(form.recipients.ListView1.row_count(), 1u) << "the same recipient again and again";
 }
 
-TEST_F(HandOver, NothingHappensWithoutTheSignalAndItWaitsForAJob) {
+TEST_F(HandOver, WithoutASignalNothingHappensAndASignalWaitsForTheJobToEnd) {
     form.choose(compose::MessageKind::voice);
     files.files[RECIPIENTS] = "x\tA\t0101111\r\n";
     take_in();
@@ -137,7 +137,7 @@ TEST_F(HandOver, NothingHappensWithoutTheSignalAndItWaitsForAJob) {
     EXPECT_EQ(form.recipients.ListView1.row_count(), 1u);
 }
 
-TEST_F(HandOver, ThatArrivesWhileAPageIsOpenOrBringsNobodyIsThrownAway) {
+TEST_F(HandOver, IsThrownAwayWhileAPageIsOpenOrWithoutRecipients) {
     form.choose(compose::MessageKind::voice);
     state.forms.gWebFormOpen = true;
     hand("1", u"x\tA\t0101111\r\n");
@@ -206,7 +206,7 @@ TEST_F(HandOver, WhileItIsTakenInNoOtherOneStartsAndTheWindowIsPainted) {
     EXPECT_EQ(progress, (std::vector<int>{0, 50, 100}));
 }
 
-TEST_F(HandOver, APageIsOpenedForWhoIsLoggedIn) {
+TEST_F(HandOver, APageOpensForAUserWhoIsLoggedIn) {
     state.session.gLoggedIn = true;
     state.session.gLoginResult = true;
     Rows captions;
@@ -224,7 +224,7 @@ TEST_F(HandOver, APageIsOpenedForWhoIsLoggedIn) {
     EXPECT_EQ(form.recipients.ListView1.row_count(), 0u);
 }
 
-TEST_F(HandOver, APageLogsInFirstAndIsLeftWhenThatFails) {
+TEST_F(HandOver, APageAsksForALoginFirstAndStaysClosedWhenThatFails) {
     hand("51", u"");
     in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });
     take_in();

@@ -28,8 +28,8 @@ std::vector<std::string> split(const std::string& text, char separator) {
     return parts;
 }
 
-TEST(IniDocument, ReadsWhatThePlatformRead) {
-    constexpr std::size_t LONGEST_VALUE = 254;  // what the settings give to the program
+TEST(IniDocument, ReadsLikeTheRecordedPlatform) {
+    constexpr std::size_t LONGEST_VALUE = 254;  // the most that the settings return to the program
     for (const auto& row : tests::read_tsv("ini/read.tsv")) {
         ASSERT_NE(row[3], "directory") << "a document is bytes";
         const auto value = read(bytes_of(row[3]), bytes_of(row[4]), bytes_of(row[5]));
@@ -38,7 +38,7 @@ TEST(IniDocument, ReadsWhatThePlatformRead) {
     }
 }
 
-TEST(IniDocument, WritesWhatThePlatformWrote) {
+TEST(IniDocument, WritesLikeTheRecordedPlatform) {
     for (const auto& row : tests::read_tsv("ini/write.tsv")) {
         std::string document = bytes_of(row[3]);
         for (const auto& one : split(row[4], ',')) {
@@ -64,13 +64,13 @@ TEST(IniDocument, AWriteChangesOneLineAndKeepsEveryOtherByte) {
     for (const auto& row : rows) EXPECT_EQ(write(row.before, "S", "k", "v"), row.after) << row.before;
 }
 
-TEST(IniDocument, NothingThatIsWrittenBecomesALineOfItsOwn) {
+TEST(IniDocument, AWrittenValueNeverBecomesALineOfItsOwn) {
     const std::string document = write("", "LOGIN", "LOGINID", "guest\r\n[SET]\r\nAUTOLOGIN=1");
     EXPECT_EQ(document, "[LOGIN]\r\nLOGINID=guest\r\n");
     EXPECT_EQ(write("", "S\r\n[T]", "k\nj", "v"), "[S]\r\nk=v\r\n");
 }
 
-TEST(IniDocument, AFileCutAnywhereIsReadToTheCutAndWrittenWithoutLoss) {
+TEST(IniDocument, AFileCutShortIsReadUpToTheCutAndWrittenWithoutLoss) {
     const std::string file = "; settings\r\n[SET]\r\nNick=\"\xC8\xAB\"\r\n\r\n[LOGIN]\nAUTOLOGIN = 1\n";
     for (std::size_t size = 0; size <= file.size(); ++size) {
         const std::string prefix = file.substr(0, size);
@@ -83,7 +83,7 @@ TEST(IniDocument, AFileCutAnywhereIsReadToTheCutAndWrittenWithoutLoss) {
     }
 }
 
-TEST(IniDocument, HugeFilesTakeOnePass) {
+TEST(IniDocument, HugeFilesAreReadInOnePass) {
     constexpr std::size_t SIZE = 10'000'000;
     for (const auto& file :
          {std::string(SIZE, '\n'), std::string(SIZE, '['), "[S]\r\nk=" + std::string(SIZE, 'x')})

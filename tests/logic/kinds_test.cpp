@@ -73,18 +73,18 @@ TEST_F(Kinds, EachShowsItsOwnPanelCaptionsAndControls) {
     }
 }
 
-TEST_F(Kinds, ATextThatGoesWithItsPanelFreezesNoSubjectAfterwards) {
+TEST_F(Kinds, ATextThatDisappearsWithItsPanelFreezesNoSubjectLater) {
     form.text.mText1.set_focus();
     form.text.mText1.user_edit(u"회의", 2);
     form.choose(compose::MessageKind::fax);
     EXPECT_FALSE(form.text.mText1.has_focus());
-    // Where the focus has gone the window tells later, after boxes and other windows even.
+    // The window reports later where the focus has gone, perhaps after boxes and other windows.
     form.recipients.HText1[0].set_focus();
     EXPECT_EQ(utf8(form.subject.subjectText.text()), "회의");
     EXPECT_EQ(utf8(form.subject.subjectText.tag()), "") << "the next text leads the subject again";
 }
 
-TEST_F(Kinds, EnteringAKindThrowsItsOwnTextAwayAndNothingElse) {
+TEST_F(Kinds, EnteringAKindDiscardsItsOwnTextAndNothingElse) {
     form.recipients.ListView1.add_row(u"", {u"이름", u"0212345678"}, true);
     const struct {
         compose::MessageKind kind;
@@ -129,7 +129,7 @@ TEST_F(Kinds, TheFirstPaintShowsOnePanelThoughNoKindIsChosenYet) {
     }
 }
 
-TEST_F(Kinds, ASubKindShowsItsPanelAlone) {
+TEST_F(Kinds, ASourceOfTheVoiceShowsOnlyItsPanel) {
     for (int tab = 1; tab <= 3; ++tab) {
         form.voice.TabStrip2.select(tab);
         for (std::size_t panel = 0; panel < 3; ++panel)
@@ -174,7 +174,7 @@ TEST_F(Bars, ToolBarButtonsChooseKindsAndOpenPages) {
     }
 }
 
-TEST_F(Bars, StatusBarPanelsAnswerTheLeftButtonByTheLoginState) {
+TEST_F(Bars, StatusBarPanelsReactToTheLeftButtonAccordingToTheLogin) {
     const auto click = [&](int panel, platform::MouseButton button = platform::MouseButton::left) {
         opened.clear();
         form.session.STBar1.MouseDown.raise(button);
@@ -202,14 +202,14 @@ TEST_F(Bars, StatusBarPanelsAnswerTheLeftButtonByTheLoginState) {
     EXPECT_EQ(desktop.forms.back(), u"frmAbout");
 }
 
-TEST_F(Bars, ButtonsAndMenusGoThroughTheirDoors) {
+TEST_F(Bars, ButtonsAndMenusOpenTheirDoors) {
     form.Command1.Click.raise();
     form.text.MyMsgBttn.Click.raise();
     form.mnuUpDate.Click.raise();
     EXPECT_EQ(opened, (Doors{"send", "saved_texts", "update_check"}));
 }
 
-TEST_F(StartingAnew, NoKeepsEverythingAndYesEmptiesTheDraftButNotItsKindAndSchedule) {
+TEST_F(StartingAnew, NoKeepsTheDraftAndYesEmptiesAllButItsKindAndSchedule) {
     form.choose(compose::MessageKind::plus);
     form.subject.subjectText.set_tag(u"END");
     form.text.mText1.set_text(u"본문");

@@ -28,7 +28,7 @@ struct Lists : testing::Test {
 
     Names column(int sub_item) const { return tests::column(list, sub_item); }
 
-    /// What the index is there to answer, by walking every row.
+    /// The answer that the index must give, found by walking over every row.
     std::optional<std::size_t> walk(TextView beginning) const {
         if (beginning.empty()) return std::nullopt;
         for (std::size_t row = 0; row < list.row_count(); ++row) {
@@ -40,7 +40,7 @@ struct Lists : testing::Test {
     }
 };
 
-TEST_F(Lists, ARowThatGoesTakesItsMarkAndTheSelectedItemMovesUp) {
+TEST_F(Lists, ARemovedRowTakesItsMarkAlongAndTheSelectedItemMovesUp) {
     for (const char16_t* name : {u"가", u"나", u"다"}) list.add_row(u"", {name}, true);
     list.user_select(0, true);
     list.user_selected_item(2);
@@ -82,7 +82,7 @@ TEST_F(Lists, SortingKeepsTheOrderOfEqualRowsBothWaysAndIgnoresCase) {
         EXPECT_TRUE(std::is_sorted(group, group + 100)) << "a long list is sorted in another way";
 }
 
-TEST_F(Lists, FindingLooksAtTheBeginningOfAllSubItemsAndNotAtTheItemText) {
+TEST_F(Lists, FindingComparesTheBeginningsOfSubItemsAndNotTheItemText) {
     list.add_row(u"0309", {u"홍길동", u"01012345678"});
     list.add_row(u"", {u"이사", u"0212345678"});
     EXPECT_EQ(utf8(list.row(1).sub_item(4)), "") << "behind the last one";
@@ -96,7 +96,7 @@ TEST_F(Lists, FindingLooksAtTheBeginningOfAllSubItemsAndNotAtTheItemText) {
         EXPECT_EQ(list.find_in_sub_items(row.beginning), row.row) << utf8(row.beginning);
 }
 
-TEST_F(Lists, FindingAgreesWithAWalkOverAllRowsWhateverHasHappenedToTheList) {
+TEST_F(Lists, FindingAgreesWithAWalkOverAllRowsAfterAnyChanges) {
     std::mt19937 random(20261123);
     const auto below = [&](std::size_t end) { return static_cast<std::size_t>(random() % end); };
     // Few different beginnings, so that there are duplicates, and texts longer than the index's keys.

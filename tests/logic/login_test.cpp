@@ -45,7 +45,7 @@ struct Session : testing::Test, tests::MainWindow {
         form.load();
     }
 
-    void expect_told(platform::TextView text, BoxIcon icon, const char* title) const {
+    void expect_shown(platform::TextView text, BoxIcon icon, const char* title) const {
         ASSERT_EQ(desktop.boxes.size(), 1u);
         EXPECT_EQ(utf8(desktop.boxes[0].text), utf8(text));
         EXPECT_EQ(desktop.boxes[0].icon, icon);
@@ -88,7 +88,7 @@ using LogOut = Session;
 
 // The manual form.
 
-TEST_F(ManualLogin, ShowsWhatIsSavedAndThePasswordWithAutoLoginAlone) {
+TEST_F(ManualLogin, ShowsTheSavedIdAndThePasswordOnlyWithAutoLogin) {
     const struct {
         const char16_t *auto_login, *user_id, *password;
         const char *shown_password, *focused;
@@ -118,7 +118,7 @@ TEST_F(ManualLogin, ShowsWhatIsSavedAndThePasswordWithAutoLoginAlone) {
     }
 }
 
-TEST_F(ManualLogin, IsProvedAppliedAndSavedAndPollingWaitsMeanwhile) {
+TEST_F(ManualLogin, IsCheckedAppliedAndSavedWhilePollingWaits) {
     save_setting(u"SET", u"ZentUserNickName", u" 홍길동 ");
     save_setting(u"SET", u"ZentUserPhoneID", u"0311234567");
     state.session.gInfoServiceNumber = u"030399999999";
@@ -153,7 +153,7 @@ TEST_F(ManualLogin, IsProvedAppliedAndSavedAndPollingWaitsMeanwhile) {
     EXPECT_EQ(utf8(form.subject.subjectText.tag()), "");
 }
 
-TEST_F(ManualLogin, TakesTheProfilesNamesWhereNothingIsSavedAndLeavesTypedTexts) {
+TEST_F(ManualLogin, TakesTheProfilesNamesIfNoneAreSavedAndLeavesTypedTexts) {
     form.text.mText1.set_text(u"쓰던 글");
     form.plus.mText2.set_text(u" [] ");
     log_in(u"hong", u"secret");
@@ -164,7 +164,7 @@ TEST_F(ManualLogin, TakesTheProfilesNamesWhereNothingIsSavedAndLeavesTypedTexts)
     EXPECT_EQ(utf8(form.plus.mText2.text()), "[Hong Office]\r\n\r\n\r\n\r\n☎통화를눌러확인하세요");
 }
 
-TEST_F(ManualLogin, AsksForWhatIsMissing) {
+TEST_F(ManualLogin, AsksForAMissingIdOrPassword) {
     desktop.expect_box(u"KT 폰디라 아이디를 입력하여 주십시오.");
     desktop.expect_box(u"비밀번호를 입력하여 주십시오.");
     in_login([&](gateway::frmZentLogin& login) {
@@ -179,11 +179,11 @@ TEST_F(ManualLogin, AsksForWhatIsMissing) {
     expect_logged_out();
 }
 
-TEST_F(ManualLogin, EnterGoesToThePasswordAndThenLogsIn) {
+TEST_F(ManualLogin, EnterMovesToThePasswordAndThenLogsIn) {
     in_login([&](gateway::frmZentLogin& login) {
         login.Text1.set_text(u"hong");
         login.Text1.set_focus();
-        press(login.Text1, u'x');  // what was there is selected with the focus
+        press(login.Text1, u'x');  // the focus selects the old text
         press(login.Text1, u'\r');
         EXPECT_TRUE(login.Text2.has_focus());
         EXPECT_FALSE(login.Timer1.enabled());
@@ -212,12 +212,12 @@ TEST_F(ManualLogin, AFailedBindIsExplainedAndTheFormStaysForAnotherTry) {
         enter(login, u"hong", u"right");
     });
     form.session.cmdLogin.Click.raise();
-    expect_told(FAILURE, BoxIcon::exclamation, "로그인 실패");
+    expect_shown(FAILURE, BoxIcon::exclamation, "로그인 실패");
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINPW"), "right");
 }
 
-TEST_F(ManualLogin, JudgesByTheKindOfServiceWhateverTheContractsState) {
+TEST_F(ManualLogin, ChecksTheTypeOfServiceButNotItsState) {
     constexpr const char* CHANGE_TITLE = "KT 폰디라 신규등록 및 서비스 전환 안내";
     const struct {
         int type, state;
@@ -258,19 +258,19 @@ TEST_F(ManualLogin, JudgesByTheKindOfServiceWhateverTheContractsState) {
             EXPECT_EQ(state.session.gServiceState, row.state);
         } else {
             expect_logged_out();
-            expect_told(row.box, BoxIcon::exclamation, row.title);
+            expect_shown(row.box, BoxIcon::exclamation, row.title);
         }
     }
 }
 
-TEST_F(ManualLogin, GoesOnWithoutAProfileButAsksForNoneWithoutAMoneyStatus) {
+TEST_F(ManualLogin, SucceedsWithoutAProfileAndAsksForNoneWithoutAMoneyStatus) {
     carrier.results[{"user_info", 1}] = 7;
     log_in(u"hong", u"secret");
     form.session.cmdLogin.Click.raise();
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(panels(), (Calls{"로그인상태", "가입자 hong[]  ", "폰디라번호   "}));
 
-    // The kind of service that counts is then the one that was known before.
+    // Then the type of service that was known before counts.
     state.session.gServiceType = 22;
     carrier.calls.clear();
     carrier.results[{"money_status", 1}] = 7;
@@ -287,7 +287,7 @@ TEST_F(ManualLogin, GoesOnWithoutAProfileButAsksForNoneWithoutAMoneyStatus) {
 
 // The automatic form.
 
-TEST_F(AutomaticLogin, JudgesByTheContractsStateWhateverTheKindOfService) {
+TEST_F(AutomaticLogin, ChecksTheStateOfTheServiceButNotItsType) {
     const struct {
         int type, state;
         BoxAnswer answer = BoxAnswer::ok;
@@ -314,7 +314,7 @@ TEST_F(AutomaticLogin, JudgesByTheContractsStateWhateverTheKindOfService) {
                 << "the buttons alone say that it is of no use";
         } else {
             expect_logged_out();
-            expect_told(REGISTER, BoxIcon::exclamation, "KT 폰디라 등록 안내");
+            expect_shown(REGISTER, BoxIcon::exclamation, "KT 폰디라 등록 안내");
         }
     }
 }
@@ -348,7 +348,7 @@ TEST_F(AutomaticLogin, AFailedBindIsExplainedAndTheManualFormMayStillSucceed) {
 
 // Log-out.
 
-TEST_F(LogOut, AsksAndThenForgetsThatAnybodyIsLoggedIn) {
+TEST_F(LogOut, AsksAndThenForgetsTheLogin) {
     form.session.cmdLogOut.Click.raise();
     EXPECT_TRUE(desktop.boxes.empty()) << "nobody is logged in";
 
@@ -358,7 +358,7 @@ TEST_F(LogOut, AsksAndThenForgetsThatAnybodyIsLoggedIn) {
     desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::no);
     form.session.cmdLogOut.Click.raise();
     EXPECT_TRUE(state.session.gLoggedIn);
-    expect_told(u"Cardvale 폰디라 통합메시징 서비스 로그아웃 하시겠습니까?", BoxIcon::question, "");
+    expect_shown(u"Cardvale 폰디라 통합메시징 서비스 로그아웃 하시겠습니까?", BoxIcon::question, "");
 
     desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::yes);
     form.session.cmdLogOut.Click.raise();

@@ -47,7 +47,7 @@ TEST_F(SavingAText, WritesTheBodyWithoutTheSendersNameUnderTheSubject) {
     }
 }
 
-TEST_F(SavingAText, ATextOfTheSendersNameAloneIsNone) {
+TEST_F(SavingAText, ATextWithOnlyTheSendersNameIsNotSaved) {
     for (const char16_t* text : {u"", u"[홍길동]", u"  [홍길동] [홍길동] "}) {
         desktop.expect_box(u"메시지 내용을 입력하세요!");
         form.Command1.set_focus();
@@ -78,7 +78,7 @@ TEST_F(SavingAText, ASubjectThatIsTakenGetsTheFirstFreeNumberUpToTwoHundred) {
     EXPECT_EQ(saved(u"인사201"), "no file");
 }
 
-TEST_F(SavingAText, AFullDiskIsToldAndNothingCountsAsSaved) {
+TEST_F(SavingAText, AFullDiskIsShownAndNothingCountsAsSaved) {
     files.failure = platform::ErrorNumber::disk_full;
     desktop.expect_box(u"오류번호:61");
     save(u"인사", u"글");
@@ -86,7 +86,7 @@ TEST_F(SavingAText, AFullDiskIsToldAndNothingCountsAsSaved) {
     EXPECT_EQ(desktop.boxes.back().icon, platform::BoxIcon::critical);
 }
 
-TEST_F(SavingAText, ATitleThatNoFileCanHaveIsToldAndNothingIsWritten) {
+TEST_F(SavingAText, ATitleThatNoFileCanHaveIsRefusedAndNothingIsWritten) {
     files.files[FOLDER + u"회의.txt"] = "old";
     const auto before = files.files;
     for (const Text& subject : {Text(u"..\\..\\위"), Text(u"3/4"), Text(u"회*"), Text(u"회의?"),

@@ -73,7 +73,7 @@ TEST_F(Picker, TheTreeIsBuiltFromRowsInAnyOrderAndWithoutTheTrash) {
     });
 }
 
-TEST_F(Picker, NodesShowWhatTheyAreAndWhetherTheyAreOpen) {
+TEST_F(Picker, NodesShowPicturesForTheirTypeAndForOpenFolders) {
     folders = {{2, 1, u"미지정"}, {3, 2, u"아이"}, {4, 1, u"거래처"}, {5, 4, u"서울"}};
     pick(TEXT, [&](frmSendMan& picker) {
         const auto pictures = [&] {
@@ -91,7 +91,7 @@ TEST_F(Picker, NodesShowWhatTheyAreAndWhetherTheyAreOpen) {
     });
 }
 
-TEST_F(Picker, AManagerWithoutFoldersHasTheTopAloneAndListsAllCards) {
+TEST_F(Picker, ADatabaseWithoutFoldersShowsOnlyTheTopAndListsAllCards) {
     folders = {{1, 0, u"전체"}, {1000, 0, u"휴지통"}};
     pick(TEXT, [&](frmSendMan& picker) {
         EXPECT_EQ(tree(picker), Rows{"전체(0)"});
@@ -104,16 +104,16 @@ TEST_F(Picker, AManagerWithoutFoldersHasTheTopAloneAndListsAllCards) {
     });
 }
 
-TEST_F(Picker, AWideAndDeepTreeOfFoldersIsBuiltAtOnce) {
+TEST_F(Picker, AWideAndDeepTreeOfFoldersIsBuiltQuickly) {
     folders.clear();
     for (int i = 5'000; i > 1; --i) folders.push_back({1000 + i, i % 2 == 0 ? 1 : 1000 + i - 1, u"폴더"});
     pick(TEXT, [&](frmSendMan& picker) { EXPECT_EQ(picker.TreeView1.node_count(), 5'000u); });
 }
 
-TEST_F(Picker, ADatabaseThatDoesNotOpenIsToldAndTheWindowStaysUsable) {
+TEST_F(Picker, ADatabaseThatDoesNotOpenIsReportedAndTheWindowStaysUsable) {
     cards.refusal = RuntimeError(ErrorNumber::file_not_found);
-    desktop.expect_box(u"오류번호:53");  // by the load
-    desktop.expect_box(u"오류번호:53");  // by the counts
+    desktop.expect_box(u"오류번호:53");  // from the load
+    desktop.expect_box(u"오류번호:53");  // from the counts
     pick(TEXT, [&](frmSendMan& picker) {
         EXPECT_EQ(tree(picker), (Rows{"전체", "휴지통"}));
         desktop.expect_box(u"오류번호:53");
@@ -126,7 +126,7 @@ TEST_F(Picker, ADatabaseThatDoesNotOpenIsToldAndTheWindowStaysUsable) {
     });
 }
 
-TEST_F(Picker, WhileItIsOpenNothingIsHandedOverAndTheDatabaseIsItsAlone) {
+TEST_F(Picker, WhileItIsOpenItStopsHandOversAndHasItsOwnConnection) {
     form.Timer1.set_enabled(true);
     state.forms.gDialogConfirmed = true;
     pick(TEXT, [&](frmSendMan& picker) {
@@ -207,7 +207,7 @@ TEST_F(Picker, TheColumnsAndTheNumbersToChooseFollowTheKind) {
     }
 }
 
-TEST_F(Picker, ColumnsShareTheRoomAndAClickSortsByOneForGood) {
+TEST_F(Picker, ColumnsShareTheWidthAndAClickSortsByOneFromThenOn) {
     found = {{.name = u"나"}, {.name = u"다"}, {.name = u"가"}};
     pick(TEXT, [&](frmSendMan& picker) {
         platform::ListView& cards = picker.ListView2;
@@ -225,7 +225,7 @@ TEST_F(Picker, ColumnsShareTheRoomAndAClickSortsByOneForGood) {
     });
 }
 
-TEST_F(Picker, ALongListGivesWayToTheUserAfter200Rows) {
+TEST_F(Picker, FillingALongListStopsForTheUserAfter200Rows) {
     desktop.input_waits = [] { return true; };
     for (const auto& [found_cards, rows] : {std::pair{200, 200u}, {201, 201u}, {202, 201u}, {900, 201u}}) {
         find_cards(found_cards);
@@ -257,7 +257,7 @@ TEST_F(Picker, ProgressShowsForMoreThan100CardsAndTheWindowIsPaintedMeanwhile) {
     }
 }
 
-TEST_F(Picker, TheHintGivesWayToWhatIsTypedAndIsSearchedForByTheButton) {
+TEST_F(Picker, TheHintDisappearsWhenTypingButTheButtonSearchesForIt) {
     pick(TEXT, [&](frmSendMan& picker) {
         const auto shown = [&] { return utf8(picker.Text1.text()); };
         EXPECT_EQ(shown(), "이름 또는 회사");
@@ -277,7 +277,7 @@ TEST_F(Picker, TheHintGivesWayToWhatIsTypedAndIsSearchedForByTheButton) {
     });
 }
 
-TEST_F(Picker, ASearchWantsTwoCharactersAndGoesByItsMode) {
+TEST_F(Picker, ASearchNeedsTwoCharactersAndFollowsItsMode) {
     find_cards(2);
     pick(TEXT, [&](frmSendMan& picker) {
         const auto before = cards.statements.size();
@@ -299,7 +299,7 @@ TEST_F(Picker, ASearchWantsTwoCharactersAndGoesByItsMode) {
     });
 }
 
-TEST_F(Picker, AStatementThatTheDatabaseRefusesLeavesTheListWithoutAWord) {
+TEST_F(Picker, AStatementThatTheDatabaseRefusesKeepsTheListAndShowsNoBox) {
     find_cards(2);
     pick(TEXT, [&](frmSendMan& picker) {
         const auto answer = cards.answer;
@@ -324,7 +324,7 @@ TEST_F(Picker, PickedRowsBecomeRecipientsWhenTheyHaveANumberThatIsNew) {
              {u"앞부분", u"", u"", u"0101111"},
              {u"안 고름", u"", u"", u"010-5555-6666"},
              {u"같은 번호", u"", u"", u"01033334444"}};
-    // It would end the list of recipients for the carrier, and a text with the title in it.
+    // A NUL would end the carrier's list of recipients, and a text with the title in it.
     const Text nul(1, u'\0');
     found.push_back({u"끊" + nul + u"김", u"과" + nul + u"장", u"", u"01077778888"});
     form.recipients.ListView1.add_row(u"", {u"기존", u"0311", u"", u""}, true);
@@ -349,7 +349,7 @@ TEST_F(Picker, PickedRowsBecomeRecipientsWhenTheyHaveANumberThatIsNew) {
     });
 }
 
-TEST_F(Picker, OnlyTheChosenNumberCountsAndAnEmptyColumnPicksNobody) {
+TEST_F(Picker, OnlyTheChosenNumberCountsAndARowWithoutItIsNotPicked) {
     found = {{u"홍길동", u"부장", u"한빛", u"010-1111-2222", u"02-123-4567", u"02-765-4321"}};
     const struct {
         const char16_t* kind;
@@ -392,7 +392,7 @@ TEST_F(Picker, WithoutASelectedRowNothingIsPicked) {
     EXPECT_EQ(form.recipients.ListView1.row_count(), 0u);
 }
 
-TEST_F(Picker, FoldersOutsideTheTrashCanBeAskedOfTheDatabaseToo) {
+TEST_F(Picker, TheDatabaseCanBeAskedForTheFoldersOutsideTheTrash) {
     pick(TEXT, [&](frmSendMan& picker) {
         EXPECT_EQ(utf8(picker.ALLDB_SQL2()), "f_idx=2 or f_idx=3");
         EXPECT_EQ(statement(),

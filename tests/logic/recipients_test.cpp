@@ -27,7 +27,7 @@ struct Recipients : testing::Test, tests::MainWindow {
     void add(const Text& name, const Text& number, const Text& status = {}, bool checked = true) {
         form.recipients.ListView1.add_row(u"", {name, number, status, u""}, checked);
     }
-    /// "name number status" of each row, a checked one with "*" before and a selected one with "!".
+    /// "name number status" of each row, with "*" before a checked one and "!" before a selected one.
     std::vector<std::string> rows() const {
         std::vector<std::string> shown;
         for (std::size_t i = 0; i < form.recipients.ListView1.row_count(); ++i) {
@@ -49,7 +49,7 @@ using Checking = Recipients;
 using Sorting = Recipients;
 using Picking = Recipients;
 
-TEST_F(Typed, ANumberIsJudgedByTheKindAfterTheSearchForDuplicates) {
+TEST_F(Typed, ANumberIsSearchedForAsADuplicateBeforeTheKindChecksIt) {
     const struct {
         compose::MessageKind kind;
         const char16_t *name, *number;
@@ -67,7 +67,7 @@ TEST_F(Typed, ANumberIsJudgedByTheKindAfterTheSearchForDuplicates) {
         {compose::MessageKind::fax, u"", u"05021234567", wrong("팩스보낼번호", "05021234567", NO_FAX), ""},
         {compose::MessageKind::text, u"", u"02123456", wrong("문자보낼번호", "02123456", NO_AREA_CODE), ""},
         {compose::MessageKind::voice, u"", u"12345678", wrong("음성보낼번호", "12345678", NO_AREA_CODE), ""},
-        // Duplicates come first: they are told even where the number is too short or of the wrong kind.
+        // Duplicates come first, even if the number is too short or wrong for the kind.
         {compose::MessageKind::text, u"", u"0101234", "이미 동일한 이름가 존재합니다.", "duplicate"},
         {compose::MessageKind::fax, u"", u"01012345678", "이미 동일한 이름가 존재합니다.", "duplicate"},
         {compose::MessageKind::voice, u"", u"부장", "이미 동일한 이름가 존재합니다.", "duplicate"},
@@ -105,7 +105,7 @@ TEST_F(Typed, ANumberIsJudgedByTheKindAfterTheSearchForDuplicates) {
     }
 }
 
-TEST_F(Typed, EnterGoesFromTheNameToTheNumberAndThenAdds) {
+TEST_F(Typed, EnterMovesFromTheNameToTheNumberAndThenAdds) {
     form.recipients.HText1[0].set_focus();
     tests::press(form.recipients.HText1[0], u'김');
     tests::press(form.recipients.HText1[0], u'\r');
@@ -117,7 +117,7 @@ TEST_F(Typed, EnterGoesFromTheNameToTheNumberAndThenAdds) {
     EXPECT_TRUE(form.recipients.HText1[0].has_focus());
 }
 
-TEST_F(Deleting, TakesTheSelectedRowsWhenTheUserSaysYes) {
+TEST_F(Deleting, RemovesTheSelectedRowsAfterAYes) {
     platform::KeyPressed other_key{65};
     platform::KeyPressed delete_key{platform::KEY_DELETE};
     const std::vector<std::function<void()>> ways = {
@@ -205,7 +205,7 @@ TEST_F(Sorting, AClickOnTheColumnOfTheCheckBoxesSortsByTheName) {
     EXPECT_EQ(form.recipients.ListView1.sort_key(), 1);
 }
 
-TEST_F(Picking, CountsAgainWhenRowsCameOrTheDialogWasConfirmed) {
+TEST_F(Picking, CountsAgainAfterNewRowsOrAConfirmedDialog) {
     bool adds = false, confirms = false;
     pick_recipients = [&] {
         if (adds) add(u"가", u"010");

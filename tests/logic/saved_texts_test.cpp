@@ -35,7 +35,7 @@ class MyMsgBox : public testing::Test, protected tests::MainWindow {
     static Text path(const Text& category, const Text& title) {
         return ROOT + u"\\" + category + u"\\" + title + u".txt";
     }
-    /// The text on the disk.
+    /// The text of a saved file.
     std::string saved(const Text& category, const Text& title) const {
         const auto file = files.files.find(path(category, title));
         return file == files.files.end() ? "none" : utf8(platform::decode_cp949(file->second));
@@ -58,7 +58,7 @@ class MyMsgBox : public testing::Test, protected tests::MainWindow {
     std::optional<frmMyMsgBox> box_;
 };
 
-TEST_F(MyMsgBox, ListsACategoryByTheTextOfTheDates) {
+TEST_F(MyMsgBox, ListsACategoryInTheOrderOfTheTextsOfItsDates) {
     const auto at = [&](const Text& title, int day, int hour, const std::string& bytes) {
         put(FIRST, title, bytes);
         files.dates[path(FIRST, title)] = platform::make_time(2026, 11, day, hour, 5, 9);
@@ -121,11 +121,11 @@ TEST_F(MyMsgBox, ShowsTheSelectedMessageAndFiltersTheKeysOfTheTitle) {
     EXPECT_TRUE(box().txtText.has_focus());
 }
 
-TEST_F(MyMsgBox, SavesANewMessageUnderItsCleanedTitleOrTellsWhyNot) {
+TEST_F(MyMsgBox, SavesANewMessageUnderItsCleanedTitleOrSaysWhyNot) {
     put(FIRST, u"있음", "old");
     open();
     const struct {
-        const char16_t *title, *body, *told;
+        const char16_t *title, *body, *box;
         const char* file;
     } rows[] = {
         {u"제목", u"   ", u"메시지 내용을 입력하세요!", nullptr},
@@ -137,7 +137,7 @@ TEST_F(MyMsgBox, SavesANewMessageUnderItsCleanedTitleOrTellsWhyNot) {
     };
     for (const auto& row : rows) {
         const auto before = files.files;
-        desktop.expect_box(row.told);
+        desktop.expect_box(row.box);
         write_fields(row.title, row.body);
         box().Command1.Click.raise();
         if (row.file == nullptr) {
@@ -184,7 +184,7 @@ TEST_F(MyMsgBox, SavesAnEditInPlaceOfTheOldMessage) {
     EXPECT_EQ(saved(FIRST, u"나") + ", " + saved(FIRST, u"나 "), "other, with a blank");
 }
 
-TEST_F(MyMsgBox, RowsThatACategoryThatCouldNotBeListedLeftBehindAreNotTouched) {
+TEST_F(MyMsgBox, RowsLeftOverFromACategoryThatCannotBeListedAreNotTouched) {
     put(FIRST, u"가", "theirs");
     put(u"거래처", u"가", "ours");
     open();
@@ -252,7 +252,7 @@ TEST_F(MyMsgBox, AddsACategoryUnderANameThatIsFree) {
     open();
     const struct {
         const char16_t* answer;
-        const char16_t* told;
+        const char16_t* box;
     } rows[] = {
         {u"", nullptr},
         {u" */ ", nullptr},
@@ -264,8 +264,8 @@ TEST_F(MyMsgBox, AddsACategoryUnderANameThatIsFree) {
             u"등록할 분류명을 입력하십시오.\r\n\r\n분류명에 다음 문자는 사용할 수 "
             u"없습니다.\r\n\\ / : * ? \" < > |",
             row.answer);
-        if (row.told != nullptr) desktop.expect_box(row.told);
-        // What is taken is asked for again.
+        if (row.box != nullptr) desktop.expect_box(row.box);
+        // A name that is taken is asked for again.
         if (Text(row.answer) == u"거*래처") desktop.expect_input(u"등록할 분류명을", u"");
         box().Command8.Click.raise();
         EXPECT_EQ(box().ListView1.row_count(), 2U) << utf8(row.answer);
@@ -296,7 +296,7 @@ TEST_F(MyMsgBox, RenamesACategoryWithItsMessages) {
     EXPECT_EQ(column(box().ListView1), (Strings{"내모음함", "고객", "친구"}));
 }
 
-TEST_F(MyMsgBox, RemovesACategoryButNotWhatIsNoMessage) {
+TEST_F(MyMsgBox, RemovesTheMessagesOfACategoryAndNoOtherFiles) {
     put(u"거래처", u"하나", "x");
     put(u"그림", u"하나", "x");
     files.files.erase(path(u"그림", u"하나"));
@@ -373,7 +373,7 @@ TEST_F(MyMsgBox, OtherKindsTakeTheTitleAlone) {
     EXPECT_EQ(utf8(form.subject.subjectText.text()), "인사") << "an empty text is not applied";
 }
 
-TEST_F(MyMsgBox, EveryShapeOfTextComesBackByteByByte) {
+TEST_F(MyMsgBox, EveryTextComesBackUnchanged) {
     for (const std::string& bytes :
          {std::string("no line end"), std::string("a\r\n\r\nb\r\n"), std::string("\t|")}) {
         put(FIRST, u"글", bytes);
@@ -399,14 +399,14 @@ TEST_F(MyMsgBox, EveryShapeOfTextComesBackByteByByte) {
     }
 }
 
-/// The program is killed at each change of the disk in turn, in each operation.
+/// Kills the program at each change of the disk in turn, in each operation.
 TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited) {
     const tests::MemoryFiles::Contents all = {
         {path(FIRST, u"가"), "1"}, {path(u"분류", u"나"), "2"}, {path(u"분류", u"다"), "3"}};
     const struct {
         const char* what;
         std::function<void()> act;
-        /// What the user wants gone, or what the order of the steps exposes.
+        /// Texts that the user removes, or that the order of the steps endangers.
         std::vector<Text> at_risk;
     } operations[] = {
         {"new",
@@ -415,7 +415,7 @@ TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited)
              box().Command1.Click.raise();
          },
          {}},
-        // The old file goes before the new one is written: between the two this text is nowhere on the disk.
+        // The old file is removed before the new one is written: in between this text is nowhere on the disk.
         {"edit",
          [&] {
              write_fields(u"라", u"글");
@@ -453,7 +453,7 @@ TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited)
                 operation.act();
                 finished = true;
             } catch (const tests::MemoryFiles::Killed&) {
-                // The next start finds what is left.
+                // Then the program starts again and finds what is left.
             }
             files.changes_until_kill.reset();
             for (const auto& [file, bytes] : all) {

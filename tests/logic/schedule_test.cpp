@@ -13,7 +13,7 @@ using tests::utf8;
 struct Schedule : testing::Test, tests::MainWindow {
     void SetUp() override { form.load(); }
 
-    /// The schedule as it shows.
+    /// The schedule as the user sees it.
     std::string shown() const {
         const auto date = platform::break_up(form.schedule.DTP1.value());
         return std::to_string(date.month) + "/" + std::to_string(date.day) + " " +
@@ -34,7 +34,7 @@ TEST_F(Schedule, AddingMinutesCarriesOneHourAndOneDayAndNoMore) {
         {12, 31, 23, 30, 30, "1/1 00:00"},
         {11, 23, 10, 10, -10, "11/23 10:00"},
         {11, 23, 10, 0, 119, "11/23 11:59"},
-        // Beyond the last row the minute stays while the hour moves, and an hour is lost.
+        // Beyond the last row the minute stays while the hour moves on, so an hour is lost.
         {11, 23, 12, 40, 92, "11/23 13:40"},
         {11, 23, 10, 0, 120, "11/23 11:00"},
         {11, 23, 10, 5, -10, "11/23 10:05"},
@@ -48,7 +48,7 @@ TEST_F(Schedule, AddingMinutesCarriesOneHourAndOneDayAndNoMore) {
     }
 }
 
-TEST_F(Schedule, AScheduledMessageBeginsAtTheSavedLeadWithTwoMinutesMargin) {
+TEST_F(Schedule, AScheduleStartsAtTheSavedLeadPlusTwoMinutes) {
     const struct {
         const char16_t* lead;
         int hour, minute;
@@ -87,7 +87,7 @@ TEST_F(Schedule, TheTwoOptionsExcludeEachOtherAndOnlyAScheduleCanBeChanged) {
     }
 }
 
-TEST_F(Schedule, TheHiddenShortcutsKnowTheirMinutesAndActOnlyWhenShown) {
+TEST_F(Schedule, TheHiddenShortcutsActOnlyWhenShown) {
     const char* const shown_after[] = {"11/23 10:01", "11/23 10:02", "11/23 10:03",
                                        "11/23 10:04", "11/23 10:05", "11/23 10:10",
                                        "11/23 10:20", "11/23 10:30", "11/23 11:00"};
@@ -104,14 +104,14 @@ TEST_F(Schedule, TheHiddenShortcutsKnowTheirMinutesAndActOnlyWhenShown) {
     }
 }
 
-TEST_F(Schedule, TheNumberOfAnswersCanBeChosenWhileAnswersAreTaken) {
+TEST_F(Schedule, TheNumberOfRepliesCanBeChosenOnlyWhileRepliesAreOn) {
     for (const bool on : {true, false}) {
         form.reply.Check2.set_checked(on);
         EXPECT_EQ(form.reply.Combo4.enabled(), on);
     }
 }
 
-TEST_F(Schedule, TheLeadIsChosenByRowAndKeptWithItsMinutes) {
+TEST_F(Schedule, TheLeadIsChosenByRowAndSavedInMinutes) {
     const struct {
         const char16_t* saved;
         int row;

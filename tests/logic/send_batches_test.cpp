@@ -15,7 +15,7 @@ Text batch_of(const Registration& r) {
            r.s_dest_addr.substr(0, r.s_dest_addr.find(u':'));
 }
 
-TEST(SendBatches, GoByAHundredUnderNumberedSubjects) {
+TEST(SendBatches, HoldAHundredRecipientsUnderNumberedSubjects) {
     Sending s;
     s.add_many(250);
     s.send();
@@ -34,7 +34,7 @@ TEST(SendBatches, GoByAHundredUnderNumberedSubjects) {
     EXPECT_EQ(one_batch.registered(batch_of), Lines{"인사 100 a1"}) << "a single batch has the plain subject";
 }
 
-TEST(SendBatches, TokensAreNameAndDigitsWithoutTheCharactersThatPartThem) {
+TEST(SendBatches, AddressesAreNameAndDigitsWithoutTheirSeparators) {
     Sending s;
     s.add(u" 김:철수 ", u"010-1111-2222");
     s.add(u"", u"(010) 2222 3333");
@@ -47,7 +47,7 @@ TEST(SendBatches, TokensAreNameAndDigitsWithoutTheCharactersThatPartThem) {
     EXPECT_EQ(s.carrier.registrations[0].s_dest_addr_count, 3);
 }
 
-/// A name that makes a token of so many bytes with a number of 11 digits.
+/// A name with which a number of 11 digits makes an address of so many bytes.
 Text name_of(std::size_t token_bytes) { return Text(token_bytes - 13, u'n'); }
 
 TEST(SendBatches, CloseAtTheByteLimitOfTheAddresses) {
@@ -55,8 +55,8 @@ TEST(SendBatches, CloseAtTheByteLimitOfTheAddresses) {
         std::size_t eighth_token;
         Lines batches;
     } rows[] = {
-        {256, {"8 2048", "1 300"}},  // exactly full, with the row in it
-        {257, {"7 1792", "2 557"}},  // one byte over opens the next batch with the row
+        {256, {"8 2048", "1 300"}},  // exactly full: the row is in it
+        {257, {"7 1792", "2 557"}},  // one byte too many: the row begins the next batch
         {255, {"8 2047", "1 300"}},
     };
     for (const auto& row : rows) {
@@ -79,7 +79,7 @@ TEST(SendBatches, CloseAtTheByteLimitOfTheAddresses) {
     EXPECT_EQ(hangul.carrier.registrations.size(), 2u);
 }
 
-TEST(SendBatches, AFirstTokenOfExactlyTheLimitReachesBackOverRowsThatFailed) {
+TEST(SendBatches, AFirstAddressOfExactlyTheLimitAlsoMarksEarlierFailedRows) {
     Sending s;
     s.add(u"a", u"01011112222");
     s.add(name_of(2048), u"01011112222");
@@ -99,7 +99,7 @@ TEST(SendBatches, ARecipientTooLongForAnyBatchIsLeftOut) {
     EXPECT_EQ(s.marks(), "x-");
 }
 
-TEST(SendBatches, GatheredRowsGoOutWhenTheLastRowIsNotToBeSentTo) {
+TEST(SendBatches, AnOpenBatchIsSubmittedWhenTheLastRowsAreLeftOut) {
     Sending s;
     s.add_many(2);
     s.add(u"c", u"01011112222", false);
@@ -109,7 +109,7 @@ TEST(SendBatches, GatheredRowsGoOutWhenTheLastRowIsNotToBeSentTo) {
     EXPECT_EQ(s.status(2), "");
 }
 
-TEST(SendBatches, ARefusedBatchStaysCheckedAndIsAllThatTheNextSendTries) {
+TEST(SendBatches, ARefusedBatchStaysCheckedAndOnlyItIsSentAgain) {
     Sending s;
     s.add_many(250);
     s.carrier.results[{"submit", 2}] = 5;
@@ -125,7 +125,7 @@ TEST(SendBatches, ARefusedBatchStaysCheckedAndIsAllThatTheNextSendTries) {
     EXPECT_EQ(s.marks(), std::string(250, '-'));
 }
 
-TEST(SendBatches, AnImmediateJobKeepsTheMinuteOfItsStartInEveryBatch) {
+TEST(SendBatches, EveryBatchOfAnImmediateJobHasTheMinuteOfItsStart) {
     Sending s;
     s.clock.set(make_time(2026, 12, 31, 23, 59, 58));
     s.add_many(300);
@@ -135,7 +135,7 @@ TEST(SendBatches, AnImmediateJobKeepsTheMinuteOfItsStartInEveryBatch) {
     EXPECT_NE(s.report.find("걸린시간: 23:59:57"), std::string::npos) << "midnight lies between";
 }
 
-/// Every argument of a submit but the session's.
+/// Every argument of a submit except those of the session.
 Text arguments(const Registration& r) {
     return Text(r.submit_2 ? u"2 " : u"1 ") + decimal(r.s_data_type) + u" " + decimal(r.s_data_sub_type) +
            u" [" + r.s_callback + u"] " + decimal(r.s_reply_flag) + u" [" + r.s_sms_content + u"] [" +
@@ -143,7 +143,7 @@ Text arguments(const Registration& r) {
            r.s_schedule_time;
 }
 
-TEST(SendKinds, GiveTheCarrierTheirCodesAndTheirFieldsAlone) {
+TEST(SendKinds, GiveTheCarrierTheirCodesAndOnlyTheirFields) {
     const struct {
         int tab, source;
         const char* arguments;
@@ -185,7 +185,7 @@ TEST(SendKinds, GiveTheCarrierTheirCodesAndTheirFieldsAlone) {
     }
 }
 
-TEST(SendKinds, ATextThatIsNoKindIsNotSubmittedAndItsRowsFail) {
+TEST(SendKinds, ForAnUnknownKindNothingIsSubmittedAndTheRowsFail) {
     Sending s;
     s.add_many(2);
     s.expect_report();

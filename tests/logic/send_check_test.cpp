@@ -25,7 +25,7 @@ struct Refusal {
     Text focus;
 };
 
-TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsMended) {
+TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsCorrected) {
     const auto voice = [](Sending& s, int kind, int source) {
         s.form.TabStrip1.select(kind);
         s.form.voice.TabStrip2.select(source);
@@ -83,31 +83,31 @@ TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsMended) {
     }
 }
 
-TEST(SendCheck, TellsTheFirstOfSeveralFaults) {
+TEST(SendCheck, ShowsTheFirstOfSeveralFaults) {
     Sending s;
     s.state.session.gLoggedIn = false;
     s.form.text.mText1.set_text(u"");
     s.form.schedule.Option2.set_chosen(true);
     s.form.schedule.Combo1.set_list_index(9);
-    const auto told = [&](Text words) {
+    const auto refused = [&](Text words) {
         s.desktop.expect_box(std::move(words));
         s.click();
     };
     s.desktop.in_form(u"frmZentLogin", [](Form& login) { login.escape_pressed(); });
-    told(u"KT 폰디라 Login과정을 거쳐야 합니다.");
+    refused(u"KT 폰디라 Login과정을 거쳐야 합니다.");
     s.state.session.gLoggedIn = true;
     s.files.folders.clear();
-    told(u"메시지 내용을 입력하십시오!");
+    refused(u"메시지 내용을 입력하십시오!");
     EXPECT_TRUE(s.files.folders.contains(u"c:\\temp"));
     s.form.text.mText1.set_text(u"안녕");
-    told(u"받는사람을 입력하여 주십시오!");
+    refused(u"받는사람을 입력하여 주십시오!");
     s.add(u"a", u"1", false);
-    told(u"받는사람을 선택하여 주십시오.");
+    refused(u"받는사람을 선택하여 주십시오.");
     s.add(u"b", u"01011112222");
     s.add(u"c", u"12345678");
-    told(NO_AREA_CODE);
+    refused(NO_AREA_CODE);
     s.form.recipients.ListView1.set_checked(2, false);
-    told(u"예약 전송은 현재 시간에서 30분 후부터 가능합니다!");
+    refused(u"예약 전송은 현재 시간에서 30분 후부터 가능합니다!");
     EXPECT_EQ(utf8(s.desktop.boxes.back().title), "시간 확인");
     s.form.schedule.Option1.set_chosen(true);
     s.send();
@@ -132,7 +132,7 @@ TEST(SendCheck, ARecordingIsSavedForTheCarrierAndWithoutOneTheClickEndsSilently)
     }
 }
 
-TEST(SendCheck, LeavesASemicolonInANameToTheCarrierAndMindsNoFileInTheSoundFoldersPlace) {
+TEST(SendCheck, LeavesASemicolonInANameToTheCarrierAndSurvivesAFileInPlaceOfTheSoundFolder) {
     Sending s;
     s.files.files[u"c:\\temp"] = "no folder";
     s.files.files[u"z:\\가 나;'다'.txt"] = "text";
@@ -156,7 +156,7 @@ TEST(SendCheck, CompletesSubjectAndSender) {
     EXPECT_EQ(utf8(s.carrier.registrations.at(0).s_callback), "029990000");
 }
 
-TEST(SendBox, ShowsWhatIsAboutToGo) {
+TEST(SendBox, ShowsWhatIsAboutToBeSent) {
     const struct {
         std::function<void(Sending&)> draft;
         const char *kind, *text;
@@ -214,7 +214,7 @@ TEST(SendBox, ShowsWhatIsAboutToGo) {
     }
 }
 
-TEST(SendBox, EveryWayOutButTheStartButtonCancels) {
+TEST(SendBox, EveryWayToCloseItExceptTheStartButtonCancels) {
     const std::function<void(send::frmSBox&)> ways_out[] = {
         [](send::frmSBox& box) { box.Command2.Click.raise(); },
         [](send::frmSBox& box) { box.escape_pressed(); },
@@ -235,7 +235,7 @@ TEST(SendBox, EveryWayOutButTheStartButtonCancels) {
     }
 }
 
-TEST(ScheduleCheck, AsksForTheLeadByTheDigitsOfDayHourMinuteAndSecond) {
+TEST(ScheduleCheck, ComparesTheLeadWithTheDigitsOfDayHourMinuteAndSecond) {
     const struct {
         LocalTime now;
         const char* saved;
@@ -247,8 +247,8 @@ TEST(ScheduleCheck, AsksForTheLeadByTheDigitsOfDayHourMinuteAndSecond) {
         {LATE, "", 23, 23, 40, nullptr},
         {LATE, "20", 23, 23, 29, "20"},
         {LATE, "20", 23, 23, 30, nullptr},
-        {LATE, "", 24, 0, 0, nullptr},  // 50 minutes, and another day in any case
-        {LATE, "", 23, 22, 40, "30"},   // past, though as far away as the lead
+        {LATE, "", 24, 0, 0, nullptr},  // 50 minutes, and another day anyway
+        {LATE, "", 23, 22, 40, "30"},   // in the past, though by as much as the lead
         {LATE, "", 22, 23, 59, "30"},
         {LATE, "0", 23, 22, 0, nullptr},
         {LATE, "abc", 22, 0, 0, nullptr},

@@ -33,7 +33,7 @@ TEST(SendLongBatches, CutTheTextAtEightyBytesBetweenCharacters) {
     }
 }
 
-TEST(SendLongBatches, KeepTheOrderOfThePiecesByTheMinute) {
+TEST(SendLongBatches, KeepTheOrderOfThePiecesWithAMinuteBetweenThem) {
     const LocalTime last_minute = make_time(2026, 12, 31, 23, 59, 30);
     const Lines over_midnight = {"20261231235900", "20270101000000", "20270101000100"};
     Sending immediate;
@@ -54,7 +54,7 @@ TEST(SendLongBatches, KeepTheOrderOfThePiecesByTheMinute) {
     EXPECT_EQ(later.registered(schedule), over_midnight);
 }
 
-TEST(SendLongBatches, GoOverAllRowsForEachPieceAndMarkThemByTheLast) {
+TEST(SendLongBatches, SendEachPieceToAllRowsAndOnlyTheLastMarksThem) {
     Sending s;
     s.type(Text(81, u'a'));
     s.form.subject.subjectText.set_text(u"긴 글");
@@ -77,12 +77,12 @@ TEST(SendLongBatches, GoOverAllRowsForEachPieceAndMarkThemByTheLast) {
     EXPECT_NE(s.report.find("등록성공: 100건\r\n 등록실패: 50건\r\n 등록중지: 0건"), std::string::npos);
 }
 
-TEST(SendLongBatches, ShowTheirProgressByExpectedPieces) {
+TEST(SendLongBatches, ShowTheirProgressInExpectedPieces) {
     for (const auto& [bytes, after_first] : {std::pair{100, 100}, {120, 50}, {240, 33}}) {
         Sending s;
         s.type(Text(static_cast<std::size_t>(bytes), u'a'));
         s.add_many(1);
-        // The third pause is the second piece's first.
+        // The third pause is the first of the second piece.
         s.at_pause(3, [after = after_first, bytes = bytes](send::frmZentSend& job) {
             EXPECT_EQ(job.PBar1.value(), after) << bytes;
         });
@@ -93,7 +93,7 @@ TEST(SendLongBatches, ShowTheirProgressByExpectedPieces) {
 TEST(SendLongBatches, MorePiecesThanTheProgressCanShowEndTheJobWithItsError) {
     Sending s;
     Text text;
-    // 43 pieces that are a byte short of full, and one more: expected are 42.
+    // 43 pieces that are one byte short of full, and one more; 42 are expected.
     for (int i = 0; i < 43; ++i) text += u"가a" + Text(38, u'가');
     s.form.text.Check1.set_checked(true);
     s.form.text.mText1.set_text(text + u"가");
@@ -106,7 +106,7 @@ TEST(SendLongBatches, MorePiecesThanTheProgressCanShowEndTheJobWithItsError) {
     EXPECT_TRUE(s.form.Timer1.enabled());
 }
 
-TEST(SendLongBatches, AStopEndsThePassOfEveryPieceThatIsLeft) {
+TEST(SendLongBatches, AStopEndsThePassOfEachRemainingPiece) {
     Sending s;
     s.type(Text(240, u'a'));
     s.add_many(120);
@@ -118,7 +118,7 @@ TEST(SendLongBatches, AStopEndsThePassOfEveryPieceThatIsLeft) {
     EXPECT_NE(s.report.find("등록성공: 0건\r\n 등록실패: 0건\r\n 등록중지: 120건"), std::string::npos);
 }
 
-TEST(SendLongBatches, WhatAStoppedPieceHadGatheredStillReachesTheService) {
+TEST(SendLongBatches, RecipientsLeftFromAStoppedPieceStillReachTheService) {
     Sending s;
     s.type(Text(240, u'a'));
     for (int row = 0; row < 2; ++row) s.add(Text(1100, u'n'), u"01011112222");

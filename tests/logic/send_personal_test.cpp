@@ -19,7 +19,7 @@ struct Personal : Sending {
 
 Text to_and_content(const Registration& r) { return r.s_dest_addr + u" " + r.s_sms_content; }
 
-TEST(SendPersonal, FillsInNameAndTitleAndFailsForAMissingNameAlone) {
+TEST(SendPersonal, FillsInNameAndTitleAndFailsOnlyForAMissingName) {
     Personal s(u"{이름}{직위}님, {이름}{직위}!");
     s.add(u"김철수", u"01011112222", true, u"과장");
     s.add(u"이름없음", u"01022223333", true, u"부장");
@@ -41,7 +41,7 @@ TEST(SendPersonal, FillsInNameAndTitleAndFailsForAMissingNameAlone) {
               std::string::npos);
 }
 
-TEST(SendPersonal, IsChosenByTheTickAndAPlaceholderTogetherWithATextMessage) {
+TEST(SendPersonal, NeedsTheTickAPlaceholderAndATextMessage) {
     const struct {
         bool ticked;
         const char16_t* text;
@@ -68,7 +68,7 @@ TEST(SendPersonal, IsChosenByTheTickAndAPlaceholderTogetherWithATextMessage) {
     }
 }
 
-TEST(SendPersonal, CutsEachRecipientsOwnTextAndStartsTheScheduleAnew) {
+TEST(SendPersonal, CutsEachRecipientsOwnTextAndRestartsTheSchedule) {
     Personal s(u"{이름}" + Text(70, u'a'));
     s.form.schedule.Option2.set_chosen(true);
     s.form.schedule.DTP1.set_value(make_time(2027, 7, 5));
@@ -83,7 +83,7 @@ TEST(SendPersonal, CutsEachRecipientsOwnTextAndStartsTheScheduleAnew) {
                      "20270705235900 " + std::string(10, 'm') + std::string(70, 'a')}));
 }
 
-TEST(SendPersonal, TheLastPieceAloneDecides) {
+TEST(SendPersonal, OnlyTheLastPieceDecides) {
     for (const int refused_submit : {1, 2}) {
         Personal s(u"{이름}" + Text(90, u'a'));
         s.add_many(1);
@@ -99,7 +99,7 @@ TEST(SendPersonal, TheLastPieceAloneDecides) {
     }
 }
 
-TEST(SendPersonal, ARowWhoseTextComesOutEmptyIsNotTakenForASuccess) {
+TEST(SendPersonal, ARowWhoseTextBecomesEmptyIsNoSuccess) {
     Personal s(u"{직위}");
     s.add(u"a", u"01011112222", true, u"과장");
     s.add(u"b", u"01022223333");
@@ -109,7 +109,7 @@ TEST(SendPersonal, ARowWhoseTextComesOutEmptyIsNotTakenForASuccess) {
     EXPECT_EQ(s.status(1), "등록실패");
 }
 
-TEST(SendPersonal, AStopIsToldBehindTheRowThatIsBeingSentEvenTheLast) {
+TEST(SendPersonal, AStopIsShownAfterTheRowBeingSentEvenTheLast) {
     for (const std::size_t pause : {std::size_t{1}, std::size_t{5}}) {
         Personal s(u"{이름}님");
         s.add_many(3);
@@ -146,7 +146,7 @@ TEST(SendSingles, FailATextThatIsTooLongInsteadOfCuttingIt) {
     EXPECT_NE(s.report.find("등록성공: 1건\r\n 등록실패: 3건\r\n 등록중지: 1건"), std::string::npos);
 }
 
-TEST(SendSingles, SendAnyKindWholeToOneRecipientASubmit) {
+TEST(SendSingles, SendAnyKindUncutWithOneRecipientInEachSubmit) {
     Sending s;
     s.type(Text(81, u'a'));
     s.form.sender.txtCallback.set_text(u"");

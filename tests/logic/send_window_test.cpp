@@ -49,7 +49,7 @@ TEST(SendWindow, StartsOneJobHalfASecondAfterItsActivation) {
     EXPECT_TRUE(s.form.Timer1.enabled());
 }
 
-TEST(SendWindow, AnythingThatWouldCloseItStopsTheJobAndGreysTheButton) {
+TEST(SendWindow, ClosingItStopsTheJobAndDisablesTheButton) {
     const std::function<void(send::frmZentSend&)> ways[] = {
         [](send::frmZentSend& job) { job.Command1.Click.raise(); },
         [](send::frmZentSend& job) { job.close_requested(); },
@@ -93,7 +93,7 @@ TEST(SendWindow, ClosedBeforeTheJobStartsItSendsNothing) {
     EXPECT_TRUE(s.form.Timer1.enabled());
 }
 
-TEST(SendSession, AJobWithoutACarrierOrAnAccountEndsWithItsMessageAndNoReport) {
+TEST(SendSession, AJobWithoutTheCarrierOrAnAccountEndsWithABoxAndNoReport) {
     const struct {
         std::pair<std::string, int> failing_call;
         int service_state;
@@ -135,7 +135,7 @@ TEST(SendSession, ALibraryThatLacksTheSubmitFailsTheRowsAndTheJobGoesOn) {
     EXPECT_NE(s.report.find("등록이 완료되었습니다."), std::string::npos);
 }
 
-TEST(SendReport, GroupsThousandsAndCountsTheRestAsStopped) {
+TEST(SendReport, SeparatesThousandsAndCountsTheRestAsStopped) {
     send::SendJob job{.kind = nullptr,
                       .pauses = {},
                       .started = make_time(2026, 11, 23, 9, 59, 58),

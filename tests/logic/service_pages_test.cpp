@@ -42,7 +42,7 @@ struct ServicePages : testing::Test, tests::MainWindow {
     }
 };
 
-TEST_F(ServicePages, HaveTwoNumbersEachAndAnyOtherNumberIsAnEmptyPage) {
+TEST_F(ServicePages, HaveTwoNumbersEachAndAnyOtherNumberOpensABlankPage) {
     write_links();
     log_in_as(u"demo");
     const std::string body = "|code=07190533026&userid=demo&domain=pondira.example";
@@ -66,7 +66,7 @@ TEST_F(ServicePages, HaveTwoNumbersEachAndAnyOtherNumberIsAnEmptyPage) {
     for (const auto& row : rows) EXPECT_EQ(open(row.page), row.caption_and_address + body) << row.page;
 }
 
-TEST_F(ServicePages, ArePostedTheUserInRawBytesOfCp949AndNeverAPassword) {
+TEST_F(ServicePages, GetTheUserPostedInRawCp949AndNeverAPassword) {
     const struct {
         const char16_t* user_id;
         std::string bytes;
@@ -84,7 +84,7 @@ TEST_F(ServicePages, ArePostedTheUserInRawBytesOfCp949AndNeverAPassword) {
     }
 }
 
-TEST_F(ServicePages, AreToldHowTheBodyIsWrittenAndHoldHandOversOffWhileTheyAreOpen) {
+TEST_F(ServicePages, GetTheTypeOfTheBodyAndStopHandOversWhileOpen) {
     log_in_as(u"demo");
     desktop.in_form<service::frmWeb>(u"frmWeb", [&](service::frmWeb& web) {
         EXPECT_EQ(utf8(web.WebBrowser.navigation().header),
@@ -113,7 +113,7 @@ TEST_F(ServicePages, FollowEachOtherInOneForm) {
     EXPECT_EQ(open(1).substr(0, 12), "요금조회");
 }
 
-TEST_F(ServicePages, HandOutDataOfAHarmlessNameWhereTheUserWantsIt) {
+TEST_F(ServicePages, SaveOnlyHarmlessFilesWhereTheUserWantsThem) {
     const struct {
         const char16_t* proposal;
         const char* asked;
@@ -160,7 +160,7 @@ TEST_F(ServicePages, HandOutDataOfAHarmlessNameWhereTheUserWantsIt) {
     form.session.KTSMS_LINK(0);
 }
 
-TEST_F(ServicePages, AskTheUserToLogInFirstAndStayAwayWhenHeGivesUp) {
+TEST_F(ServicePages, AskTheUserToLogInFirstAndStayClosedOtherwise) {
     write_links();
     in_login([](gateway::frmZentLogin& login) { login.escape_pressed(); });
     form.Toolbar1.ButtonClick.raise(compose::RESULTS_BUTTON);
@@ -170,7 +170,7 @@ TEST_F(ServicePages, AskTheUserToLogInFirstAndStayAwayWhenHeGivesUp) {
     EXPECT_EQ(open(0), "발송결과|http://s/result|code=07190533026&userid=hong&domain=pondira.example");
 }
 
-TEST_F(ServicePages, EachLinkReadsItsAddressAtTheClickAndGoesItsWay) {
+TEST_F(ServicePages, EachLinkReadsItsAddressAtTheClickAndOpensIt) {
     desktop.in_form<service::frmAbout>(u"frmAbout", [](service::frmAbout& about) {
         about.Label1_3.Click.raise();
         EXPECT_TRUE(about.loaded());
@@ -184,7 +184,7 @@ TEST_F(ServicePages, EachLinkReadsItsAddressAtTheClickAndGoesItsWay) {
     });
     form.session.cmdGoPondira.Click.raise();
     form.session.TOPLogo.Click.raise();
-    // Without addresses the user's browser opens empty, and the shell gets nothing that it could open.
+    // Without addresses the user's browser opens an empty page, and the shell opens nothing else.
     EXPECT_EQ(shell.pages, (std::vector<Text>{u"about:blank", u"about:blank"}));
 
     write_links();
@@ -198,7 +198,7 @@ TEST_F(ServicePages, EachLinkReadsItsAddressAtTheClickAndGoesItsWay) {
     EXPECT_TRUE(shell.opened.empty());
 }
 
-TEST_F(ServicePages, TheGuidanceHandsOutTheApplicationAndOpensNoPageBehindIt) {
+TEST_F(ServicePages, TheGuidanceOpensTheApplicationDocumentAndNoPage) {
     const auto guide = [&](service::frmPondiraReg& guidance) {
         EXPECT_EQ(utf8(guidance.caption()), "폰디라-프로(인사이드) 신규회원 가입");
         EXPECT_EQ(utf8(guidance.Label3.caption()), utf8(core::deployment::contact_phone()));

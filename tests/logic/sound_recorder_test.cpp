@@ -51,7 +51,7 @@ struct Recording : testing::Test {
     SoundRecorder& control = panel.control;
 };
 
-TEST_F(Recording, GoesFromButtonToButton) {
+TEST_F(Recording, EnablesTheButtonsOfEachState) {
     EXPECT_EQ(buttons(), "r--");
     control.record();
     EXPECT_EQ(buttons(), "-s-");
@@ -98,7 +98,7 @@ TEST_F(Recording, EndsByItselfAtSixMinutes) {
     EXPECT_EQ(control.state(), State::idle);
 }
 
-TEST_F(Recording, TakesThePlaceOfTheEarlierOneOnceSomethingIsHeard) {
+TEST_F(Recording, ReplacesTheEarlierOneAsSoonAsSamplesArrive) {
     record(3, 1);
     control.record();
     EXPECT_EQ(utf8(control.time()), "00:00 / 06:00");
@@ -139,7 +139,7 @@ TEST_F(Recording, NeedsAMicrophoneThatMayComeLater) {
     EXPECT_FALSE(control.message_warns()) << message();
 }
 
-TEST(RecordingNowhere, AsksNothingOfTheMachineBeforeItIsSeenAndSaysWhatIsMissing) {
+TEST(RecordingNowhere, LoadsNoSoundBeforeItIsSeenAndSaysWhatIsMissing) {
     tests::VirtualClock clock;
     tests::ScriptedDesktop desktop{clock};
     tests::MemoryFiles files;
@@ -156,7 +156,7 @@ TEST(RecordingNowhere, AsksNothingOfTheMachineBeforeItIsSeenAndSaysWhatIsMissing
     EXPECT_TRUE(panel.control.can_record());
 }
 
-TEST_F(Recording, IsSavedOrTheUserKnowsWhyNot) {
+TEST_F(Recording, IsSavedOrSaysWhyNot) {
     EXPECT_TRUE(control.SaveWave(u"c:\\temp\\", u"tmp.wav"));
     EXPECT_TRUE(says("녹음한 음성이 없습니다") && control.message_warns()) << message();
     EXPECT_TRUE(files.files.empty());
@@ -177,14 +177,14 @@ TEST_F(Recording, IsSavedOrTheUserKnowsWhyNot) {
     EXPECT_EQ(control.recording(), seconds(3));
 }
 
-TEST(Sound, IsWrittenAsTelephonesWantIt) {
+TEST(Sound, IsWrittenInTheTelephonesFormat) {
     using namespace std::string_literals;
     EXPECT_EQ(wav_file(Samples{1, -2, 32767, -32768}),
               "RIFF\x2c\0\0\0WAVEfmt \x10\0\0\0\x01\0\x01\0\x40\x1f\0\0\x80\x3e\0\0\x02\0\x10\0"s +
                   "data\x08\0\0\0\x01\0\xfe\xff\xff\x7f\x00\x80"s);
 }
 
-TEST(Sound, IsAsLoudAsTheEarSays) {
+TEST(Sound, IsMeasuredOnTheEarsScale) {
     EXPECT_EQ(loudness({}), 0);
     EXPECT_EQ(loudness(Samples{0, 0}), 0);
     EXPECT_EQ(loudness(Samples{20, -5}), 0) << "noise";

@@ -24,7 +24,7 @@ struct Entry : testing::Test, tests::TestPlatform {
     tests::MemoryFiles::Paths shown_with_folders;
 };
 
-TEST_F(Entry, TheFirstInstancePreparesFoldersAndStateAndThenShowsTheMainWindow) {
+TEST_F(Entry, TheFirstInstancePreparesFoldersAndStateAndShowsTheMainWindow) {
     files.files[app_ini] = "[SET]\r\nZentUserNickName=Hong\r\nZENTUserPhoneID=0212345678\r\n";
     EXPECT_TRUE(enter());
     EXPECT_EQ(shown, 1);
@@ -43,14 +43,14 @@ TEST_F(Entry, ASecondInstanceEndsWithoutATrace) {
     EXPECT_TRUE(files.folders.empty());
 }
 
-TEST_F(Entry, AReadOnlyDiskDoesNotKeepTheWindowFromShowing) {
+TEST_F(Entry, TheWindowShowsEvenOnAReadOnlyDisk) {
     files.failure = ErrorNumber::path_access;
     EXPECT_TRUE(enter());
     EXPECT_EQ(shown, 1);
 }
 
 struct MainWindowLife : testing::Test, tests::MainWindow {
-    /// Shows the window and lets the first tick come; a manual login is cancelled.
+    /// Shows the window and waits for the first tick; a manual login is cancelled.
     void first_tick() {
         form.show();
         clock.run_for(1);
@@ -76,11 +76,11 @@ TEST(MainWindowPlacement, IsRestoredWithinTheScreenOrTheDefaultSizeIsCentred) {
          {27800, 15600, 28800, 16200}},
         {"M_MAX=0\r\nM_LEFT=99999999999999999999\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n",
          {27800, 0, 13000, 8000}},
-        {"M_MAX=0\r\nM_LEFT=5\r\nM_WIDTH=-3\r\nM_HEIGHT=8000\r\n", DEFAULT},  // nobody would see it
+        {"M_MAX=0\r\nM_LEFT=5\r\nM_WIDTH=-3\r\nM_HEIGHT=8000\r\n", DEFAULT},  // it would be invisible
         {"M_MAX=2\r\nM_LEFT=1\r\nM_TOP=2\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n", DEFAULT,
          WindowState::maximised},
         {"M_MAX=Max\r\nM_WIDTH=13000\r\n", DEFAULT, WindowState::maximised},
-        {"M_MAX=2\r\n", DEFAULT},  // never placed: not maximised either
+        {"M_MAX=2\r\n", DEFAULT},  // never placed, so not maximised either
     };
     for (const auto& row : rows) {
         tests::MainWindow window;
@@ -104,7 +104,7 @@ TEST_F(MainWindowLife, LoadingFillsTheControlsFromTheClock) {
     EXPECT_TRUE(desktop.clipboard.empty()) << "filling a list inserts nothing";
 }
 
-TEST(MainWindowLoad, TheAutoLoginMarkIsOnForOneAndForNothingElse) {
+TEST(MainWindowLoad, TheAutoLoginMarkIsOnOnlyForOne) {
     for (const char16_t* value : {u"1", u"0", u"1abc", u"1.0"}) {
         tests::MainWindow window;
         window.save_setting(u"LOGIN", u"AUTOLOGIN", value);
@@ -113,7 +113,7 @@ TEST(MainWindowLoad, TheAutoLoginMarkIsOnForOneAndForNothingElse) {
     }
 }
 
-TEST(FirstTick, LogsInByItselfOnlyWithAutoLoginOnAndBothIdAndPasswordSaved) {
+TEST(FirstTick, LogsInByItselfOnlyWithAutoLoginAndASavedIdAndPassword) {
     const struct {
         const char16_t *auto_login, *user_id, *password;
         const char16_t* form;
@@ -153,7 +153,7 @@ TEST_F(MainWindowLife, TheFirstTickComesOnceAndPollsAfterwards) {
     EXPECT_EQ(desktop.forms, (Forms{u"frmZent", u"frmZentLogin"}));
 }
 
-TEST_F(MainWindowLife, TheFirstTickLeavesTheLoginToAHandOverThatBringsItsOwnOrHasLoggedIn) {
+TEST_F(MainWindowLife, TheFirstTickLeavesTheLoginToAHandOverThatLogsIn) {
     for (const bool logged_in : {false, true}) {
         tests::MainWindow window;
         window.hand_over = [&] {
@@ -167,7 +167,7 @@ TEST_F(MainWindowLife, TheFirstTickLeavesTheLoginToAHandOverThatBringsItsOwnOrHa
     }
 }
 
-TEST_F(MainWindowLife, AnErrorInTheFirstTickIsShownAndPollingStartsAllTheSame) {
+TEST_F(MainWindowLife, PollingStartsEvenAfterAnErrorInTheFirstTick) {
     hand_over = [&] {
         hand_over = [] {};
         throw RuntimeError(ErrorNumber::permission_denied);
@@ -177,7 +177,7 @@ TEST_F(MainWindowLife, AnErrorInTheFirstTickIsShownAndPollingStartsAllTheSame) {
     EXPECT_TRUE(form.Timer1.enabled());
 }
 
-TEST_F(MainWindowLife, TheCheckForUpdatesAtTheStartStaysAwayWhateverTheMenuShows) {
+TEST_F(MainWindowLife, NoCheckForUpdatesRunsAtTheStartWhateverTheMenuShows) {
     save_setting(u"SET", u"STARTUPDATECHECK", u"1");
     cancel_login();
     form.mnuStartUpdate.set_checked(true);
@@ -185,7 +185,7 @@ TEST_F(MainWindowLife, TheCheckForUpdatesAtTheStartStaysAwayWhateverTheMenuShows
     EXPECT_TRUE(opened.empty());
 }
 
-TEST(Stop, ByItsMenuItsButtonAndItsFrameWithoutAWordToTheCarrier) {
+TEST(Stop, FromMenuButtonOrFrameCallsNoCarrier) {
     const std::function<void(compose::frmZent&)> ways[] = {
         [](compose::frmZent& form) { form.mmuEnd.Click.raise(); },
         [](compose::frmZent& form) { form.Command2.Click.raise(); },
@@ -239,7 +239,7 @@ TEST(Stop, SenderAndReplyNumberAreSavedWhenTheyDifferFromWhatWasRead) {
     }
 }
 
-TEST(Stop, APlaceIsSavedWithANormalWindowAndOnlyTheStateWithAnother) {
+TEST(Stop, ANormalWindowSavesItsPlacementAndAnyOtherOnlyItsState) {
     const struct {
         WindowState state;
         const char* saved;
@@ -262,7 +262,7 @@ TEST(Stop, APlaceIsSavedWithANormalWindowAndOnlyTheStateWithAnother) {
     }
 }
 
-TEST_F(MainWindowLife, StoppingClearsAwayTheFilesOfTheSessionAndNothingElse) {
+TEST_F(MainWindowLife, StoppingRemovesTheTemporaryFilesAndNothingElse) {
     for (const char16_t* name : {u"temp\\isend.text", u"temp\\tmpman.txt", u"temp\\other.txt",
                                  u"update_temp\\setup\\a.exe", u"내모음함\\a.txt"}) {
         files.files[u"z:\\app\\" + Text(name)] = "x";

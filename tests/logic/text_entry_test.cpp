@@ -31,7 +31,7 @@ struct Entry : testing::Test, tests::MainWindow {
         desktop.expect_box(Text(QUESTION), answer);
         if (answer == BoxAnswer::no) desktop.expect_box(Text(TOO_LONG));
     }
-    /// The user's edit at the end of the field.
+    /// The user edits the end of the field.
     static void edit(platform::TextBox& field, const Text& text) { field.user_edit(text, text.size()); }
     std::string counter() const { return utf8(form.text.mHLen1.caption()); }
 };
@@ -45,7 +45,7 @@ using SenderName = Entry;
 
 // The text message.
 
-TEST_F(LongMessages, TheCounterCountsBytesAndAPersonalisedTextIsNeitherAskedAboutNorCut) {
+TEST_F(LongMessages, TheCounterCountsBytesAndAPersonalisedTextHasNoLimit) {
     form.text.Check1.set_checked(true);
     const struct {
         Text text;
@@ -87,7 +87,7 @@ TEST_F(LongMessages, YesIsRememberedUntilTheTextFallsBelowEightyBytes) {
     edit(form.text.mText1, letters(81));
 }
 
-TEST_F(LongMessages, NoCutsTheEndWhereverTheExcessCameIn) {
+TEST_F(LongMessages, NoCutsTheEndWhereverTheExcessWasTyped) {
     const struct {
         Text text, cut;
     } rows[] = {
@@ -116,7 +116,7 @@ TEST_F(LongMessages, NoCutsTheEndWhereverTheExcessCameIn) {
 }
 
 TEST_F(LongMessages, AKeyEnforcesTheLimitWithoutAskingAndBackspaceDoesNot) {
-    // Longer than 80 bytes without an answer, as a handler may see it.
+    // Longer than 80 bytes without an answer, as a handler may find it.
     expect_question(BoxAnswer::yes);
     edit(form.text.mText1, letters(100));
     form.text.mText1.set_tag(u"");
@@ -151,7 +151,7 @@ TEST_F(ShortTexts, EndAtEightyBytesWithoutAQuestion) {
 }
 
 TEST_F(ShortTexts, EveryKeyEnforcesTheLimitBackspaceToo) {
-    // The subject changes before the text is cut, so a key that comes with it meets the excess.
+    // The subject changes before the text is cut, so a key that arrives at that moment finds the excess.
     std::size_t bytes_behind_the_key = 0;
     form.subject.subjectText.Change.connect([&] {
         if (bytes_behind_the_key != 0) return;
@@ -204,7 +204,7 @@ TEST_F(Subject, FollowsTheTextWithoutLineEndsInFifteenCharacters) {
     EXPECT_EQ(utf8(form.subject.subjectText.tag()), "END") << "and stands at once";
 }
 
-TEST_F(Subject, StandsOnceItIsLongOrAFieldIsLeftAndFollowsAgainWhenEmptied) {
+TEST_F(Subject, StopsFollowingWhenLongOrLeftAndFollowsAgainWhenEmptied) {
     edit(form.subject.subjectText, Text(15, u'가'));
     EXPECT_EQ(utf8(form.subject.subjectText.tag()), "");
     edit(form.subject.subjectText, Text(16, u'가'));
@@ -228,7 +228,7 @@ TEST_F(Subject, StandsOnceItIsLongOrAFieldIsLeftAndFollowsAgainWhenEmptied) {
     }
 }
 
-TEST_F(Subject, AnEmptyOneIsFilledFromTheTextMessageOrWithAWordForNone) {
+TEST_F(Subject, AnEmptyOneIsFilledFromTheTextMessageOrWithAWordForUntitled) {
     const struct {
         compose::MessageKind kind;
         Text subject, text;
@@ -252,7 +252,7 @@ TEST_F(Subject, AnEmptyOneIsFilledFromTheTextMessageOrWithAWordForNone) {
 
 // Personalised messages.
 
-TEST_F(Personalised, TheFieldsListGoesWithTheCheckMarkAndUncheckingALongTextMeetsTheQuestion) {
+TEST_F(Personalised, TheListOfFieldsFollowsTheTickAndUntickingALongTextAsks) {
     for (const BoxAnswer answer : {BoxAnswer::no, BoxAnswer::yes}) {
         form.text.Check1.set_checked(true);
         EXPECT_TRUE(form.text.Combo3.enabled() && form.text.Label1_4.visible());
@@ -265,7 +265,7 @@ TEST_F(Personalised, TheFieldsListGoesWithTheCheckMarkAndUncheckingALongTextMeet
     }
 }
 
-TEST_F(Personalised, APlaceholderIsPastedAndTheListStaysOnIt) {
+TEST_F(Personalised, APlaceholderIsPastedAndStaysChosenInTheList) {
     form.text.Check1.set_checked(true);
     edit(form.text.mText1, u"님 안녕");
     form.text.mText1.select(0, 0);
@@ -281,7 +281,7 @@ TEST_F(Personalised, APlaceholderIsPastedAndTheListStaysOnIt) {
 
 // Sender and reply number.
 
-TEST_F(SenderName, ANewOneTakesTheOldOnesPlaceInTheTextAndIsSaved) {
+TEST_F(SenderName, ANewOneReplacesTheOldOneInTheTextAndIsSaved) {
     const struct {
         compose::MessageKind kind;
         const char16_t* name;

@@ -9,20 +9,20 @@ namespace {
 
 using namespace platform;
 
-TEST(Text, TrimmingTakesBlanksAndNothingElse) {
+TEST(Text, TrimmingRemovesOnlyBlanks) {
     EXPECT_EQ(trim(u"  가 나  "), u"가 나");
     EXPECT_EQ(trim(u" \t가\t "), u"\t가\t") << "tabs are content";
     EXPECT_EQ(trim(u"\u3000가\u3000"), u"\u3000가\u3000") << "wide blanks are content";
     EXPECT_EQ(right_trim(u"  가  "), u"  가");
 }
 
-TEST(Text, ReplacingGoesOnBehindWhatItPutIn) {
+TEST(Text, ReplacingContinuesAfterTheReplacement) {
     EXPECT_EQ(replace_all(u"{이름}님 {이름}", u"{이름}", u"홍{이름}"), u"홍{이름}님 홍{이름}");
     EXPECT_EQ(replace_all(u"aaa", u"aa", u"b"), u"ba");
     EXPECT_EQ(replace_all(u"abc", u"", u"x"), u"abc");
 }
 
-TEST(Text, CaseIsFoldedForAsciiLettersAlone) {
+TEST(Text, CaseIsIgnoredOnlyForAsciiLetters) {
     EXPECT_EQ(lower_case(u"AZ[ÀÉ가"), u"az[ÀÉ가");
     EXPECT_TRUE(equal_without_case(u"ZentUserPhoneID", u"ZENTUserPhoneID"));
     EXPECT_FALSE(equal_without_case(u"a", u"ab"));
@@ -46,8 +46,8 @@ TEST(Text, Utf8RoundTripsAndBrokenSequencesBecomeReplacementCharacters) {
         {"\xC7", u"\uFFFD"},                // ends in mid-character
         {"\xED\x95z", u"\uFFFDz"},          // the next character survives
         {"\x80z", u"\uFFFDz"},              // a tail without a lead
-        {"\xC0\x80z", u"\uFFFD\uFFFDz"},    // a zero in disguise
-        {"\xE0\x80\xAFz", u"\uFFFDz"},      // a slash in disguise
+        {"\xC0\x80z", u"\uFFFD\uFFFDz"},    // an overlong zero
+        {"\xE0\x80\xAFz", u"\uFFFDz"},      // an overlong slash
         {"\xED\xA0\x80z", u"\uFFFDz"},      // a surrogate
         {"\xF4\x90\x80\x80z", u"\uFFFDz"},  // beyond the last character
         {"\xFFz", u"\uFFFDz"},

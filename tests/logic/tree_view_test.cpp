@@ -26,7 +26,7 @@ struct Trees : testing::Test {
     TreeNode& below = tree.add_child(child, u"k5", u"손자", 2, u"9");
 };
 
-TEST_F(Trees, ANodeGoesWithEverythingBelowItAndTheOthersMoveUp) {
+TEST_F(Trees, ANodeIsRemovedWithEverythingBelowItAndTheOthersMoveUp) {
     tree.user_click(below);
     tree.remove_node(other);
     ASSERT_EQ(tree.node_count(), 2u);
@@ -38,7 +38,7 @@ TEST_F(Trees, ANodeGoesWithEverythingBelowItAndTheOthersMoveUp) {
     EXPECT_TRUE(top.children().empty());
 }
 
-TEST_F(Trees, PathsAndRowsFollowTheTreeAndPositionsTheOrderOfAdding) {
+TEST_F(Trees, PathsAndRowsFollowTheTreeAndPositionsTheOrderOfInsertion) {
     EXPECT_EQ(utf8(below.full_path()), "휴지통/아이/손자");
     EXPECT_EQ(last.row(), 0u);
     EXPECT_EQ(last.position(), 4u);
@@ -47,7 +47,7 @@ TEST_F(Trees, PathsAndRowsFollowTheTreeAndPositionsTheOrderOfAdding) {
     EXPECT_EQ(sibling.position(), 6u);
 }
 
-TEST_F(Trees, ExpandIsRaisedOnceAndThePictureIsThatOfTheState) {
+TEST_F(Trees, ExpandIsRaisedOnceAndThePictureFollowsTheState) {
     int expanded = 0;
     tree.Expand.connect([&](TreeNode& node) {
         ++expanded;

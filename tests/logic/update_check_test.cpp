@@ -1,4 +1,4 @@
-// What decides that an update is due, and what the check leaves behind.
+// When an update is due, and what the check leaves behind.
 
 #include "tests/support/updates.h"
 
@@ -20,7 +20,7 @@ std::string entry(int number, const std::string& kind, const std::string& file, 
            ";" + version + ";N;EXE;" + marker + "\r\n";
 }
 
-TEST(UpdateDecision, IsByPresenceAndByTheTextOfTheVersion) {
+TEST(UpdateDecision, DependsOnPresenceAndOnTheVersionAsText) {
     const struct {
         const char* installed;
         const char* file;
@@ -31,7 +31,7 @@ TEST(UpdateDecision, IsByPresenceAndByTheTextOfTheVersion) {
         {"2.0.1", "a.dll", true, "2.0.1", false},
         {"2.0.1", "a.dll", true, "2.0.0", false},
         {"2.0.1", "a.dll", true, "2.0.2", true},
-        {"2.0.9", "a.dll", true, "2.0.10", false},  // as texts
+        {"2.0.9", "a.dll", true, "2.0.10", false},  // compared as texts
         {"2.0", "a.dll", true, "2.0.0", true},
         {"A", "a.dll", true, "a", true},
         {"2.0.1", "a.dll", false, "1.0", true},
@@ -53,7 +53,7 @@ TEST(UpdateDecision, IsByPresenceAndByTheTextOfTheVersion) {
     }
 }
 
-TEST(UpdateDecision, LooksForAFileWhereItsKindSays) {
+TEST(UpdateDecision, LooksForAFileWhereItsTypeSays) {
     const struct {
         const char* kind;
         const char* file;
@@ -104,7 +104,7 @@ TEST(UpdateDecision, MarkersCountOnlyWithFilesThatAreDue) {
     }
 }
 
-TEST_F(UpdateCheck, TheListEndsAtTheFirstHoleAndAfterAHundredWhateverTheOrderOfTheKeys) {
+TEST_F(UpdateCheck, TheListEndsAtTheFirstGapOrAfterAHundredInAnyOrderOfKeys) {
     const auto rows = [&](const std::string& list) {
         files.files[u"z:\\app\\update_temp\\update.ini"] = "[UPDATE_FILE_LIST]\r\n" + list;
         frmUpdate form(platform, state);
@@ -141,7 +141,7 @@ TEST_F(UpdateCheck, TheFieldsOfARowStandInTheirColumns) {
     EXPECT_EQ(utf8(form.ListView2.column(9).caption), "버전확인");
 }
 
-TEST_F(UpdateCheck, WithoutAnAnswerOrFactsThereIsNoUpdate) {
+TEST_F(UpdateCheck, WithoutAnAnswerOrLocalFactsThereIsNoUpdate) {
     const struct {
         const char* name;
         std::function<void(tests::Updates&)> arrange;
@@ -180,7 +180,7 @@ TEST_F(UpdateCheck, WithoutAnAnswerOrFactsThereIsNoUpdate) {
     }
 }
 
-TEST_F(UpdateCheck, AListThatArrivesInPartIsTakenAsFarAsItCame) {
+TEST_F(UpdateCheck, AListThatArrivesInPartIsReadAsFarAsItArrived) {
     install("1");
     const std::string list = "[UPDATE_FILE_LIST]\r\n" + entry(1, "apppath", "missing", "1");
     internet.answers[tests::LIST] = {.header = "HTTP/1.1 200 OK", .body = list};  // no length
@@ -188,7 +188,7 @@ TEST_F(UpdateCheck, AListThatArrivesInPartIsTakenAsFarAsItCame) {
     EXPECT_TRUE(state.update.gUpdateAvailable);
 }
 
-TEST_F(UpdateCheck, KeepsItsFileInItsFolderAndClearsBothAway) {
+TEST_F(UpdateCheck, RemovesItsFileAndItsFolder) {
     install("1");
     files.folders.insert(u"z:\\app\\update_temp");
     files.files[u"z:\\app\\update_temp\\old.exe"] = "left by a check that died";
@@ -206,9 +206,9 @@ TEST_F(UpdateCheck, KeepsItsFileInItsFolderAndClearsBothAway) {
     EXPECT_EQ(internet.asked, (std::vector<Text>{tests::SERVER, tests::LIST}));
 }
 
-TEST_F(UpdateCheck, ClosingTheWindowGivesItUpWhereverItWaits) {
-    // Waits for the server's bytes, gives the windows a turn, waits for the list's header twice, for its
-    // bytes, and for their end.
+TEST_F(UpdateCheck, ClosingTheWindowCancelsItWhereverItWaits) {
+    // The check waits for the server's bytes, lets the windows paint, waits twice for the list's header, then
+    // for its bytes and for their end.
     for (int wait = 1; wait <= 6; ++wait) {
         tests::Updates updates;
         updates.install("1");
@@ -230,7 +230,7 @@ TEST_F(UpdateCheck, ClosingTheWindowGivesItUpWhereverItWaits) {
     }
 }
 
-TEST_F(UpdateCheck, ClosingTheWindowBeforeItHasBegunAsksNobody) {
+TEST_F(UpdateCheck, ClosingTheWindowBeforeItBeginsSendsNoRequest) {
     install("1");
     desktop.in_form(u"frmUpdate", [](Form& form) { form.escape_pressed(); });
     check();
@@ -265,7 +265,7 @@ TEST(DownloadFormats, TimesShowByWholeRows) {
         EXPECT_EQ(utf8(update::Download::FormatTime(row.time)), row.text) << row.time;
 }
 
-TEST_F(UpdateCheck, TheControlTellsWhichOfItsPropertiesHasChanged) {
+TEST_F(UpdateCheck, TheControlReportsWhichPropertyHasChanged) {
     update::Download control(platform);
     std::string changed;
     control.PropertyChanged.connect([&](const Text& name) { changed += utf8(name) + " "; });

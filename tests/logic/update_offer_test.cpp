@@ -1,4 +1,5 @@
-// What the user is asked and told about an update, from the menu and at the start, and the hand-over.
+// What the user is asked and shown about an update, from the menu and at the start, and the start of the
+// installer.
 
 #include "platform/error.h"
 #include "tests/support/updates.h"
@@ -27,7 +28,7 @@ struct Offer : tests::Updates {
         form.Timer1.set_enabled(true);
     }
 
-    /// A file that is due, and its marker.
+    /// Lets the server offer a file that is due, with its marker.
     void offer_update(const std::string& marker = "") {
         offer("UPDATE_FILE(1)=a;apppath;missing;2;;;" + marker + "\r\n");
     }
@@ -41,7 +42,7 @@ struct Offer : tests::Updates {
 
 struct UpdateOffer : testing::Test, Offer {};
 
-TEST_F(UpdateOffer, NothingDueIsSaidAndPollingGoesOn) {
+TEST_F(UpdateOffer, NothingDueIsShownAndPollingContinues) {
     internet.while_waiting = [&] { EXPECT_FALSE(form.Timer1.enabled()) << "no hand-over during the check"; };
     desktop.expect_box(UP_TO_DATE);
     check_from_menu();
@@ -50,7 +51,7 @@ TEST_F(UpdateOffer, NothingDueIsSaidAndPollingGoesOn) {
     EXPECT_EQ(desktop.forms, Forms{u"frmUpdate"});
 }
 
-TEST_F(UpdateOffer, AServerThatIsNotReachedIsNamedOnlyByTheOtherFile) {
+TEST_F(UpdateOffer, AnUnreachableServerIsNamedOnlyFromTheOtherFile) {
     internet.answers.clear();
     desktop.expect_box(NOT_REACHED);
     check_from_menu();
@@ -64,7 +65,7 @@ TEST_F(UpdateOffer, AServerThatIsNotReachedIsNamedOnlyByTheOtherFile) {
     EXPECT_TRUE(form.Timer1.enabled());
 }
 
-TEST_F(UpdateOffer, ACheckThatTheUserGaveUpSaysNothing) {
+TEST_F(UpdateOffer, ACheckThatTheUserCancelsShowsNothing) {
     internet.while_waiting = [&] { desktop.forms.clear(); };
     desktop.in_form(u"frmUpdate", [](Form& check) { check.escape_pressed(); });
     check_from_menu();
@@ -72,7 +73,7 @@ TEST_F(UpdateOffer, ACheckThatTheUserGaveUpSaysNothing) {
     EXPECT_TRUE(form.Timer1.enabled());
 }
 
-TEST_F(UpdateOffer, ARefusalTakesTheNoteAwayAndPollingStaysOff) {
+TEST_F(UpdateOffer, ANoRemovesTheNoteAndPollingStaysOff) {
     const std::function<void(frmUpdateStart&)> refusals[] = {
         [](frmUpdateStart& start) { start.Command2.Click.raise(); },
         [](frmUpdateStart& start) { start.close_requested(); },
@@ -118,7 +119,7 @@ TEST_F(UpdateOffer, WithoutAnInstallerTheUserReadsThatAllIsUpToDateAndTheNoteSta
     }
 }
 
-TEST_F(UpdateOffer, ANoteThatCannotBeWrittenDoesNotKeepTheUpdateFromGoingOn) {
+TEST_F(UpdateOffer, TheUpdateContinuesWhenTheNoteCannotBeWritten) {
     files.failure = ErrorNumber::permission_denied;
     state.forms.gDialogConfirmed = false;
     frmUpdateStart start(platform, state);
@@ -139,7 +140,7 @@ TEST_F(UpdateOffer, TheNotePageIsTheOneThatTheListNames) {
     check_from_menu();
 }
 
-/// The check while the program starts, armed by hand.
+/// The check while the program starts, which only a test can switch on.
 struct Start : Offer {
     Start() {
         form.Timer1.set_enabled(false);
@@ -165,7 +166,7 @@ TEST_F(UpdateAtStart, NeedsTheLocalFacts) {
     EXPECT_EQ(desktop.forms, (Forms{u"frmZent", u"frmZentLogin"}));
 }
 
-TEST(UpdateStart, SaysNothingWhenAllIsUpToDateOrTheUserRefuses) {
+TEST(UpdateStart, ShowsNothingWhenAllIsUpToDateOrTheUserRefuses) {
     for (const bool due : {false, true}) {
         Start window;
         if (due) {
@@ -179,7 +180,7 @@ TEST(UpdateStart, SaysNothingWhenAllIsUpToDateOrTheUserRefuses) {
     }
 }
 
-TEST_F(UpdateAtStart, AServerThatIsNotReachedIsToldTwiceAndTheUserLogsInByHand) {
+TEST_F(UpdateAtStart, AnUnreachableServerIsShownTwiceAndTheUserLogsInByHand) {
     internet.answers.clear();
     save_setting(u"LOGIN", u"AUTOLOGIN", u"1");
     save_login(u"LOGINID", u"hong");
@@ -194,7 +195,7 @@ TEST_F(UpdateAtStart, AServerThatIsNotReachedIsToldTwiceAndTheUserLogsInByHand) 
     EXPECT_TRUE(form.Timer1.enabled());
 }
 
-TEST_F(UpdateAtStart, AYesHandsOverToTheInstaller) {
+TEST_F(UpdateAtStart, AYesStartsTheInstaller) {
     offer_update("ums");
     files.files[INSTALLER] = "program";
     user_presses(&frmUpdateStart::Command1);

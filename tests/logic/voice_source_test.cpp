@@ -15,7 +15,7 @@ const Text TRIAL = u"c:\\temp\\tmpbk.wav";
 const Text NAME = u"z:\\home\\인사.wav";
 const Text OVERWRITE = NAME + u"\r\n\r\n이미 동일한 파일이 존재합니다. 덮어쓰시겠습니까?";
 
-/// The main window's sound tabs, with a user who has recorded something and presses their buttons.
+/// The main window's tabs for a voice, with something recorded.
 struct VoiceSource : testing::Test, Sending {
     VoiceSource() {
         record(said);
@@ -28,7 +28,7 @@ struct VoiceSource : testing::Test, Sending {
     const std::string wav = wav_file(said);
 };
 
-TEST_F(VoiceSource, ARecordingIsTriedBeforeTheUserIsAskedForAName) {
+TEST_F(VoiceSource, ARecordingIsSavedOnTrialBeforeTheUserIsAskedForAName) {
     Sending nothing_recorded;
     nothing_recorded.form.voice.TTSBttn0.Click.raise();
     EXPECT_TRUE(nothing_recorded.desktop.file_questions.empty());
@@ -37,7 +37,7 @@ TEST_F(VoiceSource, ARecordingIsTriedBeforeTheUserIsAskedForAName) {
     EXPECT_TRUE(desktop.file_questions.empty()) << "nothing can be written";
 }
 
-TEST_F(VoiceSource, ARecordingGoesWhereTheUserWantsItAndTheTrialGoes) {
+TEST_F(VoiceSource, ARecordingIsSavedWhereTheUserWantsItAndTheTrialIsRemoved) {
     desktop.expect_file_dialog(SAVE_TITLE, u"z:\\home\\새 녹음.wav");
     save();
     EXPECT_EQ(files.files[u"z:\\home\\새 녹음.wav"], wav);
@@ -57,7 +57,7 @@ TEST_F(VoiceSource, ATakenNameIsAskedForAgainUntilTheUserDecides) {
     EXPECT_EQ(desktop.file_questions[1].file_name, NAME) << "the second dialog is not set up anew";
 }
 
-TEST_F(VoiceSource, WhoeverGivesUpSavesNothing) {
+TEST_F(VoiceSource, ACancelledDialogSavesNothing) {
     const auto before = files.files;
     desktop.expect_file_dialog(SAVE_TITLE, std::nullopt);
     save();
@@ -71,7 +71,7 @@ TEST_F(VoiceSource, WhoeverGivesUpSavesNothing) {
     EXPECT_EQ(files.files, before);
 }
 
-TEST_F(VoiceSource, ASoundFileIsTakenAsItIsAndTheDialogBeginsEmpty) {
+TEST_F(VoiceSource, ASoundFileIsTakenUnchangedAndTheDialogStartsEmpty) {
     desktop.pointer = Pointer::hourglass;
     desktop.expect_file_dialog(OPEN_TITLE, u"z:\\글.txt");
     form.voice.TTSBttn1.Click.raise();
@@ -98,7 +98,7 @@ TEST_F(VoiceSource, ASoundFileIsPlayedByTheMachineAndAMissingOneIsNamed) {
     EXPECT_EQ(form.voice.TTSFileTxt.text(), NAME);
 }
 
-TEST_F(VoiceSource, IsNotRecordedOverUnlessItIsKeptSomewhereOrTheUserAgrees) {
+TEST_F(VoiceSource, IsNotRecordedOverUnlessSavedOrSentOrTheUserAgrees) {
     const Text question = u"새로 녹음하시겠습니까?";
     const auto record_again = [&] {
         form.voice.RFK1.record();

@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(WebForm, IsKnownToBeOpenAsLongAsItIs) {
+TEST(WebForm, CountsAsOpenAsLongAsItIsOpen) {
     tests::TestPlatform machine;
     service::frmWeb form(machine.platform, machine.state);
     EXPECT_FALSE(machine.state.forms.gWebFormOpen);

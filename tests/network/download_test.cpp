@@ -1,4 +1,4 @@
-// The events of a transfer, one for one, for each thing that a server may do.
+// The exact events of a transfer for each thing that a server may do.
 
 #include "update/download.h"
 
@@ -24,7 +24,7 @@ using update::Download;
 
 constexpr const char16_t* PLACE = u"z:\\app\\update_temp\\update.ini";
 
-/// The control on a clock that stands one second behind its start, so that rates are sums.
+/// The control with a clock that stands still one second after the start, so that rates equal sums.
 struct DownloadBench : tests::TestPlatform {
     explicit DownloadBench(const machine::qt::TransferLimits& limits = {}) : network(limits) {
         files.folders = {u"z:\\app\\update_temp"};
@@ -85,10 +85,10 @@ std::string answer(const std::string& status, const std::string& body) {
     return answer(status, body, body.size());
 }
 
-TEST(DownloadEvents, AreTheseForEachAnswer) {
+TEST(DownloadEvents, AreExactlyTheseForEachAnswer) {
     const std::string kilobyte(1024, 'k');
     const std::string page = "<html>";
-    // Without a file the time since midnight is what it has taken, and the first percentage ends it.
+    // Without a file the elapsed time is the time since midnight, and the first percentage ends the transfer.
     const std::string first_chunk_of_page = "Rate 0 Byte\nTimeLeft -10 시 0 분\nRecievedBytes 6\n";
     const char* first_chunk_of_found_page = "Rate 6 Byte\nTimeLeft 0 시 0 분\nRecievedBytes 6\n";
     const struct {
@@ -132,7 +132,7 @@ TEST(DownloadEvents, AreTheseForEachAnswer) {
     }
 }
 
-TEST(DownloadEvents, AServerThatPlaysForTimeOrSizeFailsLikeOneThatIsNotThere) {
+TEST(DownloadEvents, AServerThatIsTooSlowOrSendsTooMuchFailsLikeAMissingOne) {
     constexpr int AT_ONCE = 20, SOON = 500, NEVER = 100'000;
     const std::string kilobyte(1024, 'k');
     const std::string first_chunk =
@@ -170,13 +170,13 @@ TEST(DownloadEvents, AServerThatPlaysForTimeOrSizeFailsLikeOneThatIsNotThere) {
     }
 }
 
-TEST(DownloadEvents, ACertificateThatDoesNotHoldFailsTheHeader) {
+TEST(DownloadEvents, AnInvalidCertificateFailsTheHeader) {
     DownloadBench bench;
     const tests::SecureServer server;
     EXPECT_EQ(bench.run(server.url()), ASKED + std::string(BAD_HEADER) + RECEIVING + FAILED);
 }
 
-TEST(DownloadEvents, ACancelEndsTheWaitForTheHeaderAndWhoDownloadsAllTheSameFails) {
+TEST(DownloadEvents, ACancelEndsTheWaitForTheHeaderAndALaterDownloadFails) {
     DownloadBench bench;
     HttpServer silent([](HttpClient& client) { client.wait_until_gone(); });
     bench.control.set_url(silent.url());
@@ -191,7 +191,7 @@ TEST(DownloadEvents, ACancelEndsTheWaitForTheHeaderAndWhoDownloadsAllTheSameFail
     EXPECT_EQ(bench.log, RECEIVING + std::string(FAILED));
 }
 
-TEST(DownloadEvents, ACancelBeforeTheStartIsHeardOnceTheHeaderIsThere) {
+TEST(DownloadEvents, ACancelBeforeTheStartTakesEffectWhenTheHeaderArrives) {
     DownloadBench bench;
     bench.control.Cancel();
     HttpServer server(HttpServer::sending(answer("200 OK", "new")));
@@ -202,7 +202,7 @@ TEST(DownloadEvents, ACancelBeforeTheStartIsHeardOnceTheHeaderIsThere) {
     EXPECT_FALSE(bench.control.file_exists());
 }
 
-TEST(DownloadEvents, ACancelEndsTheWaitForTheRestAndIsHeardBetweenTwoChunks) {
+TEST(DownloadEvents, ACancelEndsTheWaitForTheRestAndTakesEffectBetweenTwoChunks) {
     const std::string first_chunk =
         ASKED + std::string(FOUND) + RECEIVING + progress("1 KB", "1 초", 1024, 50);
     const std::string cancelled = "DLECode 4\nStatusChange 오류.\n";
@@ -236,7 +236,7 @@ TEST(Download, LeavesTheOldFilesTail) {
     EXPECT_EQ(bench.control.file_size(), 3);
 }
 
-TEST(Download, AMissingFileIsForgottenToBeThere) {
+TEST(Download, AMissingFileIsNotTakenForAnEarlierOne) {
     DownloadBench bench;
     HttpServer there(HttpServer::sending(answer("200 OK", "new")));
     bench.run(there);
@@ -246,7 +246,7 @@ TEST(Download, AMissingFileIsForgottenToBeThere) {
     EXPECT_EQ(bench.control.file_size(), 0);
 }
 
-TEST(Download, AFileThatCannotBeWrittenIsToldAsOneInUse) {
+TEST(Download, AFileThatCannotBeWrittenIsReportedAsInUse) {
     DownloadBench bench;
     bench.files.failure = ErrorNumber::permission_denied;
     HttpServer server(HttpServer::sending(answer("200 OK", "new")));

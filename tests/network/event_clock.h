@@ -8,7 +8,7 @@
 
 namespace tests {
 
-/// A clock that stands, whose pauses last until something has happened.
+/// A clock that stands still and whose pauses last until an event has happened.
 class EventClock : public VirtualClock {
   public:
     void pause(int) override {

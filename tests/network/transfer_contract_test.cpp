@@ -1,5 +1,5 @@
-// What every `Transfer` does, the toolkit's and the double that the update is tested with: the same rows for
-// both.
+// What every `Transfer` does. The same rows run with the toolkit's and with the double that the update's
+// tests use.
 
 #include "machine/qt/modules/network/qt_internet.h"
 #include "tests/support/error_number.h"
@@ -21,11 +21,11 @@ constexpr int PROTOCOL = static_cast<int>(ErrorNumber::protocol_not_supported);
 constexpr int NOT_COMPLETED = static_cast<int>(ErrorNumber::request_not_completed);
 constexpr int GIVEN_UP = static_cast<int>(ErrorNumber::dialog_cancelled);
 
-/// A network of one kind with one server.
+/// One implementation of the network, with one server.
 struct Network {
     virtual ~Network() = default;
     virtual Internet& internet() = 0;
-    /// The address where the server gives this from now on.
+    /// The address at which the server gives this answer from now on.
     virtual Text serve(const tests::ScriptedAnswer& answer) = 0;
 };
 
@@ -77,7 +77,7 @@ TEST_P(TransferContract, TheHeaderIsReadByNameAndTheBodyInWholeChunks) {
     EXPECT_EQ(transfer->chunk(4), "");
 }
 
-TEST_P(TransferContract, WhatBreaksIsAFailureBehindTheWholeChunks) {
+TEST_P(TransferContract, ABrokenConnectionFailsAfterTheWholeChunks) {
     get({.header = "HTTP/1.1 200 OK\r\nContent-Length: 10", .body = "abcde", .breaks = true});
     EXPECT_EQ(transfer->chunk(2), "ab");
     EXPECT_EQ(transfer->chunk(2), "cd");
@@ -88,7 +88,7 @@ TEST_P(TransferContract, WhatBreaksIsAFailureBehindTheWholeChunks) {
     EXPECT_EQ(error_number([&] { transfer->chunk(2); }), NOT_COMPLETED);
 }
 
-TEST_P(TransferContract, AGetWholeTakesAnAddressWithoutItsSchemeAndMayBeCut) {
+TEST_P(TransferContract, AWholeGetTakesAnAddressWithoutItsSchemeAndMayBeCut) {
     const Text url = network->serve(tests::ScriptedAnswer::ok("whole"));
     EXPECT_EQ(transfer->open_url(url, 100), "whole");
     EXPECT_EQ(transfer->open_url(u" " + url.substr(7) + u" ", 4), "whol");
@@ -98,7 +98,7 @@ TEST_P(TransferContract, AGetWholeTakesAnAddressWithoutItsSchemeAndMayBeCut) {
         EXPECT_EQ(error_number([&] { transfer->open_url(none, 10); }), NOT_COMPLETED) << utf8(none);
 }
 
-TEST_P(TransferContract, OneThatIsGivenUpSaysSoUntilTheNextBegins) {
+TEST_P(TransferContract, ACancelledOneRaisesItsErrorUntilTheNextBegins) {
     const Text url = network->serve(tests::ScriptedAnswer::ok("ok"));
     transfer->execute(url);
     transfer->cancel();

@@ -39,10 +39,10 @@ struct Transfers : testing::Test {
     void get(const Text& url) { get(*transfer, url); }
 };
 
-TEST_F(Transfers, WaitForAWholeChunkHoweverSmallThePiecesThatCome) {
+TEST_F(Transfers, WaitForAWholeChunkHoweverSmallThePieces) {
     HttpServer server([](HttpClient& client) {
         client.send("HTTP/1.1 200 Fine\r\nContent-Length: 6\r\n\r\n");
-        // Byte by byte, the second only once somebody has asked for the first chunk.
+        // Byte by byte; the second follows only after the first chunk has been asked for.
         for (const char byte : {'a', 'b', 'c', 'd', 'e', 'f'}) client.send(std::string(1, byte));
     });
     get(server.url());
@@ -50,7 +50,7 @@ TEST_F(Transfers, WaitForAWholeChunkHoweverSmallThePiecesThatCome) {
     EXPECT_EQ(transfer->chunk(4), "ef");
 }
 
-TEST_F(Transfers, AskPlainlyFollowNoRedirectAndRememberNothing) {
+TEST_F(Transfers, SendAPlainRequestFollowNoRedirectAndKeepNoCookies) {
     std::string second_request;
     HttpServer server([&](HttpClient& client) {
         second_request = client.request;
@@ -69,7 +69,7 @@ TEST_F(Transfers, AskPlainlyFollowNoRedirectAndRememberNothing) {
     EXPECT_EQ(second_request.find("gzip"), std::string::npos) << second_request;
 }
 
-TEST_F(Transfers, AnErrorOfTheServersIsAnAnswerToo) {
+TEST_F(Transfers, AnErrorFromTheServerIsAnAnswerToo) {
     for (const char* status : {"401 Who", "404 None", "500 Broken"}) {
         HttpServer server(HttpServer::sending(std::string("HTTP/1.1 ") + status +
                                               "\r\nWWW-Authenticate: Basic realm=\"a\"\r\n"
@@ -78,7 +78,7 @@ TEST_F(Transfers, AnErrorOfTheServersIsAnAnswerToo) {
     }
 }
 
-TEST_F(Transfers, ReadNothingOfTheToolkitsOwnAndTakeNoSchemeFromAQuestion) {
+TEST_F(Transfers, ReadNoResourcesOfTheToolkitAndFindNoSchemeInAQuery) {
     for (const char16_t* url : {u"qrc://a/b", u"data://text/plain,a"})
         EXPECT_EQ(error_number([&] { transfer->open_url(url, 10); }), PROTOCOL) << utf8(url);
     EXPECT_EQ(error_number([&] { transfer->open_url(u"file:/etc/passwd", 10); }), NOT_COMPLETED);
@@ -86,7 +86,7 @@ TEST_F(Transfers, ReadNothingOfTheToolkitsOwnAndTakeNoSchemeFromAQuestion) {
     EXPECT_EQ(transfer->open_url(server.url(u"/?next=http://other.example/").substr(7), 10), "ok");
 }
 
-TEST_F(Transfers, WhatBreaksIsAFailureOnceTheWholeChunksBeforeItAreRead) {
+TEST_F(Transfers, ABrokenConnectionFailsOnceTheWholeChunksBeforeItAreRead) {
     const struct {
         const char* sent;
         int chunks_of_two;
@@ -110,7 +110,7 @@ TEST_F(Transfers, WhatBreaksIsAFailureOnceTheWholeChunksBeforeItAreRead) {
     }
 }
 
-TEST_F(Transfers, ALengthThatIsTooShortEndsTheBodyAndOneThatIsMissingTheConnection) {
+TEST_F(Transfers, ALengthThatIsTooShortEndsTheBodyAndWithoutOneTheConnectionDoes) {
     HttpServer short_length(HttpServer::sending("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nabcdef"));
     EXPECT_EQ(transfer->open_url(short_length.url(), 100), "ab");
     HttpServer no_length(HttpServer::sending("HTTP/1.0 200 OK\r\n\r\nabcdef"));
@@ -126,7 +126,7 @@ TEST_F(Transfers, EndWhenTheyTakeTooLong) {
         const char* name;
         machine::qt::TransferLimits limits;
         std::string sent;
-        /// What comes again and again.
+        /// What the server sends again and again.
         std::string endless;
     } rows[] = {
         {"nothing", SILENCE, "", ""},
@@ -171,7 +171,7 @@ TEST_F(Transfers, EndWhenTheBodyIsTooLargeAndAGetMayBeCut) {
     EXPECT_EQ(transfer->open_url(endless.url(), 700), std::string(700, 'x'));
 }
 
-TEST_F(Transfers, CanBeGivenUpWhileSomebodyWaits) {
+TEST_F(Transfers, CanBeCancelledDuringAWait) {
     HttpServer silent([](HttpClient& client) { client.wait_until_gone(); });
     QTimer::singleShot(0, [&] { transfer->cancel(); });
     EXPECT_EQ(error_number([&] { transfer->open_url(silent.url(), 100); }), GIVEN_UP);
@@ -189,7 +189,7 @@ TEST_F(Transfers, GoThroughTheSystemsProxy) {
     EXPECT_TRUE(request.starts_with("GET http://far.example/update.ini HTTP/1.1\r\n")) << request;
 }
 
-TEST_F(Transfers, AreSecureWhereTheAddressSaysSoAndTheCertificateHolds) {
+TEST_F(Transfers, AreSecureIfTheAddressSaysSoAndTheCertificateIsValid) {
     const tests::SecureServer server;
     EXPECT_EQ(error_number([&] { transfer->open_url(server.url(), 100); }), NOT_COMPLETED);
 

@@ -13,7 +13,7 @@
 
 namespace tests {
 
-/// A table of a card database as an independent reader wrote it down; NULL is nothing.
+/// A table of a card database as an independent reader recorded it; nothing stands for NULL.
 class CardTable {
   public:
     using Row = std::vector<std::optional<platform::Text>>;
@@ -68,7 +68,7 @@ class CardTable {
     std::vector<platform::Text> columns_;
 };
 
-/// An application directory with the program that reads card databases, and a source over it.
+/// An application directory with the program that reads card databases, and a card source for it.
 class CardsOnDisk {
   public:
     explicit CardsOnDisk(std::chrono::milliseconds longest_reading = std::chrono::seconds(30))
@@ -80,14 +80,14 @@ class CardsOnDisk {
         return std::string(ZENT_FIXTURES) + "/cards/" + name + ".vdb";
     }
 
-    /// Puts the fixture in the place of the card manager's file, as if it had long been there.
+    /// Puts the fixture in place of the card manager's file, with an old date.
     void put(const std::string& name) { put_bytes(bytes_of(fixture(name))); }
     void put_bytes(const std::string& bytes) {
         tests::put(database, bytes);
         std::filesystem::last_write_time(
             database, std::filesystem::file_time_type::clock::now() - std::chrono::hours(++puts_));
     }
-    /// Puts another program in the place of the reader.
+    /// Puts a script in place of the reader.
     void put_reader(const std::string& script) {
         std::filesystem::remove(reader);
         tests::put(reader, "#!/bin/sh\n" + script + "\n");

@@ -47,7 +47,7 @@ const std::vector<Text> CARD_FIELDS = {
 
 using Keep = std::function<bool(const CardTable::Row& row)>;
 
-/// What the table's rows that are kept show in the columns, in the order of `order`.
+/// The columns of those rows of the table that are kept, in the order of `order`.
 std::vector<std::string> expected(const CardTable& table, const std::vector<Text>& columns, TextView order,
                                   const Keep& keep) {
     std::vector<CardTable::Row> kept;
@@ -66,7 +66,7 @@ std::vector<std::string> expected(const CardTable& table, const std::vector<Text
 
 bool always(const CardTable::Row&) { return true; }
 
-TEST(CardStatements, EveryFieldComesAsTheFileHasIt) {
+TEST(CardStatements, EveryFieldIsReadAsTheFileHasIt) {
     CardsOnDisk disk;
     std::vector<Text> columns = CARD_FIELDS;
     columns.insert(columns.end(), {u"Fname", u"Fname_photo"});
@@ -83,7 +83,7 @@ TEST(CardStatements, EveryFieldComesAsTheFileHasIt) {
     }
 }
 
-TEST(CardStatements, FoldersOutsideTheTrashComeInTheirOrder) {
+TEST(CardStatements, FoldersOutsideTheTrashAreReadInTheirOrder) {
     CardsOnDisk disk;
     disk.put("edge");
     const CardTable folders("edge.tbl_folder");
@@ -93,7 +93,7 @@ TEST(CardStatements, FoldersOutsideTheTrashComeInTheirOrder) {
               }));
 }
 
-TEST(CardStatements, WildCardsInASearchAreTheDatabases) {
+TEST(CardStatements, WildCardsInASearchMeanWhatTheyMeanToTheDatabase) {
     CardsOnDisk disk;
     disk.put("edge");
     const auto connection = disk.connect();
@@ -110,7 +110,7 @@ TEST(CardStatements, WildCardsInASearchAreTheDatabases) {
     EXPECT_EQ(companies(u"it''s 100[%][_]o%"), "'It's 100%_ok' ");
 }
 
-TEST(CardStatements, OnlyReadAndAreRefusedWhenBroken) {
+TEST(CardStatements, OnlyReadAndAreRefusedWhenFaulty) {
     CardsOnDisk disk;
     disk.put("edge");
     const auto connection = disk.connect();
@@ -132,7 +132,7 @@ TEST(CardStatements, OnlyReadAndAreRefusedWhenBroken) {
     EXPECT_EQ(tests::error_number([&] { connection->open_recordset(statements::folders()); }), 3709);
 }
 
-TEST(CardStatements, GiveFieldsByNameInAnyCaseWithTheProvidersTypes) {
+TEST(CardStatements, ReturnFieldsByNameInAnyCaseWithTheProvidersTypes) {
     CardsOnDisk disk;
     disk.put("edge");
     const auto connection = disk.connect();
@@ -162,7 +162,7 @@ TEST(CardStatements, TakeAFilterOfTenThousandFolders) {
               }));
 }
 
-TEST(CardStatements, KeepTheFilesOrderAmongCardsOfOnePlace) {
+TEST(CardStatements, KeepTheFilesOrderAmongEqualCards) {
     machine::jet::CardDatabase cards(std::make_shared<machine::jet::Heartbeat>(nullptr));
     cards.add(machine::jet::Table::folder, {1, 0, TextView(u"전체")});
     Text every_second, all;

@@ -18,7 +18,7 @@ namespace tests {
 using Int = std::int32_t;
 using Notify11 = Int (*)(Int, Int, Int, Int, Int, Int, Int, Int, Int, Int, Int);
 
-/// The carrier's library, loaded as a client loads it and let go with the object.
+/// The stand-in's library, loaded as a client loads it, until the object is destroyed.
 class CarrierLibrary {
   public:
     CarrierLibrary() : handle_(dlopen(CARRIER_LIBRARY, RTLD_NOW | RTLD_LOCAL)) {
@@ -54,7 +54,7 @@ class CarrierLibrary {
     void* handle_;
 };
 
-/// A text that is handed to the carrier as a buffer of its own, and must come back as it went.
+/// A text that is passed in a buffer of its own and must come back unchanged.
 class Given {
   public:
     explicit Given(std::string_view text) : text_(text), buffer_(text) {}
@@ -67,7 +67,7 @@ class Given {
     std::string text_, buffer_;
 };
 
-/// Runs in a folder of its own, with the carrier's files in it.
+/// A test with a current directory of its own for the stand-in's files.
 class CarrierTest : public testing::Test {
   protected:
     /// Writes carrier.ini with the account demo and `more` lines.

@@ -14,7 +14,7 @@ TEST_F(CarrierLedger, KeepsEveryReturnedCallWhenTheClientIsKilled) {
         bind(library);
         for (;;) {
             submit(library);
-            returned.tell();
+            returned.signal();
         }
         return 0;
     });
@@ -36,7 +36,7 @@ TEST_F(CarrierLedger, KeepsEveryReturnedCallWhenTheClientIsKilled) {
     EXPECT_EQ(bind(next), 1) << "the ledger goes on after a kill";
 }
 
-TEST_F(CarrierLedger, ThatCannotBeWrittenIsAFailureAndNotASuccess) {
+TEST_F(CarrierLedger, FailsACallThatItCannotRecord) {
     configure("[carrier]\nledger=no/such/folder/ledger.db\n");
     CarrierLibrary library;
     EXPECT_EQ(bind(library), 153);

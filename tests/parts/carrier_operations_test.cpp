@@ -10,7 +10,7 @@ using tests::CarrierLibrary;
 using tests::Given;
 using tests::Int;
 
-TEST_F(CarrierOperations, LetInNobodyButTheHolderOfTheAccount) {
+TEST_F(CarrierOperations, AcceptOnlyTheHolderOfTheAccount) {
     {
         CarrierLibrary library;
         EXPECT_EQ(bind(library), 2) << "no carrier.ini, no accounts";
@@ -45,7 +45,7 @@ TEST_F(CarrierOperations, LetInNobodyButTheHolderOfTheAccount) {
     EXPECT_EQ(ledger("SELECT result FROM registration ORDER BY id"), (Rows{"2", "1", "2"}));
 }
 
-TEST_F(CarrierOperations, RefuseMoreThanTheLimitsAndAttachmentsThatAreNotThere) {
+TEST_F(CarrierOperations, RefuseMoreThanTheLimitsAndMissingAttachments) {
     configure("[limits]\nrecipients=3\nattachments=2\n");
     std::filesystem::create_directories("drive_c/Temp/내모음");
     std::ofstream("drive_c/Temp/TMP.wav");

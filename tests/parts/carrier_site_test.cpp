@@ -1,4 +1,4 @@
-// The service's web site as a browser meets it: the real program over a real socket.
+// The stand-in's web site as a browser sees it: the real program over a real socket.
 
 #include "standin/ledger.h"
 #include "standin/site/fields.h"
@@ -16,7 +16,7 @@ namespace {
 constexpr const char* demo = "?code=07190533026&userid=demo&domain=pondira.example";
 constexpr const char* posted_demo = "code=07190533026&userid=demo&domain=pondira.example";
 
-/// The program, serving the folder's ledger and carrier.ini on a port of its own.
+/// The program, with the folder's ledger and carrier.ini, on a port of its own.
 class Site {
   public:
     Site() : program_([this] { return run(); }) {
@@ -38,7 +38,7 @@ class Site {
     httplib::Response post(const std::string& target, const std::string& body) const {
         return *client().Post(target, body, "application/x-www-form-urlencoded");
     }
-    /// The status line for these bytes.
+    /// The status line of the answer to these bytes.
     std::string status_for(std::string_view bytes) const {
         const int socket = connect_and_send(bytes);
         char start[64];
@@ -47,7 +47,7 @@ class Site {
         const std::string answer(start, static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
         return answer.substr(0, answer.find("\r\n"));
     }
-    /// The browser goes away behind these bytes.
+    /// Sends these bytes and closes the connection.
     void leave_after(std::string_view bytes) const { close(connect_and_send(bytes)); }
 
   private:
@@ -66,7 +66,7 @@ class Site {
         address.sin_port = htons(static_cast<std::uint16_t>(port_));
         address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
         EXPECT_EQ(connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-        // What is refused early is not read to its end.
+        // A request that is refused early is not read to its end.
         send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
         return socket;
     }
@@ -117,7 +117,7 @@ class CarrierSite : public tests::CarrierTest {
     static bool holds(const std::string& page, std::string_view text) {
         return page.find(text) != std::string::npos;
     }
-    /// The address behind the first link with that title, as a browser reads it.
+    /// The address of the first link with that title, as a browser reads it.
     static std::string link_called(const std::string& page, const std::string& title) {
         const std::size_t end = page.find("\">" + title + "</a>");
         if (end == std::string::npos) {
@@ -130,7 +130,7 @@ class CarrierSite : public tests::CarrierTest {
         }
         return address;
     }
-    /// The subjects on a page of results, each ended by a blank.
+    /// The subjects on a page of results, each ended with a blank.
     static std::string subjects(const std::string& page) {
         static constexpr std::string_view before = "&amp;id=";
         std::string all;
@@ -142,7 +142,7 @@ class CarrierSite : public tests::CarrierTest {
     }
 };
 
-TEST_F(CarrierSite, ReadsAPostOfRawBytesAndNothingElse) {
+TEST_F(CarrierSite, ReadsOnlyAPostOfRawBytes) {
     const std::string long_id(300, 'a');
     const struct {
         std::string body;
@@ -170,7 +170,7 @@ TEST_F(CarrierSite, ReadsAPostOfRawBytesAndNothingElse) {
     }
 }
 
-TEST_F(CarrierSite, KnowsASubscriberByHisPostInCp949AndByItsOwnLinks) {
+TEST_F(CarrierSite, KnowsASubscriberFromAPostInCp949AndFromItsOwnLinks) {
     const Site site;
     const std::string hong = "code=1&userid=\xC8\xAB\xB1\xE6\xB5\xBF&domain=d";
     const httplib::Response page = site.post("/inbox", hong);
@@ -193,7 +193,7 @@ TEST_F(CarrierSite, PagesThroughAllOfAUsersRegistrationsNewestFirstAndBack) {
     std::vector<Row> rows;
     std::string newest_first;
     for (int i = 0; i < 45; ++i) {
-        // Several of one moment must neither be lost nor come twice at a page's edge.
+        // At the edge of a page several registrations of one moment must neither be lost nor come twice.
         rows.push_back({.time = "2026-01-05 10:00:0" + std::to_string(i / 10), .subject = std::to_string(i)});
         newest_first = std::to_string(i) + ' ' + newest_first;
     }
@@ -241,7 +241,7 @@ TEST_F(CarrierSite, FiltersByDayAndStateAndKeepsTheFilterOnTheNextPage) {
     EXPECT_EQ(subjects(site.get(list + "&day=2026-02-01").body), "");
 }
 
-TEST_F(CarrierSite, ShowsWhatAnybodyWroteAsTextAndNeverAsMarkup) {
+TEST_F(CarrierSite, ShowsMessagesAsTextAndNeverAsMarkup) {
     enter({{.time = "2026-01-05 10:00:00",
             .subject = "</a><script>alert(1)</script>",
             .content = "\" onclick='x' & <b>\x01\xED\x95\x9C"}});
@@ -260,7 +260,7 @@ TEST_F(CarrierSite, ShowsWhatAnybodyWroteAsTextAndNeverAsMarkup) {
     EXPECT_TRUE(holds(site.get("/%3Cb%3E/htm/register/default.jsp?code=1").body, "<td>&lt;b&gt;</td>"));
 }
 
-TEST_F(CarrierSite, TellsNobodyAPasswordAndNobodyAnothersRegistrations) {
+TEST_F(CarrierSite, ShowsNoPasswordsAndNoRegistrationsOfOthers) {
     enter({{.time = "2026-01-05 10:00:00", .subject = "secret", .user = "홍길동"}});
     const Site site;
     for (const char* target : {"/result", "/result/one", "/money", "/memedit", "/inbox", "/", "/company",
@@ -272,7 +272,7 @@ TEST_F(CarrierSite, TellsNobodyAPasswordAndNobodyAnothersRegistrations) {
     EXPECT_EQ(site.get(std::string("/result/one") + demo + "&id=1").status, 404);
 }
 
-TEST_F(CarrierSite, AnswersHostileRequestsAndGoesOn) {
+TEST_F(CarrierSite, AnswersHostileRequestsAndContinues) {
     const Site site;
     const std::string head = "POST /result HTTP/1.1\r\nHost: h\r\n";
     const struct {
@@ -305,7 +305,7 @@ TEST_F(CarrierSite, AnswersHostileRequestsAndGoesOn) {
     }
 }
 
-TEST_F(CarrierSite, TellsItsPortAndEndsWhenItIsToldTo) {
+TEST_F(CarrierSite, WritesItsPortAndEndsOnASignal) {
     Site site;
     site.get("/");
     int port = 0;

@@ -1,4 +1,5 @@
-// What every `Files` does, the real one and the double that the logic is tested with: the same rows for both.
+// What every `Files` does. The same rows run with the real one and with the double that the tests of the
+// logic use.
 
 #include "tests/support/files_on_disk.h"
 #include "tests/support/memory_files.h"
@@ -15,7 +16,7 @@ using tests::error_number;
 using tests::utf8;
 using Strings = std::vector<std::string>;
 
-/// Files of one kind, with a way to put a link there.
+/// One implementation of `Files`, with a way to make a link.
 struct Place {
     virtual ~Place() = default;
     virtual Files& files() = 0;
@@ -64,7 +65,7 @@ class FilesContract : public testing::TestWithParam<Kind> {
     Files& files = place->files();
 };
 
-TEST_P(FilesContract, NamesMatchInAnyCaseAndKeepTheirFirst) {
+TEST_P(FilesContract, NamesMatchInAnyCaseAndKeepTheirFirstSpelling) {
     files.make_folder(in(u"Box"));
     files.write(in(u"box\\알림A.TXT"), "first");
     EXPECT_EQ(files.read(in(u"BOX\\\\알림a.txt")), "first");
@@ -105,7 +106,7 @@ TEST_P(FilesContract, AFileExistsByItsNameOrAPattern) {
     EXPECT_FALSE(files.file_exists(u"d:\\a.txt"));
 }
 
-TEST_P(FilesContract, AFolderIsListedInOrderWithoutWhatLeadsElsewhere) {
+TEST_P(FilesContract, AFolderIsListedInOrderAndWithoutLinks) {
     files.make_folder(in(u"box"));
     for (const char16_t* name : {u"b.TXT", u"A.txt", u"가.txt", u"d.txtx"})
         files.write(in(u"box\\") + name, "");

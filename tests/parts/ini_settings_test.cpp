@@ -51,7 +51,7 @@ TEST_F(IniSettingsTest, TheFirstWriteMakesTheWindowsDirectory) {
     EXPECT_EQ(names_in(windows), std::set<std::string>{"zent.ini"});
 }
 
-TEST_F(IniSettingsTest, NothingElseInAnyFileIsLost) {
+TEST_F(IniSettingsTest, AWriteLosesNothingElseInTheFile) {
     const std::string section = "[SET]\r\nP_TIME=30\r\n";
     std::string large;
     while (large.size() < 10'000'000) large += "[S" + std::to_string(large.size()) + "]\r\nkey=value\r\n";
@@ -93,7 +93,7 @@ TEST_F(IniSettingsTest, AFileThatCannotBeReadIsNotWritten) {
     EXPECT_EQ(bytes_of(on_disk), "[LOGIN]\r\nAUTOLOGIN=1\r\n");
 }
 
-TEST_F(IniSettingsTest, WhatIsThereAlreadyIsNotWrittenAgain) {
+TEST_F(IniSettingsTest, AnUnchangedValueIsNotWrittenAgain) {
     settings.write(zent_ini, "SET", "P_TIME", "60");
     fs::last_write_time(on_disk, fs::file_time_type());
     settings.write(zent_ini, "set", "p_time", "60");

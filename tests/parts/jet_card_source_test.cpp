@@ -35,13 +35,13 @@ TEST(JetCardSource, OpensWithTheFilesPasswordOnlyAndAFileWithoutOneWithAny) {
                 {"nopass", u"", 0}};
     for (const auto& row : rows) {
         disk.put(row.fixture);
-        // The second time by what is known of the file already.
+        // The second time the source already knows the file.
         for (int time = 0; time < 2; ++time)
             EXPECT_EQ(disk.error(row.password), row.error) << row.fixture << tests::utf8(row.password);
     }
 }
 
-TEST(JetCardSource, RefusesWhatIsNoSoundFile) {
+TEST(JetCardSource, RefusesAMissingOrDamagedFile) {
     CardsOnDisk disk;
     EXPECT_EQ(disk.error(), UNUSABLE) << "missing";
     ASSERT_EQ(::mkfifo(disk.database.c_str(), 0600), 0);
@@ -61,7 +61,7 @@ TEST(JetCardSource, RefusesWhatIsNoSoundFile) {
     EXPECT_EQ(rows_of(*disk.connect(), u"tbl_namecard"), 150) << "a memo, which nobody reads, is broken";
 }
 
-/// Whatever is broken, there are all rows or an error.
+/// However the file is damaged, the result is all rows or an error.
 void expect_all_or_nothing(CardsOnDisk& disk, const std::string& what) {
     static const int folders = static_cast<int>(CardTable("edge.tbl_folder").rows.size());
     static const int cards = static_cast<int>(CardTable("edge.tbl_namecard").rows.size());
@@ -77,7 +77,7 @@ void expect_all_or_nothing(CardsOnDisk& disk, const std::string& what) {
 TEST(JetCardSource, GivesAllCardsOrNoneOfAFileWithAFlippedByteOnAnyPage) {
     CardsOnDisk disk;
     const std::string sound = tests::bytes_of(CardsOnDisk::fixture("edge"));
-    // The first bytes of a page say what it is and where its rows are.
+    // The first bytes of a page hold its type and the positions of its rows.
     constexpr std::size_t OFFSETS[] = {0, 2, 4, 8, 12, 13, 16, 25, 40, 45, 63, 900, 2500, 4000, 4090};
     int n = 0;
     for (std::size_t page = 0; page < sound.size(); page += machine::jet::PAGE_BYTES) {
@@ -106,7 +106,8 @@ TEST(JetCardSource, GivesAllCardsOrNoneOfAFileCutOrOverwrittenByPages) {
 
 TEST(JetCardSource, AColumnThatNothingUsesMayBeOfAnyType) {
     CardsOnDisk disk;
-    // Where the definition of the cards' table tells the types of its columns, which it has in our order.
+    // Position of the column types in the definition of the cards' table, which has the columns in the order
+    // of card_schema.
     constexpr std::size_t TYPES = 27 * machine::jet::PAGE_BYTES + 63 + 12, NEXT_TYPE = 25;
     constexpr char TEXT = 10, MEMO = 12;
     const auto with_memo = [&](std::size_t column) {
@@ -141,9 +142,9 @@ TEST(JetCardSource, ReadsOnceUntilTheFileChanges) {
     EXPECT_EQ(rows_of(*before, u"tbl_namecard"), 150) << "an open connection keeps its contents";
 }
 
-TEST(JetCardSource, ReadsAFileAgainThatWasChangedAMomentAgo) {
+TEST(JetCardSource, ReadsAFileAgainIfItChangedAMomentAgo) {
     CardsOnDisk disk;
-    // Of one length and one date, which no clock has passed by.
+    // Files of the same length and date, and a date in the future.
     const auto date = std::filesystem::file_time_type::clock::now() + std::chrono::hours(1);
     for (const auto& [fixture, folders] :
          {std::pair{"demo", 15}, {"nopass", 15}, {"damaged/flipped-3", -1}}) {
@@ -164,7 +165,7 @@ TEST(JetCardSource, NeverChangesTheFile) {
     EXPECT_EQ(tests::names_in(disk.folder.path()), (std::set<std::string>{"CardvaleDB.vdb", "card-reader"}));
 }
 
-TEST(JetCardSource, SurvivesAReaderThatAnythingHappensTo) {
+TEST(JetCardSource, SurvivesAnyEndOfTheReader) {
     CardsOnDisk disk;
     disk.put("demo");
     for (
@@ -183,7 +184,7 @@ TEST(JetCardSource, SurvivesAReaderThatAnythingHappensTo) {
     EXPECT_EQ(disk.error(), UNUSABLE) << "no reader";
 }
 
-TEST(JetCardSource, WaitsForAReaderThatHangsNoLongerThanAllowedAndKeepsTheWindowAlive) {
+TEST(JetCardSource, KeepsPaintingWhileAReaderHangsAndGivesItUpInTime) {
     tests::TemporaryFolder folder;
     int beats = 0;
     machine::jet::JetCardSource source(

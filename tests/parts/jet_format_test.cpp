@@ -62,7 +62,7 @@ TEST(LikePattern, KnowsWildCardsAndSetsAndNoCase) {
         EXPECT_FALSE(LikePattern::parse(broken)) << utf8(broken);
 }
 
-TEST(Statement, BecomesOneThatSqliteUnderstands) {
+TEST(Statement, IsTranslatedForSqlite) {
     const struct {
         const char16_t *sent, *run;
     } rows[] = {
@@ -70,7 +70,7 @@ TEST(Statement, BecomesOneThatSqliteUnderstands) {
         {u"where f_idx <> 1000", u"where f_idx <> 1000"},
         {u"(select * from t where f_idx=1 or F_IDX=-2 or f_idx=30) a",
          u"(select * from t where +f_idx IN (1,-2,30)) a"},
-        // What is not all of a condition stays.
+        // A part of a condition stays.
         {u"where f_idx=1 or p_idx=2", u"where f_idx=1 or p_idx=2"},
         {u"where f_idx=1 or f_idx=2 and x", u"where f_idx=1 or f_idx=2 and x"},
         {u"where x and f_idx=1 or f_idx=2", u"where x and f_idx=1 or f_idx=2"},
@@ -84,7 +84,7 @@ TEST(Statement, BecomesOneThatSqliteUnderstands) {
     }
 }
 
-TEST(JetText, IsUtf16OrRunsOfSingleBytesBehindAMark) {
+TEST(JetText, IsUtf16OrCompressedAfterAMark) {
     const struct {
         std::string_view bytes;
         const char16_t* text;
@@ -102,7 +102,7 @@ TEST(JetText, IsUtf16OrRunsOfSingleBytesBehindAMark) {
         EXPECT_FALSE(decode_jet_text(broken));
 }
 
-TEST(ConnectionString, NamesAFileAndAPassword) {
+TEST(ConnectionString, HoldsAFileAndAPassword) {
     const auto parsed = ConnectionString::parse(
         u"provider=x;Data Source=z:\\앱\\a b.vdb;jet oledb:database password=p=1;User ID=admin;;");
     EXPECT_EQ(utf8(parsed.data_source), "z:\\앱\\a b.vdb");
@@ -110,25 +110,25 @@ TEST(ConnectionString, NamesAFileAndAPassword) {
     EXPECT_TRUE(ConnectionString::parse(u"").data_source.empty());
 }
 
-struct Taken {
+struct Parsed {
     std::string text;
     bool good = true, complete = false;
 };
 
-/// What a parser makes of the stream that comes in pieces of this length.
-Taken parsed(std::string_view stream, std::size_t piece) {
-    Taken taken;
+/// What a parser makes of the stream when it arrives in pieces of this length.
+Parsed parse(std::string_view stream, std::size_t piece) {
+    Parsed result;
     CardStreamParser parser([&](Table table, const Row& row) {
-        taken.text += table == Table::folder ? "F" : "C";
+        result.text += table == Table::folder ? "F" : "C";
         for (const Cell& cell : row) {
-            if (const auto* number = std::get_if<std::int32_t>(&cell)) taken.text += std::to_string(*number);
-            if (const auto* text = std::get_if<TextView>(&cell)) taken.text += "'" + utf8(*text) + "'";
+            if (const auto* number = std::get_if<std::int32_t>(&cell)) result.text += std::to_string(*number);
+            if (const auto* text = std::get_if<TextView>(&cell)) result.text += "'" + utf8(*text) + "'";
         }
     });
-    for (; !stream.empty() && taken.good; stream.remove_prefix(std::min(piece, stream.size())))
-        taken.good = parser.feed(stream.substr(0, piece));
-    taken.complete = parser.is_complete();
-    return taken;
+    for (; !stream.empty() && result.good; stream.remove_prefix(std::min(piece, stream.size())))
+        result.good = parser.feed(stream.substr(0, piece));
+    result.complete = parser.is_complete();
+    return result;
 }
 
 std::string sample_stream() {
@@ -140,22 +140,22 @@ std::string sample_stream() {
     return stream;
 }
 
-TEST(CardStream, ComesWholeInAnyPiecesOrCountsAsNone) {
+TEST(CardStream, IsWholeInAnyPiecesOrDiscarded) {
     const std::string stream = sample_stream();
     for (const std::size_t piece : {std::size_t{1}, std::size_t{7}, stream.size()}) {
-        const Taken taken = parsed(stream, piece);
-        EXPECT_EQ(taken.text, "F10'전체'F-71''C-72147483647'김\t수'");
-        EXPECT_TRUE(taken.complete);
+        const Parsed result = parse(stream, piece);
+        EXPECT_EQ(result.text, "F10'전체'F-71''C-72147483647'김\t수'");
+        EXPECT_TRUE(result.complete);
     }
     for (std::size_t end = 0; end < stream.size(); ++end) {
-        const Taken taken = parsed(stream.substr(0, end), 16);
-        EXPECT_TRUE(taken.good) << end;
-        EXPECT_FALSE(taken.complete) << end;
+        const Parsed result = parse(stream.substr(0, end), 16);
+        EXPECT_TRUE(result.good) << end;
+        EXPECT_FALSE(result.complete) << end;
     }
-    EXPECT_FALSE(parsed(stream + "x", 16).good) << "something behind the end";
+    EXPECT_FALSE(parse(stream + "x", 16).good) << "something behind the end";
 }
 
-TEST(CardStream, IsBrokenWhereItDoesNotSayWhatItShould) {
+TEST(CardStream, IsRefusedAtItsFirstFault) {
     const std::string stream = sample_stream();
     std::string wrong_count = stream_start();
     append_row(wrong_count, Table::folder, {1, 0, TextView(u"전체")});
@@ -169,7 +169,7 @@ TEST(CardStream, IsBrokenWhereItDoesNotSayWhatItShould) {
     long_text[25] = 127;
     for (const auto& broken :
          {wrong_count, text_for_a_number, other_version, other_table, long_frame, long_text}) {
-        EXPECT_FALSE(parsed(broken, broken.size()).good);
+        EXPECT_FALSE(parse(broken, broken.size()).good);
     }
 }
 

@@ -1,4 +1,4 @@
-// The picker over real card databases: what it shows is what an independent reader wrote down of them.
+// The picker over real card databases: it must show what an independent reader recorded of them.
 
 #include "addressbook/frmSendMan.h"
 #include "machine/posix/posix_files.h"
@@ -43,7 +43,7 @@ struct PickerCards : testing::Test, tests::TestPlatform {
     }
 };
 
-/// What a database holds, as the fixture tells.
+/// What a database holds according to its fixture.
 struct Written {
     explicit Written(const std::string& database)
         : folders(database + ".tbl_folder"), cards(database + ".tbl_namecard") {
@@ -65,7 +65,7 @@ struct Written {
             return cards.number(row, u"f_idx") == folder;
         }));
     }
-    /// The names of the cards that can be listed and that the condition lets through.
+    /// The names of the cards that can be listed and that meet the condition.
     Rows names(const std::function<bool(const CardTable::Row&)>& condition) const {
         Rows names;
         for (const auto& row : cards.rows) {
@@ -147,7 +147,7 @@ TEST_F(PickerCards, ASearchFindsNamesAndCompaniesOutsideTheTrashInEveryMode) {
     }
 }
 
-TEST_F(PickerCards, ADamagedDatabaseIsToldAndShowsNoPartOfItsCards) {
+TEST_F(PickerCards, ADamagedDatabaseIsReportedAndShowsNoneOfItsCards) {
     disk.put_bytes("no database");
     desktop.expect_box(u"오류번호:");
     desktop.expect_box(u"오류번호:");

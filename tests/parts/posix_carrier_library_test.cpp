@@ -23,7 +23,7 @@ std::int32_t notify_11(std::int32_t, std::int32_t, std::int32_t, std::int32_t, s
     return 1;
 }
 
-/// The carrier's stand-in in the current directory, a folder of the test's own.
+/// The product's side of the library, with the stand-in's library in the current directory.
 class PosixCarrierLibraryTest : public tests::CarrierTest {
   protected:
     std::int32_t bind() {
@@ -137,7 +137,7 @@ TEST_F(PosixCarrierLibraryTest, EveryArgumentArrivesInItsPlace) {
                     "tts|2|a.wav;A.WAV;"}));
 }
 
-TEST_F(PosixCarrierLibraryTest, BuffersComeBackInTheirOwnLengthWhateverTheLibraryWrote) {
+TEST_F(PosixCarrierLibraryTest, BuffersKeepTheirLengthWhateverTheLibraryWrites) {
     fs::copy_file(CARRIER_LIBRARY, LIBRARY);
     for (const char* faults :
          {"", "[failures]\nno_nul=1\n", "[failures]\noverrun=200\n", "[failures]\nno_nul=1\noverrun=200\n"}) {
@@ -157,7 +157,7 @@ TEST_F(PosixCarrierLibraryTest, BuffersComeBackInTheirOwnLengthWhateverTheLibrar
     }
 }
 
-TEST_F(PosixCarrierLibraryTest, WhatIsNoLibraryIsTheSameErrorAtEveryCall) {
+TEST_F(PosixCarrierLibraryTest, AFileThatIsNoLibraryGivesTheSameErrorAtEveryCall) {
     EXPECT_EQ(numbers_of(errors_of_all()), std::vector<int>(6, 48)) << "a missing file";
     std::ofstream(LIBRARY) << "no library\n";
     EXPECT_EQ(numbers_of(errors_of_all()), std::vector<int>(6, 48)) << "a text file";

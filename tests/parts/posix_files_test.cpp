@@ -32,7 +32,7 @@ class PosixFilesTest : public testing::Test, protected tests::FilesOnDisk {
     }
 };
 
-TEST_F(PosixFilesTest, PathsLieWhereTheirDriveIs) {
+TEST_F(PosixFilesTest, PathsBelongToTheirDrive) {
     const Paths paths(application);
     const std::string app = application;
     const std::vector<std::pair<Text, std::string>> cases = {
@@ -76,7 +76,7 @@ TEST_F(PosixFilesTest, NamesMatchExactlyFirstAndThenInAnyCase) {
     EXPECT_EQ(bytes_of(application / "Temp/알림A.TXT"), "again") << "not a second file beside the old one";
 }
 
-TEST_F(PosixFilesTest, WhatIsHiddenOrNoNormalFileDoesNotExist) {
+TEST_F(PosixFilesTest, HiddenFilesAndWhatIsNoFileDoNotExist) {
     fs::create_directory(application / "box");
     put(application / "box/.hidden.txt", "");
     fs::create_directory(application / "bare");
@@ -96,7 +96,7 @@ TEST_F(PosixFilesTest, AFileOfTwoGigabytesIsMeasuredWithoutBeingRead) {
     EXPECT_EQ(files.length(u"scan.tif"), std::uintmax_t{1} << 31);
 }
 
-TEST_F(PosixFilesTest, AWrittenFileIsItsUsersAlone) {
+TEST_F(PosixFilesTest, OnlyTheUserCanReadAWrittenFile) {
     const std::string bytes("\0\r\n\xC7\xD1\x1A end", 10);
     put(application / "old.txt", "old");
     fs::permissions(application / "old.txt", fs::perms(0666));
@@ -137,7 +137,7 @@ TEST_F(PosixFilesTest, RemovingAFolderStaysInsideIt) {
     EXPECT_EQ(names_in(folder.path() / "outside"), std::set<std::string>{"kept"});
 }
 
-TEST_F(PosixFilesTest, AListIsWithoutWhatIsHiddenAndPutsSyllablesTogether) {
+TEST_F(PosixFilesTest, AListLeavesOutHiddenFilesAndComposesSyllables) {
     const std::string apart = to_utf8(decompose_hangul(u"하.txt"));
     fs::create_directories(application / "box/나");
     fs::create_directories(application / "box/.a");
@@ -165,7 +165,7 @@ TEST_F(PosixFilesTest, AListIsWithoutWhatIsHiddenAndPutsSyllablesTogether) {
         << "two spellings of one name stay two files";
 }
 
-TEST_F(PosixFilesTest, WhatIsHiddenKeepsAFolderAndTheRemainsOfAKilledWriteDoNot) {
+TEST_F(PosixFilesTest, AHiddenFileKeepsAFolderButTheRemainsOfAKilledWriteDoNot) {
     fs::create_directories(application / "box/sub");
     put(application / "box/.b", "b");
     fs::create_symlink(application / "elsewhere", application / "box/link.txt");
@@ -180,7 +180,7 @@ TEST_F(PosixFilesTest, WhatIsHiddenKeepsAFolderAndTheRemainsOfAKilledWriteDoNot)
     EXPECT_EQ(names_in(application), NOTHING);
 }
 
-TEST_F(PosixFilesTest, OddNamesThatAreThereOpenButNoneIsMade) {
+TEST_F(PosixFilesTest, ExistingOddNamesOpenButNewOnesAreRefused) {
     put(application / "a:b?.txt", "old");
     EXPECT_EQ(files.read(u".\\a:b?.txt"), "old");
     EXPECT_EQ(error_number([&] { files.write(u"c:\\a*b", "x"); }), 52);
@@ -194,7 +194,7 @@ TEST_F(PosixFilesTest, AFileOfMoreThanTwoGigabytesIsMeasured) {
     EXPECT_EQ(files.length(u"scan.tif"), 3'000'000'000u);
 }
 
-TEST_F(PosixFilesTest, WhatWouldNeverEndIsNotRead) {
+TEST_F(PosixFilesTest, EndlessFilesAreNotRead) {
     ::mkfifo((application / "pipe").c_str(), 0600);
     for (const char16_t* path : {u"pipe", u"z:\\dev\\zero"})
         EXPECT_EQ(error_number([&] { files.read(path); }), 75) << to_utf8(path);
@@ -230,7 +230,7 @@ TEST_F(PosixFilesTest, AFullDiskLeavesTheOldFile) {
     EXPECT_EQ(names_in(application), std::set<std::string>{"zent.ini"});
 }
 
-TEST_F(PosixFilesTest, AFileThatIsWrittenInPiecesShowsThemAfterAFlushOrOnceTheyAreMany) {
+TEST_F(PosixFilesTest, PiecesAreInTheFileAfterAFlushOrWhenTheyAreMany) {
     put(application / "old", "an old file");
     const auto file = files.open_for_writing(u"OLD");
     file->write("th");
@@ -253,7 +253,7 @@ TEST_F(PosixFilesTest, OnlyNormalFilesAreWrittenInPieces) {
     EXPECT_FALSE(fs::exists(application / "target"));
 }
 
-TEST_F(PosixFilesTest, AKilledWriteLeavesTheOldFileAndTheNextOneSweepsUp) {
+TEST_F(PosixFilesTest, AKilledWriteLeavesTheOldFileAndTheNextOneRemovesItsRemains) {
     files.write(u"zent.ini", "old");
     for (const rlim_t bytes : {0, 1, 99999}) {
         tests::ChildProcess child([&] {
@@ -276,9 +276,9 @@ TEST_F(PosixFilesTest, AKillAtAnyMomentLeavesTheOldFileOrTheNewOne) {
         tests::Pipe begun;
         tests::ChildProcess writer([&] {
             for (;;) {
-                begun.tell();
+                begun.signal();
                 files.write(u"zent.ini", new_file);
-                begun.tell();
+                begun.signal();
                 files.write(u"zent.ini", old_file);
             }
             return 0;
@@ -290,7 +290,7 @@ TEST_F(PosixFilesTest, AKillAtAnyMomentLeavesTheOldFileOrTheNewOne) {
     }
 }
 
-TEST_F(PosixFilesTest, WhatTheUserNamesIsReadByWhomeverHeLetsAndTheProgramsOwnByHimAlone) {
+TEST_F(PosixFilesTest, FilesTheUserNamesKeepTheUsersPermissionsAndTheProgramsOwnArePrivate) {
     ::umask(027);
     const struct {
         fs::path path;

@@ -21,7 +21,7 @@ TEST(PosixShell, ASecondInstanceSeesTheFirstUntilItIsKilled) {
     tests::ChildProcess first([&] {
         PosixShell shell{Paths(folder.path())};
         if (shell.another_instance_runs() || shell.another_instance_runs()) return 1;
-        started.tell();
+        started.signal();
         for (;;) ::pause();
     });
     ASSERT_TRUE(started.wait());
@@ -38,7 +38,7 @@ TEST(PosixShell, ASecondInstanceSeesTheFirstUntilItIsKilled) {
     EXPECT_FALSE(second.another_instance_runs());
 }
 
-/// A program to open things with that answers with the number of its arguments and the first of them.
+/// A program that opens things: it reports the number of its arguments and the first of them.
 struct Opener {
     Opener() {
         ::mkfifo(fifo.c_str(), 0600);
@@ -55,7 +55,7 @@ struct Opener {
     PosixShell shell{Paths(folder.path()), program};
 };
 
-TEST(PosixShell, OpeningHandsThePathOverAsOneArgumentAndLeavesNoDeadProcess) {
+TEST(PosixShell, OpeningPassesThePathAsOneArgumentAndLeavesNoDeadProcess) {
     Opener opener;
     opener.shell.open(u"c:\\temp\\$(touch 나쁜) \"파일\".wav");
     const std::string path = opener.folder.path() / "drive_c/temp/$(touch 나쁜) \"파일\".wav";
@@ -70,7 +70,7 @@ TEST(PosixShell, OnlyPagesReachTheBrowser) {
          {u"", u" ", u"file:///etc/passwd", u"mailto:a@b.example", u"javascript:alert(1)", u"about:config",
           u"tel:15880000", u"www.a.example:x", u"vnd.a:1@b"})
         opener.shell.open_page(Text(refused));
-    // What had been opened for one of those would be among the answers.
+    // If one of those had been opened, it would be among the answers.
     const std::pair<TextView, const char*> pages[] = {
         {u"https://pondira.example/a?b=$(c)&d='e f'", "1:https://pondira.example/a?b=$(c)&d='e f'"},
         {u"HTTP://폰디라.example", "1:HTTP://폰디라.example"},
@@ -86,7 +86,7 @@ TEST(PosixShell, OnlyPagesReachTheBrowser) {
     }
 }
 
-TEST(PosixShell, AProgramIsStartedByItsNameAndItsPermission) {
+TEST(PosixShell, AProgramIsStartedIfItsNameAndItsPermissionAllowIt) {
     const tests::TemporaryFolder folder;
     const fs::path answer = folder.path() / "answer";
     ::mkfifo(answer.c_str(), 0600);
@@ -120,7 +120,7 @@ TEST(PosixShell, TheProcessEndsAtOnce) {
     EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 
-TEST(PosixShell, WhatCannotBeOpenedIsSilent) {
+TEST(PosixShell, AFailureToOpenIsSilent) {
     const tests::TemporaryFolder folder;
     PosixShell shell(Paths(folder.path()), folder.path() / "no opener");
     shell.open(u"a.txt");

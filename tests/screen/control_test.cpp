@@ -42,7 +42,7 @@ TEST_F(ControlTest, ATabRaisesItsClickEachTimeAndOnce) {
     EXPECT_EQ(tabs.currentIndex(), 0);
 }
 
-TEST_F(ControlTest, ChecksAndOptionsAreWhatTheirHandlersLeaveThem) {
+TEST_F(ControlTest, ChecksAndOptionsShowWhatTheirHandlersSet) {
     std::vector<std::string> events;
     form.Check1.Click.connect([&] { events.push_back(form.Check1.checked() ? "on" : "off"); });
     form.Option1.Click.connect([&] { events.push_back("1"), form.Option2.set_chosen(false); });
@@ -138,7 +138,7 @@ TEST_F(ControlTest, AnotherDayKeepsTheTimeOfDay) {
     EXPECT_EQ(date.date(), QDate(1969, 12, 31));
 }
 
-TEST_F(ControlTest, TheWheelPassesOverEveryChoiceThatTheUserHasNotGoneTo) {
+TEST_F(ControlTest, TheWheelChangesOnlyTheChoiceThatHasTheFocus) {
     form.Combo3.add_row(u"00");
     form.Combo3.add_row(u"01");
     form.txtUserName.add_row(u"Hong");
@@ -161,7 +161,7 @@ TEST_F(ControlTest, TheWheelPassesOverEveryChoiceThatTheUserHasNotGoneTo) {
     EXPECT_NE(form.DTP1.value(), platform::make_time(2010, 3, 1, 13, 5, 7));
 }
 
-TEST_F(ControlTest, ACaptionLeavesTheShortcutThatTheScreenGives) {
+TEST_F(ControlTest, ACaptionKeepsTheScreensShortcut) {
     auto& button = find<QPushButton>("Command2");
     button.setShortcut(QKeySequence("Ctrl+Q"));
     form.Command2.set_caption(u"끝내기");

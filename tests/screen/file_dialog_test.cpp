@@ -27,7 +27,7 @@ class FileDialogs : public DeskTest {
         for (const char* name : {"글.txt", "소리.WAV", "그림.jpg"}) put(documents / name, "x");
     }
 
-    /// What the dialog answers while the user does this in it.
+    /// The dialog's answer after the user has done this in it.
     std::string ask(const FileQuestion& question, const std::function<void(QFileDialog&)>& act) {
         QTimer::singleShot(0, [&] {
             auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -92,7 +92,7 @@ TEST_F(FileDialogs, ShowTheFilesOfTheFilterAndTheNameThatWasChosenBefore) {
         in_documents + "소리.WAV");
 }
 
-TEST_F(FileDialogs, SpeakKorean) {
+TEST_F(FileDialogs, AreInKorean) {
     machine::qt::KoreanTranslator korean;
     QApplication::installTranslator(&korean);
     for (const FileQuestion* question : {&open, &save}) {

@@ -1,4 +1,4 @@
-// The main window at the byte limit of its texts, while syllables are unfinished.
+// The main window's byte limits while a syllable is unfinished.
 
 #include "compose/main_form.h"
 #include "core/byte_length.h"
@@ -27,12 +27,12 @@ using compose::MessageKind::plus;
 using compose::MessageKind::text;
 using platform::Text;
 
-/// What an input method does when the field ends a composition, or the focus goes where no text is.
+/// What an input method does when the field ends a composition, or when the focus leaves the text fields.
 enum class Manner {
     /// Nothing: it relies on the field.
     silent,
-    /// Commits what it has, though the field may have done so, and only then forgets it; and when it is told
-    /// to forget, it commits once more, to whoever has the focus by then.
+    /// Commits what it has, though the field may have done so already, and only then forgets it. When the
+    /// field resets it, it commits once more, into whichever field has the focus by then.
     commits_again,
 };
 
@@ -41,7 +41,7 @@ class InputMethod : public QObject {
     explicit InputMethod(Manner manner) : manner_(manner) { qApp->installEventFilter(this); }
 
     void compose(const QString& commit, const QString& unfinished) {
-        // A box that has just closed gives the focus back in a while.
+        // A box that has just closed returns the focus a little later.
         QCoreApplication::processEvents();
         unfinished_ = unfinished;
         send(commit, unfinished);
@@ -82,7 +82,7 @@ class InputMethod : public QObject {
     QEvent* own_ = nullptr;
 };
 
-/// The main window with one of its texts in the works.
+/// The main window while one of its texts is being written.
 struct Draft : WindowsOnDoubles {
     Draft(compose::MessageKind kind, Manner manner) : method(manner), kind(kind) {
         state.session.gLoggedIn = true;
@@ -99,7 +99,9 @@ struct Draft : WindowsOnDoubles {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    platform::TextBox& field() { return kind == compose::MessageKind::text ? form.text.mText1 : form.plus.mText2; }
+    platform::TextBox& field() {
+        return kind == compose::MessageKind::text ? form.text.mText1 : form.plus.mText2;
+    }
     const char* field_name() const { return kind == compose::MessageKind::text ? "mText1" : "mText2"; }
 
     void write(const Text& text) {
@@ -108,7 +110,7 @@ struct Draft : WindowsOnDoubles {
         field().set_caret_to_end();
     }
 
-    /// The steps of a syllable up to its end.
+    /// Types the steps of a syllable up to its end.
     void type_han() {
         leave_han_unfinished();
         method.compose("한", "");
@@ -134,7 +136,7 @@ struct Draft : WindowsOnDoubles {
     compose::frmZent form{hasty, state, {.send = [this] { send::check_and_send(hasty, state, form); }}};
 };
 
-/// A line end counts two bytes, and there are none in the subject.
+/// Line ends, of two bytes each; the subject drops them.
 const Text LINES = [] {
     Text text;
     for (int i = 0; i < 35; ++i) text += platform::CRLF;
@@ -150,11 +152,11 @@ struct Case {
     /// The caret is at its end.
     Text before;
     std::function<void(Draft&)> act;
-    /// The boxes that open: Y and N for the question about a long text and its answer, ! for the warning.
+    /// The boxes that open: Y or N for the question about a long text with its answer, ! for the warning.
     std::string boxes;
     Text after;
     Text subject;
-    /// At the end when it is not told.
+    /// The end of the text if not given.
     std::optional<std::size_t> caret = {};
 };
 
@@ -170,7 +172,7 @@ class HangulLimits : public DeskTest {
                 c.act(draft);
                 settle();
                 check(draft, c);
-                // Nothing is left unfinished that another key would bring back.
+                // No unfinished syllable is left that another key would bring back.
                 draft.field().set_focus();
                 draft.key(Qt::Key_End, Qt::ControlModifier);
                 settle();
@@ -236,7 +238,7 @@ void han_and_the_next(Draft& draft) {
     draft.method.compose("한", "ㄱ");
 }
 
-/// In front of the letters, behind the line ends.
+/// Before the letters and after the line ends.
 void han_in_the_middle(Draft& draft) {
     draft.field().select(LINES.size(), 0);
     draft.type_han();
@@ -263,7 +265,8 @@ void click_subject(Draft& draft) {
     press("subjectText");
 }
 
-/// Too long to follow the text. One that follows may be left before or after the refusal, as desktops differ.
+/// Too long to follow the text. Whether a subject that follows is updated before or after the refusal differs
+/// between desktops.
 const Text OWN_SUBJECT = u"열다섯 글자보다 더 긴 제목";
 
 void click_subject_of_its_own(Draft& draft) {
@@ -271,7 +274,7 @@ void click_subject_of_its_own(Draft& draft) {
     click_subject(draft);
 }
 
-TEST_F(HangulLimits, ATextMessageAsksOnceAndNeitherLosesNorDoublesASyllable) {
+TEST_F(HangulLimits, ATextMessageAsksOnceAndLosesAndDoublesNoSyllable) {
     play(compose::MessageKind::text,
          {
              {"to exactly 80", AT_78, han, "", AT_78 + u"한", u"가나다라한"},
@@ -295,7 +298,7 @@ TEST_F(HangulLimits, ATextMessageAsksOnceAndNeitherLosesNorDoublesASyllable) {
          });
 }
 
-TEST_F(HangulLimits, BackspaceInALongTextTakesLettersAndSyllablesWithoutAWord) {
+TEST_F(HangulLimits, BackspaceInALongTextRemovesLettersAndSyllablesWithoutABox) {
     play(compose::MessageKind::text, {{"above the limit", AT_79,
                                        [](Draft& draft) {
                                            for (const char* syllable : {"한", "글"})
@@ -375,7 +378,7 @@ TEST_F(HangulLimits, TheRestOfAShortcutDoesNotAnswerTheQuestion) {
     play(compose::MessageKind::text, {{"no", AT_79, hold_ctrl, "N!", AT_79, u"가나다라a"}});
 }
 
-TEST_F(HangulLimits, AnotherKindBeginsItsTextWhateverWasUnfinished) {
+TEST_F(HangulLimits, AnotherKindBeginsItsTextWithoutTheUnfinishedSyllable) {
     for (const Manner manner : {Manner::silent, Manner::commits_again}) {
         for (const std::string boxes : {"Y", "N!"}) {
             SCOPED_TRACE(boxes);
@@ -386,7 +389,8 @@ TEST_F(HangulLimits, AnotherKindBeginsItsTextWhateverWasUnfinished) {
             draft.leave_han_unfinished();
             auto& tabs = find<QTabBar>("TabStrip1");
             const auto click_tab = [&](compose::MessageKind kind) {
-                QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(static_cast<int>(kind) - 1).center());
+                QTest::mouseClick(&tabs, Qt::LeftButton, {},
+                                  tabs.tabRect(static_cast<int>(kind) - 1).center());
                 settle();
             };
             click_tab(compose::MessageKind::plus);
@@ -409,7 +413,7 @@ TEST_F(HangulLimits, AnotherKindBeginsItsTextWhateverWasUnfinished) {
     }
 }
 
-/// Sends a text whose last syllable is unfinished.
+/// Sends a text with an unfinished last syllable.
 class HangulSending : public HangulLimits {
   protected:
     static void send(Draft& draft, bool by_key) {
@@ -438,7 +442,7 @@ class HangulSending : public HangulLimits {
     }
 };
 
-TEST_F(HangulSending, WhatGoesIsTheTextWithTheSyllable) {
+TEST_F(HangulSending, SendsTheTextWithTheUnfinishedSyllable) {
     struct Sent {
         compose::MessageKind kind;
         Text before;

@@ -11,7 +11,7 @@ namespace {
 
 using platform::Text;
 
-/// Typing into the message field, whose Change handler is written down.
+/// Types into the message field and records its Change events.
 class HangulTest : public ScreenTest {
   protected:
     void SetUp() override {
@@ -30,7 +30,7 @@ class HangulTest : public ScreenTest {
     std::function<void()> on_change = [] {};
 };
 
-TEST_F(HangulTest, OnlyCommittedSyllablesAreTextAndEachIsOneChange) {
+TEST_F(HangulTest, OnlyCommittedSyllablesAreTextAndEachRaisesOneChange) {
     compose("", "ㅎ");
     compose("", "하");
     compose("", "한");
@@ -53,7 +53,7 @@ TEST_F(HangulTest, AfterACutTheNextSyllableStartsAnew) {
     };
     compose("가나다", "ㄹ");
     EXPECT_EQ(shown(), "가나");
-    // An input method that was told to start anew may still commit what it had.
+    // An input method that was reset may still commit what it had.
     compose("ㄹ", "");
     EXPECT_EQ(shown(), "가나");
     QTest::keyClick(&edit(), Qt::Key_Backspace);
@@ -62,7 +62,7 @@ TEST_F(HangulTest, AfterACutTheNextSyllableStartsAnew) {
     EXPECT_EQ(shown(), "가ㄹ");
 }
 
-TEST_F(HangulTest, WhatIsPressedInMidCompositionActsOnceOnTheFinishedText) {
+TEST_F(HangulTest, AKeyOrClickDuringACompositionActsOnceOnTheFinishedText) {
     std::vector<Text> seen;
     const auto note = [&] { seen.push_back(form.mText1.text()); };
     form.Command1.Click.connect(note);
@@ -133,12 +133,12 @@ TEST_F(HangulTest, AnInputMethodThatCommitsLateCountsAsAnEditAfterTheHandlers) {
     EXPECT_EQ(shown(), "새");
 }
 
-TEST_F(HangulTest, SettingAnotherTextInMidCompositionEndsIt) {
+TEST_F(HangulTest, SettingAnotherTextEndsTheComposition) {
     compose("가", "ㄴ");
     form.mText1.set_text(u"다른 글");
     compose("ㄴ", "");
     EXPECT_EQ(shown(), "다른 글");
-    // The same text again touches nothing.
+    // Setting the same text again changes nothing.
     compose("", "ㄷ");
     form.mText1.set_text(u"다른 글");
     compose("다", "");
@@ -161,7 +161,7 @@ TEST_F(HangulTest, AClickIntoTheFieldKeepsTheSyllable) {
     EXPECT_EQ(form.HText1.text(), u"한");
 }
 
-TEST_F(HangulTest, OneLineFieldsAndEditableBoxesFollowTheSameOrder) {
+TEST_F(HangulTest, OneLineFieldsAndEditableListsBehaveTheSame) {
     form.HText1.set_focus();
     std::vector<Text> texts;
     form.HText1.Change.connect([&] {

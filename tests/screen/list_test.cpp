@@ -50,7 +50,7 @@ class ListTest : public ScreenTest {
 
 using Rows = std::vector<std::size_t>;
 
-TEST_F(ListTest, TheSelectedRowsAndTheSelectedItemAreTheUsers) {
+TEST_F(ListTest, TheSelectedRowsAndTheSelectedItemFollowTheUser) {
     struct Step {
         const char* name;
         std::function<void()> act;
@@ -72,7 +72,7 @@ TEST_F(ListTest, TheSelectedRowsAndTheSelectedItemAreTheUsers) {
     }
 }
 
-TEST_F(ListTest, TheSelectionByCodeShowsOnceTheHandlerIsThrough) {
+TEST_F(ListTest, ASelectionByCodeShowsWhenTheHandlerHasReturned) {
     struct Step {
         const char* name;
         std::function<void()> act;
@@ -107,7 +107,7 @@ TEST_F(ListTest, SortingKeepsTheSelectionOnItsRows) {
     EXPECT_EQ(view().header()->sectionSize(0), 60) << "columns keep their widths";
 }
 
-TEST_F(ListTest, ChecksAreTheUsersAloneByMouseAndBySpace) {
+TEST_F(ListTest, OnlyTheUserRaisesChecksWithMouseOrSpace) {
     std::vector<std::pair<std::size_t, bool>> checks;
     list.ItemCheck.connect([&](std::size_t row) { checks.emplace_back(row, list.row(row).checked()); });
     list.set_checked(3, false);
@@ -187,7 +187,7 @@ TEST_F(ListTest, AScreenReaderAlwaysFindsANameAndACurrentRow) {
     EXPECT_TRUE(view().currentIndex().isValid());
 }
 
-TEST_F(ListTest, RowsThatComeOneByOneAreScrolledToOnce) {
+TEST_F(ListTest, RowsAddedOneByOneScrollTheListOnce) {
     for (int i = 0; i < 20000; ++i) {
         list.deselect_item();
         const std::size_t row = list.add_row(u"", {u"이름", u"01012345678"}, true);

@@ -6,7 +6,7 @@
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_ACCESSIBILITY", "1");
-    // The servers are on this machine, whatever the proxy of its user.
+    // The servers are on this machine: bypass the user's proxy.
     qputenv("no_proxy", "127.0.0.1");
     machine::qt::QtApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);

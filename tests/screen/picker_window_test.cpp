@@ -19,7 +19,7 @@ namespace {
 using addressbook::frmSendMan;
 using platform::Text;
 
-/// The picker in its real window, over a card database of the test's.
+/// The picker in its real window, over the test's own card database.
 struct PickerWindow : DeskTest {
     Picking picking;
     machine::qt::Screens screens = machine::qt::program_screens();
@@ -32,7 +32,7 @@ struct PickerWindow : DeskTest {
         picking.found.assign(5, {.name = u"홍길동", .cellphone = u"010-1111-2222"});
     }
 
-    /// What the user does in the window until it closes.
+    /// Opens the window, lets the user do this in it, and closes it.
     void show(const std::function<void()>& act, const Text& kind = u"문자메시지") {
         QTimer look;
         QObject::connect(&look, &QTimer::timeout, [&] {
@@ -62,7 +62,7 @@ struct PickerWindow : DeskTest {
     QWidget& window() { return *tree().window(); }
 };
 
-TEST_F(PickerWindow, EveryWayToAFolderTellsItOnce) {
+TEST_F(PickerWindow, EveryWayToChooseAFolderRaisesOneClick) {
     show([this] {
         std::vector<std::string> chosen;
         picker.TreeView1.NodeClick.connect(
@@ -85,7 +85,7 @@ TEST_F(PickerWindow, EveryWayToAFolderTellsItOnce) {
     });
 }
 
-TEST_F(PickerWindow, TheTreeShowsWhatBecomesOfItsNodes) {
+TEST_F(PickerWindow, TheTreeFollowsTheChangesOfItsNodes) {
     show([this] {
         EXPECT_EQ(node(2).data().toString(), "거래처(1)");
         EXPECT_TRUE(tree().isExpanded(node(1)));
@@ -149,7 +149,7 @@ TEST_F(PickerWindow, EnterSearchesInTheSearchLineAndConfirmsElsewhere) {
     });
 }
 
-TEST_F(PickerWindow, AButtonsKeyPressesItAtOnceAndSwallowsNoEscape) {
+TEST_F(PickerWindow, AShortcutPressesItsButtonAtOnceAndSwallowsNoEscape) {
     show([this] {
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row(0));
         QTest::keyClick(&list(), Qt::Key_A, Qt::AltModifier);
@@ -159,7 +159,7 @@ TEST_F(PickerWindow, AButtonsKeyPressesItAtOnceAndSwallowsNoEscape) {
     });
 }
 
-TEST_F(PickerWindow, ADoubleClickAddsAndStaysAndEscapeLeaves) {
+TEST_F(PickerWindow, ADoubleClickAddsAndEscapeCloses) {
     show([this] {
         QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row(1));
         EXPECT_EQ(window().windowTitle(), "발송대상 선택-3/5/2");
@@ -174,7 +174,7 @@ TEST_F(PickerWindow, ADoubleClickAddsAndStaysAndEscapeLeaves) {
     });
 }
 
-TEST_F(PickerWindow, ColumnsShareTheRoomAlsoWhenTheWindowChanges) {
+TEST_F(PickerWindow, ColumnsShareTheWidthAlsoWhenTheWindowChanges) {
     const auto columns = [this] {
         std::vector<int> widths;
         for (int i = 0; i < list().header()->count(); ++i) widths.push_back(list().header()->sectionSize(i));
@@ -216,7 +216,7 @@ TEST_F(PickerWindow, IsPaintedWhileALongListFills) {
     });
 }
 
-TEST_F(PickerWindow, AMouseThatMovesOverItEndsTheFillingOfALongList) {
+TEST_F(PickerWindow, MovingTheMouseOverItStopsTheFillingOfALongList) {
     show([this] {
         struct Mover : QObject {
             explicit Mover(QWidget& bar) : bar(bar) { bar.installEventFilter(this); }

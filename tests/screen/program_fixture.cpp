@@ -41,12 +41,11 @@ void WindowPlayer::in_window(const char* name, Act act, Condition condition) {
 }
 
 void WindowPlayer::look() {
-    // A timer of its own for each look: what a step does may open a window and return only when that is
-    // closed.
+    // A new timer for each look: a step may open a window and return only when that is closed.
     QTimer::singleShot(0, this, &WindowPlayer::look);
     QWidget* window = front_window();
     if (steps_.empty() || window == nullptr || window->objectName() != steps_.front().window) return;
-    // Nobody types into a window before it has the focus.
+    // A user types into a window only when it has the focus.
     if (!window->isActiveWindow()) return window->activateWindow();
     if (!steps_.front().condition()) return;
     const Step step = std::move(steps_.front());
@@ -81,7 +80,7 @@ void ProgramTest::type_into(QWidget& window, const char* field, const QString& t
         if (character.unicode() < 128) {
             QTest::keyClick(&widget, character.toLatin1());
         } else {
-            // As an input method finishes a syllable.
+            // As an input method commits a syllable.
             QInputMethodEvent event;
             event.setCommitString(character);
             QCoreApplication::sendEvent(&widget, &event);

@@ -13,7 +13,7 @@
 
 namespace tests {
 
-/// The machine's clock on which nobody waits and which stands: what a pause is for still happens in it.
+/// The machine's clock, standing still and without waiting: a pause still runs the event loop.
 class HastyClock : public machine::qt::QtClock {
   public:
     platform::LocalTime now() override { return platform::make_time(2026, 11, 23, 10, 5); }
@@ -23,7 +23,7 @@ class HastyClock : public machine::qt::QtClock {
     std::vector<int> pauses;
 };
 
-/// The user in front of the real program: what he does in each window, in the order in which he expects them.
+/// The user of the real program: what the user does in each window, in the order in which the windows open.
 class WindowPlayer : public QObject {
   public:
     WindowPlayer();
@@ -32,8 +32,8 @@ class WindowPlayer : public QObject {
     using Act = std::function<void(QWidget& window)>;
     using Condition = std::function<bool()>;
 
-    /// Once a window of this name is in front and the condition holds, does this in it. Message boxes are
-    /// windows named "messageBox".
+    /// Acts once a window of this name is in front and the condition holds. Message boxes are windows named
+    /// "messageBox".
     void in_window(
         const char* name, Act act, Condition condition = [] { return true; });
 
@@ -48,8 +48,7 @@ class WindowPlayer : public QObject {
     std::deque<Step> steps_;
 };
 
-/// The whole program as it is installed, in a folder of its own: real windows, real files, the carrier's
-/// library.
+/// The whole program as installed, in a folder of its own: real windows, real files, the stand-in's library.
 class ProgramTest : public testing::Test {
   protected:
     ProgramTest();
@@ -59,7 +58,7 @@ class ProgramTest : public testing::Test {
     /// The user logs in.
     void log_in();
 
-    /// Types in place of what the field holds.
+    /// Replaces the field's text by typing.
     static void type_into(QWidget& window, const char* field, const QString& text);
     static void press(QWidget& window, const char* button);
     static QString text_of(QWidget& window, const char* field);

@@ -1,7 +1,7 @@
-// The recorder at a real sound server: what is spoken into the microphone is what it hears.
+// The recorder with a real sound server: it must record what is spoken into the microphone.
 
-#include "platform/error.h"
 #include "machine/qt/modules/late_ports.h"
+#include "platform/error.h"
 #include "tests/screen/sound_server.h"
 
 #include <QFile>
@@ -25,14 +25,14 @@ constexpr std::size_t WAV_HEAD = 44;
 
 bool is_loud(std::int16_t sample) { return std::abs(sample) > 500; }
 
-/// Seconds from the first loud sample to the last; 0 when none is.
+/// Seconds from the first loud sample to the last; 0 when there is none.
 double seconds_of_speech(SampleView samples, double rate) {
     const auto first = std::find_if(samples.begin(), samples.end(), is_loud);
     const auto last = std::find_if(samples.rbegin(), samples.rend(), is_loud);
     return first == samples.end() ? 0 : double(last.base() - first) / rate;
 }
 
-/// Whether something was said and half a second of silence has followed.
+/// Whether something was said and half a second of silence followed.
 bool has_been_said(SampleView samples) {
     constexpr std::size_t PAUSE = SAMPLES_A_SECOND / 2;
     return samples.size() > PAUSE && std::any_of(samples.begin(), samples.end(), is_loud) &&
@@ -73,7 +73,7 @@ class RealRecorder : public testing::Test {
         ASSERT_EQ(QProcess::execute(QStringLiteral("espeak-ng"),
                                     {"-v", "ko", "-w", speech, QStringLiteral("안녕하세요")}),
                   0);
-        // As espeak-ng speaks.
+        // espeak-ng's sample rate.
         length = seconds_of_speech(samples_of(bytes_of(speech)), 22050);
         ASSERT_GT(length, 0.5);
     }
@@ -88,11 +88,11 @@ class RealRecorder : public testing::Test {
 
     static inline std::unique_ptr<SoundServer> server;
     static inline QString speech;
-    /// Seconds of the speech.
+    /// Length of the speech in seconds.
     static inline double length = 0;
 };
 
-TEST_F(RealRecorder, TakesWhatIsSaidWithoutALossAndPlaysIt) {
+TEST_F(RealRecorder, RecordsSpeechWithoutALossAndPlaysIt) {
     Listener listener;
     recorder.open(listener);
     ASSERT_TRUE(recorder.has_microphone());
@@ -112,7 +112,7 @@ TEST_F(RealRecorder, TakesWhatIsSaidWithoutALossAndPlaysIt) {
     recorder.close();
 }
 
-TEST_F(RealRecorder, NoticesAMicrophoneThatGoesAndComes) {
+TEST_F(RealRecorder, NoticesAMicrophoneThatIsUnpluggedAndPluggedIn) {
     Listener listener;
     recorder.open(listener);
     recorder.start_recording();

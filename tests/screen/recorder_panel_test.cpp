@@ -1,4 +1,4 @@
-// The recorder on its panel of the main window, by keys and for a screen reader.
+// The recorder's panel in the main window, used with keys and a screen reader.
 
 #include "compose/main_form.h"
 #include "tests/screen/screen_fixture.h"
@@ -25,7 +25,7 @@ struct RecorderPanel : tests::DeskTest, tests::WindowsOnDoubles {
         settle();
     }
 
-    /// Until the panel has been painted, and what follows that has happened.
+    /// Waits until the panel has been painted and the event loop is idle.
     static void paint() {
         ASSERT_TRUE(QTest::qWaitFor([] { return message() != ""; }));
     }
@@ -51,7 +51,7 @@ TEST_F(RecorderPanel, LooksForTheMicrophoneOnceTheUserSeesIt) {
     EXPECT_TRUE(find("_recordWarning").isVisible());
 }
 
-TEST_F(RecorderPanel, RecordsStopsAndPlaysByOneKey) {
+TEST_F(RecorderPanel, RecordsStopsAndPlaysWithOneKey) {
     form.voice.TabStrip2.select(2);
     paint();
     form.voice.RFK1.set_focus();
@@ -117,7 +117,7 @@ TEST_F(RecorderPanel, ShowsEveryMessageWholeInTheSmallestWindow) {
     expect_whole("끊어졌습니다");
 }
 
-TEST_F(RecorderPanel, HasANameForEverythingThatAScreenReaderMeets) {
+TEST_F(RecorderPanel, HasANameForAScreenReaderOnEveryControl) {
     form.voice.TabStrip2.select(2);
     paint();
     for (const char* name : {"_record", "_stop", "_play", "_recordTime", "_recordLevel", "_recordMessage"}) {

@@ -23,7 +23,7 @@ class SavedTextsWindow : public ProgramTest {
         user.in_window("messageBox", [key](QWidget& window) { QTest::keyClick(window.focusWidget(), key); });
     }
 
-    /// Types behind what the body's field holds; a carriage return is the Enter key.
+    /// Types after the text of the body's field; a carriage return stands for the Enter key.
     static void type_behind(QWidget& window, const QString& text) {
         auto& field = *window.findChild<QWidget*>(QStringLiteral("txtText"));
         field.setFocus();
@@ -55,7 +55,7 @@ class SavedTextsWindow : public ProgramTest {
     std::filesystem::path first = root / "내모음함";
 };
 
-TEST_F(SavedTextsWindow, NamesACategoryWithASyllableThatIsUnfinishedWhenTheButtonIsPressed) {
+TEST_F(SavedTextsWindow, AnUnfinishedSyllableIsPartOfANewCategorysName) {
     log_in();
     in_main([](QWidget& window) { press(window, "MyMsgBttn"); });
     in_box([](QWidget& window) { press(window, "Command8"); });
@@ -67,7 +67,7 @@ TEST_F(SavedTextsWindow, NamesACategoryWithASyllableThatIsUnfinishedWhenTheButto
         QTest::keyClick(&field, Qt::Key_Return);
     });
     in_box([](QWidget& window) {
-        // A field is no row to rename.
+        // F2 in a field renames no row.
         QTest::keyClick(window.findChild<QWidget*>(QStringLiteral("txtText")), Qt::Key_F2);
         list(window, "ListView1").setFocus();
         QTest::keyClick(window.focusWidget(), Qt::Key_F2);
@@ -82,7 +82,7 @@ TEST_F(SavedTextsWindow, NamesACategoryWithASyllableThatIsUnfinishedWhenTheButto
     run();
 }
 
-TEST_F(SavedTextsWindow, SavesTheDraftAndTakesATextBackAndKeepsEveryCharacter) {
+TEST_F(SavedTextsWindow, SavingAndApplyingATextKeepsEveryCharacter) {
     std::string all;
     for (unsigned unit = 0x20; unit < 0x10000; ++unit) {
         const std::string encoded = platform::encode_cp949(platform::Text(1, static_cast<char16_t>(unit)));

@@ -19,14 +19,14 @@ namespace tests {
 /// The screens of the sample forms.
 machine::qt::Screens sample_screens();
 
-/// Plays the user in front of message boxes.
+/// Answers message boxes in the user's place.
 class BoxPlayer : public QObject {
   public:
     BoxPlayer() { qApp->installEventFilter(this); }
 
-    /// What to press in the boxes that open from now on, one after the other. Another box fails the test.
+    /// The buttons to press in the next boxes, in order. A further box fails the test.
     std::deque<QMessageBox::StandardButton> answers;
-    /// Happens while a box is open.
+    /// Runs while a box is open.
     std::function<void()> meanwhile = [] {};
     std::vector<QString> asked;
 
@@ -40,7 +40,7 @@ class BoxPlayer : public QObject {
 /// A window on the offscreen desktop, found and driven as a user would.
 class DeskTest : public testing::Test {
   protected:
-    /// Lets everything happen that waits in the event loop.
+    /// Handles everything that waits in the event loop.
     static void settle() {
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -54,8 +54,8 @@ class DeskTest : public testing::Test {
         throw std::runtime_error(name);
     }
 
-    /// A step of an input method in the field that has the focus: what it commits, and what it has unfinished
-    /// then.
+    /// A step of an input method in the field that has the focus: what it commits, and what is unfinished
+    /// afterwards.
     static void compose(const QString& commit, const QString& unfinished) {
         QWidget* field = QApplication::focusWidget();
         if (field == nullptr) throw std::logic_error("nothing has the focus");

@@ -12,8 +12,8 @@ SoundServer::SoundServer() {
     environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("disabled:"));
     server_.setProcessEnvironment(environment);
     server_.setStandardErrorFile(path(QStringLiteral("log")));
-    // Reading commands, it ends with its last reader. Without rewinds the wire delivers in small pieces, as a
-    // microphone does.
+    // It reads commands, so it ends when this process closes its input. Without rewinds the wire delivers
+    // small pieces, like a microphone.
     server_.start(QStringLiteral("pulseaudio"),
                   {"-n", "-C", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1", "--disable-shm",
                    "--high-priority=no", "--realtime=no", "--log-target=stderr", "-L",
@@ -31,7 +31,8 @@ SoundServer::~SoundServer() {
     server_.waitForFinished();
 }
 
-/// The toolkit shows no monitors of sinks as microphones, so the microphone is a source of its own behind it.
+/// The toolkit does not list a sink's monitor as a microphone, so a source of its own is put after the
+/// monitor.
 void SoundServer::plug_in_microphone() {
     command(QStringLiteral("load-module module-remap-source master=wire.monitor source_name=microphone"));
 }
@@ -42,7 +43,7 @@ void SoundServer::play(const QString& file) {
     player_.start(QStringLiteral("paplay"), {"--device=wire", file});
 }
 
-/// Returns once the server has done so.
+/// Returns when the server has carried out the command.
 void SoundServer::command(const QString& line) {
     constexpr int PATIENCE = 30000;
     server_.write(line.toUtf8() + "\nlist-clients\n");

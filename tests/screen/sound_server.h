@@ -6,8 +6,8 @@
 
 namespace tests {
 
-/// A sound server of the test's own, of which this process is a client: a wire that everything played goes
-/// into, and a microphone at its other end. It ends with this object, or by itself with the process.
+/// A sound server of the test's own, of which this process is a client: everything that is played goes into a
+/// wire with a microphone at its other end. The server ends with this object or with the process.
 class SoundServer {
   public:
     /// Raises std::runtime_error when the server does not start.
@@ -17,10 +17,10 @@ class SoundServer {
     void plug_in_microphone();
     void unplug_microphone();
 
-    /// Plays the WAV file into the wire, while the test goes on.
+    /// Starts to play the WAV file into the wire.
     void play(const QString& file);
 
-    /// A file of the server's own folder.
+    /// A path in the server's own folder.
     QString path(const QString& name) const { return folder_.filePath(name); }
 
   private:

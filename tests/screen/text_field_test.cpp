@@ -12,7 +12,7 @@ namespace {
 using platform::KeyPressed;
 using platform::Text;
 
-TEST(TextConversionTest, PlacesAreTheSameOnBothSidesOfEveryKindOfLineEnd) {
+TEST(TextConversionTest, PositionsAgreeAcrossEverySortOfLineEnd) {
     struct Case {
         Text program;
         QString shown;
@@ -56,7 +56,7 @@ class TextFieldTest : public ScreenTest {
     std::function<void(KeyPressed&)> on_key = [](KeyPressed&) {};
 };
 
-TEST_F(TextFieldTest, KeysRaiseAKeyPressAndThenAChangeWithTheCaretInTheProgramsPlaces) {
+TEST_F(TextFieldTest, KeysRaiseAKeyPressAndThenAChangeWithTheProgramsCaret) {
     QTest::keyClicks(&edit(), "ab");
     QTest::keyClick(&edit(), Qt::Key_Return);
     QTest::keyClick(&edit(), Qt::Key_C);
@@ -77,7 +77,7 @@ TEST_F(TextFieldTest, KeysRaiseAKeyPressAndThenAChangeWithTheCaretInTheProgramsP
     EXPECT_EQ(changes.size(), 7u);
 }
 
-TEST_F(TextFieldTest, ASwallowedKeyChangesNothingAndACutBeforeTheKeyStands) {
+TEST_F(TextFieldTest, ASwallowedKeyChangesNothingAndACutInItsHandlerStays) {
     QTest::keyClicks(&edit(), "abc");
     on_key = [](KeyPressed& key) { key.swallow(); };
     QTest::keyClicks(&edit(), "d");
@@ -92,7 +92,7 @@ TEST_F(TextFieldTest, ASwallowedKeyChangesNothingAndACutBeforeTheKeyStands) {
     EXPECT_EQ(edit().committed_text(), "ae");
 }
 
-TEST_F(TextFieldTest, WhatIsPastedIsPlainTextAndOneChangeWithoutAKeyPressOfItsOwn) {
+TEST_F(TextFieldTest, APasteIsPlainTextAndOneChangeWithoutAKeyPress) {
     auto* rich = new QMimeData;
     rich->setHtml("<b>가</b><br>나");
     rich->setText(QString("가\r나\u2028다\r\n") + QChar(u'\0') + "라");
@@ -109,7 +109,7 @@ TEST_F(TextFieldTest, WhatIsPastedIsPlainTextAndOneChangeWithoutAKeyPressOfItsOw
     EXPECT_EQ(form.HText1.text(), u"가나다라") << "one line has no line ends";
 }
 
-TEST_F(TextFieldTest, TextAndSelectionSetByCodeShowAndRaiseOneChange) {
+TEST_F(TextFieldTest, TextAndSelectionSetInCodeShowAndRaiseOneChange) {
     form.mText1.set_text(u"가\r\n나다");
     EXPECT_EQ(edit().committed_text(), "가\n나다");
     EXPECT_EQ(edit().textCursor().position(), 0);
@@ -136,7 +136,7 @@ TEST_F(TextFieldTest, AHandlerThatSetsTheTextAgainWins) {
     EXPECT_EQ(form.mText1.text(), u"yz");
 }
 
-TEST_F(TextFieldTest, EnterInAOneLineFieldIsItsHandlers) {
+TEST_F(TextFieldTest, EnterInAOneLineFieldGoesToItsHandler) {
     auto& field = find<QLineEdit>("HText1_0");
     form.HText1.KeyPress.connect([this](KeyPressed& key) {
         if (key.code != platform::KEY_ENTER) return;

@@ -1,4 +1,4 @@
-// The check for an update in an installation that lacks the network's module.
+// The check for an update in an installation without the network's module.
 
 #include "tests/screen/program_fixture.h"
 #include "tests/support/http_server.h"
@@ -22,14 +22,14 @@ TEST_F(UpdateWindow, WithoutTheNetworksModuleTheServerIsNotReached) {
     std::ofstream(folder.path() / "i_version.ini")
         << "[SERVER_1]\r\nHTTPSERVER=" << utf8(server.url(u"/")) << "\r\nHTTPFILE=" << utf8(server.url())
         << "\r\n[LAST_UPDATE]\r\nVERSION=1\r\n";
-    QString told;
+    QString shown;
     bool polling = false;
     user.in_window("frmZentLogin", [](QWidget& window) { window.close(); });
     user.in_window("frmZent", [](QWidget& window) {
         window.findChild<QAction*>(QStringLiteral("mnuUpDate"))->trigger();
     });
     user.in_window("messageBox", [&](QWidget& window) {
-        told = dynamic_cast<QMessageBox&>(window).text();
+        shown = dynamic_cast<QMessageBox&>(window).text();
         QTest::keyClick(&window, Qt::Key_Return);
     });
     user.in_window("frmZent", [&](QWidget& window) {
@@ -37,7 +37,7 @@ TEST_F(UpdateWindow, WithoutTheNetworksModuleTheServerIsNotReached) {
         window.close();
     });
     run();
-    EXPECT_TRUE(told.startsWith(QStringLiteral("웹서버 접속에 실패하여"))) << told.toStdString();
+    EXPECT_TRUE(shown.startsWith(QStringLiteral("웹서버 접속에 실패하여"))) << shown.toStdString();
     EXPECT_EQ(server.requests(), 0);
     EXPECT_TRUE(polling) << "for what the card manager hands over";
 }

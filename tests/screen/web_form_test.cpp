@@ -1,4 +1,4 @@
-// The browser form where the module with the pages' engine is missing, as it is in this program.
+// The browser form without the module of the pages' engine, which this test program lacks.
 
 #include "service/frmWeb.h"
 #include "tests/screen/screen_fixture.h"

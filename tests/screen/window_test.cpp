@@ -17,7 +17,7 @@ using platform::BoxButtons;
 
 using WindowTest = ScreenTest;
 
-TEST_F(WindowTest, TheFormHearsOfItsWindowAndTheWindowOfItsForm) {
+TEST_F(WindowTest, FormAndWindowKeepEachOtherUpToDate) {
     auto& window = find("_centre");
     QWidget& frame = *window.window();
     EXPECT_EQ(form.activations, 1) << "once for the first showing, whenever the desktop activates it";
@@ -35,7 +35,7 @@ TEST_F(WindowTest, TheFormHearsOfItsWindowAndTheWindowOfItsForm) {
     EXPECT_TRUE(frame.isMaximized());
 }
 
-TEST_F(WindowTest, EscapeAndTheFramesCloseAreTheFormsToAnswer) {
+TEST_F(WindowTest, EscapeAndTheFramesCloseButtonReachTheForm) {
     QWidget& frame = *find("_centre").window();
     form.stays_open = true;
     QTest::keyClick(&find("mText1"), Qt::Key_Escape);
@@ -49,7 +49,7 @@ TEST_F(WindowTest, EscapeAndTheFramesCloseAreTheFormsToAnswer) {
     EXPECT_FALSE(frame.isVisible());
 }
 
-TEST_F(WindowTest, AModalFormStartsWhereItsHandlersWantAndMayCloseInItsOwnButton) {
+TEST_F(WindowTest, AModalFormStartsWithItsHandlersFocusAndMayCloseInItsOwnButton) {
     auto ask = std::make_unique<frmAsk>(desktop);
     ask->Text1.set_text(u"hong");
     ask->load();
@@ -85,7 +85,7 @@ TEST_F(WindowTest, AFormThatClosesInItsFirstActivationReturns) {
     EXPECT_FALSE(ask.loaded());
 }
 
-TEST_F(WindowTest, TheFocusGoesWithTheUserAndStaysWithItsControlUnderABox) {
+TEST_F(WindowTest, TheFocusFollowsTheUserAndStaysUnderABox) {
     std::vector<std::string> events;
     const auto follow = [&](platform::Control& control, const std::string& name) {
         control.GotFocus.connect([&events, name] { events.push_back("+" + name); });
@@ -124,7 +124,7 @@ TEST_F(WindowTest, TheFocusGoesWithTheUserAndStaysWithItsControlUnderABox) {
     EXPECT_NE(QApplication::focusWidget(), &find("Combo3"));
 }
 
-TEST_F(WindowTest, BoxesShowPlainTextKoreanButtonsAndGiveTheCautiousAnswer) {
+TEST_F(WindowTest, BoxesShowPlainTextAndKoreanButtonsAndCloseWithTheCautiousAnswer) {
     desktop.set_application_title(u"폰디라");
     struct Case {
         BoxButtons buttons;
@@ -159,7 +159,7 @@ TEST_F(WindowTest, BoxesShowPlainTextKoreanButtonsAndGiveTheCautiousAnswer) {
     }
 }
 
-TEST_F(WindowTest, AMenuOpensRightBelowItsControlAndTellsWhatWasPicked) {
+TEST_F(WindowTest, AMenuOpensDirectlyBelowItsControlAndRaisesTheClickOfItsEntry) {
     bool deleted = false;
     form.mnuDelete.Click.connect([&] { deleted = true; });
     const QWidget& control = find("TabStrip1");
@@ -174,7 +174,7 @@ TEST_F(WindowTest, AMenuOpensRightBelowItsControlAndTellsWhatWasPicked) {
     EXPECT_TRUE(deleted);
 }
 
-TEST_F(WindowTest, TheHourglassIsAState) {
+TEST_F(WindowTest, TheHourglassDoesNotNest) {
     desktop.set_pointer(platform::Pointer::hourglass);
     desktop.set_pointer(platform::Pointer::hourglass);
     ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
@@ -187,7 +187,7 @@ std::vector<QString> faults_of(platform::Form& form, QWidget& window) {
     return machine::qt::screen_faults(form, window, files);
 }
 
-TEST_F(WindowTest, LongWorkLeavesItPaintedAndNothingElseHappens) {
+TEST_F(WindowTest, LongWorkLetsItPaintAndNothingElse) {
     struct : QObject {
         bool eventFilter(QObject*, QEvent* event) override {
             paintings += event->type() == QEvent::Paint;
@@ -221,7 +221,7 @@ TEST_F(WindowTest, AnUncaughtErrorIsShownAndTheProgramGoesOn) {
     application.show_errors_with({});
 }
 
-TEST_F(WindowTest, ATestFindsWhatIsWrongBetweenAFormAndItsScreen) {
+TEST_F(WindowTest, FaultsBetweenAFormAndItsScreenAreFound) {
     frmSample whole(desktop);
     EXPECT_EQ(faults_of(whole, *screens.build(u"frmSample")), std::vector<QString>{});
 

@@ -11,8 +11,8 @@
 
 namespace tests {
 
-/// A copy of the test's process that does one thing and ends with the number it returns (255 after an
-/// exception). It is killed with this object.
+/// A copy of the test's process that runs one function and ends with the number it returns (255 after an
+/// exception). The destructor kills it.
 class ChildProcess {
   public:
     explicit ChildProcess(const std::function<int()>& work) : id_(::fork()) {
@@ -22,7 +22,7 @@ class ChildProcess {
         try {
             result = work();
         } catch (...) {
-            // The result tells.
+            // The exit status reports the failure.
         }
         ::_exit(result);
     }
@@ -49,15 +49,15 @@ class ChildProcess {
     pid_t id_;
 };
 
-/// Lets the process write no more than this into a file: as on a full disk the write that goes beyond fails,
-/// or, when `kill` is asked for, ends the process in its middle.
+/// Limits the size of the files that this process writes. As on a full disk, a write beyond the limit fails;
+/// with `kill` it ends the process in the middle of the write.
 inline void limit_file_size(rlim_t bytes, bool kill) {
     if (!kill) std::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{bytes, bytes};
     ::setrlimit(RLIMIT_FSIZE, &limit);
 }
 
-/// What one process tells another, a byte at a time.
+/// Signals from one process to another, a byte each.
 class Pipe {
   public:
     Pipe() {
@@ -70,12 +70,12 @@ class Pipe {
         if (ends_[1] >= 0) ::close(ends_[1]);
     }
 
-    void tell() const {
+    void signal() const {
         const char byte = '.';
         if (::write(ends_[1], &byte, 1) != 1) std::abort();
     }
-    /// Whether the child has told something; false when it has died without. The child is there before the
-    /// first call.
+    /// Waits for a signal; returns false when the child died without one. The child must have been started
+    /// before the first call.
     bool wait() {
         if (ends_[1] >= 0) ::close(std::exchange(ends_[1], -1));
         char byte = 0;

@@ -4,7 +4,7 @@
 
 namespace tests {
 
-/// The number of the RuntimeError that the step raises, 0 without one.
+/// The number of the RuntimeError that the step raises; 0 when it raises none.
 template <class Step>
 int error_number(Step&& step) {
     try {

@@ -21,7 +21,7 @@ struct FilesOnDisk {
     machine::posix::PosixFiles files{machine::posix::Paths(application), windows};
 };
 
-/// Puts a file there behind the program's back.
+/// Writes a file without the `Files` port.
 inline void put(const std::filesystem::path& path, const std::string& bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
 }

@@ -11,7 +11,7 @@ namespace tests {
 
 namespace {
 
-/// How many bytes the request has by what its head says, or 0 while the head is not whole.
+/// The request's length in bytes according to its head; 0 while the head is incomplete.
 std::size_t length_of(const std::string& request) {
     static const std::regex body_length("\r\ncontent-length: *([0-9]+)", std::regex::icase);
     const std::size_t head = request.find("\r\n\r\n");
@@ -92,7 +92,7 @@ void HttpServer::listen() {
 
 void HttpServer::serve(int socket) {
     HttpClient client(socket, read_request(socket));
-    // A browser opens connections that it may never use.
+    // A browser may open connections that it never uses.
     if (!client.request.empty()) {
         ++requests_;
         answer_(client);

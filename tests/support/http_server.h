@@ -27,12 +27,12 @@ class HttpClient {
     int socket_;
 
   public:
-    /// The whole request, as far as it came.
+    /// The request, as far as it arrived.
     std::string request;
 };
 
-/// A server on the loopback device that does to each client what a test says, in a thread for each. The
-/// connection is closed afterwards.
+/// A server on the loopback device that runs the test's function for each client in a thread of its own and
+/// then closes the connection.
 class HttpServer {
   public:
     explicit HttpServer(std::function<void(HttpClient&)> answer);

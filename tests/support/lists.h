@@ -16,7 +16,7 @@ inline std::vector<std::string> column(const platform::ListView& list, int sub_i
     return texts;
 }
 
-/// As a click of the user on the row.
+/// What a click of the user on the row does.
 inline void choose(platform::ListView& list, std::size_t row) {
     list.deselect_item();
     list.select_item(row);

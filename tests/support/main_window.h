@@ -12,9 +12,9 @@
 
 namespace tests {
 
-/// The main window on a machine of doubles. Its doors write down that they were gone through.
+/// The main window on a machine of doubles. Its doors record that they were used.
 struct MainWindow : TestPlatform {
-    /// The doors gone through, in order.
+    /// The doors that were used, in order.
     std::vector<std::string> opened;
     std::function<void()> pick_recipients = [] {};
     std::function<void()> hand_over = [] {};
@@ -25,14 +25,14 @@ struct MainWindow : TestPlatform {
 
     compose::frmZent form{platform, state, main_doors()};
 
-    /// The window as it stands before the first tick, with a kind chosen and a sender's name.
+    /// The window before its first tick, with a kind chosen and a sender's name.
     void compose_as(platform::TextView sender, compose::MessageKind kind = compose::MessageKind::text) {
         form.load();
         form.sender.txtUserName.set_text(platform::Text(sender));
         form.choose(kind);
     }
 
-    /// What the user does in the manual login the next time that it opens.
+    /// Lets the user do this in the manual login the next time that it opens.
     void in_login(const std::function<void(gateway::frmZentLogin&)>& act) {
         desktop.in_form<gateway::frmZentLogin>(u"frmZentLogin", act);
     }
@@ -71,8 +71,8 @@ struct MainWindow : TestPlatform {
     }
 };
 
-/// A key as the user presses it in a text box: the key press, and unless that swallowed it, its character in
-/// place of the selection.
+/// Presses a key in a text box: raises KeyPress and, unless a handler swallows the key, replaces the
+/// selection with its character.
 inline void press(platform::TextBox& box, char16_t key) {
     platform::KeyPressed pressed{key};
     box.KeyPress.raise(pressed);

@@ -14,7 +14,7 @@ using platform::TextView;
 
 namespace {
 
-/// As on the disk, two backslashes in a row are one, and one at the end does not count.
+/// As on the disk, two backslashes in a row count as one, and one at the end does not count.
 Text key(Text path) {
     const auto both = [](char16_t left, char16_t right) { return left == u'\\' && right == u'\\'; };
     path.erase(std::ranges::unique(path, both).begin(), path.end());

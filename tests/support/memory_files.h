@@ -11,8 +11,8 @@
 
 namespace tests {
 
-/// A file system in memory. Paths match without regard to ASCII case. Folders that files are put into by a
-/// test are there without having been made.
+/// A file system in memory. Paths match without regard to ASCII case. A folder into which a test puts files
+/// need not be made first.
 class MemoryFiles : public platform::Files {
   public:
     struct WithoutCase {
@@ -44,7 +44,7 @@ class MemoryFiles : public platform::Files {
     std::string machine_path(const platform::Text& path) const override { return platform::to_utf8(path); }
     platform::Text path_of(const std::string& path) const override { return platform::from_utf8(path); }
 
-    /// Every write, removal and folder from now on fails so.
+    /// The error with which every write, removal and change of a folder fails from now on.
     std::optional<platform::ErrorNumber> failure;
 
     /// Every file that was read or written, in order.
@@ -53,14 +53,14 @@ class MemoryFiles : public platform::Files {
     Contents files;
     Paths folders;
     Paths links;
-    /// When files were written last; the others at `now`.
+    /// When files were last written; `now` for the others.
     std::map<platform::Text, platform::LocalTime, WithoutCase> dates;
     platform::LocalTime now = platform::make_time(2026, 11, 23, 10, 0, 0);
 
-    /// The program is killed at the change after so many.
+    /// Thrown when the program is killed: at the change after so many.
     struct Killed {};
     std::optional<int> changes_until_kill;
-    /// The change after so many fails so, and none after it.
+    /// How many changes succeed before one fails, and with which error; later ones succeed again.
     std::optional<std::pair<int, platform::ErrorNumber>> changes_until_failure;
 
   private:

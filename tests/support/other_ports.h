@@ -4,7 +4,7 @@
 
 namespace tests {
 
-/// Ports in the places of a machine's own; those left out stay the machine's.
+/// Ports that replace a machine's own; those left out stay the machine's.
 struct OtherPorts {
     platform::Desktop* desktop = nullptr;
     platform::Clock* clock = nullptr;
@@ -15,7 +15,7 @@ struct OtherPorts {
     platform::Internet* internet = nullptr;
 };
 
-/// The machine with other ports.
+/// The machine with some ports replaced.
 inline platform::Platform with(const platform::Platform& machine, const OtherPorts& other) {
     const auto pick = [](auto* port, auto& own) -> auto& { return port != nullptr ? *port : own; };
     return {.desktop = pick(other.desktop, machine.desktop),

@@ -9,8 +9,8 @@
 
 namespace tests {
 
-/// The user looks at the next page of the service that opens and closes it: "caption|address|body" goes into
-/// `seen`, the body as its bytes.
+/// Lets the user look at the next page of the service and close it. Appends "caption|address|body" to `seen`,
+/// the body as bytes.
 inline void read_next_page(ScriptedDesktop& desktop, std::vector<std::string>& seen) {
     desktop.in_form<service::frmWeb>(u"frmWeb", [&seen](service::frmWeb& web) {
         const platform::Navigation& navigation = web.WebBrowser.navigation();

@@ -22,7 +22,7 @@ struct Card {
 /// The main window with a card database behind the picker.
 struct Picking : MainWindow {
     std::vector<Folder> folders{{2, 1, u"거래처"}, {3, 2, u"서울"}};
-    /// How many cards each folder counts; 1 where nothing is said.
+    /// How many cards each folder has; 1 if not given.
     std::map<int, int> counts;
     /// What every list and search finds.
     std::vector<Card> found;
@@ -32,7 +32,7 @@ struct Picking : MainWindow {
         cards.answer = [this](const platform::Text& statement) { return answer(statement); };
     }
 
-    /// Opens the picker for a kind of message; the user does this in it and closes it.
+    /// Opens the picker for a kind of message, lets the user do this in it, and closes it.
     void pick(const platform::Text& kind, std::function<void(addressbook::frmSendMan&)> act) {
         desktop.in_form<addressbook::frmSendMan>(u"frmSendMan", [act](addressbook::frmSendMan& picker) {
             act(picker);

@@ -11,7 +11,7 @@ using platform::decode_cp949;
 
 namespace {
 
-/// As a library in C does it: the text and a NUL, what stands behind stays.
+/// Fills the buffer as a C library does: the text and a NUL; the bytes after it stay.
 void fill(std::string& buffer, const std::string& text) {
     buffer.replace(0, text.size(), text);
     if (text.size() < buffer.size()) buffer[text.size()] = '\0';
@@ -26,8 +26,8 @@ int RecordingCarrier::count(const std::string& operation) const {
 std::int32_t RecordingCarrier::result(const std::string& operation) {
     if (missing.contains(operation)) throw platform::RuntimeError(platform::ErrorNumber::no_such_export);
     calls.push_back(operation);
-    const auto told = results.find({operation, count(operation)});
-    return told == results.end() ? 1 : told->second;
+    const auto ordered = results.find({operation, count(operation)});
+    return ordered == results.end() ? 1 : ordered->second;
 }
 
 void RecordingCarrier::take(std::initializer_list<std::string*> texts) {
@@ -63,7 +63,7 @@ std::int32_t RecordingCarrier::fn_x_money_status(std::string& user_id, std::stri
     if (code == 1) {
         status.service_type = service_type;
         status.service_state = service_state;
-        // What nobody knows the meaning of, each of a value of its own.
+        // Fields without a known meaning, each with a value of its own.
         status.field1 = 11;
         status.field4 = 44;
         status.field5 = 55;

@@ -12,10 +12,10 @@
 
 namespace tests {
 
-/// A carrier that writes down what it is asked and answers as told.
+/// A carrier that records its calls and gives the answers that the test sets.
 class RecordingCarrier : public platform::CarrierLibrary {
   public:
-    /// A submit as it arrived, texts decoded.
+    /// A submit as it arrived, with its texts decoded.
     struct Registration {
         bool submit_2 = false;
         int s_data_type = 0;
@@ -30,7 +30,7 @@ class RecordingCarrier : public platform::CarrierLibrary {
         platform::Text s_attach_file;
     };
 
-    // What the account is.
+    // The account.
     int service_type = 23;
     int service_state = 0;
     std::string info_service_number = "030312345678";
@@ -42,17 +42,17 @@ class RecordingCarrier : public platform::CarrierLibrary {
     std::map<std::pair<std::string, int>, std::int32_t> results;
     /// Operations that the library lacks.
     std::set<std::string> missing;
-    /// Called at every submit, before it is answered, and at every other call.
+    /// Run at every submit, before its answer, and at every other call.
     std::function<void()> at_submit;
     std::function<void()> at_call;
-    /// Whether the texts that a call hands over come back rewritten, as a library may do.
+    /// Whether the texts of a call come back overwritten, as a library may do.
     bool scribbles = false;
 
     /// The names of the operations in the order of the calls.
     std::vector<std::string> calls;
     std::vector<Registration> registrations;
     platform::Text bound_user, bound_password;
-    /// The texts of all calls but the submits, as bytes; the numbers and the first callback of the last bind.
+    /// The texts of all calls except submits, as bytes; the numbers and the first callback of the last bind.
     std::vector<std::string> arguments;
     std::vector<std::int32_t> bind_numbers;
     platform::CarrierCallback notify = nullptr;

@@ -9,7 +9,7 @@
 
 namespace tests {
 
-/// What a statement gives: the names of its columns and rows of as many fields.
+/// The result of a statement: the names of its columns, and rows of as many fields.
 struct ScriptedRows {
     std::vector<platform::Text> columns;
     std::vector<std::vector<platform::CardField>> rows;
@@ -21,19 +21,20 @@ inline platform::CardField card_text(platform::Text value) {
 }
 inline platform::CardField card_null(int type = platform::FIELD_TEXT) { return {type, {}}; }
 
-/// A card database that writes down what it is asked and answers as told. It must outlive its connections.
+/// A card database that records its statements and gives the answers that the test sets. It must outlive its
+/// connections.
 class ScriptedCards : public platform::CardSource {
   public:
-    /// What a statement gives, by its text; it may raise a RuntimeError. Until told, nothing: no row, no
-    /// column.
+    /// Returns the result for a statement's text, or raises a RuntimeError. By default there are no rows and
+    /// no columns.
     std::function<ScriptedRows(const platform::Text& statement)> answer;
-    /// Raised by every connect as long as it stands here.
+    /// If set, every connect raises it.
     std::optional<platform::RuntimeError> refusal;
-    /// The state that new connections have.
+    /// The state of new connections.
     int state = platform::CONNECTION_OPEN;
 
-    /// The connection strings and the statements in the order of the calls, and the connections not closed
-    /// yet.
+    /// The connection strings and the statements in the order of the calls, and the connections that are
+    /// still open.
     std::vector<platform::Text> connected;
     std::vector<platform::Text> statements;
     int open_connections = 0;

@@ -12,8 +12,9 @@
 
 namespace tests {
 
-/// A user who follows a script: what he answers to each box and does in each modal form, in order. A box that
-/// the script does not expect fails the test, and so does a form that stays open with nothing left to happen.
+/// A user who follows a script: the answer to each box and the acts in each modal form, in order. A box that
+/// the script does not expect fails the test, and so does a form that stays open when nothing is left to
+/// happen.
 class ScriptedDesktop : public platform::Desktop {
   public:
     explicit ScriptedDesktop(VirtualClock& clock) : clock_(clock) {}
@@ -26,7 +27,7 @@ class ScriptedDesktop : public platform::Desktop {
     /// The next input box must have the text in its prompt; the user enters this, or cancels when it is
     /// empty.
     void expect_input(platform::Text part, platform::Text answer);
-    /// What the user does the next time that a form of this name opens.
+    /// Lets the user do this the next time that a form of this name opens.
     void in_form(platform::Text name, std::function<void(platform::Form&)> act);
 
     template <class FormType>
@@ -34,11 +35,11 @@ class ScriptedDesktop : public platform::Desktop {
         in_form(std::move(name), [act](platform::Form& form) { act(dynamic_cast<FormType&>(form)); });
     }
 
-    /// The answer to every box and every input box that the script leaves out, for tests of something else.
+    /// If set, the answer to every box and input box that the script leaves out, for tests of something else.
     std::optional<platform::BoxAnswer> any_box;
     std::optional<platform::Text> any_input;
 
-    // What was asked of the desktop.
+    // The calls of the desktop.
     std::vector<platform::MessageBox> boxes;
     std::vector<platform::FileQuestion> file_questions;
     std::vector<platform::InputBox> input_boxes;
@@ -47,13 +48,13 @@ class ScriptedDesktop : public platform::Desktop {
     platform::Text title;
     platform::Pointer pointer = platform::Pointer::normal;
     std::vector<const platform::Menu*> popups;
-    /// The control that the last menu was opened below.
+    /// The control below which the last menu opened.
     const platform::Control* popup_owner = nullptr;
 
-    /// Happens whenever a long loop lets the windows paint.
+    /// Runs whenever a long loop lets the windows paint.
     std::function<void()> during_paint = [] {};
     std::function<void()> during_yield = [] {};
-    /// Whether the user is found to have pressed a key while a handler runs.
+    /// Whether the user presses a key while a handler runs.
     std::function<bool()> input_waits = [] { return false; };
 
     void prepare(platform::Form& form) override;

@@ -11,12 +11,12 @@
 
 namespace tests {
 
-/// What a server of the script answers.
+/// The answer of a scripted server.
 struct ScriptedAnswer {
-    /// The header without the empty line at its end; none for a server that nobody reaches.
+    /// The header without the empty line at its end; nothing for a server that cannot be reached.
     std::optional<std::string> header;
     std::string body;
-    /// The connection breaks where the body ends.
+    /// Whether the connection breaks where the body ends.
     bool breaks = false;
 
     static ScriptedAnswer ok(std::string body) {
@@ -25,7 +25,7 @@ struct ScriptedAnswer {
     }
 };
 
-/// A network of a few addresses. Everything else is beyond reach.
+/// A network with a few addresses. Nothing else can be reached.
 class ScriptedInternet : public platform::Internet {
   public:
     std::unique_ptr<platform::Transfer> make_transfer() override;
@@ -33,7 +33,7 @@ class ScriptedInternet : public platform::Internet {
     std::map<platform::Text, ScriptedAnswer> answers;
     /// Every address asked for, in order.
     std::vector<platform::Text> asked;
-    /// Happens while somebody waits for a header or for bytes.
+    /// Runs during a wait for a header or for bytes.
     std::function<void()> while_waiting = [] {};
 
   private:

@@ -7,7 +7,7 @@
 
 namespace tests {
 
-/// A microphone into which the test speaks, and a loudspeaker of which it says how far it is.
+/// A microphone into which the test speaks, and a loudspeaker whose progress the test sets.
 class ScriptedRecorder : public platform::Recorder {
   public:
     void open(Listener& listener) override {
@@ -50,13 +50,13 @@ class ScriptedRecorder : public platform::Recorder {
 
     bool installed = true;
     bool microphone = true;
-    /// Another program has what is needed.
+    /// Whether another program uses the device.
     bool busy = false;
     bool recording = false;
     bool playing = false;
-    /// What the end of a recording still brings.
+    /// The samples that arrive at the end of a recording.
     platform::Samples on_its_way;
-    /// What was last given to play.
+    /// The samples that were last played.
     platform::Samples loudspeaker;
 
   private:

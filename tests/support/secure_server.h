@@ -11,7 +11,7 @@
 
 namespace tests {
 
-/// A server behind a certificate that nobody but the tests has signed.
+/// A server with a certificate that only the tests have signed.
 struct SecureServer {
     SecureServer() {
         QFile certificate_file(QStringLiteral(ZENT_FIXTURES "/tls/loopback.pem"));

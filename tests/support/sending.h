@@ -20,7 +20,7 @@ namespace tests {
 struct Sending : TestPlatform {
     compose::frmZent form{platform, state, {.send = [this] { send::check_and_send(platform, state, form); }}};
 
-    /// What the last report said, and whether it offered the results.
+    /// The text of the last report, and whether it offered the results.
     std::string report;
     bool results_offered = false;
 
@@ -52,7 +52,7 @@ struct Sending : TestPlatform {
              const platform::Text& title = {}) {
         form.recipients.ListView1.add_row(u"", {name, number, u"", title}, checked);
     }
-    /// Names "a1", "a2" and so on.
+    /// Adds recipients named "a1", "a2" and so on.
     void add_many(int count) {
         for (int i = 1; i <= count; ++i) {
             add(u"a" + platform::decimal(i), u"010" + platform::decimal(10'000'000 + i));
@@ -70,20 +70,20 @@ struct Sending : TestPlatform {
             box.Command2.Click.raise();
         });
     }
-    /// A whole job, from the click to the report.
+    /// Runs a whole job, from the click to the report.
     void send() {
         confirm();
         expect_report();
         click();
     }
-    /// A job that ends in a box instead of a report.
+    /// Runs a job that ends with a box instead of a report.
     void send_in_vain(const platform::Text& box) {
         confirm();
         desktop.expect_box(box);
         click();
     }
 
-    /// The user presses the stop button during the job's n-th pause, counted from 1.
+    /// Presses the stop button during the job's n-th pause, counted from 1.
     void stop_at_pause(std::size_t n) {
         at_pause(n, [](send::frmZentSend& job) { job.Command1.Click.raise(); });
     }

@@ -7,7 +7,7 @@
 
 namespace tests {
 
-/// An empty folder of the test's own, which is the current directory while this object lives and is gone with
+/// An empty folder of the test's own. It is the current directory while this object lives and is removed with
 /// it.
 class TemporaryFolder {
   public:

@@ -14,7 +14,7 @@
 
 namespace tests {
 
-/// The process has ended: nothing behind it runs.
+/// Thrown where the process would end, so that nothing after it runs.
 struct ProcessEnded {};
 
 class RecordingShell : public platform::Shell {
@@ -29,7 +29,7 @@ class RecordingShell : public platform::Shell {
     bool another_instance = false;
 };
 
-/// The machine as the tests of the logic see it, and the shared variables of one run.
+/// A machine of doubles for the tests of the logic, and the shared variables of one run.
 struct TestPlatform {
     VirtualClock clock;
     ScriptedDesktop desktop{clock};

@@ -11,8 +11,8 @@ namespace tests {
 
 using TsvRow = std::vector<std::string>;
 
-/// The rows of a fixture below tests/fixtures, without its heading; fields as they stand. A fixture that is
-/// missing or empty throws, so that no test passes for want of rows.
+/// The rows of a fixture below tests/fixtures, without its heading; fields unchanged. Throws when the fixture
+/// is missing or empty, so that no test passes for lack of rows.
 inline std::vector<TsvRow> read_tsv(const std::string& name) {
     std::ifstream in(std::string(ZENT_FIXTURES) + "/" + name, std::ios::binary);
     std::vector<TsvRow> rows;
@@ -32,7 +32,7 @@ inline std::vector<TsvRow> read_tsv(const std::string& name) {
     return rows;
 }
 
-/// The bytes that hexadecimal digits spell.
+/// The bytes that the hexadecimal digits stand for.
 inline std::string from_hex(std::string_view digits) {
     std::string bytes;
     for (std::size_t i = 0; i + 1 < digits.size(); i += 2) {

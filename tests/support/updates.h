@@ -14,7 +14,7 @@ inline constexpr const char16_t* VERSION_INI = u"z:\\app\\i_version.ini";
 
 /// The main window of an installation, and the server that its updates come from.
 struct Updates : MainWindow {
-    /// The local facts, with the version as it is installed.
+    /// Writes the local facts with this version as the installed one.
     void install(const std::string& version) {
         files.files[VERSION_INI] =
             "[SERVER_1]\r\nHTTPSERVER=http://server/\r\nHTTPFILE=http://server/update.ini\r\n"
@@ -22,7 +22,7 @@ struct Updates : MainWindow {
             version + "\r\n";
         internet.answers[SERVER] = ScriptedAnswer::ok("hello");
     }
-    /// The list that the server has, by its entries.
+    /// Sets the entries of the server's list.
     void offer(const std::string& entries) {
         internet.answers[LIST] = ScriptedAnswer::ok("[UPDATE_FILE_LIST]\r\n" + entries);
     }

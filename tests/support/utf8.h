@@ -6,7 +6,7 @@
 
 namespace tests {
 
-/// A text as a test compares it, so that a failure can be read.
+/// A text in a form that a test can compare and a failure can print.
 inline std::string utf8(platform::TextView text) { return platform::to_utf8(text); }
 
 }  // namespace tests

@@ -14,7 +14,7 @@ struct VirtualClock::Entry {
     int interval;
     long long due;
     std::function<void()> tick;
-    /// An entry outlives its ticker when that ends in the entry's own tick.
+    /// An entry outlives its ticker when the ticker is destroyed in the entry's own tick.
     bool running = true;
 };
 

@@ -8,7 +8,7 @@
 
 namespace tests {
 
-/// A clock that stands until a test moves it. Timers fire while it moves, pauses are written down.
+/// A clock that stands still until a test moves it. Timers fire while it moves, and pauses are recorded.
 class VirtualClock : public platform::Clock {
   public:
     platform::LocalTime now() override { return now_; }
@@ -17,7 +17,7 @@ class VirtualClock : public platform::Clock {
     std::unique_ptr<platform::Ticker> every(int milliseconds, std::function<void()> tick) override;
 
     void set(platform::LocalTime now) { now_ = now; }
-    /// Moves the time on, firing what becomes due on the way.
+    /// Moves the time on and fires the timers that become due.
     void run_for(int milliseconds);
     /// Fires the timers in their order until the condition holds; false when none is left or a day has
     /// passed.
@@ -25,7 +25,7 @@ class VirtualClock : public platform::Clock {
 
     /// Every pause in milliseconds, in order.
     std::vector<int> pauses;
-    /// Happens within the next pauses, as clicks of the user do.
+    /// Runs within the next pauses, as clicks of the user would.
     std::function<void()> during_pause;
 
   private:

@@ -9,7 +9,7 @@
 
 namespace tests {
 
-/// An X server without a screen for as long as it lives, unless the user has one.
+/// An X server without a monitor for as long as this object lives, unless there is a display already.
 class VirtualDisplay {
   public:
     VirtualDisplay() {
@@ -24,7 +24,7 @@ class VirtualDisplay {
             _exit(1);
         }
         close(ends[1]);
-        // The number comes with the end of its line once the server takes clients.
+        // The server writes its number, with a line end, as soon as it accepts clients.
         std::string number = ":";
         for (char digit = 0; read(ends[0], &digit, 1) == 1 && digit != '\n';) number += digit;
         close(ends[0]);

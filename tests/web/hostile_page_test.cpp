@@ -1,4 +1,4 @@
-// A page that tries whatever a page may not do, and the form that closes all the same.
+// Pages that try everything a page must not do; the form closes all the same.
 
 #include "tests/support/secure_server.h"
 #include "tests/web/web_fixture.h"
@@ -26,7 +26,7 @@ QByteArray bytes_of(const char* file) {
     return in.readAll();
 }
 
-/// What anything has put into the user's home, but for caches and the certificates' library.
+/// All files that appeared in the user's home, except caches and the certificates' library.
 std::string files_at_home() {
     std::string files;
     QDirIterator entries(QDir::homePath(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
@@ -48,7 +48,7 @@ struct Attempt {
     const char* what;
     const char* outcome;
 };
-/// In the order of the page.
+/// In the order in which the page tries them.
 constexpr Attempt ATTEMPTS[] = {
     {"a download by a link", "clicked"},
     {"a download of its own making", "clicked"},
@@ -115,7 +115,7 @@ TEST(HostilePage, IsRefusedWhateverItTries) {
     EXPECT_FALSE(web.form.loaded());
 }
 
-TEST(HostilePage, WithACertificateOfItsOwnIsNotShown) {
+TEST(HostilePage, IsNotShownWithAnUntrustedCertificate) {
     const tests::SecureServer server;
     WebForm web;
     web.open(QByteArray::fromStdString(platform::to_utf8(server.url())), "code=1");
@@ -124,7 +124,7 @@ TEST(HostilePage, WithACertificateOfItsOwnIsNotShown) {
     EXPECT_EQ(server.requests, 0);
 }
 
-TEST(HostilePage, IsNotGoneToOutsideOfTheWeb) {
+TEST(HostilePage, IsNotOpenedOutsideTheWeb) {
     for (const char* address :
          {"file:///etc/passwd", "/etc/passwd", "chrome://version", "data:text/html,evil",
           "javascript:document.write('evil')", "mailto:a@b.example"}) {
@@ -136,14 +136,14 @@ TEST(HostilePage, IsNotGoneToOutsideOfTheWeb) {
     }
 }
 
-TEST(HostilePage, ThatNeverStopsAskingIsLeftAlone) {
+TEST(HostilePage, DoesNotKeepTheFormOpenByAskingEndlessly) {
     PageServer server;
     server.serve("/",
                  "<script>let asked = 0; onbeforeunload = (e) => e.preventDefault();"
                  "setTimeout(() => { for (;;) { alert(`<b>${++asked}</b>`); confirm('?'); } })</script>",
                  HTML);
     std::vector<std::string> asked;
-    // The user, in front of each box as it comes.
+    // The user, who answers each box as it opens.
     QTimer user;
     QObject::connect(&user, &QTimer::timeout, [&] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

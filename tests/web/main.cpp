@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
-    // Whatever a page could put anywhere, it puts here.
+    // Whatever a page manages to write, it writes here.
     const tests::TemporaryFolder home;
     qputenv("HOME", home.path().c_str());
     qputenv("QT_QPA_PLATFORM", "offscreen");

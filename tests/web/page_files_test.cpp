@@ -1,4 +1,4 @@
-// What the user takes out of a page by a click, and the links that ask for another window.
+// Files that the user saves from a page with a click, and links that ask for another window.
 
 #include "tests/support/files_on_disk.h"
 #include "tests/web/web_fixture.h"
@@ -56,7 +56,7 @@ struct PageFiles : testing::Test {
     bool says(const char* words) const {
         return comes([&] { return said().find(words) != std::string::npos; });
     }
-    /// Whether everything that was on its way from the page has arrived.
+    /// Whether everything that was on its way from the page has arrived by now.
     bool settled() {
         server.serve("/settled", "");
         const auto before = server.requests_of("/settled");
@@ -72,7 +72,7 @@ struct PageFiles : testing::Test {
     std::unique_ptr<WebForm> web;
 };
 
-TEST_F(PageFiles, GoWhereTheUserWantsThemByAClickOrAKey) {
+TEST_F(PageFiles, AreSavedWhereTheUserWantsAfterAClickOrAKey) {
     const struct {
         const char* page;
         bool by_key;
@@ -110,7 +110,7 @@ TEST_F(PageFiles, GoWhereTheUserWantsThemByAClickOrAKey) {
     }
 }
 
-TEST_F(PageFiles, AreNotEvenAskedForWithoutAClickAndOneClickIsForOne) {
+TEST_F(PageFiles, NeedAClickEach) {
     const QByteArray two_more =
         "<script>const more = () => { for (const name of ['1.wav', '2.wav'])"
         "Object.assign(document.createElement('a'), {href: '/voice?' + name, download: name}).click(); }";
@@ -126,7 +126,7 @@ TEST_F(PageFiles, AreNotEvenAskedForWithoutAClickAndOneClickIsForOne) {
     EXPECT_EQ(proposals.size(), 1u);
 }
 
-TEST_F(PageFiles, ThatAreNoDataOrNeverEndAreRefusedAndThePageGoesOn) {
+TEST_F(PageFiles, AreRefusedWhenNotDataOrEndlessAndThePageContinues) {
     server.serve("/program", "[Desktop Entry]",
                  "Content-Disposition: attachment; filename=a.wav.desktop\r\n");
     open(link("href=/program"));
@@ -151,7 +151,7 @@ TEST_F(PageFiles, ThatAreNoDataOrNeverEndAreRefusedAndThePageGoesOn) {
     EXPECT_TRUE(comes([this] { return tests::names_in(folder.path()).empty(); })) << "half a file stays";
 }
 
-TEST_F(PageFiles, ThePageStaysWhileTheUserIsAskedAndGoesOnAfterwards) {
+TEST_F(PageFiles, WaitForTheUsersAnswerAndThePageContinuesAfterwards) {
     open(link("href=/voice"));
     while_asked = [this] { web->form.WebBrowser.Navigate(u"", {}, {}); };
     web->click();
@@ -159,7 +159,7 @@ TEST_F(PageFiles, ThePageStaysWhileTheUserIsAskedAndGoesOnAfterwards) {
     EXPECT_EQ(proposals.size(), 1u);
 }
 
-TEST_F(PageFiles, ALinkForAnotherWindowOpensInTheSameView) {
+TEST_F(PageFiles, ALinkForANewWindowOpensInTheSameView) {
     server.serve("/popup", "<p>popup", HTML);
     for (const char* page : {"href=/popup target=_blank", "onclick='window.open(\"/popup\", \"name\")'"}) {
         SCOPED_TRACE(page);

@@ -8,27 +8,27 @@
 
 namespace tests {
 
-/// A request as it came in, byte by byte.
+/// A request exactly as it arrived.
 struct ReceivedRequest {
     QByteArray method;
     QByteArray path;
-    /// Of the names in small letters.
+    /// By names in lower case.
     QHash<QByteArray, QByteArray> head;
     QByteArray body;
 };
 
-/// A server of pages. It writes down what it is asked and gives what it was told to.
+/// A server of pages. It records requests and gives the answers that the test sets.
 class PageServer {
   public:
-    /// Answers the path with this; `head` is further lines of the answer's head. More bytes than there are
-    /// may be `missing`, for which the client then waits.
+    /// Answers the path with this; `head` holds further lines of the answer's head. The head promises
+    /// `missing` more bytes than are sent, for which the client then waits.
     void serve(const QByteArray& path, const QByteArray& body, const QByteArray& head = "",
                const QByteArray& status = "200 OK", qsizetype missing = 0);
     /// The address of the path without its scheme, as "//127.0.0.1:1234/path".
     QByteArray address(const QByteArray& path) const;
 
     std::vector<ReceivedRequest> requests() const;
-    /// The last request of the path, or none.
+    /// The last request for the path, or nothing.
     std::optional<ReceivedRequest> request(const QByteArray& path) const;
     std::ptrdiff_t requests_of(const QByteArray& path) const;
 

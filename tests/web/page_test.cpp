@@ -1,4 +1,4 @@
-// A page of the service in its form: what is sent, what is seen, and the way out.
+// A page of the service in its form: what is sent, what the user sees, and how the form closes.
 
 #include "platform/text/cp949.h"
 #include "tests/web/web_fixture.h"
@@ -15,7 +15,7 @@ using tests::WebForm;
 
 constexpr char HTML[] = "Content-Type: text/html; charset=utf-8\r\n";
 
-TEST(Page, GetsThePostedBytesAndNothingElseOfTheUser) {
+TEST(Page, GetsOnlyThePostedBytesFromTheUser) {
     PageServer server;
     server.serve("/result.jsp", "<title>x</title><p>&#48156;&#49569;",
                  QByteArray(HTML) + "Set-Cookie: session=secret; Max-Age=86400\r\n");
@@ -40,9 +40,9 @@ TEST(Page, GetsThePostedBytesAndNothingElseOfTheUser) {
     EXPECT_EQ(server.requests().size(), 2U);
 }
 
-TEST(Page, WithoutABodyIsOnlyAskedFor) {
+TEST(Page, IsFetchedWithGetWhenTheBodyIsEmpty) {
     PageServer server;
-    // As pages of that time are: no word of their code page.
+    // Like older pages, it does not declare its code page.
     server.serve("/find", "<p>" + QByteArray::fromStdString(platform::encode_cp949(u"아이디 찾기")),
                  "Content-Type: text/html\r\n");
     WebForm web;
@@ -76,7 +76,7 @@ TEST(Page, ThatCannotBeLoadedShowsTheEnginesErrorAndTheFormCloses) {
     }
 }
 
-TEST(Page, CannotKeepEscapeForItself) {
+TEST(Page, CannotSwallowEscape) {
     PageServer server;
     server.serve("/", "<input autofocus onkeydown='event.preventDefault()'>", HTML);
     WebForm web;

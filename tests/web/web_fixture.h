@@ -10,7 +10,7 @@
 
 namespace tests {
 
-/// Waits until the engine's processes have brought it about; a failure of the test when they never do.
+/// Waits until the engine's processes make the condition true; fails the test if they never do.
 template <class Condition>
 [[nodiscard]] bool comes(Condition condition) {
     constexpr int FOREVER = 30'000;
@@ -28,9 +28,9 @@ struct WebForm : WindowsOnDoubles {
 
     QWidget& window() const;
     QWebEngineView& view() const;
-    /// Waits for the page's load to end, well or not.
+    /// Waits for the end of the page's load, successful or not.
     bool loaded() const;
-    /// What there is to read, in UTF-8.
+    /// The text that the user can read, in UTF-8.
     std::string text() const;
 
     void click() const;

@@ -12,8 +12,8 @@
 
 namespace {
 
-TEST(KeptInput, ArrivesAfterTheWorkWithoutAnotherKeyOrTheMouse) {
-    // No caret blinks in it, which would make the server send something.
+TEST(KeptInput, ArrivesAfterTheWorkWithoutFurtherInput) {
+    // A button has no blinking caret, which would make the server send events.
     QPushButton button;
     bool clicked = false;
     QObject::connect(&button, &QPushButton::clicked, [&] { clicked = true; });
@@ -24,7 +24,7 @@ TEST(KeptInput, ArrivesAfterTheWorkWithoutAnotherKeyOrTheMouse) {
     ASSERT_EQ(QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("key"), QStringLiteral("space")}),
               0);
     for (int step = 0; step < 5000; ++step) {
-        // A question to the server, behind whose answer the key stands.
+        // A question to the server: when its answer has come, so has the key.
         QCursor::pos();
         machine::qt::keep_painted();
     }
