@@ -2,6 +2,9 @@
 
 #include "platform/error.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace addressbook {
 
 using platform::Text;
@@ -15,19 +18,30 @@ constexpr platform::TextView ACCESS =
 
 constexpr platform::TextView OPENED = u"OK";
 
+/// The types whose texts are padded with blanks. Deliberately not those that the card database has: a name
+/// with blanks at its end keeps them in every list.
+constexpr int PADDED_TYPES[] = {10, 12};
+
 }  // namespace
+
+Text FIELD_VALUE(platform::CardField field) {
+    if (const auto* number = std::get_if<std::int32_t>(&field.value)) return platform::decimal(*number);
+    auto* text = std::get_if<Text>(&field.value);
+    if (text == nullptr) return Text();
+    return std::ranges::count(PADDED_TYPES, field.type) > 0 ? platform::right_trim(*text) : std::move(*text);
+}
 
 Text CONNECT_CARD_DB(platform::Platform& platform, core::AppState& state) {
     const Text path = platform.files.application_directory() + u"\\CardvaleDB.vdb";
-    state.gCardDb.reset();
+    state.cards.gCardDb.reset();
     try {
-        state.gCardDb = platform.cards.connect(Text(PROVIDER) + path + Text(ACCESS));
+        state.cards.gCardDb = platform.cards.connect(Text(PROVIDER) + path + Text(ACCESS));
     } catch (const platform::RuntimeError& error) {
         return u"오류번호:" + platform::decimal(error.number()) + u"(" + path + u")\r\n\r\n" +
                error.description();
     }
-    if (state.gCardDb->state() == platform::CONNECTION_OPEN) return Text(OPENED);
-    state.gCardDb.reset();
+    if (state.cards.gCardDb->state() == platform::CONNECTION_OPEN) return Text(OPENED);
+    state.cards.gCardDb.reset();
     return u"데이터베이스 오픈오류!";
 }
 
@@ -40,8 +54,9 @@ bool OPEN_CARD_DB(platform::Platform& platform, core::AppState& state, bool show
 }
 
 std::unique_ptr<platform::CardRecordset> open_recordset(core::AppState& state, const Text& statement) {
-    if (state.gCardDb == nullptr) throw platform::RuntimeError(platform::ErrorNumber::connection_closed);
-    return state.gCardDb->open_recordset(statement);
+    if (state.cards.gCardDb == nullptr)
+        throw platform::RuntimeError(platform::ErrorNumber::connection_closed);
+    return state.cards.gCardDb->open_recordset(statement);
 }
 
 }  // namespace addressbook

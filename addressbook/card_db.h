@@ -5,8 +5,11 @@
 
 namespace addressbook {
 
-/// Opens the card manager's database anew in `gCardDb`. Returns "OK", or what a box is to say; nothing is
-/// open then.
+/// A database field's value as a text: NULL is empty, a number its decimal digits.
+platform::Text FIELD_VALUE(platform::CardField field);
+
+/// Opens the card manager's database anew in `gCardDb`. Returns "OK", or the text of a box about what failed;
+/// nothing is open then.
 platform::Text CONNECT_CARD_DB(platform::Platform& platform, core::AppState& state);
 
 /// The same, with a box about a failure when `showError`. Returns whether the database is open.

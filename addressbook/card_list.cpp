@@ -1,9 +1,8 @@
 // The list of cards: its columns, its rows, and what the caption says about them.
 
+#include "addressbook/card_db.h"
 #include "addressbook/frmSendMan.h"
-#include "core/common.h"
-#include "core/list_columns.h"
-#include "core/percent.h"
+#include "platform/controls/list_columns.h"
 #include "platform/error.h"
 #include "platform/text/format.h"
 
@@ -16,9 +15,9 @@ using platform::TextView;
 
 namespace {
 
-/// A list of up to this many rows is filled whatever the user does meanwhile.
+/// Input of the user does not interrupt the filling of the list before this many rows.
 constexpr std::size_t FILLED_ANYHOW = 200;
-/// More records than this show their progress.
+/// A list of up to this many records is filled without showing progress.
 constexpr int QUICK_LIST = 100;
 
 constexpr int FIRST_COLUMN_NARROWER_BY = 60;
@@ -69,7 +68,7 @@ void frmSendMan::connect_list() {
     ListView2.KeyPress.connect([this](platform::KeyPressed& key) {
         if (key.code == platform::KEY_CTRL_A) ListView2.select_all();
     });
-    ListView2.ColumnClick.connect([this](int column) { core::SORT_BY_COLUMN(ListView2, column); });
+    ListView2.ColumnClick.connect([this](int column) { platform::SORT_BY_COLUMN(ListView2, column); });
     ListView2.Resize.connect([this] { LISTVIEW2HDR_RESET(); });
 }
 
@@ -81,10 +80,10 @@ void frmSendMan::CARD_LIST_FILL(platform::CardRecordset& recordset) {
     if (records > QUICK_LIST) show_progress();
     const auto user = platform_.desktop.watch_input();
     for (; !recordset.end_of_file(); recordset.move_next()) {
-        // Deliberately without a word: who goes on working does not wait for the rest of a long list.
+        // Deliberately silent: a user who goes on working does not wait for the rest of a long list.
         if (ListView2.row_count() > FILLED_ANYHOW && user->input_waits()) break;
         LISTVIEW2_ADD(recordset);
-        PBar1.set_value(core::percent(ListView2.row_count(), static_cast<std::size_t>(records)));
+        PBar1.set_progress(ListView2.row_count(), static_cast<std::size_t>(records));
         platform_.desktop.paint();
     }
     if (ListView2.sorted()) ListView2.sort(ListView2.sort_key(), ListView2.sort_order());
@@ -96,7 +95,7 @@ void frmSendMan::CARD_LIST_FILL(platform::CardRecordset& recordset) {
 void frmSendMan::LISTVIEW2_ADD(const platform::CardRecordset& TemTable) {
     const auto read = [&](TextView field) {
         Text text;
-        platform::ignore_errors([&] { text = core::FIELD_VALUE(TemTable.field(field)); });
+        platform::ignore_errors([&] { text = FIELD_VALUE(TemTable.field(field)); });
         return text;
     };
     std::vector<Text> sub_items;

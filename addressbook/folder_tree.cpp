@@ -3,8 +3,6 @@
 #include "addressbook/card_db.h"
 #include "addressbook/frmSendMan.h"
 #include "addressbook/statements.h"
-#include "core/common.h"
-#include "core/percent.h"
 #include "platform/error.h"
 #include "platform/text/number.h"
 
@@ -27,7 +25,7 @@ enum Picture { OPEN_TOP = 1, FOLDER = 2, UNASSIGNED_FOLDER = 3 };
 
 bool is_unassigned(TextView name) { return name == u"미지정" || name == u"미정"; }
 
-/// A folder that waits for its parent's node.
+/// A folder whose parent may have no node yet.
 struct WaitingFolder {
     Text f_idx;
     double p_idx = 0;
@@ -38,7 +36,7 @@ struct WaitingFolder {
 std::vector<WaitingFolder> read_folders(platform::CardRecordset& recordset) {
     std::vector<WaitingFolder> folders;
     for (; !recordset.end_of_file(); recordset.move_next()) {
-        const auto value = [&](TextView name) { return core::FIELD_VALUE(recordset.field(name)); };
+        const auto value = [&](TextView name) { return FIELD_VALUE(recordset.field(name)); };
         WaitingFolder folder{.f_idx = value(u"f_idx"),
                              .p_idx = platform::leading_number(value(u"p_idx")),
                              .folder_name = value(u"folder_name")};
@@ -48,14 +46,14 @@ std::vector<WaitingFolder> read_folders(platform::CardRecordset& recordset) {
     return folders;
 }
 
-/// A name with a parenthesis of its own loses what follows it, too.
+/// The name without the count behind it. A parenthesis of the name's own is taken for a count too.
 Text FOLDER_TEXT_STRIP(const Text& text) { return text.substr(0, text.find(u'(')); }
 
 }  // namespace
 
 void frmSendMan::connect_folders() {
-    TreeView1.NodeClick.connect([this](TreeNode& node) { TreeView1_NodeClick(node); });
-    TreeView1.Expand.connect([this](TreeNode& node) { TreeView1_Expand(node); });
+    TreeView1.NodeClick.connect([this](TreeNode& node) { list_folder(node); });
+    TreeView1.Expand.connect([this](TreeNode& node) { show_expanded_picture(node); });
     TreeView1.MouseDown.connect([this](platform::MouseButton button) {
         if (button == platform::MouseButton::right) platform_.desktop.popup_menu(*this, mnuFiles);
     });
@@ -117,8 +115,8 @@ void frmSendMan::FOLDER_TREE_LOAD() {
 
 void frmSendMan::build_tree(platform::CardRecordset& recordset) {
     std::vector<WaitingFolder> folders = read_folders(recordset);
-    // Deliberately without an end for a folder whose parent is nowhere: a tree that lacks folders would send
-    // to fewer people than the card manager shows.
+    // Deliberately without an end when a folder's parent is in no row: the window hangs rather than show a
+    // tree that lacks folders, which would send to fewer people than the card manager shows.
     while (!folders.empty()) {
         for (WaitingFolder& folder : folders) {
             const int parent = T_INDEX(folder.p_idx);
@@ -150,7 +148,7 @@ void frmSendMan::Group_Recount() {
             const std::int32_t count = card_count(node);
             write_count(node, count);
             total += count;
-            PBar1.set_value(core::percent(position, TreeView1.node_count()));
+            PBar1.set_progress(position, TreeView1.node_count());
             platform_.desktop.paint();
         }
     });
@@ -162,17 +160,17 @@ void frmSendMan::Group_Recount() {
 /// Counts every row of the folder, also those that no list shows.
 std::int32_t frmSendMan::card_count(const TreeNode& folder) {
     const auto recordset = open_recordset(state_, statements::card_count(folder.tag()));
-    const double count = platform::leading_number(core::FIELD_VALUE(recordset->field(u"RNo")));
+    const double count = platform::leading_number(FIELD_VALUE(recordset->field(u"RNo")));
     return count < 0 ? 0 : static_cast<std::int32_t>(count);
 }
 
-void frmSendMan::TreeView1_NodeClick(const TreeNode& node) {
+void frmSendMan::list_folder(const TreeNode& node) {
     TreeView1.set_tag(node.tag());
     FOLDER_CARDS_LOAD(node);
     TreeView1.set_focus();
 }
 
-void frmSendMan::TreeView1_Expand(TreeNode& node) {
+void frmSendMan::show_expanded_picture(TreeNode& node) {
     const Text path = node.full_path();
     const bool unassigned = platform::contains(path, u"/미지정") || platform::contains(path, u"/미정");
     const int picture = node.position() == 1 ? OPEN_TOP : unassigned ? UNASSIGNED_FOLDER : FOLDER;
@@ -180,7 +178,7 @@ void frmSendMan::TreeView1_Expand(TreeNode& node) {
 }
 
 void frmSendMan::FOLDER_CARDS_LOAD(const TreeNode& node) {
-    if (node.position() == 1) return Command5_Click();
+    if (node.position() == 1) return list_all_cards();
     if (!OPEN_CARD_DB(platform_, state_, true)) return;
     platform::ignore_errors([&] {
         const auto recordset = open_recordset(state_, statements::cards_of_folder(node.tag()));
@@ -204,7 +202,7 @@ Text frmSendMan::ALLDB_SQL2() {
     std::vector<Text> folders;
     const auto recordset = open_recordset(state_, statements::folders_outside_trash());
     for (; !recordset->end_of_file(); recordset->move_next())
-        folders.push_back(core::FIELD_VALUE(recordset->field(u"f_idx")));
+        folders.push_back(FIELD_VALUE(recordset->field(u"f_idx")));
     return statements::folder_filter(folders);
 }
 

@@ -1,7 +1,7 @@
 #include "addressbook/frmSendMan.h"
 
 #include "addressbook/card_db.h"
-#include "core/windows.h"
+#include "core/centring.h"
 #include "platform/error.h"
 
 namespace addressbook {
@@ -25,7 +25,7 @@ frmSendMan::frmSendMan(platform::Platform& platform, core::AppState& state,
 
 void frmSendMan::Form_Load() {
     core::CENTER_FORM(platform_.desktop, *this);
-    state_.gDialogConfirmed = false;
+    state_.forms.gDialogConfirmed = false;
     activated_ = false;
     // Nothing is taken in from the card manager while the user picks.
     polling_.set_enabled(false);
@@ -39,11 +39,11 @@ void frmSendMan::Form_Load() {
 void frmSendMan::Form_Activate() {
     if (activated_) return;
     activated_ = true;
-    Command5_Click();
+    list_all_cards();
 }
 
 void frmSendMan::Form_Unload() {
-    state_.gCardDb.reset();
+    state_.cards.gCardDb.reset();
     polling_.set_enabled(true);
 }
 

@@ -50,9 +50,9 @@ class frmSendMan : public platform::Form {
     void ShowEnter(const platform::Text& kind);
 
     // Folders.
-    /// Reads the tree anew. A folder whose parent exists in no row keeps it running for ever.
+    /// Reads the tree anew. Warning: it does not return if a folder's parent is missing (see build_tree).
     void FOLDER_TREE_LOAD();
-    /// Writes how many cards there are behind the name of each folder.
+    /// Writes the number of cards behind the name of each folder.
     void Group_Recount();
     /// The position of the first node with this number as its tag, or -1.
     int T_INDEX(double f_idx) const;
@@ -64,11 +64,11 @@ class frmSendMan : public platform::Form {
     platform::Text ALLDB_SQL2();
 
     // The list.
-    /// Replaces the list's rows by those of the recordset, or by as many of them as the user waits for.
+    /// Replaces the list's rows by those of the recordset; stops early when the user goes on working.
     void CARD_LIST_FILL(platform::CardRecordset& recordset);
     /// Adds the current record.
     void LISTVIEW2_ADD(const platform::CardRecordset& TemTable);
-    /// Evens the columns out.
+    /// Gives all columns the same width.
     void LISTVIEW2HDR_RESET();
     /// Writes the caption: cards in all folders, rows of the list, number of the selected row.
     void PICK_STATUS_SHOW();
@@ -94,16 +94,16 @@ class frmSendMan : public platform::Form {
     void number_folders();
     void build_tree(platform::CardRecordset& folders);
     std::int32_t card_count(const platform::TreeNode& folder);
-    void TreeView1_NodeClick(const platform::TreeNode& node);
-    void TreeView1_Expand(platform::TreeNode& node);
+    void list_folder(const platform::TreeNode& node);
+    void show_expanded_picture(platform::TreeNode& node);
     void FOLDER_CARDS_LOAD(const platform::TreeNode& node);
 
     // Searching.
-    void Text1_GotFocus();
-    void Text1_LostFocus();
+    void hide_hint();
+    void show_hint_when_empty();
     void show_hint();
-    void Command1_Click();
-    void Command5_Click();
+    void search();
+    void list_all_cards();
     void list_anew(const platform::Text& statement);
 
     // The list.
@@ -112,7 +112,7 @@ class frmSendMan : public platform::Form {
 
     // Picking.
     void build_columns(const platform::Text& kind);
-    void Command2_Click(std::size_t index);
+    void take_selected(std::size_t index);
     /// The sub-items that picking reads.
     struct PickedCells {
         int number, company, title;

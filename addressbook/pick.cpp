@@ -1,10 +1,9 @@
 // The columns for each kind of message, and the selected rows into the main window's recipients.
 
 #include "addressbook/frmSendMan.h"
-#include "core/common.h"
-#include "core/list_columns.h"
-#include "core/percent.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/phone_number.h"
+#include "platform/controls/list_columns.h"
 #include "platform/error.h"
 #include "platform/text/number.h"
 
@@ -18,13 +17,13 @@ using platform::TextView;
 
 namespace {
 
-/// In twips, until the columns are evened out.
+/// In twips, until LISTVIEW2HDR_RESET.
 constexpr int FIRST_COLUMN_WIDTH = 1000;
 constexpr int COLUMN_WIDTH = 1500;
 
 /// The sub-item of the column with this caption; without such a column one that is empty in every row.
 int sub_item_of(TextView caption, const platform::ListView& list) {
-    const int column = core::FIND_COLUMN(caption, list);
+    const int column = platform::FIND_COLUMN(caption, list);
     return column > 0 ? column - 1 : list.column_count();
 }
 
@@ -32,9 +31,9 @@ int sub_item_of(TextView caption, const platform::ListView& list) {
 
 void frmSendMan::connect_picking() {
     for (std::size_t index = 0; index < Command2.size(); ++index)
-        Command2[index].Click.connect([this, index] { Command2_Click(index); });
+        Command2[index].Click.connect([this, index] { take_selected(index); });
     ListView2.DblClick.connect([this] {
-        if (ListView2.selected_item()) Command2_Click(1);
+        if (ListView2.selected_item()) take_selected(1);
     });
 }
 
@@ -46,21 +45,20 @@ void frmSendMan::ShowEnter(const Text& kind) {
 }
 
 void frmSendMan::build_columns(const Text& kind) {
-    const compose::KindOfMessage* told = compose::find_kind(kind);
-    if (told == nullptr) return;
+    const compose::KindOfMessage* shown = compose::find_kind(kind);
+    if (shown == nullptr) return;
     std::vector<platform::ListView::Column> columns;
-    for (const TextView caption : told->picker_columns) {
-        columns.push_back({.caption = Text(caption),
-                           .picture = {},
-                           .width = columns.empty() ? FIRST_COLUMN_WIDTH : COLUMN_WIDTH});
+    for (const TextView caption : shown->picker_columns) {
+        columns.push_back(
+            {.caption = Text(caption), .width = columns.empty() ? FIRST_COLUMN_WIDTH : COLUMN_WIDTH});
     }
     ListView2.set_columns(std::move(columns));
     Combo2.clear();
-    for (const TextView column : told->picker_numbers) Combo2.add_row(Text(column));
+    for (const TextView column : shown->picker_numbers) Combo2.add_row(Text(column));
     Combo2.set_list_index(0);
 }
 
-void frmSendMan::Command2_Click(std::size_t index) {
+void frmSendMan::take_selected(std::size_t index) {
     if (!ListView2.selected_item()) return core::warn(platform_.desktop, u"자료를 먼저 선택하세요!");
     SENDLIST_ADD();
     if (index == 0) unload();
@@ -75,7 +73,7 @@ void frmSendMan::SENDLIST_ADD() {
     for (std::size_t row = 0; row < ListView2.row_count(); ++row) {
         if (!ListView2.row(row).selected()) continue;
         platform::ignore_errors([&] { pick_row(ListView2.row(row), cells); });
-        PBar1.set_value(core::percent(row + 1, ListView2.row_count()));
+        PBar1.set_progress(row + 1, ListView2.row_count());
         platform_.desktop.paint();
     }
     hide_progress();
@@ -88,7 +86,7 @@ void frmSendMan::pick_row(const ListItem& row, const PickedCells& cells) {
     if (platform::leading_number(number) == 0) return;
     if (recipients_.add(platform::blanks_for_nul(std::move(name)), number,
                         platform::blanks_for_nul(row.sub_item(cells.title))))
-        state_.gDialogConfirmed = true;
+        state_.forms.gDialogConfirmed = true;
 }
 
 }  // namespace addressbook

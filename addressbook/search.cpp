@@ -3,7 +3,7 @@
 #include "addressbook/card_db.h"
 #include "addressbook/frmSendMan.h"
 #include "addressbook/statements.h"
-#include "core/windows.h"
+#include "core/boxes.h"
 #include "platform/error.h"
 
 namespace addressbook {
@@ -13,7 +13,7 @@ using platform::Text;
 namespace {
 
 constexpr platform::TextView HINT = u"이름 또는 회사";
-/// Grey stands out little from either ground, light or dark, and can be read on both.
+/// A grey that can be read on a light ground and on a dark one.
 constexpr std::uint32_t HINT_COLOUR = 0x808080;
 
 constexpr std::size_t FEWEST_CHARACTERS = 2;
@@ -24,15 +24,15 @@ void frmSendMan::connect_search() {
     for (const platform::TextView mode : {statements::BEGINS_WITH, statements::CONTAINS, statements::EQUALS})
         Combo4.add_row(Text(mode));
     show_hint();
-    Text1.GotFocus.connect([this] { Text1_GotFocus(); });
-    Text1.LostFocus.connect([this] { Text1_LostFocus(); });
+    Text1.GotFocus.connect([this] { hide_hint(); });
+    Text1.LostFocus.connect([this] { show_hint_when_empty(); });
     Text1.KeyPress.connect([this](platform::KeyPressed& key) {
         if (key.code != platform::KEY_ENTER) return;
         key.swallow();
-        Command1_Click();
+        search();
     });
-    Command1.Click.connect([this] { Command1_Click(); });
-    Command5.Click.connect([this] { Command5_Click(); });
+    Command1.Click.connect([this] { search(); });
+    Command5.Click.connect([this] { list_all_cards(); });
 }
 
 void frmSendMan::show_hint() {
@@ -40,18 +40,18 @@ void frmSendMan::show_hint() {
     Text1.set_text_colour(HINT_COLOUR);
 }
 
-void frmSendMan::Text1_GotFocus() {
+void frmSendMan::hide_hint() {
     if (platform::trim(Text1.text()) != HINT) return;
     Text1.set_text(u"");
     Text1.set_text_colour(std::nullopt);
 }
 
-void frmSendMan::Text1_LostFocus() {
+void frmSendMan::show_hint_when_empty() {
     if (platform::trim(Text1.text()).empty()) show_hint();
 }
 
-/// The hint is text like any other: a click on the button while it shows searches for it.
-void frmSendMan::Command1_Click() {
+/// The hint counts as text: a click on the button while it shows searches for it.
+void frmSendMan::search() {
     if (Text1.text().empty()) {
         if (activated_) Text1.set_focus();
         return;
@@ -66,10 +66,10 @@ void frmSendMan::Command1_Click() {
     list_anew(statements::matching_cards(ALLDB_SQL(), statements::match_clause(Combo4.text(), Text1.text())));
 }
 
-void frmSendMan::Command5_Click() { list_anew(statements::all_cards(ALLDB_SQL())); }
+void frmSendMan::list_all_cards() { list_anew(statements::all_cards(ALLDB_SQL())); }
 
-/// A statement that the database refuses, as one with an apostrophe in it, leaves the list as it is without a
-/// word.
+/// A statement that the database refuses, such as one with an apostrophe in it, leaves the list as it is,
+/// without a box.
 void frmSendMan::list_anew(const Text& statement) {
     platform::ignore_errors([&] {
         const auto recordset = open_recordset(state_, statement);

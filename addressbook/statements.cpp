@@ -2,6 +2,9 @@
 
 namespace addressbook::statements {
 
+using platform::Text;
+using platform::TextView;
+
 namespace {
 
 constexpr TextView COLUMNS =

@@ -17,7 +17,7 @@ class ListForm : public platform::Form {
   public:
     explicit ListForm(platform::Desktop& desktop) : Form(desktop, u"ListForm") {}
 
-    ListView list{*this, u"list", {{.caption = u"선택", .picture = {}}}, true};
+    ListView list{*this, u"list", {{.caption = u"선택"}}, true};
 };
 
 /// Unsorted numbers, as they come from a card database.

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "app/application.h"
-#include "app/machine.h"
+#include "app/desktop_machine.h"
 #include "machine/qt/desktop/qt_clock.h"
 #include "machine/qt/look/desk_style.h"
-#include "machine/qt/look/korean_font.h"
-#include "machine/qt/look/korean_translator.h"
+#include "machine/qt/look/korean.h"
 #include "machine/qt/look/late_icon.h"
 #include "tests/support/virtual_display.h"
 
@@ -58,7 +57,7 @@ inline void show_program(const std::string& folder) {
 
     const machine::posix::Paths paths(folder);
     machine::qt::QtClock clock;
-    app::Machine machine(paths, machine::posix::PosixFiles(paths, folder + "/windows"), clock);
+    app::DesktopMachine machine(paths, machine::posix::PosixFiles(paths, folder + "/windows"), clock);
     app::Application application(machine.platform);
     if (application.start()) machine.desktop.run_until_closed(application.main_form());
 }

@@ -52,7 +52,7 @@ void without_search(benchmark::State& state, const std::string& file) {
         state.ResumeTiming();
         const Text text = handover::handed_over_text(file);
         handover::HandedOverRecipient recipient;
-        for (const platform::TextView line : handover::split(text, u'\n')) {
+        for (const platform::TextView line : platform::split(text, u'\n')) {
             if (!recipient.read(line)) continue;
             main->form.recipients.ListView1.add_row(
                 u"", {recipient.name, recipient.number, u"", recipient.title}, true);

@@ -4,7 +4,7 @@
 
 #include "bench/ratio.h"
 #include "machine/qt/desktop/qt_desktop.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "platform/controls/form.h"
 #include "platform/controls/list_view.h"
 #include "tests/support/memory_files.h"
@@ -29,11 +29,11 @@ class ListForm : public platform::Form {
 
     ListView list{*this,
                   u"list",
-                  {{.caption = u"선택", .picture = {}},
-                   {.caption = u"이름", .picture = {}},
-                   {.caption = u"문자보낼번호", .picture = {}},
-                   {.caption = u"상태", .picture = {}},
-                   {.caption = u"직위", .picture = {}}},
+                  {{.caption = u"선택"},
+                   {.caption = u"이름"},
+                   {.caption = u"문자보낼번호"},
+                   {.caption = u"상태"},
+                   {.caption = u"직위"}},
                   true};
 };
 

@@ -4,9 +4,10 @@
 // opens, while all its cards become recipients, and while 100,000 recipients are handed over.
 
 #include "addressbook/frmSendMan.h"
-#include "app/machine.h"
+#include "app/desktop_machine.h"
 #include "bench/bare_jet_read.h"
 #include "bench/ratio.h"
+#include "core/app_state.h"
 #include "handover/handover.h"
 #include "machine/qt/desktop/qt_clock.h"
 #include "machine/qt/look/desk_style.h"
@@ -108,7 +109,7 @@ struct Program {
     ~Program() { main.unload(); }
 
     machine::posix::Paths paths;
-    app::Machine machine;
+    app::DesktopMachine machine;
     core::AppState state;
     compose::frmZent main{machine.platform, state, {}};
 };

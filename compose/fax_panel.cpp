@@ -2,7 +2,7 @@
 
 #include "compose/fax_documents.h"
 #include "compose/questions.h"
-#include "core/windows.h"
+#include "core/boxes.h"
 #include "platform/error.h"
 
 namespace compose {
@@ -28,7 +28,7 @@ bool has_document(const platform::ListView& documents, const Text& path) {
 FaxPanel::FaxPanel(platform::Form& form, platform::Platform& platform, platform::CommonDialog& dialog)
     : Frame1(form, u"Frame1_2"),
       Label3_2(form, u"Label3_2", u"보낼문서:"),
-      FAX1(form, u"FAX1", {{.caption = u"보낼문서", .picture = {}}}),
+      FAX1(form, u"FAX1", {{.caption = u"보낼문서"}}),
       FAXBttn1(form, u"FAXBttn1", u"찾아보기..."),
       FAXBttn2(form, u"FAXBttn2", u"삭제"),
       FAXFileSize1(form, u"FAXFileSize1"),

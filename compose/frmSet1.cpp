@@ -1,7 +1,7 @@
 #include "compose/frmSet1.h"
 
-#include "core/ini_file.h"
-#include "core/windows.h"
+#include "core/centring.h"
+#include "core/settings.h"
 #include "platform/text/number.h"
 
 namespace compose {
@@ -27,17 +27,16 @@ frmSet1::frmSet1(platform::Platform& platform) : Form(platform.desktop, u"frmSet
 
 void frmSet1::Form_Load() {
     core::CENTER_FORM(platform_.desktop, *this);
-    const Text saved = core::INI_READ(platform_, core::application_ini(platform_), u"SET", u"P_TIME_SET");
-    const double row = saved.empty() ? DEFAULT_ROW : platform::leading_number(saved);
+    const Text saved = core::read_setting(platform_, core::settings::SCHEDULE_LEAD_ROW);
+    const double row = platform::leading_number(saved);
     const bool is_row = row >= 0 && row < static_cast<double>(Combo1.rows().size());
     Combo1.set_list_index(is_row ? static_cast<int>(row) : DEFAULT_ROW);
 }
 
 void frmSet1::Command1_Click() {
-    const Text ini = core::application_ini(platform_);
-    core::INI_WRITE(platform_, ini, u"SET", u"P_TIME_SET", platform::decimal(Combo1.list_index()));
-    core::INI_WRITE(platform_, ini, u"SET", u"P_TIME",
-                    platform::decimal(Combo1.item_data(Combo1.list_index())));
+    core::write_setting(platform_, core::settings::SCHEDULE_LEAD_ROW, platform::decimal(Combo1.list_index()));
+    core::write_setting(platform_, core::settings::SCHEDULE_LEAD,
+                        platform::decimal(Combo1.item_data(Combo1.list_index())));
     unload();
 }
 

@@ -1,6 +1,6 @@
 #include "compose/frmXTip.h"
 
-#include "core/windows.h"
+#include "core/centring.h"
 
 namespace compose {
 

@@ -1,7 +1,6 @@
 #include "compose/main_form.h"
 
-#include "core/common.h"
-#include "core/windows.h"
+#include "core/boxes.h"
 #include "service/frmAbout.h"
 #include "service/service_pages.h"
 
@@ -66,7 +65,7 @@ void frmZent::connect() {
     Command2.Click.connect([this] { unload(); });
     Command3.Click.connect([this] { start_anew(); });
     Command5.Click.connect([this] { show_caution(); });
-    if (doors_.message_box) text.MyMsgBttn.Click.connect(doors_.message_box);
+    if (doors_.saved_texts) text.MyMsgBttn.Click.connect(doors_.saved_texts);
 
     mnuSetup.Click.connect([this] { schedule.show_settings(); });
     mmuEnd.Click.connect([this] { unload(); });
@@ -93,7 +92,7 @@ void frmZent::connect() {
 
 /// Disables every control that would do nothing when pressed.
 void frmZent::disable_without_door() {
-    text.MyMsgBttn.set_enabled(doors_.message_box != nullptr);
+    text.MyMsgBttn.set_enabled(doors_.saved_texts != nullptr);
     mnuUpDate.set_enabled(doors_.update_check != nullptr);
     // These entries have no action and never had one; the tabs and the toolbar do the same.
     for (platform::Menu* entry : {&sendmenu1_0, &sendmenu1_1, &sendmenu1_2, &sendmenu1_3, &cmdPonResult,

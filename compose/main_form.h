@@ -37,8 +37,8 @@ struct MainDoors {
     /// Takes in what the card manager hands over in files.
     std::function<void()> NEW_SENDMAN_LOAD = {};
     /// Opens the box of saved texts.
-    std::function<void()> message_box = {};
-    /// Checks for an update and offers it.
+    std::function<void()> saved_texts = {};
+    /// Looks for an update and offers it.
     std::function<void()> update_check = {};
     /// The same while the program starts; false when the server was not reached.
     std::function<bool()> update_check_at_start = {};

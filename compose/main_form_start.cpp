@@ -2,10 +2,12 @@
 
 #include "compose/handover_files.h"
 #include "compose/main_form.h"
-#include "core/deployment.h"
-#include "core/files.h"
-#include "core/ini_file.h"
-#include "core/windows.h"
+#include "core/app_state.h"
+#include "core/boxes.h"
+#include "core/centring.h"
+#include "core/paths.h"
+#include "core/settings.h"
+#include "core/work_folders.h"
 #include "platform/error.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
@@ -34,11 +36,11 @@ int twips(const Text& value) {
 
 void frmZent::Form_Load() {
     const platform::Screen screen = platform_.desktop.screen();
-    state_.gMinTrackX =
+    state_.window.gMinTrackX =
         static_cast<std::int32_t>(std::lround(double(MINIMUM_WIDTH) / screen.twips_per_pixel_x));
-    state_.gMinTrackY =
+    state_.window.gMinTrackY =
         static_cast<std::int32_t>(std::lround(double(MINIMUM_HEIGHT) / screen.twips_per_pixel_y));
-    set_minimum_size(state_.gMinTrackX, state_.gMinTrackY);
+    set_minimum_size(state_.window.gMinTrackX, state_.window.gMinTrackY);
     set_caption(Text(core::APPLICATION_TITLE));
     for (platform::PictureBox* box : {&Picture1, &Picture3, &Picture4, &Picture5, &Picture6})
         box->set_border(false);
@@ -51,34 +53,33 @@ void frmZent::Form_Load() {
 }
 
 void frmZent::restore_placement() {
-    const Text ini = core::application_ini(platform_);
-    const auto read = [&](platform::TextView key) {
-        return platform::trim(core::INI_READ(platform_, ini, u"WINDOW SIZE", key));
+    const auto read = [&](const core::Setting& setting) {
+        return platform::trim(core::read_setting(platform_, setting));
     };
-    state_.gWinMax = read(u"M_MAX");
-    state_.gWinLeft = read(u"M_LEFT");
-    state_.gWinTop = read(u"M_TOP");
-    state_.gWinWidth = read(u"M_WIDTH");
-    state_.gWinHeight = read(u"M_HEIGHT");
+    state_.window.gWinMax = read(core::settings::WINDOW_STATE);
+    state_.window.gWinLeft = read(core::settings::WINDOW_LEFT);
+    state_.window.gWinTop = read(core::settings::WINDOW_TOP);
+    state_.window.gWinWidth = read(core::settings::WINDOW_WIDTH);
+    state_.window.gWinHeight = read(core::settings::WINDOW_HEIGHT);
 
     const platform::Screen screen = platform_.desktop.screen();
     const platform::Placement centre = core::centred(screen, DEFAULT_WIDTH, DEFAULT_HEIGHT);
-    const bool never_placed = state_.gWinLeft.empty() && state_.gWinTop.empty() && state_.gWinWidth.empty() &&
-                              state_.gWinHeight.empty();
-    if (state_.gWinMax.empty() || never_placed) {
+    const bool never_placed = state_.window.gWinLeft.empty() && state_.window.gWinTop.empty() &&
+                              state_.window.gWinWidth.empty() && state_.window.gWinHeight.empty();
+    if (state_.window.gWinMax.empty() || never_placed) {
         move(centre);
         return;
     }
-    if (platform::leading_number(state_.gWinMax) == 2 ||
-        platform::equal_without_case(state_.gWinMax, u"max")) {
+    if (platform::leading_number(state_.window.gWinMax) == 2 ||
+        platform::equal_without_case(state_.window.gWinMax, u"max")) {
         move(centre);
         set_window_state(WindowState::maximised);
         return;
     }
-    move({.left = std::max(std::min(twips(state_.gWinLeft), screen.width - 1000), 0),
-          .top = std::min(std::max(twips(state_.gWinTop), 0), screen.height - 600),
-          .width = std::min(twips(state_.gWinWidth), screen.width),
-          .height = std::min(twips(state_.gWinHeight), screen.height)});
+    move({.left = std::max(std::min(twips(state_.window.gWinLeft), screen.width - 1000), 0),
+          .top = std::min(std::max(twips(state_.window.gWinTop), 0), screen.height - 600),
+          .width = std::min(twips(state_.window.gWinWidth), screen.width),
+          .height = std::min(twips(state_.window.gWinHeight), screen.height)});
     if (placement().width <= 0 || placement().height <= 0) move(centre);
 }
 
@@ -104,12 +105,11 @@ void frmZent::start_work() {
     DRAFT_RESET_IF_NO_KIND();
     // Without a network an automatic login would fail: the user logs in by hand.
     if (!server_reached) return session.cmdLogin_Click();
-    if (!Timer2.tag().empty() || state_.gLoggedIn) return;
+    if (!Timer2.tag().empty() || state_.session.gLoggedIn) return;
 
-    const Text login = core::login_ini(platform_);
-    if (core::INI_IS_ON(platform_, core::application_ini(platform_), u"LOGIN", u"AUTOLOGIN") &&
-        !core::INI_READ(platform_, login, u"LOGIN", u"LOGINID").empty() &&
-        !core::INI_READ(platform_, login, u"LOGIN", u"LOGINPW").empty()) {
+    if (core::setting_is_on(platform_, core::settings::AUTO_LOGIN) &&
+        !core::read_setting(platform_, core::settings::LOGIN_ID).empty() &&
+        !core::read_setting(platform_, core::settings::LOGIN_PASSWORD).empty()) {
         session.AUTO_LOGIN_START();
     } else {
         session.cmdLogin_Click();
@@ -124,10 +124,10 @@ bool frmZent::update_check_at_start() {
 
 void frmZent::Form_Unload() {
     voice.RFK1.stop();
-    const Text ini = core::application_ini(platform_);
     sender.save();
-    // Settings files have always had this key, though the program never reads it.
-    core::INI_WRITE(platform_, ini, u"SET", u"STARTUPDATECHECK", mnuStartUpdate.checked() ? u"1" : u"0");
+    // Written for those who may read it one day; this program never does.
+    core::write_setting(platform_, core::settings::UPDATE_CHECK_AT_START,
+                        mnuStartUpdate.checked() ? u"1" : u"0");
     session.save();
     save_placement();
     for (const Text& file : {isend_text(platform_), tmpman_txt(platform_)})
@@ -137,20 +137,19 @@ void frmZent::Form_Unload() {
 
 void frmZent::save_placement() {
     if (window_state() == WindowState::normal) {
-        state_.gWinMax = u"0";
-        state_.gWinLeft = platform::decimal(placement().left);
-        state_.gWinTop = platform::decimal(placement().top);
-        state_.gWinWidth = platform::decimal(placement().width);
-        state_.gWinHeight = platform::decimal(placement().height);
+        state_.window.gWinMax = u"0";
+        state_.window.gWinLeft = platform::decimal(placement().left);
+        state_.window.gWinTop = platform::decimal(placement().top);
+        state_.window.gWinWidth = platform::decimal(placement().width);
+        state_.window.gWinHeight = platform::decimal(placement().height);
     } else {
-        state_.gWinMax = platform::decimal(static_cast<int>(window_state()));
+        state_.window.gWinMax = platform::decimal(static_cast<int>(window_state()));
     }
-    const Text ini = core::application_ini(platform_);
-    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_MAX", state_.gWinMax);
-    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_LEFT", state_.gWinLeft);
-    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_TOP", state_.gWinTop);
-    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_WIDTH", state_.gWinWidth);
-    core::INI_WRITE(platform_, ini, u"WINDOW SIZE", u"M_HEIGHT", state_.gWinHeight);
+    core::write_setting(platform_, core::settings::WINDOW_STATE, state_.window.gWinMax);
+    core::write_setting(platform_, core::settings::WINDOW_LEFT, state_.window.gWinLeft);
+    core::write_setting(platform_, core::settings::WINDOW_TOP, state_.window.gWinTop);
+    core::write_setting(platform_, core::settings::WINDOW_WIDTH, state_.window.gWinWidth);
+    core::write_setting(platform_, core::settings::WINDOW_HEIGHT, state_.window.gWinHeight);
 }
 
 }  // namespace compose

@@ -1,6 +1,6 @@
 #include "compose/message_kinds.h"
 
-#include "core/common.h"
+#include "core/phone_number.h"
 #include "platform/error.h"
 
 #include <algorithm>

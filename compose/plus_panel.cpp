@@ -2,8 +2,7 @@
 
 #include "compose/message_kinds.h"
 #include "compose/questions.h"
-#include "compose/text_cutting.h"
-#include "core/common.h"
+#include "core/byte_length.h"
 
 namespace compose {
 
@@ -40,7 +39,7 @@ void PlusPanel::mText2_Change() {
     // Not cut to a subject's length, unlike the other text.
     subject_.follow(mText2.text());
     refuse_excess();
-    mHLen2.set_caption(platform::decimal(static_cast<long long>(core::BYTE_LEN(mText2.text()))) + u"/80Byte");
+    mHLen2.set_caption(platform::decimal(core::BYTE_LEN(mText2.text())) + u"/80Byte");
 }
 
 /// Shows that the text is too long and cuts it. The focus goes to the picture box around the field, which
@@ -48,8 +47,8 @@ void PlusPanel::mText2_Change() {
 void PlusPanel::refuse_excess() {
     Text text = mText2.text();
     if (core::BYTE_LEN(text) <= TEXT_LIMIT) return;
-    show_text_is_cut(desktop_);
-    mText2.set_text(LLL(text, TEXT_LIMIT));
+    tell_text_is_cut(desktop_);
+    mText2.set_text(core::LLL(text, TEXT_LIMIT));
     mText2.set_caret_to_end();
     Picture2.set_focus();
 }

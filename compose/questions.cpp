@@ -1,6 +1,6 @@
 #include "compose/questions.h"
 
-#include "core/windows.h"
+#include "core/boxes.h"
 
 namespace compose {
 

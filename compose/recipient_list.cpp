@@ -1,9 +1,9 @@
 #include "compose/recipient_list.h"
 
 #include "compose/questions.h"
-#include "core/common.h"
-#include "core/list_columns.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/phone_number.h"
+#include "platform/controls/list_columns.h"
 #include "platform/error.h"
 
 namespace compose {
@@ -26,11 +26,11 @@ RecipientList::RecipientList(platform::Form& form, platform::Platform& platform,
       HBttn2(form, u"HBttn2", u"삭제"),
       Command7(form, u"Command7", u"명함DB 불러오기..."),
       ListView1(form, u"ListView1",
-                {{.caption = u"선택", .picture = {}},
-                 {.caption = u"이름", .picture = {}},
-                 {.caption = u"문자보낼번호", .picture = {}},
-                 {.caption = u"상태", .picture = {}},
-                 {.caption = u"직위", .picture = {}}},
+                {{.caption = u"선택"},
+                 {.caption = u"이름"},
+                 {.caption = u"문자보낼번호"},
+                 {.caption = u"상태"},
+                 {.caption = u"직위"}},
                 true),
       PBar1(form, u"PBar1"),
       Label4(form, u"Label4", u"전체> 대상>"),
@@ -93,8 +93,8 @@ bool RecipientList::add(Text name, const Text& number, Text title) {
 }
 
 void RecipientList::RECIPIENT_COUNT_CAPTION() {
-    Label4.set_caption(u"전체>" + platform::decimal(static_cast<long long>(ListView1.row_count())) +
-                       u">대상>" + platform::decimal(static_cast<long long>(ListView1.checked_count())));
+    Label4.set_caption(u"전체>" + platform::decimal(ListView1.row_count()) + u">대상>" +
+                       platform::decimal(ListView1.checked_count()));
 }
 
 void RecipientList::HText1_KeyPress(std::size_t index, KeyPressed& key) {
@@ -149,9 +149,9 @@ void RecipientList::remove_selected() {
 void RecipientList::pick_recipients() {
     if (!pick_) return;
     const std::size_t rows = ListView1.row_count();
-    state_.gDialogConfirmed = false;
+    state_.forms.gDialogConfirmed = false;
     pick_();
-    if (ListView1.row_count() != rows || state_.gDialogConfirmed) RECIPIENT_COUNT_CAPTION();
+    if (ListView1.row_count() != rows || state_.forms.gDialogConfirmed) RECIPIENT_COUNT_CAPTION();
 }
 
 void RecipientList::CHECK_SELECTED_ITEMS(bool checked) {
@@ -180,7 +180,7 @@ void RecipientList::row_checked(std::size_t row) {
 
 /// The column of check boxes has nothing to sort by; a click on it sorts by the name.
 void RecipientList::sort_by(int column) {
-    platform::ignore_errors([&] { core::SORT_BY_COLUMN(ListView1, column == 1 ? 2 : column); });
+    platform::ignore_errors([&] { platform::SORT_BY_COLUMN(ListView1, column == 1 ? 2 : column); });
 }
 
 }  // namespace compose

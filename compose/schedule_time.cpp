@@ -1,6 +1,6 @@
 #include "compose/schedule_time.h"
 
-#include "core/ini_file.h"
+#include "core/settings.h"
 #include "platform/error.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
@@ -39,8 +39,8 @@ void add_schedule_minutes(const ScheduleControls& schedule, int minutes) {
 }
 
 double saved_schedule_lead(const platform::Platform& platform) {
-    const platform::Text saved = core::INI_READ(platform, core::application_ini(platform), u"SET", u"P_TIME");
-    return platform::leading_number(saved.empty() ? u"30" : saved);
+    const platform::Text saved = core::read_setting(platform, core::settings::SCHEDULE_LEAD);
+    return platform::leading_number(saved);
 }
 
 }  // namespace compose

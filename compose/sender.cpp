@@ -1,8 +1,6 @@
 #include "compose/sender.h"
 
-#include "core/common.h"
-#include "core/entry_routine.h"
-#include "core/ini_file.h"
+#include "gateway/gateway.h"
 
 namespace compose {
 
@@ -14,10 +12,10 @@ namespace {
 /// Fills the list with `first` and `second`. The field shows `saved`, or `otherwise` when that is empty.
 void fill(ComboBox& field, const Text& first, const Text& second, const Text& saved, const Text& otherwise) {
     field.clear();
-    field.add_row(core::CLEAN_FIXED_TEXT(first));
-    field.add_row(core::CLEAN_FIXED_TEXT(second));
+    field.add_row(gateway::CLEAN_FIXED_TEXT(first));
+    field.add_row(gateway::CLEAN_FIXED_TEXT(second));
     field.set_text(platform::trim(saved));
-    if (field.text().empty()) field.set_text(core::CLEAN_FIXED_TEXT(otherwise));
+    if (field.text().empty()) field.set_text(gateway::CLEAN_FIXED_TEXT(otherwise));
 }
 
 }  // namespace
@@ -31,9 +29,9 @@ Sender::Sender(platform::Form& form, platform::Platform& platform, core::AppStat
       state_(state) {
     txtUserName.GotFocus.connect([this] { txtUserName.set_tag(u"[" + txtUserName.text() + u"]"); });
     txtUserName.LostFocus.connect([this] { name_left(); });
-    // Deliberately a key in another spelling than the one that `save` writes: settings files have always had
-    // either, and the case of a key does not count.
-    txtCallback.LostFocus.connect([this] { save_callback(u"ZENTUserPhoneID"); });
+    // Deliberately under a key spelled otherwise than the one written at the end: settings files have always
+    // had both, and keys are found whatever their case.
+    txtCallback.LostFocus.connect([this] { save_callback(core::settings::SENDER_NUMBER_LEFT); });
 }
 
 Text Sender::sender_tag() const { return u"[" + platform::trim(txtUserName.text()) + u"]"; }
@@ -47,15 +45,15 @@ void Sender::set_visible(bool visible) {
 
 void Sender::fill_from_account() {
     core::read_saved_sender(platform_, state_);
-    fill(txtUserName, state_.gInfoUserName, state_.gInfoSenderName, state_.gSavedSenderName,
-         state_.gInfoSenderName);
-    fill(txtCallback, state_.gInfoCallback, state_.gInfoServiceNumber, state_.gSavedCallback,
-         state_.gInfoCallback);
+    fill(txtUserName, state_.session.gInfoUserName, state_.session.gInfoSenderName,
+         state_.sender.gSavedSenderName, state_.session.gInfoSenderName);
+    fill(txtCallback, state_.session.gInfoCallback, state_.session.gInfoServiceNumber,
+         state_.sender.gSavedCallback, state_.session.gInfoCallback);
 }
 
 void Sender::fill_empty_callback() {
     if (!platform::trim(txtCallback.text()).empty()) return;
-    txtCallback.set_text(core::CLEAN_FIXED_TEXT(state_.gInfoCallback));
+    txtCallback.set_text(gateway::CLEAN_FIXED_TEXT(state_.session.gInfoCallback));
 }
 
 void Sender::name_left() {
@@ -65,19 +63,19 @@ void Sender::name_left() {
 
 void Sender::save() {
     save_name();
-    save_callback(u"ZentUserPhoneID");
+    save_callback(core::settings::SENDER_NUMBER);
 }
 
 void Sender::save_name() {
     const Text name = platform::trim(txtUserName.text());
-    if (name == platform::trim(state_.gSavedSenderName)) return;
-    core::INI_WRITE(platform_, core::application_ini(platform_), u"SET", u"ZentUserNickName", name);
+    if (name == platform::trim(state_.sender.gSavedSenderName)) return;
+    core::write_setting(platform_, core::settings::SENDER_NAME, name);
 }
 
-void Sender::save_callback(platform::TextView key) {
+void Sender::save_callback(const core::Setting& setting) {
     const Text callback = platform::trim(txtCallback.text());
-    if (callback == platform::trim(state_.gSavedCallback)) return;
-    core::INI_WRITE(platform_, core::application_ini(platform_), u"SET", key, callback);
+    if (callback == platform::trim(state_.sender.gSavedCallback)) return;
+    core::write_setting(platform_, setting, callback);
 }
 
 }  // namespace compose

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/app_state.h"
+#include "core/settings.h"
 #include "platform/controls/displays.h"
 #include "platform/controls/fields.h"
 #include "platform/controls/form.h"
@@ -37,7 +38,7 @@ class Sender {
   private:
     void name_left();
     void save_name();
-    void save_callback(platform::TextView key);
+    void save_callback(const core::Setting& setting);
 
     platform::Platform& platform_;
     core::AppState& state_;

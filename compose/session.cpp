@@ -1,15 +1,14 @@
 #include "compose/session.h"
 
-#include "core/common.h"
+#include "core/boxes.h"
+#include "core/busy.h"
 #include "core/deployment.h"
-#include "core/ini_file.h"
-#include "core/windows.h"
 #include "gateway/frmAutoLogin.h"
 #include "gateway/frmZentLogin.h"
+#include "gateway/gateway.h"
 #include "platform/text/format.h"
 #include "service/frmAbout.h"
 #include "service/frmPondiraReg.h"
-#include "service/open_browser.h"
 #include "service/service_pages.h"
 
 namespace compose {
@@ -47,11 +46,11 @@ Session::Session(platform::Form& form, platform::Platform& platform, core::AppSt
 void Session::connect() {
     STBar1.MouseDown.connect([this](platform::MouseButton button) { status_bar_button_ = button; });
     STBar1.PanelClick.connect([this](int panel) { panel_clicked(panel); });
-    TOPLogo.Click.connect([this] { open_in_browser(u"HOME"); });
+    TOPLogo.Click.connect([this] { open_in_browser(core::settings::LINK_HOME); });
     cmdLogin.Click.connect([this] { cmdLogin_Click(); });
     cmdLogOut.Click.connect([this] { cmdLogOut_Click(); });
     mnuAutoLogin.Click.connect([this] { mnuAutoLogin.set_checked(!mnuAutoLogin.checked()); });
-    cmdGoPondira.Click.connect([this] { open_in_browser(u"KTPONDIRA"); });
+    cmdGoPondira.Click.connect([this] { open_in_browser(core::settings::LINK_SERVICE); });
     cmdRegister.Click.connect([this] { service::frmPondiraReg(platform_).show_modal(); });
 }
 
@@ -62,16 +61,15 @@ void Session::load() {
 
 void Session::save() {
     const bool automatic = mnuAutoLogin.checked();
-    core::INI_WRITE(platform_, core::application_ini(platform_), u"LOGIN", u"AUTOLOGIN",
-                    automatic ? u"1" : u"0");
-    if (!automatic) core::INI_WRITE(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINPW", u"");
+    core::write_setting(platform_, core::settings::AUTO_LOGIN, automatic ? u"1" : u"0");
+    if (!automatic) core::write_setting(platform_, core::settings::LOGIN_PASSWORD, u"");
 }
 
 void Session::cmdLogin_Click() {
     gateway::frmZentLogin login(platform_, state_, polling_);
     login.show_modal();
     read_auto_login_mark();
-    if (!state_.gLoginResult) {
+    if (!state_.session.gLoginResult) {
         SET_LOGIN_BUTTONS(false);
         show_logged_out();
         return;
@@ -82,12 +80,12 @@ void Session::cmdLogin_Click() {
 void Session::AUTO_LOGIN_START() {
     gateway::frmAutoLogin login(platform_, state_);
     login.show_modal();
-    if (state_.gLoginResult) {
+    if (state_.session.gLoginResult) {
         go_on_after_login();
         return;
     }
     cmdLogin_Click();
-    if (!state_.gLoginResult) {
+    if (!state_.session.gLoginResult) {
         SET_LOGIN_BUTTONS(false);
         show_logged_out();
     }
@@ -95,33 +93,34 @@ void Session::AUTO_LOGIN_START() {
 
 /// Only "1" counts as on here, unlike in other settings.
 void Session::read_auto_login_mark() {
-    const Text value = core::INI_READ(platform_, core::application_ini(platform_), u"LOGIN", u"AUTOLOGIN");
+    const Text value = core::read_setting(platform_, core::settings::AUTO_LOGIN);
     mnuAutoLogin.set_tag(value == u"1" ? u"1" : u"0");
     mnuAutoLogin.set_checked(mnuAutoLogin.tag() == u"1");
 }
 
 void Session::go_on_after_login() {
-    state_.gSubmitSequence = 1;
-    // The automatic login does not check the type of service. For one that cannot send only the buttons
-    // change: the user stays logged in.
-    if (state_.gServiceType < core::SERVICE_PRO || state_.gServiceType > core::SERVICE_POP) {
+    state_.session.gSubmitSequence = 1;
+    // After an automatic login, which does not look at the kind of service, the buttons alone say that this
+    // one is of no use: the user stays logged in.
+    if (state_.session.gServiceType < core::SERVICE_PRO || state_.session.gServiceType > core::SERVICE_POP) {
         SET_LOGIN_BUTTONS(false);
         return;
     }
-    state_.gLoggedIn = true;
+    state_.session.gLoggedIn = true;
     SET_LOGIN_BUTTONS(true);
     show_logged_in();
     LoggedIn.raise();
 }
 
 void Session::show_logged_in() {
-    const auto clean = [](const Text& text) { return core::CLEAN_FIXED_TEXT(text); };
+    const auto clean = [](const Text& text) { return gateway::CLEAN_FIXED_TEXT(text); };
     STBar1.set_panel_text(1, u"로그인상태");
     STBar1.set_panel_tool_tip(1, u"로그아웃하기");
+    STBar1.set_panel_text(2, u"가입자 " + clean(state_.session.gLoginUserId) + u"[" +
+                                 clean(state_.session.gInfoUserName) + u"]  ");
     STBar1.set_panel_text(
-        2, u"가입자 " + clean(state_.gLoginUserId) + u"[" + clean(state_.gInfoUserName) + u"]  ");
-    STBar1.set_panel_text(
-        3, u"폰디라번호 " + platform::format_service_number(clean(state_.gInfoServiceNumber)) + u"  ");
+        3,
+        u"폰디라번호 " + platform::format_service_number(clean(state_.session.gInfoServiceNumber)) + u"  ");
     STBar1.set_panel_picture(1, PICTURE_LOGGED_IN);
 }
 
@@ -138,40 +137,40 @@ void Session::SET_LOGIN_BUTTONS(bool logged_in) {
 }
 
 void Session::cmdLogOut_Click() {
-    if (!state_.gLoggedIn) return;
+    if (!state_.session.gLoggedIn) return;
     if (!core::ask(platform_.desktop, Text(core::APPLICATION_TITLE) + u" 로그아웃 하시겠습니까?", {},
                    platform::BoxIcon::question)) {
         return;
     }
     const core::BusyPointer busy(platform_.desktop);
-    state_.gServiceState = core::SERVICE_STATE_NONE;
-    state_.gLoggedIn = false;
-    state_.gLoginResult = false;
+    state_.session.gServiceState = core::SERVICE_STATE_NONE;
+    state_.session.gLoggedIn = false;
+    state_.session.gLoginResult = false;
     SET_LOGIN_BUTTONS(false);
     show_logged_out();
     STBar1.set_panel_picture(1, PICTURE_LOGGED_OUT);
 }
 
 void Session::KTSMS_LINK(int index) {
-    if (!state_.gLoggedIn) cmdLogin_Click();
-    if (state_.gLoggedIn) service::show_service_page(platform_, state_, index);
+    if (!state_.session.gLoggedIn) cmdLogin_Click();
+    if (state_.session.gLoggedIn) service::show_service_page(platform_, state_, index);
 }
 
 void Session::panel_clicked(int panel) {
     if (status_bar_button_ != platform::MouseButton::left) return;
     if (panel == 1) {
-        state_.gLoggedIn ? cmdLogOut_Click() : cmdLogin_Click();
-    } else if (panel == 2 && state_.gLoggedIn) {
+        state_.session.gLoggedIn ? cmdLogOut_Click() : cmdLogin_Click();
+    } else if (panel == 2 && state_.session.gLoggedIn) {
         KTSMS_LINK(service::PAGE_MEMBER_DATA);
-    } else if (panel == 3 && state_.gLoggedIn) {
+    } else if (panel == 3 && state_.session.gLoggedIn) {
         KTSMS_LINK(service::PAGE_INBOX);
     } else if (panel == 4) {
         service::frmAbout(platform_).show_modal();
     }
 }
 
-void Session::open_in_browser(platform::TextView key) {
-    service::OPEN_BROWSER(platform_, service::page_address(platform_, key));
+void Session::open_in_browser(const core::Setting& link) {
+    service::OPEN_BROWSER(platform_, service::page_address(platform_, link));
 }
 
 }  // namespace compose

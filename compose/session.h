@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/app_state.h"
+#include "core/settings.h"
 #include "platform/controls/bars.h"
 #include "platform/controls/displays.h"
 #include "platform/controls/form.h"
@@ -46,7 +47,7 @@ class Session {
     void show_logged_in();
     void show_logged_out();
     void panel_clicked(int panel);
-    void open_in_browser(platform::TextView key);
+    void open_in_browser(const core::Setting& link);
 
     platform::Platform& platform_;
     core::AppState& state_;

@@ -2,11 +2,10 @@
 
 #include "compose/message_kinds.h"
 #include "compose/questions.h"
-#include "compose/text_cutting.h"
-#include "core/common.h"
-#include "core/files.h"
-#include "core/message_box.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/byte_length.h"
+#include "core/paths.h"
+#include "core/saved_texts_folder.h"
 #include "platform/error.h"
 
 namespace compose {
@@ -125,8 +124,8 @@ void TextPanel::mText1_Change() {
         }
     }
     const std::size_t bytes = core::BYTE_LEN(mText1.text());
-    mHLen1.set_caption(platform::decimal(static_cast<long long>(bytes)) + u"Bytes");
-    // Below the limit the user is to be asked again; at exactly 80 bytes the answer still holds.
+    mHLen1.set_caption(platform::decimal(bytes) + u"Bytes");
+    // Below the limit the question is armed again; at exactly 80 bytes the answer still holds.
     if (bytes < TEXT_LIMIT) mText1.set_tag(u"");
     mHLen3.set_visible(bytes > TEXT_LIMIT);
 }
@@ -136,7 +135,7 @@ void TextPanel::mText1_Change() {
 void TextPanel::refuse_excess() {
     show_text_is_cut(platform_.desktop);
     Text text = mText1.text();
-    mText1.set_text(LLL(text, TEXT_LIMIT));
+    mText1.set_text(core::LLL(text, TEXT_LIMIT));
     mText1.set_caret_to_end();
     Picture2.set_focus();
 }
@@ -162,8 +161,8 @@ void TextPanel::apply(Text text) {
         if (ask_for_long_text(platform_.desktop, u"[확인]을 하시면")) {
             mText1.set_tag(u"LONG");
         } else {
-            show_text_is_cut(platform_.desktop);
-            text = LLL(text, TEXT_LIMIT);
+            tell_text_is_cut(platform_.desktop);
+            text = core::LLL(text, TEXT_LIMIT);
         }
     }
     mText1.set_text(text);
@@ -174,7 +173,7 @@ void TextPanel::apply(Text text) {
 /// Saves the text into the box of saved texts, under the subject or, where that is taken, the subject and a
 /// number.
 void TextPanel::save() {
-    core::make_message_box_folders(platform_);
+    core::make_saved_texts_folders(platform_);
     sender_.txtUserName.set_text(platform::trim(sender_.txtUserName.text()));
     const Text text = body();
     if (text.empty()) {
@@ -187,10 +186,10 @@ void TextPanel::save() {
     const Text subject = subject_.subjectText.text();
     Text title = subject;
     try {
-        // Checked first: a wildcard in the subject would match other texts below.
-        core::check_message_name(platform_, core::DEFAULT_CATEGORY, subject);
+        // Asked for first: a wildcard in the subject would find other texts below.
+        core::check_saved_text_name(platform_, core::DEFAULT_CATEGORY, subject);
         for (int i = 1;
-             core::FILE_EXISTS(platform_, core::message_path(platform_, core::DEFAULT_CATEGORY, title));
+             core::FILE_EXISTS(platform_, core::saved_text_path(platform_, core::DEFAULT_CATEGORY, title));
              ++i) {
             title = subject + platform::decimal(i);
             if (i > MOST_NAMES) {
@@ -198,7 +197,7 @@ void TextPanel::save() {
                 return;
             }
         }
-        core::write_message(platform_, core::DEFAULT_CATEGORY, title, text);
+        core::write_saved_text(platform_, core::DEFAULT_CATEGORY, title, text);
     } catch (const platform::RuntimeError& error) {
         core::show_error(platform_.desktop, error, platform::BoxIcon::critical);
         return;

@@ -1,9 +1,9 @@
 #include "compose/voice_panel.h"
 
-#include "compose/text_cutting.h"
-#include "core/common.h"
-#include "core/files.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/byte_length.h"
+#include "core/paths.h"
+#include "core/work_folders.h"
 #include "platform/error.h"
 
 namespace compose {
@@ -101,8 +101,7 @@ void VoicePanel::ttsText_Change() {
         refuse_excess();
         ttsText.select(caret, 0);
     }
-    TTSHLen.set_caption(platform::decimal(static_cast<long long>(core::BYTE_LEN(ttsText.text()))) +
-                        u"/1000Byte");
+    TTSHLen.set_caption(platform::decimal(core::BYTE_LEN(ttsText.text())) + u"/1000Byte");
 }
 
 void VoicePanel::refuse_excess() {
@@ -110,7 +109,7 @@ void VoicePanel::refuse_excess() {
                u"입력하신 문자가 1000Byte를 넘었습니다.\r\n한 번에 1000Byte까지만 전송이 가능합니다.",
                u"입력 초과");
     Text text = ttsText.text();
-    ttsText.set_text(LLL(text, TTS_LIMIT));
+    ttsText.set_text(core::LLL(text, TTS_LIMIT));
 }
 
 void VoicePanel::ask_before_replacing(bool& may) {
@@ -130,7 +129,7 @@ void VoicePanel::save_recording() {
     if (RFK1.SaveWave(Text(core::SOUND_FOLDER), trial)) return;
     core::DELETE_FILE(platform_, Text(core::SOUND_FOLDER) + trial);
     dialog_.set_up(u"다름 이름으로 저장", Text(WAV_FILTER));
-    if (!core::choose_free_name(platform_, dialog_)) return;
+    if (!dialog_.choose_free_name(platform_.files)) return;
     const Text& path = dialog_.file_name();
     if (!RFK1.SaveWave(core::PARENT_DIR(platform_, path), core::FILE_NAME_OF(path))) RFK1.set_kept();
 }

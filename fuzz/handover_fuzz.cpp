@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                 "no line end but a line feed, and no NUL");
     handover::HandedOverRecipient recipient;
     std::size_t characters = 0;
-    for (const platform::TextView line : handover::split(text, u'\n')) {
+    for (const platform::TextView line : platform::split(text, u'\n')) {
         characters += line.size() + 1;
         if (!recipient.read(line)) continue;
         fuzz::check(!recipient.name.empty(), "everybody has a name");

@@ -1,6 +1,6 @@
 #include "fuzz/check.h"
 #include "machine/jet/file/jet_header.h"
-#include "machine/jet/file/jet_text.h"
+#include "machine/jet/file/jet_values.h"
 
 #include <string>
 #include <string_view>

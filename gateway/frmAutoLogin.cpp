@@ -1,13 +1,12 @@
 #include "gateway/frmAutoLogin.h"
 
-#include "core/files.h"
-#include "core/ini_file.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/busy.h"
+#include "core/centring.h"
+#include "core/settings.h"
 #include "service/service_pages.h"
 
 namespace gateway {
-
-using platform::Text;
 
 frmAutoLogin::frmAutoLogin(platform::Platform& platform, core::AppState& state)
     : Form(platform.desktop, u"frmAutoLogin"),
@@ -16,18 +15,14 @@ frmAutoLogin::frmAutoLogin(platform::Platform& platform, core::AppState& state)
       state_(state),
       login_(platform, state) {
     set_caption(u"자동로그인...");
-    Timer1.Tick.connect([this] { Timer1_Timer(); });
+    Timer1.Tick.connect([this] { log_in(); });
 }
 
 void frmAutoLogin::Form_Load() {
-    const Text film = busy_film(platform_);
-    if (core::FILE_EXISTS(platform_, film)) {
-        Animation1.open(film);
-        Animation1.play();
-    }
+    core::play_film(platform_, Animation1, core::login_film(platform_));
     core::CENTER_FORM(platform_.desktop, *this);
-    Text1.set_text(core::INI_READ(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINID"));
-    Text2.set_text(core::INI_READ(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINPW"));
+    Text1.set_text(core::read_setting(platform_, core::settings::LOGIN_ID));
+    Text2.set_text(core::read_setting(platform_, core::settings::LOGIN_PASSWORD));
 }
 
 void frmAutoLogin::Form_Activate() {
@@ -36,25 +31,25 @@ void frmAutoLogin::Form_Activate() {
     Timer1.set_enabled(true);
 }
 
-void frmAutoLogin::Timer1_Timer() {
+void frmAutoLogin::log_in() {
     Timer1.set_enabled(false);
     if (!Text1.text().empty() && !Text2.text().empty()) {
         if (login_.prove(Text1.text(), Text2.text())) {
-            judge();
+            accept_or_refuse();
         } else {
             login_.show_failure();
-            state_.gLoginResult = false;
-            state_.gLoggedIn = false;
+            state_.session.gLoginResult = false;
+            state_.session.gLoggedIn = false;
         }
     }
     unload();
 }
 
-void frmAutoLogin::judge() {
-    if (state_.gServiceState <= core::LAST_USABLE_STATE) {
-        state_.gLoginAccepted = 1;
-        state_.gLoginUserId = Text1.text();
-        state_.gLoginPassword = Text2.text();
+void frmAutoLogin::accept_or_refuse() {
+    if (state_.session.gServiceState <= core::LAST_USABLE_STATE) {
+        state_.session.gLoginAccepted = 1;
+        state_.session.gLoginUserId = Text1.text();
+        state_.session.gLoginPassword = Text2.text();
         return;
     }
     login_.refuse();

@@ -29,8 +29,8 @@ class frmAutoLogin : public platform::Form {
     void Form_Close() override {}
 
   private:
-    void Timer1_Timer();
-    void judge();
+    void log_in();
+    void accept_or_refuse();
 
     platform::Platform& platform_;
     core::AppState& state_;

@@ -1,8 +1,10 @@
 #include "gateway/frmZentLogin.h"
 
-#include "core/files.h"
-#include "core/ini_file.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/busy.h"
+#include "core/centring.h"
+#include "core/settings.h"
+#include "core/work_folders.h"
 #include "service/frmPondiraReg.h"
 #include "service/service_pages.h"
 
@@ -25,29 +27,28 @@ frmZentLogin::frmZentLogin(platform::Platform& platform, core::AppState& state, 
 
     Text1.GotFocus.connect([this] { Text1.select_all(); });
     Text2.GotFocus.connect([this] { Text2.select_all(); });
-    Text1.KeyPress.connect([this](KeyPressed& key) { Text1_KeyPress(key); });
-    Text2.KeyPress.connect([this](KeyPressed& key) { Text2_KeyPress(key); });
-    Command1.Click.connect([this] { Command1_Click(); });
+    Text1.KeyPress.connect([this](KeyPressed& key) { go_on_at_enter(key); });
+    Text2.KeyPress.connect([this](KeyPressed& key) { log_in_at_enter(key); });
+    Command1.Click.connect([this] { start_login(); });
     Command2.Click.connect([this] { unload(); });
-    Command3.Click.connect([this] { Command3_Click(); });
+    Command3.Click.connect([this] { show_guidance(); });
     Command4.Click.connect([this] { service::show_find_page(platform_, state_); });
-    Command5.Click.connect(
-        [this] { platform_.shell.open_page(service::page_address(platform_, u"KTPONDIRA")); });
-    Timer1.Tick.connect([this] { Timer1_Timer(); });
+    Command5.Click.connect([this] {
+        platform_.shell.open_page(service::page_address(platform_, core::settings::LINK_SERVICE));
+    });
+    Timer1.Tick.connect([this] { log_in(); });
 }
 
 void frmZentLogin::Form_Load() {
     core::CENTER_FORM(platform_.desktop, *this);
     set_caption(Text(core::APPLICATION_TITLE) + u" 로그인");
     polling_.set_enabled(false);
-    if (core::FILE_EXISTS(platform_, busy_film(platform_))) Animation1.open(busy_film(platform_));
+    core::open_film(platform_, Animation1, core::login_film(platform_));
     core::make_folder_when_missing(platform_, Text(core::SOUND_FOLDER));
-    const bool auto_login =
-        core::INI_IS_ON(platform_, core::application_ini(platform_), u"LOGIN", u"AUTOLOGIN");
+    const bool auto_login = core::setting_is_on(platform_, core::settings::AUTO_LOGIN);
     Check1.set_checked(auto_login);
-    Text1.set_text(core::INI_READ(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINID"));
-    Text2.set_text(auto_login ? core::INI_READ(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINPW")
-                              : Text());
+    Text1.set_text(core::read_setting(platform_, core::settings::LOGIN_ID));
+    Text2.set_text(auto_login ? core::read_setting(platform_, core::settings::LOGIN_PASSWORD) : Text());
 }
 
 void frmZentLogin::Form_Activate() {
@@ -62,8 +63,7 @@ void frmZentLogin::Form_Activate() {
 }
 
 void frmZentLogin::Form_Unload() {
-    core::INI_WRITE(platform_, core::application_ini(platform_), u"LOGIN", u"AUTOLOGIN",
-                    Check1.checked() ? u"1" : u"0");
+    core::write_setting(platform_, core::settings::AUTO_LOGIN, Check1.checked() ? u"1" : u"0");
     polling_.set_enabled(true);
 }
 
@@ -72,23 +72,23 @@ void frmZentLogin::Form_Close() {
     if (!Picture1.visible()) unload();
 }
 
-void frmZentLogin::Text1_KeyPress(KeyPressed& key) {
+void frmZentLogin::go_on_at_enter(KeyPressed& key) {
     if (key.code != platform::KEY_ENTER) return;
     key.swallow();
     if (Text2.text().empty()) {
         Text2.set_focus();
     } else {
-        Command1_Click();
+        start_login();
     }
 }
 
-void frmZentLogin::Text2_KeyPress(KeyPressed& key) {
+void frmZentLogin::log_in_at_enter(KeyPressed& key) {
     if (key.code != platform::KEY_ENTER) return;
     key.swallow();
-    Command1_Click();
+    start_login();
 }
 
-void frmZentLogin::Command1_Click() {
+void frmZentLogin::start_login() {
     Text1.set_text(platform::trim(Text1.text()));
     Text2.set_text(platform::trim(Text2.text()));
     if (Text1.text().empty()) {
@@ -101,23 +101,19 @@ void frmZentLogin::Command1_Click() {
         Text2.set_focus();
         return;
     }
-    if (core::FILE_EXISTS(platform_, busy_film(platform_))) {
-        Animation1.open(busy_film(platform_));
-        Animation1.play();
-        Animation1.show();
-    }
+    if (core::play_film(platform_, Animation1, core::login_film(platform_))) Animation1.show();
     Picture1.show();
     // The bind stops the one thread there is, so it starts in a tick of its own, after the busy picture is
     // painted.
     Timer1.set_enabled(true);
 }
 
-void frmZentLogin::Command3_Click() {
+void frmZentLogin::show_guidance() {
     service::frmPondiraReg guidance(platform_);
     guidance.show_modal();
 }
 
-void frmZentLogin::Timer1_Timer() {
+void frmZentLogin::log_in() {
     Timer1.set_enabled(false);
     if (!login_.prove(Text1.text(), Text2.text())) {
         hide_busy_picture();
@@ -126,7 +122,8 @@ void frmZentLogin::Timer1_Timer() {
         Text2.select_all();
         return;
     }
-    if (state_.gServiceType == core::SERVICE_PRO || state_.gServiceType == core::SERVICE_PARTNER) {
+    if (state_.session.gServiceType == core::SERVICE_PRO ||
+        state_.session.gServiceType == core::SERVICE_PARTNER) {
         accept();
     } else {
         refuse_by_service_type();
@@ -134,19 +131,19 @@ void frmZentLogin::Timer1_Timer() {
 }
 
 void frmZentLogin::accept() {
-    state_.gLoginAccepted = 1;
-    state_.gLoginUserId = Text1.text();
-    state_.gLoginPassword = Text2.text();
+    state_.session.gLoginAccepted = 1;
+    state_.session.gLoginUserId = Text1.text();
+    state_.session.gLoginPassword = Text2.text();
     // Written with auto login off, too: the main window's unload takes the password out again.
-    core::INI_WRITE(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINID", state_.gLoginUserId);
-    core::INI_WRITE(platform_, core::login_ini(platform_), u"LOGIN", u"LOGINPW", state_.gLoginPassword);
+    core::write_setting(platform_, core::settings::LOGIN_ID, state_.session.gLoginUserId);
+    core::write_setting(platform_, core::settings::LOGIN_PASSWORD, state_.session.gLoginPassword);
     hide_busy_picture();
     unload();
 }
 
 void frmZentLogin::refuse_by_service_type() {
     hide_busy_picture();
-    const bool is_pop = state_.gServiceType == core::SERVICE_POP;
+    const bool is_pop = state_.session.gServiceType == core::SERVICE_POP;
     login_.refuse();
     if (is_pop) {
         core::warn(platform_.desktop,
@@ -160,7 +157,7 @@ void frmZentLogin::refuse_by_service_type() {
                   u"파트너로 서비스를 "
                   u"전환하셔야 합니다. 지금 신청서를 다운받으시겠습니까?",
                   u"KT 폰디라 신규등록 및 서비스 전환 안내", BoxIcon::exclamation)) {
-        Command3_Click();
+        show_guidance();
     }
 }
 

@@ -44,11 +44,11 @@ class frmZentLogin : public platform::Form {
     void Form_Close() override;
 
   private:
-    void Text1_KeyPress(platform::KeyPressed& key);
-    void Text2_KeyPress(platform::KeyPressed& key);
-    void Command1_Click();
-    void Command3_Click();
-    void Timer1_Timer();
+    void go_on_at_enter(platform::KeyPressed& key);
+    void log_in_at_enter(platform::KeyPressed& key);
+    void start_login();
+    void show_guidance();
+    void log_in();
 
     void hide_busy_picture();
     void accept();

@@ -1,7 +1,7 @@
 #include "gateway/gateway.h"
 
-#include "core/windows.h"
-#include "gateway/result_text.h"
+#include "core/boxes.h"
+#include "core/busy.h"
 #include "platform/error.h"
 #include "platform/text/cp949.h"
 
@@ -17,7 +17,7 @@ namespace {
 
 using Int = std::int32_t;
 
-// The library may call these while it works for us; nothing it tells is of use here.
+// The library may call these while it works. They only let it go on: nothing that it reports is of use here.
 Int GATEWAY_NOTIFY_6(Int, Int, Int, Int, Int, Int) { return 1; }
 Int GATEWAY_NOTIFY_8(Int, Int, Int, Int, Int, Int, Int, Int) { return 1; }
 Int GATEWAY_NOTIFY_11(Int, Int, Int, Int, Int, Int, Int, Int, Int, Int, Int) { return 1; }
@@ -27,8 +27,8 @@ CarrierCallback callback(Function* function) {
     return reinterpret_cast<CarrierCallback>(function);
 }
 
-/// Hands the variables over as bytes of cp949 and takes back what the library left in them: inputs are
-/// rewritten too.
+/// Passes the variables as bytes of cp949 and reads back what the library left in them. It rewrites inputs
+/// too.
 template <std::size_t N, class Call>
 Int with_texts(const std::array<Text*, N>& texts, Call call) {
     std::array<std::string, N> bytes;
@@ -38,7 +38,46 @@ Int with_texts(const std::array<Text*, N>& texts, Call call) {
     return result;
 }
 
+platform::TextView meaning_of(std::int32_t code) {
+    switch (code) {
+        case 1:
+            return REGISTERED;
+        case 2:
+            return u"Pondira에 인증실패";
+        case 3:
+            return u"폰디라 데이터 전송에러";
+        case 4:
+            return u"아직 지원되지 않는 함수";
+        case 5:
+            return u"Pondira 접속에러";
+        case 6:
+            return u"Pondira 응답 없음";
+        case 7:
+            return u"FTP/HTTP 전송에러";
+        case 8:
+            return u"착신자수초과";
+        case 9:
+            return u"첨부파일갯수초과";
+        case 16:
+            return u"첨부파일없음";
+        case 153:
+            return u"기타에러";
+        default:
+            return u"알수없는에러";
+    }
+}
+
 }  // namespace
+
+Text GATEWAY_RESULT_TEXT(Int code) {
+    Text text(meaning_of(code));
+    if (code == 1) return text;
+    return u"등록실패X" + platform::decimal(code) + u"(" + text + u")";
+}
+
+Text CLEAN_FIXED_TEXT(platform::TextView text) {
+    return platform::right_trim(platform::blanks_for_nul(Text(text)));
+}
 
 template <class Call>
 bool Gateway::exchange(Call call) {
@@ -54,7 +93,8 @@ bool Gateway::exchange(Call call) {
 bool Gateway::GATEWAY_BIND(int mode) {
     return exchange([&] {
         const CarrierCallback notify = mode == 1 ? callback(GATEWAY_NOTIFY_8) : callback(GATEWAY_NOTIFY_6);
-        return with_texts(std::array{&state_.gLoginUserId, &state_.gLoginPassword, &state_.gServiceDomain},
+        return with_texts(std::array{&state_.session.gLoginUserId, &state_.session.gLoginPassword,
+                                     &state_.session.gServiceDomain},
                           [&](auto& t) {
                               return platform_.carrier.fn_x_bind(1, t[0], t[1], t[2], 1, notify, 0,
                                                                  callback(GATEWAY_NOTIFY_11));
@@ -64,40 +104,41 @@ bool Gateway::GATEWAY_BIND(int mode) {
 
 bool Gateway::GATEWAY_UNBIND() {
     return exchange([&] {
-        return with_texts(std::array{&state_.gLoginUserId, &state_.gLoginPassword},
+        return with_texts(std::array{&state_.session.gLoginUserId, &state_.session.gLoginPassword},
                           [&](auto& t) { return platform_.carrier.fn_x_unbind(t[0], t[1]); });
     });
 }
 
 bool Gateway::GATEWAY_MONEY_STATUS() {
     return exchange([&] {
-        platform::CarrierLibrary::MoneyStatus status{.field1 = state_.gMoneyField1,
-                                                     .service_type = state_.gServiceType,
-                                                     .service_state = state_.gServiceState,
-                                                     .field4 = state_.gMoneyField4,
-                                                     .field5 = state_.gMoneyField5};
+        platform::CarrierLibrary::MoneyStatus status{.field1 = state_.session.gMoneyField1,
+                                                     .service_type = state_.session.gServiceType,
+                                                     .service_state = state_.session.gServiceState,
+                                                     .field4 = state_.session.gMoneyField4,
+                                                     .field5 = state_.session.gMoneyField5};
         const Int result = with_texts(
-            std::array{&state_.gLoginUserId, &state_.gServiceDomain, &state_.gServiceNumber,
-                       &state_.gClientAddress},
+            std::array{&state_.session.gLoginUserId, &state_.session.gServiceDomain,
+                       &state_.session.gServiceNumber, &state_.session.gClientAddress},
             [&](auto& t) { return platform_.carrier.fn_x_money_status(t[0], t[1], t[2], t[3], status); });
-        state_.gMoneyField1 = status.field1;
-        state_.gServiceType = status.service_type;
-        state_.gServiceState = status.service_state;
-        state_.gMoneyField4 = status.field4;
-        state_.gMoneyField5 = status.field5;
+        state_.session.gMoneyField1 = status.field1;
+        state_.session.gServiceType = status.service_type;
+        state_.session.gServiceState = status.service_state;
+        state_.session.gMoneyField4 = status.field4;
+        state_.session.gMoneyField5 = status.field5;
         return result;
     });
 }
 
 bool Gateway::GATEWAY_USER_INFO() {
-    state_.gInfoServiceNumber.assign(20, u' ');
-    state_.gInfoUserName.assign(40, u' ');
-    state_.gInfoSenderName.assign(40, u' ');
-    state_.gInfoCallback.assign(20, u' ');
+    state_.session.gInfoServiceNumber.assign(20, u' ');
+    state_.session.gInfoUserName.assign(40, u' ');
+    state_.session.gInfoSenderName.assign(40, u' ');
+    state_.session.gInfoCallback.assign(20, u' ');
     return exchange([&] {
-        return with_texts(std::array{&state_.gLoginUserId, &state_.gServiceDomain, &state_.gServiceNumber,
-                                     &state_.gClientAddress, &state_.gInfoServiceNumber,
-                                     &state_.gInfoUserName, &state_.gInfoSenderName, &state_.gInfoCallback},
+        return with_texts(std::array{&state_.session.gLoginUserId, &state_.session.gServiceDomain,
+                                     &state_.session.gServiceNumber, &state_.session.gClientAddress,
+                                     &state_.session.gInfoServiceNumber, &state_.session.gInfoUserName,
+                                     &state_.session.gInfoSenderName, &state_.session.gInfoCallback},
                           [&](auto& t) {
                               return platform_.carrier.fn_x_user_info(t[0], t[1], t[2], t[3], t[4], t[5],
                                                                       t[6], t[7]);
@@ -110,11 +151,11 @@ Text Gateway::UMS_SEND_START(const UmsMessage& message) {
     platform::CarrierLibrary::Submit submit{
         .s_data_type = message.s_data_type,
         .s_data_sub_type = message.s_data_sub_type,
-        .user_id = encode_cp949(state_.gLoginUserId),
-        .service_domain = encode_cp949(state_.gServiceDomain),
-        .service_number = encode_cp949(state_.gServiceNumber),
-        .client_address = encode_cp949(state_.gClientAddress),
-        .submit_sequence = state_.gSubmitSequence,
+        .user_id = encode_cp949(state_.session.gLoginUserId),
+        .service_domain = encode_cp949(state_.session.gServiceDomain),
+        .service_number = encode_cp949(state_.session.gServiceNumber),
+        .client_address = encode_cp949(state_.session.gClientAddress),
+        .submit_sequence = state_.session.gSubmitSequence,
         .s_subject = encode_cp949(message.s_subject),
         .s_schedule_time = encode_cp949(message.s_schedule_time),
         .s_callback = encode_cp949(message.s_callback),

@@ -7,9 +7,18 @@
 
 namespace gateway {
 
+/// What a row shows for a recipient that has been registered. The send job counts successes by it.
+inline constexpr platform::TextView REGISTERED = u"등록성공";
+
+/// The carrier's result code for the user: the word of success for 1, otherwise the code with its meaning.
+platform::Text GATEWAY_RESULT_TEXT(std::int32_t code);
+
+/// A text out of one of the carrier's padded buffers: NULs become blanks, blanks at the end go.
+platform::Text CLEAN_FIXED_TEXT(platform::TextView text);
+
 /// One registration as the send job prepares it; the fields are the carrier's.
 struct UmsMessage {
-    /// 1 goes through fn_x_submit_2, everything else through fn_x_submit, which takes no sub-type, reply flag
+    /// 1 is sent by fn_x_submit_2, everything else by fn_x_submit, which takes no sub-type, reply flag
     /// or TTS text.
     int SMSIndex = 0;
     std::int32_t s_data_type = 0;
@@ -31,8 +40,8 @@ struct UmsMessage {
 
 /// The carrier's operations as the forms use them, over the session's shared variables.
 ///
-/// A library session is short: bound for one exchange and unbound at its end. The wrappers return true only
-/// when the library returned 1; an error on the way is shown in a box and counts as false.
+/// A session with the library is short: it is bound for one exchange and unbound at its end. The wrappers
+/// return true only when the library returned 1; an error on the way is shown in a box and counts as false.
 class Gateway {
   public:
     Gateway(platform::Platform& platform, core::AppState& state) : platform_(platform), state_(state) {}
@@ -42,7 +51,7 @@ class Gateway {
     bool GATEWAY_UNBIND();
     /// Fills `gServiceType` and `gServiceState`.
     bool GATEWAY_MONEY_STATUS();
-    /// Fills the four `gInfo` variables; what the library leaves alone is blank afterwards.
+    /// Fills the four `gInfo` variables; what the library does not fill is blank afterwards.
     bool GATEWAY_USER_INFO();
 
     /// Registers a message. Returns "등록성공", the text of the carrier's refusal, or for an error on the way

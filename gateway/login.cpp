@@ -1,30 +1,27 @@
 #include "gateway/login.h"
 
+#include "core/boxes.h"
+#include "core/busy.h"
 #include "core/deployment.h"
-#include "core/files.h"
-#include "core/windows.h"
+#include "core/work_folders.h"
 
 namespace gateway {
 
 using platform::Text;
 
-Text busy_film(const platform::Platform& platform) {
-    return platform.files.application_directory() + u"\\resource\\timer.avi";
-}
-
 bool Login::prove(const Text& user_id, const Text& password) {
     core::make_folder_when_missing(platform_, Text(core::SOUND_FOLDER));
-    state_.gLoginUserId = user_id;
-    state_.gLoginPassword = password;
-    state_.gServiceDomain = core::deployment::service_domain();
-    state_.gServiceNumber = state_.gInfoServiceNumber;
-    state_.gClientAddress = u"127.0.0.1";
+    state_.session.gLoginUserId = user_id;
+    state_.session.gLoginPassword = password;
+    state_.session.gServiceDomain = core::deployment::service_domain();
+    state_.session.gServiceNumber = state_.session.gInfoServiceNumber;
+    state_.session.gClientAddress = u"127.0.0.1";
     const core::BusyPointer busy(platform_.desktop);
-    state_.gSubmitSequence = 1;
+    state_.session.gSubmitSequence = 1;
     if (!gateway_.GATEWAY_BIND(0)) return false;
 
-    state_.gLoginResult = true;
-    state_.gLoggedIn = true;
+    state_.session.gLoginResult = true;
+    state_.session.gLoggedIn = true;
     if (gateway_.GATEWAY_MONEY_STATUS()) gateway_.GATEWAY_USER_INFO();
     gateway_.GATEWAY_UNBIND();
     return true;
@@ -46,9 +43,9 @@ void Login::show_failure() {
 }
 
 void Login::refuse() {
-    state_.gServiceState = core::SERVICE_STATE_NONE;
-    state_.gLoginResult = false;
-    state_.gLoggedIn = false;
+    state_.session.gServiceState = core::SERVICE_STATE_NONE;
+    state_.session.gLoginResult = false;
+    state_.session.gLoggedIn = false;
 }
 
 }  // namespace gateway

@@ -1,8 +1,7 @@
 #include "handover/handover.h"
 
 #include "compose/handover_files.h"
-#include "core/files.h"
-#include "core/percent.h"
+#include "core/paths.h"
 #include "handover/handover_lines.h"
 #include "platform/error.h"
 #include "service/service_pages.h"
@@ -24,7 +23,7 @@ HandOver::HandOver(platform::Platform& platform, core::AppState& state, compose:
     : platform_(platform), state_(state), form_(main_form) {}
 
 void HandOver::NEW_SENDMAN_LOAD() {
-    if (state_.gSendFormOpen) return;
+    if (state_.forms.gSendFormOpen) return;
     if (!core::FILE_EXISTS(platform_, compose::isend_text(platform_))) return left_over_.reset();
     form_.Timer1.set_enabled(false);
     // Files that could not be deleted are taken in only once: choosing the tab every half second would empty
@@ -42,13 +41,13 @@ void HandOver::take_in() {
     if (is_page(value)) return open_page(value);
     delete_quietly(compose::isend_text(platform_));
     // Deliberately thrown away while a page is open: the user has turned to something else.
-    if (!state_.gWebFormOpen && core::FILE_EXISTS(platform_, compose::tmpman_txt(platform_)))
+    if (!state_.forms.gWebFormOpen && core::FILE_EXISTS(platform_, compose::tmpman_txt(platform_)))
         take_in_recipients(value);
 }
 
 void HandOver::open_page(int page) {
     form_.Timer2.set_tag(u"OK");
-    if (!state_.gLoggedIn) {
+    if (!state_.session.gLoggedIn) {
         platform::ignore_errors([&] {
             form_.session.mnuAutoLogin.checked() ? form_.session.AUTO_LOGIN_START()
                                                  : form_.session.cmdLogin_Click();
@@ -56,14 +55,15 @@ void HandOver::open_page(int page) {
         // The login form has started the polling again, which would find the signal still there.
         form_.Timer1.set_enabled(false);
     }
-    if (!state_.gLoginResult || !state_.gLoggedIn) return form_.session.SET_LOGIN_BUTTONS(false);
+    if (!state_.session.gLoginResult || !state_.session.gLoggedIn)
+        return form_.session.SET_LOGIN_BUTTONS(false);
     service::show_service_page(platform_, state_, page);
 }
 
 void HandOver::take_in_recipients(int tab) {
     const Text text = handed_over_text(bytes_of(compose::tmpman_txt(platform_)));
     if (text.empty()) return;
-    const std::vector<TextView> lines = split(text, u'\n');
+    const std::vector<TextView> lines = platform::split(text, u'\n');
     compose::RecipientList& recipients = form_.recipients;
     recipients.PBar1.set_value(0);
     recipients.PBar1.show();
@@ -71,7 +71,7 @@ void HandOver::take_in_recipients(int tab) {
     for (std::size_t line = 0; line < lines.size(); ++line) {
         if (recipient.read(lines[line]) && !recipient.number.empty())
             recipients.add(recipient.name, recipient.number, recipient.title);
-        if (line > 0) recipients.PBar1.set_value(core::percent(line, lines.size() - 1));
+        if (line > 0) recipients.PBar1.set_progress(line, lines.size() - 1);
         platform_.desktop.paint();
     }
     recipients.PBar1.hide();

@@ -1,12 +1,13 @@
 #include "handover/handover_lines.h"
 
 #include "compose/main_form.h"
-#include "core/common.h"
+#include "core/phone_number.h"
 #include "platform/text/cp949.h"
 #include "platform/text/number.h"
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 namespace handover {
 
@@ -23,19 +24,7 @@ enum Field { NAME = 1, NUMBER = 2, TITLE = 3 };
 }  // namespace
 
 Text handed_over_text(std::string_view bytes) {
-    const Text text = platform::blanks_for_nul(platform::decode_cp949(bytes));
-    return platform::replace_all(platform::replace_all(text, platform::CRLF, u"\n"), u"\r", u"\n");
-}
-
-std::vector<TextView> split(TextView text, char16_t separator) {
-    std::vector<TextView> pieces;
-    std::size_t begin = 0;
-    for (auto end = text.find(separator); end != TextView::npos; end = text.find(separator, begin)) {
-        pieces.push_back(text.substr(begin, end - begin));
-        begin = end + 1;
-    }
-    pieces.push_back(text.substr(begin));
-    return pieces;
+    return platform::with_line_feeds(platform::blanks_for_nul(platform::decode_cp949(bytes)));
 }
 
 int value_of_signal(TextView signal) {
@@ -47,7 +36,7 @@ int value_of_signal(TextView signal) {
 
 bool HandedOverRecipient::read(TextView line) {
     if (line.size() <= SHORT_LINE) return false;
-    const std::vector<TextView> fields = split(line, u'\t');
+    const std::vector<TextView> fields = platform::split(line, u'\t');
     if (fields.size() > NAME) name = platform::trim(platform::remove_all(fields[NAME], u":"));
     if (name.empty()) name = compose::NO_NAME;
     if (fields.size() > NUMBER) number = platform::trim(core::DIGITS_ONLY(fields[NUMBER]));

@@ -1,9 +1,9 @@
 #include "platform/file_name.h"
 
 #include "platform/error.h"
+#include "platform/text/wild_cards.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 namespace platform {
@@ -28,9 +28,7 @@ bool is_device(TextView name) {
     return stem == u"com" || stem == u"lpt";
 }
 
-bool is_forbidden(char16_t unit) {
-    return unit < u' ' || TextView(u"\\/:*?\"<>|").find(unit) != TextView::npos;
-}
+bool is_forbidden(char16_t unit) { return unit < u' ' || FORBIDDEN_IN_NAMES.find(unit) != TextView::npos; }
 
 /// Control characters, and characters that reverse the direction of a text or have no width.
 bool is_invisible(char16_t unit) {
@@ -72,25 +70,11 @@ Text clean_file_name(TextView proposal) {
 
 bool matches_pattern(TextView name, TextView pattern) {
     if (pattern == u"*.*") return true;
-    std::size_t at = 0;
-    std::size_t in_pattern = 0;
-    std::optional<std::pair<std::size_t, std::size_t>> after_star;
-    while (at < name.size()) {
-        if (in_pattern < pattern.size() && pattern[in_pattern] == u'*') {
-            after_star = {at, ++in_pattern};
-        } else if (in_pattern < pattern.size() &&
-                   (pattern[in_pattern] == u'?' ||
-                    upper_case_unit(pattern[in_pattern]) == upper_case_unit(name[at]))) {
-            ++at;
-            ++in_pattern;
-        } else if (after_star) {
-            at = ++after_star->first;
-            in_pattern = after_star->second;
-        } else {
-            return false;
-        }
-    }
-    return pattern.find_first_not_of(u'*', in_pattern) == TextView::npos;
+    return matches_wild_cards(
+        name, pattern, [](char16_t element) { return element == u'*'; },
+        [](char16_t element, char16_t unit) {
+            return element == u'?' || upper_case_unit(element) == upper_case_unit(unit);
+        });
 }
 
 bool name_precedes(TextView a, TextView b) {

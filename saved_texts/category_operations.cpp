@@ -1,9 +1,9 @@
 // Categories: a new one, another name, removal.
 
-#include "core/message_box.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/saved_texts_folder.h"
 #include "saved_texts/frmMyMsgBox.h"
-#include "saved_texts/name_cleaning.h"
+#include "saved_texts/store.h"
 
 namespace saved_texts {
 
@@ -12,7 +12,7 @@ using platform::BoxIcon;
 using platform::Text;
 using platform::TextView;
 
-/// Returns the cleaned name; nothing when the user cancelled or nothing is left of it.
+/// Asks for a category's name. Empty when the user cancels or cleaning leaves nothing of it.
 Text frmMyMsgBox::ask_for_category(TextView title, TextView first_line, const Text& name) {
     return clean_category(platform_.desktop.input_box(
         {.prompt =
@@ -21,15 +21,15 @@ Text frmMyMsgBox::ask_for_category(TextView title, TextView first_line, const Te
          .default_text = name}));
 }
 
-/// Whether no folder has the name; the user is told when one has.
+/// Whether no folder has the name; shows a box when one has.
 bool frmMyMsgBox::is_free_category(const Text& name) {
     if (!platform_.files.folder_exists(core::category_folder(platform_, name))) return true;
     core::warn(platform_.desktop, u"'" + name + u"' 분류명은 이미 존재하고 있습니다.");
     return false;
 }
 
-void frmMyMsgBox::Command8_Click() {
-    with_net([this] {
+void frmMyMsgBox::add_category() {
+    show_failures_of([this] {
         Text name;
         do {
             name = ask_for_category(u"분류등록", u"등록할 분류명을 입력하십시오.", u"");
@@ -40,14 +40,14 @@ void frmMyMsgBox::Command8_Click() {
     });
 }
 
-void frmMyMsgBox::Command7_Click() {
+void frmMyMsgBox::rename_category() {
     const auto old_name = selected_category();
     if (!old_name) return;
     if (*old_name == core::DEFAULT_CATEGORY) {
         core::warn(platform_.desktop, u"'내 모음함'은 변경할 수 없습니다!");
         return;
     }
-    with_net([&] {
+    show_failures_of([&] {
         Text name;
         do {
             name = ask_for_category(u"분류명 수정", u"수정할 분류명을 입력하십시오!", *old_name);
@@ -60,22 +60,22 @@ void frmMyMsgBox::Command7_Click() {
     });
 }
 
-void frmMyMsgBox::Command9_Click() {
+void frmMyMsgBox::remove_category() {
     const auto name = selected_category();
     if (!name) return;
     if (*name == core::DEFAULT_CATEGORY) {
         core::warn(platform_.desktop, u"'내 모음함'은 삭제할 수 없습니다!");
         return;
     }
-    with_net([&] {
+    show_failures_of([&] {
         const Text folder = core::category_folder(platform_, *name);
         core::check_category(platform_, *name);
-        const bool has_messages =
-            !platform_.files.list_files(folder, u"*" + Text(core::MESSAGE_EXTENSION)).empty();
+        const bool has_texts =
+            !platform_.files.list_files(folder, u"*" + Text(core::SAVED_TEXT_EXTENSION)).empty();
         if (!core::ask(platform_.desktop, u"분류:" + *name + u"\r\n\r\n선택한 분류를 삭제하시겠습니까?",
                        u"삭제 확인", BoxIcon::exclamation, BoxAnswer::no))
             return;
-        if (has_messages) platform_.files.remove_files(folder, u"*.*");
+        if (has_texts) platform_.files.remove_files(folder, u"*.*");
         platform_.files.remove_empty_folder(folder);
         ListView2.clear();
         CATEGORY_LIST_LOAD();

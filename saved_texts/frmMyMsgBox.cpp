@@ -1,9 +1,11 @@
 #include "saved_texts/frmMyMsgBox.h"
 
-#include "core/common.h"
-#include "core/list_columns.h"
-#include "core/message_box.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/byte_length.h"
+#include "core/centring.h"
+#include "core/saved_texts_folder.h"
+#include "platform/controls/list_columns.h"
+#include "saved_texts/store.h"
 
 namespace saved_texts {
 
@@ -17,50 +19,46 @@ frmMyMsgBox::frmMyMsgBox(platform::Platform& platform, Apply apply)
     Command10.set_tool_tip(u"메시지 목록 새로고침");
     connect_lists();
     connect_fields();
-    Command1.Click.connect([this] { Command1_Click(); });
-    Command2.Click.connect([this] { Command2_Click(); });
-    Command3.Click.connect([this] { Command3_Click(); });
+    Command1.Click.connect([this] { save_new_text(); });
+    Command2.Click.connect([this] { save_edited_text(); });
+    Command3.Click.connect([this] { remove_text(); });
     Command4.Click.connect([this] { unload(); });
-    Command5.Click.connect([this] { Command5_Click(); });
-    Command6.Click.connect([this] { Command6_Click(); });
-    Command7.Click.connect([this] { Command7_Click(); });
-    Command8.Click.connect([this] { Command8_Click(); });
-    Command9.Click.connect([this] { Command9_Click(); });
-    Command10.Click.connect([this] { ListView1_Click(); });
+    Command5.Click.connect([this] { apply_to_draft(); });
+    Command6.Click.connect([this] { apply_and_close(); });
+    Command7.Click.connect([this] { rename_category(); });
+    Command8.Click.connect([this] { add_category(); });
+    Command9.Click.connect([this] { remove_category(); });
+    Command10.Click.connect([this] { list_selected_category(); });
 }
 
 void frmMyMsgBox::connect_lists() {
-    ListView1.MouseUp.connect([this](platform::MouseButton) { ListView1_Click(); });
-    ListView1.KeyUp.connect([this](KeyPressed&) { ListView1_Click(); });
+    ListView1.MouseUp.connect([this](platform::MouseButton) { list_selected_category(); });
+    ListView1.KeyUp.connect([this](KeyPressed&) { list_selected_category(); });
     ListView1.KeyDown.connect([this](const KeyPressed& key) {
-        if (key.code == platform::KEY_DELETE) Command9_Click();
+        if (key.code == platform::KEY_DELETE) remove_category();
     });
-    ListView2.MouseUp.connect([this](platform::MouseButton) { ListView2_Click(); });
-    ListView2.KeyUp.connect([this](KeyPressed&) { ListView2_Click(); });
+    ListView2.MouseUp.connect([this](platform::MouseButton) { show_selected_text(); });
+    ListView2.KeyUp.connect([this](KeyPressed&) { show_selected_text(); });
     ListView2.KeyDown.connect([this](const KeyPressed& key) {
-        if (key.code == platform::KEY_DELETE) Command3_Click();
+        if (key.code == platform::KEY_DELETE) remove_text();
     });
-    ListView2.ColumnClick.connect([this](int column) { core::SORT_BY_COLUMN(ListView2, column); });
+    ListView2.ColumnClick.connect([this](int column) { platform::SORT_BY_COLUMN(ListView2, column); });
 }
 
 void frmMyMsgBox::connect_fields() {
     Text1.KeyPress.connect([](KeyPressed& key) {
-        if (platform::TextView(u"\"*./:<>?\\|").find(static_cast<char16_t>(key.code)) !=
-            platform::TextView::npos)
-            key.swallow();
+        if (clean_title(platform::Text(1, static_cast<char16_t>(key.code))).empty()) key.swallow();
     });
-    txtText.Change.connect([this] {
-        const auto bytes = static_cast<long long>(core::BYTE_LEN(txtText.text()));
-        LenCaption.set_caption(platform::decimal(bytes) + u"Bytes");
-    });
+    txtText.Change.connect(
+        [this] { LenCaption.set_caption(platform::decimal(core::BYTE_LEN(txtText.text())) + u"Bytes"); });
     LenCaption.Click.connect([this] { txtText.set_focus(); });
     Picture1.Click.connect([this] { txtText.set_focus(); });
 }
 
 void frmMyMsgBox::Form_Load() {
     core::CENTER_FORM(platform_.desktop, *this);
-    core::make_message_box_folders(platform_);
-    with_net([this] { CATEGORY_LIST_LOAD(); });
+    core::make_saved_texts_folders(platform_);
+    show_failures_of([this] { CATEGORY_LIST_LOAD(); });
 }
 
 void frmMyMsgBox::show_failure(const platform::RuntimeError& error) {

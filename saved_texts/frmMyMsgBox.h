@@ -15,15 +15,15 @@
 namespace saved_texts {
 
 /// Sub-items of a row of `frmMyMsgBox::ListView2`.
-inline constexpr int MESSAGE_LINE = 1;
-inline constexpr int MESSAGE_SAVED = 2;
-inline constexpr int MESSAGE_BODY = 3;
+inline constexpr int TEXT_LINE = 1;
+inline constexpr int TEXT_SAVED = 2;
+inline constexpr int TEXT_BODY = 3;
 
-/// The box of saved texts: categories, the messages of the selected one, and fields for a new message or for
-/// the edit of the selected one.
+/// The box of saved texts: categories, the texts of the selected one, and fields for a new text or for the
+/// edit of the selected one.
 ///
-/// Its handlers stand by subject: lists in listing, messages in message_operations, categories in
-/// category_operations, the way back into the main window in apply.
+/// Its handlers stand by subject: lists in listing, texts in text_operations, categories in
+/// category_operations.
 class frmMyMsgBox : public platform::Form {
   public:
     /// Takes a text and its title into the draft.
@@ -31,16 +31,14 @@ class frmMyMsgBox : public platform::Form {
 
     frmMyMsgBox(platform::Platform& platform, Apply apply);
 
-    platform::ListView ListView1{*this, u"ListView1", {{.caption = u"분류명", .picture = {}}}};
+    platform::ListView ListView1{*this, u"ListView1", {{.caption = u"분류명"}}};
     platform::CommandButton Command8{*this, u"Command8", u"새 분류 추가"};
     platform::CommandButton Command7{*this, u"Command7", u"분류명 수정"};
     platform::CommandButton Command9{*this, u"Command9", u"분류 삭제"};
-    platform::ListView ListView2{*this,
-                                 u"ListView2",
-                                 {{.caption = u"제목", .picture = {}},
-                                  {.caption = u"메시지내용", .picture = {}},
-                                  {.caption = u"저장일", .picture = {}},
-                                  {.caption = u"메시지", .picture = {}}}};
+    platform::ListView ListView2{
+        *this,
+        u"ListView2",
+        {{.caption = u"제목"}, {.caption = u"메시지내용"}, {.caption = u"저장일"}, {.caption = u"메시지"}}};
     platform::CommandButton Command10{*this, u"Command10", u"새로고침"};
     platform::Label Label1{*this, u"Label1", u"제목:"};
     platform::TextBox Text1{*this, u"Text1"};
@@ -66,35 +64,33 @@ class frmMyMsgBox : public platform::Form {
     // Lists.
     void CATEGORY_LIST_LOAD();
     void MESSAGE_LIST_LOAD(const platform::Text& category);
-    void ListView1_Click();
-    void ListView2_Click();
+    void list_selected_category();
+    void show_selected_text();
     std::optional<platform::Text> selected_category() const;
     void select_category(std::size_t row);
     bool lists(const platform::Text& category);
 
-    // Messages.
-    void Command1_Click();
-    void Command2_Click();
-    void Command3_Click();
+    // Texts.
+    void save_new_text();
+    void save_edited_text();
+    void remove_text();
     bool take_fields();
     bool is_saved(const platform::Text& category, const platform::Text& title) const;
     void empty_fields();
+    void apply_to_draft();
+    void apply_and_close();
 
     // Categories.
-    void Command7_Click();
-    void Command8_Click();
-    void Command9_Click();
+    void rename_category();
+    void add_category();
+    void remove_category();
     platform::Text ask_for_category(platform::TextView title, platform::TextView first_line,
                                     const platform::Text& name);
     bool is_free_category(const platform::Text& name);
 
-    // Apply.
-    void Command5_Click();
-    void Command6_Click();
-
-    /// Runs a handler's work on files; what fails is told.
+    /// Runs a handler's work on files and shows the box of an error that ends it.
     template <class Step>
-    void with_net(Step&& step) {
+    void show_failures_of(Step&& step) {
         try {
             step();
         } catch (const platform::RuntimeError& error) {
@@ -105,7 +101,7 @@ class frmMyMsgBox : public platform::Form {
 
     platform::Platform& platform_;
     Apply apply_;
-    /// Whose messages ListView2 shows; nothing when the last listing failed.
+    /// Whose texts ListView2 shows; nothing when the last listing failed.
     std::optional<platform::Text> listed_category_;
 };
 

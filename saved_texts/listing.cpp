@@ -1,11 +1,11 @@
-// The lists of categories and of messages, and what a selection in them does.
+// The lists of categories and of texts, and what a selection in them does.
 
-#include "core/list_columns.h"
-#include "core/message_box.h"
-#include "core/windows.h"
+#include "core/busy.h"
+#include "core/saved_texts_folder.h"
+#include "platform/controls/list_columns.h"
 #include "platform/text/format.h"
 #include "saved_texts/frmMyMsgBox.h"
-#include "saved_texts/message_store.h"
+#include "saved_texts/store.h"
 
 namespace saved_texts {
 
@@ -17,13 +17,13 @@ namespace {
 constexpr int CLOSED_FOLDER = 1;
 constexpr int OPEN_FOLDER = 2;
 
-/// Two messages of one minute are told apart, and the text sorts.
+/// With seconds, so that texts of one minute can be told apart; the dates sort as texts.
 constexpr platform::TextView SAVED_PATTERN = u"yyyy-MM-dd ampm hh:mm:ss";
 
 }  // namespace
 
 void frmMyMsgBox::CATEGORY_LIST_LOAD() {
-    core::make_message_box_folders(platform_);
+    core::make_saved_texts_folders(platform_);
     const std::vector<Text> names = categories(platform_);
     ListView1.clear();
     for (const Text& name : names) ListView1.set_small_icon(ListView1.add_row(name, {}), CLOSED_FOLDER);
@@ -34,7 +34,7 @@ void frmMyMsgBox::select_category(std::size_t row) {
     ListView1.deselect_item();
     ListView1.select_item(row);
     ListView1.make_visible(row);
-    ListView1_Click();
+    list_selected_category();
 }
 
 std::optional<Text> frmMyMsgBox::selected_category() const {
@@ -42,19 +42,19 @@ std::optional<Text> frmMyMsgBox::selected_category() const {
     return row ? std::optional(ListView1.row(*row).text()) : std::nullopt;
 }
 
-void frmMyMsgBox::ListView1_Click() {
+void frmMyMsgBox::list_selected_category() {
     const auto category = selected_category();
     if (!category) return;
-    with_net([&] { MESSAGE_LIST_LOAD(*category); });
+    show_failures_of([&] { MESSAGE_LIST_LOAD(*category); });
     for (std::size_t row = 0; row < ListView1.row_count(); ++row)
         ListView1.set_small_icon(row, row == ListView1.selected_item() ? OPEN_FOLDER : CLOSED_FOLDER);
 }
 
-/// Whether the rows are the category's. After a listing that failed they are those of another one, whose
-/// titles may well be files in this one too: then nothing is done to them, and the category is listed anew.
+/// Whether the rows are the category's; lists the category anew when they are not. After a listing that
+/// failed they are those of another category, whose titles may be files in this one too.
 bool frmMyMsgBox::lists(const Text& category) {
     if (listed_category_ == category) return true;
-    ListView1_Click();
+    list_selected_category();
     return false;
 }
 
@@ -68,28 +68,28 @@ void frmMyMsgBox::MESSAGE_LIST_LOAD(const Text& category) {
 
         ListView2.clear();
         listed_category_ = category;
-        for (Message& message : content.messages) {
-            ListView2.add_row(std::move(message.title),
-                              {platform::trim(platform::replace_all(message.body, platform::CRLF, u" ")),
-                               platform::format_date(message.saved, SAVED_PATTERN), std::move(message.body)});
+        for (SavedText& text : content.texts) {
+            ListView2.add_row(std::move(text.title),
+                              {in_one_line(text.body), platform::format_date(text.saved, SAVED_PATTERN),
+                               std::move(text.body)});
             platform_.desktop.paint();
         }
         // Deliberately by the text of the date: within a day 오전 and 오후 sort as words, and 12 o'clock
         // behind 11. Users know their lists so.
-        ListView2.sort(MESSAGE_SAVED, ListView::SortOrder::descending);
-        core::SET_SORT_ARROW(ListView2, MESSAGE_SAVED, 1, true);
+        ListView2.sort(TEXT_SAVED, ListView::SortOrder::descending);
+        platform::SET_SORT_ARROW(ListView2, TEXT_SAVED, 1, true);
         if (ListView2.row_count() > 0) ListView2.select_item(0);
     }
     if (failure) throw *failure;
 }
 
-void frmMyMsgBox::ListView2_Click() {
+void frmMyMsgBox::show_selected_text() {
     empty_fields();
     const auto row = ListView2.selected_item();
     if (!row) return;
     Command5.set_enabled(true);
     Text1.set_text(ListView2.row(*row).text());
-    txtText.set_text(ListView2.row(*row).sub_item(MESSAGE_BODY));
+    txtText.set_text(ListView2.row(*row).sub_item(TEXT_BODY));
 }
 
 }  // namespace saved_texts

@@ -1,6 +1,7 @@
 #include "send/confirmation.h"
 
-#include "core/common.h"
+#include "core/byte_length.h"
+#include "core/centring.h"
 #include "platform/text/format.h"
 
 namespace send {
@@ -50,6 +51,20 @@ Text confirmation_text(const compose::frmZent& form, const compose::CarrierKind&
     if (kind.callback) add_line(u" 회신번호      : " + form.sender.txtCallback.text());
     if (kind.reply) add_line(reply_lines(form));
     return text + recipients_line(recipients);
+}
+
+frmSBox::frmSBox(platform::Platform& platform, core::AppState& state)
+    : Form(platform.desktop, u"frmSBox"), state_(state) {
+    set_caption(u"메시지 발송확인");
+    Command1.Click.connect([this] { answer(true); });
+    Command2.Click.connect([this] { answer(false); });
+}
+
+void frmSBox::Form_Load() { core::CENTER_FORM(desktop(), *this); }
+
+void frmSBox::answer(bool start) {
+    state_.forms.gDialogConfirmed = start;
+    unload();
 }
 
 }  // namespace send

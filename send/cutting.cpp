@@ -2,7 +2,7 @@
 // nothing else keeps them in order.
 
 #include "compose/schedule_time.h"
-#include "compose/text_cutting.h"
+#include "core/byte_length.h"
 #include "platform/text/format.h"
 #include "send/draft.h"
 #include "send/frmZentSend.h"
@@ -38,8 +38,8 @@ void frmZentSend::next_piece(SendJob& job) {
 
 Text frmZentSend::CUT_NEXT_PIECE() {
     Text text = mText1.text();
-    Text piece = compose::LLL(text, compose::TEXT_LIMIT);
-    // Deliberately trimmed at its end only: a blank at the start of a piece is the user's.
+    Text piece = core::LLL(text, compose::TEXT_LIMIT);
+    // Deliberately trimmed at its end only: a blank that opens a piece is the user's.
     mText1.set_text(platform::right_trim(text.substr(piece.size())));
     return piece;
 }

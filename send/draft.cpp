@@ -1,7 +1,7 @@
 #include "send/draft.h"
 
-#include "core/common.h"
-#include "core/files.h"
+#include "core/phone_number.h"
+#include "core/work_folders.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "compose/main_form.h"
-#include "core/app_state.h"
 #include "gateway/gateway.h"
 
 namespace send {

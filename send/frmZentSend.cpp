@@ -1,7 +1,7 @@
 #include "send/frmZentSend.h"
 
-#include "core/files.h"
-#include "core/windows.h"
+#include "core/busy.h"
+#include "core/centring.h"
 #include "platform/text/format.h"
 #include "send/recipient_text.h"
 
@@ -19,26 +19,23 @@ frmZentSend::frmZentSend(platform::Platform& platform, core::AppState& state, co
       gateway_(platform, state) {
     set_caption(u"폰디라 서버에 메시지 등록...");
     Command1.set_tool_tip(u"메시지 등록을 중지합니다.");
-    Command1.Click.connect([this] { Command1_Click(); });
-    Timer1.Tick.connect([this] { Timer1_Timer(); });
+    Command1.Click.connect([this] { stop_or_close(); });
+    Timer1.Tick.connect([this] { run_routine_of_draft(); });
 }
 
 void frmZentSend::Form_Load() {
     core::CENTER_FORM(platform_.desktop, *this);
-    state_.gSendFormOpen = true;
+    state_.forms.gSendFormOpen = true;
     main_form_.Timer1.set_enabled(false);
-    SendAnimationPath = platform_.files.application_directory() + u"\\resource\\send.avi";
-    if (core::FILE_EXISTS(platform_, SendAnimationPath)) {
-        Animation1.open(SendAnimationPath);
-        Animation1.play();
-    }
+    SendAnimationPath = core::send_film(platform_);
+    core::play_film(platform_, Animation1, SendAnimationPath);
     compose::fill_hours_and_minutes({DTP1, Combo1, Combo2});
     take_schedule();
 }
 
 void frmZentSend::Form_Activate() {
-    state_.gSendFormOpen = true;
-    // The window becomes active again when a box over it closes; that must not start a second job.
+    state_.forms.gSendFormOpen = true;
+    // The window becomes active again when a box over it closes; there is one job all the same.
     if (!Timer1.tag().empty()) return;
     Timer1.set_tag(u"OK");
     Timer1.set_enabled(true);
@@ -47,14 +44,14 @@ void frmZentSend::Form_Activate() {
 void frmZentSend::Form_Unload() {
     Timer1.set_enabled(false);
     normal_cursor();
-    state_.gSendFormOpen = false;
+    state_.forms.gSendFormOpen = false;
     main_form_.Timer1.set_enabled(true);
 }
 
 /// A running job never ends unseen: closing the window asks it to stop.
-void frmZentSend::Form_Close() { job_started_ ? Command1_Click() : unload(); }
+void frmZentSend::Form_Close() { job_started_ ? stop_or_close() : unload(); }
 
-void frmZentSend::Command1_Click() {
+void frmZentSend::stop_or_close() {
     // Deliberately not the caption that a finished job gives the button: a late click must not close the
     // window under the report.
     if (Command1.caption() == u"닫기(&C)") {
@@ -69,7 +66,7 @@ bool frmZentSend::is_personal() const {
     return kind_of(main_form_).kind == compose::MessageKind::text && main_form_.text.Check1.checked();
 }
 
-void frmZentSend::Timer1_Timer() {
+void frmZentSend::run_routine_of_draft() {
     Timer1.set_enabled(false);
     if (is_personal() && has_placeholder(main_form_.text.mText1.text())) {
         SEND_PERSONAL();

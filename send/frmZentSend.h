@@ -78,15 +78,14 @@ class frmZentSend : public platform::Form {
     void Form_Close() override;
 
   private:
-    /// Whether a pass over the rows scrolls along and writes each row's status, and whether it moves the
-    /// progress bar.
+    /// Whether a pass writes row status and moves the progress bar.
     struct PassOptions {
         bool leaves_trace;
         bool shows_progress;
     };
 
-    void Command1_Click();
-    void Timer1_Timer();
+    void stop_or_close();
+    void run_routine_of_draft();
     void wait_cursor() { platform_.desktop.set_pointer(platform::Pointer::hourglass); }
     void normal_cursor() { platform_.desktop.set_pointer(platform::Pointer::normal); }
 

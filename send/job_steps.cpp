@@ -1,11 +1,11 @@
 // What the four routines share: preparation, the session around a submit, the rows' status, the end.
 
-#include "core/files.h"
-#include "core/windows.h"
-#include "gateway/result_text.h"
+#include "core/app_state.h"
+#include "core/boxes.h"
+#include "core/busy.h"
+#include "gateway/gateway.h"
 #include "platform/error.h"
 #include "send/draft.h"
-#include "send/frmSendEndBox.h"
 #include "send/frmZentSend.h"
 #include "send/report.h"
 
@@ -28,7 +28,7 @@ constexpr platform::TextView FAILURE_MESSAGE =
 
 }  // namespace
 
-/// Any failure ends the job at once, without a report; rows that are done keep their status.
+/// An error ends the job where it is, without a report; rows that are done keep their status.
 void frmZentSend::run_job(const CarrierKind* kind, Pauses pauses,
                           const std::function<void(SendJob&)>& send_rows) {
     job_started_ = true;
@@ -56,7 +56,7 @@ SendJob frmZentSend::prepare(const CarrierKind* kind, Pauses pauses) {
                 .message = message_of_draft(main_form_, kind, Documents, now),
                 .subject = {}};
     job.subject = job.message.s_subject;
-    state_.gSubmitSequence = 1;
+    state_.session.gSubmitSequence = 1;
     return job;
 }
 
@@ -65,7 +65,7 @@ void frmZentSend::open_session(SendJob& job) {
     bool usable = gateway_.GATEWAY_BIND(job.kind != nullptr ? job.kind->bind_mode : 1);
     if (usable && !job.account_checked) {
         job.account_checked = true;
-        usable = gateway_.GATEWAY_MONEY_STATUS() && state_.gServiceState <= core::LAST_USABLE_STATE;
+        usable = gateway_.GATEWAY_MONEY_STATUS() && state_.session.gServiceState <= core::LAST_USABLE_STATE;
     }
     if (usable) return;
     gateway_.GATEWAY_UNBIND();
@@ -89,15 +89,15 @@ void frmZentSend::close_session(const SendJob& job) {
     platform_.clock.pause(job.pauses.before_unbind);
     gateway_.GATEWAY_UNBIND();
     wait_cursor();
-    ++state_.gSubmitSequence;
+    ++state_.session.gSubmitSequence;
 }
 
 void frmZentSend::count(SendJob& job, const Text& result, int recipients) {
     (result == gateway::REGISTERED ? job.success : job.failure) += recipients;
 }
 
-/// Writes the status into the checked rows of the range. Failed rows stay checked, so that sending again
-/// tries only these.
+/// Writes the status into the checked rows of the range. A row that failed stays checked, so that sending
+/// again tries just these.
 void frmZentSend::write_status(std::size_t first_row, std::size_t end_row, const Text& status) {
     for (std::size_t row = first_row; row < end_row; ++row) {
         if (!RecipientRows.row(row).checked()) continue;
@@ -126,10 +126,7 @@ void frmZentSend::report(const SendJob& job) {
 
 /// Prepares the window to stay behind the report: the film at rest, the button ready to close it.
 void frmZentSend::SEND_FINISHED() {
-    if (core::FILE_EXISTS(platform_, SendAnimationPath)) {
-        Animation1.open(SendAnimationPath);
-        Animation1.stop();
-    }
+    if (core::open_film(platform_, Animation1, SendAnimationPath)) Animation1.stop();
     Command1.set_caption(u"닫기");
     Command1.set_enabled(true);
 }

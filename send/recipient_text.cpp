@@ -1,7 +1,7 @@
 #include "send/recipient_text.h"
 
 #include "compose/main_form.h"
-#include "core/common.h"
+#include "core/phone_number.h"
 #include "platform/text/number.h"
 
 namespace send {

@@ -1,6 +1,8 @@
 #include "send/report.h"
 
+#include "core/centring.h"
 #include "platform/text/format.h"
+#include "service/service_pages.h"
 
 namespace send {
 
@@ -10,8 +12,7 @@ namespace {
 
 Text cases(int number) { return platform::format_number(number, u"#,##0") + u"건\r\n"; }
 
-/// Deliberately a difference of clock times, wrong for a job that passes midnight: the report shows the time
-/// as it always has.
+/// Deliberately a difference of clock times, wrong for a job that passes midnight: users know the report so.
 Text elapsed(platform::LocalTime started, platform::LocalTime now) {
     const std::chrono::duration<double, std::chrono::days::period> days =
         platform::time_of_day(now) - platform::time_of_day(started);
@@ -26,5 +27,15 @@ Text report_text(const SendJob& job, int recipients, platform::LocalTime now) {
            u" 등록성공: " + cases(job.success) + u" 등록실패: " + cases(job.failure) + u" 등록중지: " +
            cases(recipients - job.success - job.failure) + u"\r\n 걸린시간: " + elapsed(job.started, now);
 }
+
+frmSendEndBox::frmSendEndBox(platform::Platform& platform, compose::frmZent& main_form)
+    : Form(platform.desktop, u"frmSendEndBox"), main_form_(main_form) {
+    set_caption(u"KT 폰디라 서버에 메시지 등록완료...");
+    Command1.set_enabled(false);
+    Command1.Click.connect([this] { main_form_.session.KTSMS_LINK(service::PAGE_RESULTS); });
+    Command2.Click.connect([this] { unload(); });
+}
+
+void frmSendEndBox::Form_Load() { core::CENTER_FORM(desktop(), *this); }
 
 }  // namespace send

@@ -1,11 +1,36 @@
 #pragma once
 
+#include "compose/main_form.h"
+#include "platform/controls/buttons.h"
+#include "platform/controls/fields.h"
+#include "platform/controls/form.h"
+#include "platform/ports/platform.h"
 #include "send/send_job.h"
 
 namespace send {
 
-/// What the user reads when a job is done. `recipients` is how many there were to register; those that are
-/// neither successes nor failures count as stopped.
+/// What the user reads when a job is done. `recipients` is how many there were to register; those
+/// that are neither a success nor a failure count as stopped.
 platform::Text report_text(const SendJob& job, int recipients, platform::LocalTime now);
+
+/// The window of the report.
+class frmSendEndBox : public platform::Form {
+  public:
+    frmSendEndBox(platform::Platform& platform, compose::frmZent& main_form);
+
+    platform::TextBox Text1{*this, u"Text1"};
+    platform::CommandButton Command1{*this, u"Command1", u"발송결과"};
+    platform::CommandButton Command2{*this, u"Command2", u"확인(&O)"};
+
+    /// There are results to look at; without any the button stays grey.
+    void offer_results() { Command1.set_enabled(true); }
+
+  protected:
+    void Form_Load() override;
+    void Form_Escape() override { unload(); }
+
+  private:
+    compose::frmZent& main_form_;
+};
 
 }  // namespace send

@@ -1,9 +1,8 @@
-#include "send/schedule_check.h"
-
 #include "compose/schedule_time.h"
-#include "core/windows.h"
+#include "core/boxes.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
+#include "send/send_check.h"
 
 #include <algorithm>
 
@@ -45,8 +44,7 @@ double lead_digits(LocalTime scheduled, LocalTime now) {
 bool schedule_is_possible(const platform::Platform& platform, compose::frmZent& form) {
     if (!form.schedule.Option2.chosen()) return true;
     const double minutes = minimum_lead(platform);
-    // Deliberately without the check for a past time too: users who turn the lead off can send at once that
-    // way.
+    // Deliberately without the check for a past time too: a user who switches the lead off may send at once.
     if (minutes == 0) return true;
     form.schedule.DT1[0].set_value(scheduled_moment(form));
     form.schedule.DT1[1].set_value(platform.clock.now());

@@ -1,7 +1,6 @@
 // SEND_BATCHES: the whole text to up to 100 recipients a submit, one pass over the rows.
 
-#include "core/common.h"
-#include "core/percent.h"
+#include "core/byte_length.h"
 #include "platform/text/format.h"
 #include "send/frmZentSend.h"
 #include "send/recipient_text.h"
@@ -40,8 +39,8 @@ void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options
     while (current != rows) {
         ++current;
         if (options.leaves_trace) RecipientRows.make_visible(current - 1);
-        if (add_to_batch(batch, current)) submit_batch(job, batch, current, options.leaves_trace);
-        if (options.shows_progress) PBar1.set_value(core::percent(current, rows));
+        if (gather(batch, current)) submit_batch(job, batch, current, options.leaves_trace);
+        if (options.shows_progress) PBar1.set_progress(current, rows);
         if (current == rows) {
             // The last rows were left out, but the batch holds earlier ones.
             if (!batch.s_dest_addr.empty()) submit_batch(job, batch, current, options.leaves_trace);
@@ -54,9 +53,10 @@ void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options
     }
 }
 
-/// Adds the row to the batch if it is to be sent to. Returns whether the batch is to be submitted now. A row
-/// that does not fit decrements `current`, so that it is read again and begins the next batch.
-bool frmZentSend::add_to_batch(Batch& batch, std::size_t& current) const {
+/// Adds the row to the batch when it is checked and has a number. Returns whether the batch is to be
+/// submitted now. A row that does not fit is not consumed (`current` is decremented) and starts the next
+/// batch.
+bool frmZentSend::gather(Batch& batch, std::size_t& current) const {
     const platform::ListItem& row = RecipientRows.row(current - 1);
     if (!row.checked()) return false;
     const std::optional<Text> address = address_of(row);

@@ -1,14 +1,12 @@
 #include "send/send_check.h"
 
-#include "core/common.h"
-#include "core/files.h"
-#include "core/percent.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/paths.h"
+#include "core/phone_number.h"
+#include "core/work_folders.h"
 #include "send/confirmation.h"
 #include "send/draft.h"
-#include "send/frmSBox.h"
 #include "send/frmZentSend.h"
-#include "send/schedule_check.h"
 
 #include <optional>
 
@@ -134,7 +132,7 @@ std::optional<Recipients> check_recipients(const Platform& platform, frmZent& fo
                 recipients.first_number = number;
             }
         }
-        form.recipients.PBar1.set_value(core::percent(row + 1, rows));
+        form.recipients.PBar1.set_progress(row + 1, rows);
     }
     form.recipients.PBar1.hide();
     form.recipients.RECIPIENT_COUNT_CAPTION();
@@ -145,19 +143,19 @@ std::optional<Recipients> check_recipients(const Platform& platform, frmZent& fo
 }
 
 bool confirmed(Platform& platform, AppState& state, const CarrierKind& kind, const Text& text) {
-    state.gDialogConfirmed = false;
+    state.forms.gDialogConfirmed = false;
     frmSBox box(platform, state);
     box.load();
     box.Text1.set_text(Text(platform::CRLF) + text);
     box.Label1.set_caption(Text(kind.name) + u" 발송을 시작하시겠습니까?");
     box.show_modal();
-    return state.gDialogConfirmed;
+    return state.forms.gDialogConfirmed;
 }
 
 }  // namespace
 
-void Command1_Click(Platform& platform, AppState& state, frmZent& form) {
-    if (!state.gLoggedIn) {
+void check_and_send(Platform& platform, AppState& state, frmZent& form) {
+    if (!state.session.gLoggedIn) {
         core::warn(platform.desktop, u"KT 폰디라 Login과정을 거쳐야 합니다.");
         form.session.cmdLogin_Click();
         return;

@@ -6,8 +6,12 @@
 
 namespace send {
 
-/// The click of the main window's send button: checks the draft, asks the user and sends. At the first fault
-/// nothing is sent: a box names it, and the focus goes where it can be corrected.
-void Command1_Click(platform::Platform& platform, core::AppState& state, compose::frmZent& form);
+/// What the main window's send button does: checks the draft, asks the user and sends. The first fault ends
+/// it with a box, and the focus goes to where the user can mend it.
+void check_and_send(platform::Platform& platform, core::AppState& state, compose::frmZent& form);
+
+/// Whether the draft's schedule lies far enough ahead, with a box when it does not. An immediate message
+/// passes.
+bool schedule_is_possible(const platform::Platform& platform, compose::frmZent& form);
 
 }  // namespace send

@@ -9,16 +9,16 @@
 
 namespace send {
 
-/// The state of one job, apart from the recipient rows.
+/// State of one job (all but the recipient rows).
 struct SendJob {
     /// Null when no kind has the given name: then nothing is submitted and every row fails.
     const compose::CarrierKind* kind;
     compose::Pauses pauses;
     platform::LocalTime started;
 
-    /// The registration; each routine fills in what changes from submit to submit.
+    /// The next registration; each routine changes what its submits differ in.
     gateway::UmsMessage message;
-    /// As the user wrote it. Each of several batches is sent with a number after it.
+    /// As the user wrote it; a batch of many is registered under it with a number behind.
     platform::Text subject;
 
     bool account_checked = false;
@@ -34,11 +34,11 @@ struct SendJob {
 /// Recipients gathered for one submit.
 struct Batch {
     platform::Text s_dest_addr;
-    /// Length of the address text in cp949. Kept here, since measuring the whole text for each row would make
-    /// a long list slow.
+    /// Length of the address text in cp949. Kept because measuring the whole text for each row would make a
+    /// long list slow.
     std::size_t bytes = 0;
     int count = 0;
-    /// Position of its first row in the list, counted from 0.
+    /// The row at which it begins, counted from 0.
     std::size_t first_row = 0;
 };
 
@@ -47,7 +47,7 @@ struct SessionRefused {};
 
 /// Status of a row for which no call was made.
 inline constexpr platform::TextView NOT_REGISTERED = u"등록실패";
-/// Status of a row that lacks the name for which the text has a place.
+/// Status of a row without a name when the text asks for one.
 inline constexpr platform::TextView NAME_MISSING = u"등록실패(이름없음)";
 
 }  // namespace send

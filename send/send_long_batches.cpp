@@ -1,7 +1,6 @@
 // SEND_LONG_BATCHES: a text too long for one message, a pass over the rows for each piece.
 
-#include "core/common.h"
-#include "core/percent.h"
+#include "core/byte_length.h"
 #include "platform/text/number.h"
 #include "send/frmZentSend.h"
 
@@ -28,7 +27,7 @@ void frmZentSend::SEND_LONG_BATCHES() {
         Batch batch;
         while (!mText1.text().empty()) {
             next_piece(job);
-            state_.gSubmitSequence = 1;
+            state_.session.gSubmitSequence = 1;
             job.account_checked = false;
             job.batch_sequence = 0;
             // Deliberately resets all but the address text, which keeps the recipients of a stopped pass: the
@@ -40,8 +39,8 @@ void frmZentSend::SEND_LONG_BATCHES() {
             // or the later pieces would reach nobody. A stop ends the pass of one piece alone.
             const bool last = mText1.text().empty();
             pass_over_rows(job, batch, {.leaves_trace = last, .shows_progress = false});
-            // Deliberately not limited: a value above 100 raises the error that ends such a job.
-            if (!last) PBar1.set_value(core::percent(static_cast<std::size_t>(job.pieces), expected));
+            // Deliberately unchecked: above 100 it is the error that ends such a job.
+            if (!last) PBar1.set_progress(static_cast<std::size_t>(job.pieces), expected);
         }
     });
 }

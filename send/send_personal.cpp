@@ -1,8 +1,7 @@
 // SEND_PERSONAL: a text with the recipient's name or title in it, one recipient a submit. Also what it shares
 // with the other routine that goes recipient by recipient.
 
-#include "core/list_columns.h"
-#include "core/percent.h"
+#include "platform/controls/list_columns.h"
 #include "send/frmZentSend.h"
 #include "send/recipient_text.h"
 
@@ -17,8 +16,8 @@ void frmZentSend::SEND_PERSONAL() {
     });
 }
 
-/// Calls `send_row` for each checked row until the user stops the job. Here, unlike with batches, a stop is
-/// shown even after the last row.
+/// The checked rows, one after the other, until the user stops the job; here the box about the
+/// stop also comes behind the last row.
 void frmZentSend::for_each_recipient(const std::function<void(std::size_t row)>& send_row) {
     for (std::size_t row = 0; row < RecipientRows.row_count(); ++row) {
         RecipientRows.make_visible(row);
@@ -32,7 +31,7 @@ void frmZentSend::for_each_recipient(const std::function<void(std::size_t row)>&
 
 /// The text for this recipient; nothing when it has a place for a name that is missing.
 std::optional<Text> frmZentSend::filled_in(const Text& text, const platform::ListItem& recipient) const {
-    const int title = core::FIND_COLUMN(u"직위", RecipientRows) - 1;
+    const int title = platform::FIND_COLUMN(u"직위", RecipientRows) - 1;
     return fill_placeholders(text, recipient.sub_item(compose::RECIPIENT_NAME), recipient.sub_item(title));
 }
 
@@ -55,7 +54,7 @@ void frmZentSend::send_personal_row(SendJob& job, std::size_t row) {
     while (!mText1.text().empty()) {
         next_piece(job);
         open_session(job);
-        PBar1.set_value(core::percent(row + 1, RecipientRows.row_count()));
+        PBar1.set_progress(row + 1, RecipientRows.row_count());
         result = submit(job);
         // Deliberately only the last piece decides: a recipient who got the end of a text is not sent all of
         // it again.

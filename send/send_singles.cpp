@@ -1,8 +1,7 @@
 // SEND_SINGLES: one recipient a submit, for all kinds; a personal text that is too long fails instead of
 // being cut.
 
-#include "core/common.h"
-#include "core/percent.h"
+#include "core/byte_length.h"
 #include "send/frmZentSend.h"
 #include "send/recipient_text.h"
 
@@ -42,7 +41,7 @@ void frmZentSend::send_single_row(SendJob& job, std::size_t row) {
     job.message.s_dest_addr = *address;
 
     open_session(job);
-    PBar1.set_value(core::percent(row + 1, RecipientRows.row_count()));
+    PBar1.set_progress(row + 1, RecipientRows.row_count());
     const Text result = submit(job, FAILED);
     count(job, result, 1);
     close_session(job);

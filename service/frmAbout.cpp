@@ -1,8 +1,9 @@
 #include "service/frmAbout.h"
 
 #include "core/app_state.h"
+#include "core/centring.h"
 #include "core/deployment.h"
-#include "core/windows.h"
+#include "core/settings.h"
 #include "service/service_pages.h"
 
 namespace service {
@@ -11,7 +12,8 @@ using platform::Text;
 
 frmAbout::frmAbout(platform::Platform& platform) : Form(platform.desktop, u"frmAbout"), platform_(platform) {
     Command1.Click.connect([this] { unload(); });
-    Label1_3.Click.connect([this] { platform_.shell.open_page(page_address(platform_, u"HOME")); });
+    Label1_3.Click.connect(
+        [this] { platform_.shell.open_page(page_address(platform_, core::settings::LINK_HOME)); });
 }
 
 void frmAbout::Form_Load() {

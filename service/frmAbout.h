@@ -16,7 +16,7 @@ class frmAbout : public platform::Form {
     platform::Image Image1{*this, u"Image1"};
     platform::Label Label1_0{*this, u"Label1_0"};
     platform::Label Label1_1{*this, u"Label1_1"};
-    /// The maker's name, a way to its pages.
+    /// The maker's name; a click opens the maker's page.
     platform::Label Label1_3{*this, u"Label1_3", u"Cardvale"};
     platform::CommandButton Command1{*this, u"Command1", u"확인(&O)"};
 

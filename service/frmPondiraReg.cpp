@@ -1,7 +1,7 @@
 #include "service/frmPondiraReg.h"
 
+#include "core/centring.h"
 #include "core/deployment.h"
-#include "core/windows.h"
 
 #include <array>
 

@@ -9,7 +9,7 @@
 
 namespace service {
 
-/// Guidance for new members: what the service costs, and the application to send in by fax.
+/// Guidance for new members: what the service costs, and the application form to send in by fax.
 class frmPondiraReg : public platform::Form {
   public:
     explicit frmPondiraReg(platform::Platform& platform);
@@ -27,7 +27,7 @@ class frmPondiraReg : public platform::Form {
     platform::Menu mnuDoc_1{*this, u"mnuDoc_1", u"한글문서(HWP)"};
     platform::Menu mnuDoc_2{*this, u"mnuDoc_2", u"PDF문서(PDF)"};
 
-    /// Opens the application as document 0 to 2 of the menu, outside the program.
+    /// Opens the application form in the format of entry 0 to 2 of the menu, outside the program.
     void download_doc(int index);
 
   protected:

@@ -1,7 +1,7 @@
 #include "service/frmWeb.h"
 
-#include "core/files.h"
-#include "core/windows.h"
+#include "core/centring.h"
+#include "core/paths.h"
 #include "platform/error.h"
 #include "platform/file_name.h"
 
@@ -16,7 +16,7 @@ using platform::TextView;
 
 namespace {
 
-/// What faxes, voices, results and documents come as: data, which nothing runs.
+/// File types the service hands out. None of them is executable.
 constexpr TextView ENDINGS[] = {u"wav", u"tif", u"tiff", u"pdf",  u"jpg", u"jpeg", u"png", u"gif", u"bmp",
                                 u"txt", u"csv", u"xls",  u"xlsx", u"doc", u"docx", u"hwp", u"zip"};
 
@@ -31,31 +31,31 @@ Text ending_of(const Text& name) {
 frmWeb::frmWeb(platform::Platform& platform, core::AppState& state)
     : Form(platform.desktop, u"frmWeb"), platform_(platform), state_(state), Cmd1(platform.desktop) {
     Command1.Click.connect([this] { unload(); });
-    WebBrowser.FileOffered.connect([this](platform::PageFile& file) { WebBrowser_FileOffered(file); });
+    WebBrowser.FileOffered.connect([this](platform::PageFile& file) { save_offered_file(file); });
     WebBrowser.FileReceived.connect(
-        [this](std::int64_t bytes, std::int64_t size) { WebBrowser_FileReceived(bytes, size); });
-    WebBrowser.FileEnded.connect([this](FileEnd end) { WebBrowser_FileEnded(end); });
+        [this](std::int64_t bytes, std::int64_t size) { show_received(bytes, size); });
+    WebBrowser.FileEnded.connect([this](FileEnd end) { show_end(end); });
 }
 
 frmWeb::~frmWeb() {
-    if (state_.frmWeb == this) state_.frmWeb = nullptr;
+    if (state_.forms.frmWeb == this) state_.forms.frmWeb = nullptr;
 }
 
 void frmWeb::Form_Load() {
     move({.width = 12000, .height = 9000});
     core::CENTER_FORM(platform_.desktop, *this);
-    state_.gWebFormOpen = true;
-    state_.frmWeb = this;
+    state_.forms.gWebFormOpen = true;
+    state_.forms.frmWeb = this;
 }
 
-void frmWeb::Form_Activate() { state_.gWebFormOpen = true; }
+void frmWeb::Form_Activate() { state_.forms.gWebFormOpen = true; }
 
 void frmWeb::Form_Unload() {
-    state_.gWebFormOpen = false;
-    state_.frmWeb = nullptr;
+    state_.forms.gWebFormOpen = false;
+    state_.forms.frmWeb = nullptr;
 }
 
-void frmWeb::WebBrowser_FileOffered(platform::PageFile& file) {
+void frmWeb::save_offered_file(platform::PageFile& file) {
     const Text name = platform::clean_file_name(file.name);
     const Text ending = ending_of(name);
     if (std::find(std::begin(ENDINGS), std::end(ENDINGS), ending) == std::end(ENDINGS)) {
@@ -64,22 +64,22 @@ void frmWeb::WebBrowser_FileOffered(platform::PageFile& file) {
     Label1.set_caption(u"");
     Cmd1.set_up(u"파일 저장", ending + u" 파일|*." + ending, name);
     platform::ignore_errors([&] {
-        if (core::choose_free_name(platform_, Cmd1)) file.path = Cmd1.file_name();
+        if (Cmd1.choose_free_name(platform_.files)) file.path = Cmd1.file_name();
     });
-    // The user may have been long about it.
+    // The page may have been closed while the user chose a place.
     if (!loaded()) file.path.clear();
     if (file.path.empty()) return;
     file_name_ = core::FILE_NAME_OF(file.path);
-    WebBrowser_FileReceived(0, 0);
+    show_received(0, 0);
 }
 
-void frmWeb::WebBrowser_FileReceived(std::int64_t bytes, std::int64_t size) {
+void frmWeb::show_received(std::int64_t bytes, std::int64_t size) {
     const Text much = size > 0 ? platform::decimal(std::min(bytes, size) * 100 / size) + u"%"
                                : platform::decimal(bytes / 1024) + u"KB";
     Label1.set_caption(u"파일을 받고 있습니다. " + file_name_ + u" " + much);
 }
 
-void frmWeb::WebBrowser_FileEnded(FileEnd end) {
+void frmWeb::show_end(FileEnd end) {
     switch (end) {
         case FileEnd::whole:
             return Label1.set_caption(u"파일을 저장하였습니다. " + file_name_);

@@ -10,15 +10,15 @@
 
 namespace service {
 
-/// A page of the service. Whoever opens it loads it, navigates its browser, sets the caption and shows it;
-/// the shared state knows it as long as it is loaded.
+/// A page of the service. The caller loads the form, navigates its browser, sets the caption and shows it.
+/// The shared state knows the form while it is loaded.
 class frmWeb : public platform::Form {
   public:
     frmWeb(platform::Platform& platform, core::AppState& state);
     ~frmWeb() override;
 
     platform::WebBrowser WebBrowser{*this, u"WebBrowser"};
-    /// What becomes of the file that the user takes from the page.
+    /// How the download of a file from the page goes.
     platform::Label Label1{*this, u"Label1"};
     platform::CommandButton Command1{*this, u"Command1", u"닫기(&C)"};
 
@@ -29,14 +29,14 @@ class frmWeb : public platform::Form {
     void Form_Escape() override { unload(); }
 
   private:
-    void WebBrowser_FileOffered(platform::PageFile& file);
-    void WebBrowser_FileReceived(std::int64_t bytes, std::int64_t size);
-    void WebBrowser_FileEnded(platform::FileEnd end);
+    void save_offered_file(platform::PageFile& file);
+    void show_received(std::int64_t bytes, std::int64_t size);
+    void show_end(platform::FileEnd end);
 
     platform::Platform& platform_;
     core::AppState& state_;
     platform::CommonDialog Cmd1;
-    /// The file that is being taken, by its name on the disk.
+    /// The file that is being downloaded, by its name on the disk.
     platform::Text file_name_;
 };
 

@@ -17,10 +17,10 @@ using platform::TextView;
 
 namespace {
 
-/// Milliseconds between two looks for the header, in which the windows live.
+/// Milliseconds between two looks for the header; the windows go on working meanwhile.
 constexpr int ROUND = 10;
 
-/// Where the code stands in "HTTP/1.1 200 OK".
+/// The place of the code in "HTTP/1.1 200 OK".
 constexpr std::size_t STATUS_PLACE = 9;
 constexpr std::size_t STATUS_LENGTH = 3;
 /// Deliberately not 200: part of a file counts as the file, a redirect as none.
@@ -93,7 +93,7 @@ void Download::read_header() {
     const TextView rest = TextView(header).substr(std::min(STATUS_PLACE, header.size()));
     if (number_of(rest.substr(0, STATUS_LENGTH)) > LAST_STATUS_FOUND) return tell_missing();
     file_exists_ = true;
-    // A second earlier, so that the first rate has something to be divided by.
+    // A second earlier, so that the first rate is not divided by 0.
     start_time_ = static_cast<float>(clock_.timer() - 1);
     // Deliberately a failure when the server does not say how long the file is.
     file_size_ = whole_number(number_of(I1_->header(u"Content-Length")));
@@ -122,7 +122,7 @@ void Download::download() {
         receive(*file_);
     } catch (const RuntimeError&) {
         if (!cancelled_) return tell_transfer_failure();
-        // The cancel ended a read that was waiting.
+        // The failure is that of a read which the cancel ended.
         platform::ignore_errors([this] { close_file(); });
         tell_cancelled(u"오류.");
     }
@@ -181,23 +181,23 @@ void Download::Cancel() {
     I1_->cancel();
 }
 
-/// Deliberately by whole rows: what lies between two of them is shown as hours.
+/// Deliberately by whole ranges: a value between two of them is shown as hours.
 Text Download::FormatTime(float sglTime) {
     if (sglTime >= 0 && sglTime <= 59) return platform::format_number(sglTime, u"0") + u" 초";
     return sglTime >= 60 && sglTime <= 3599 ? minutes_and_seconds(sglTime) : hours_and_minutes(sglTime);
 }
 
-/// Deliberately by whole rows too: a fraction between two of them, and what is larger than all, shows
-/// nothing.
+/// Deliberately by whole ranges too: a fraction between two of them, and what is larger than all, gives an
+/// empty text.
 Text Download::FormatFileSize(double dFileSize, TextView Mask) {
     constexpr double KB = 1024, MB = KB * KB, GB = KB * MB;
     const auto format = [&](double number, TextView unit) {
         return platform::format_number(number, Mask.empty() ? TextView(u"###,0") : Mask) + Text(unit);
     };
-    const auto in_row = [&](double from, double end) { return dFileSize >= from && dFileSize <= end; };
-    if (in_row(0, KB - 1)) return format(dFileSize, u" Byte");
-    if (in_row(KB, MB - 1)) return format(dFileSize / KB, u" KB");
-    if (in_row(MB, GB - 1)) return format(dFileSize / MB, u" MB");
+    const auto in_range = [&](double from, double end) { return dFileSize >= from && dFileSize <= end; };
+    if (in_range(0, KB - 1)) return format(dFileSize, u" Byte");
+    if (in_range(KB, MB - 1)) return format(dFileSize / KB, u" KB");
+    if (in_range(MB, GB - 1)) return format(dFileSize / MB, u" MB");
     return {};
 }
 

@@ -17,8 +17,8 @@ enum DownloadFailure : std::int32_t {
     CANCELLED = 4,
 };
 
-/// Fetches one file by HTTP into a local file, chunk by chunk, and tells its progress by events. Set the
-/// address and the place, then GetFileInformation, then download. Nothing fails but by an event.
+/// Fetches one file by HTTP into a local file, chunk by chunk, and reports its progress and failures by
+/// events alone. Set the address and the place, then call GetFileInformation, then download.
 class Download {
   public:
     explicit Download(platform::Platform& platform);
@@ -37,14 +37,14 @@ class Download {
 
     /// Asks for the file and reads the header of the answer.
     void GetFileInformation();
-    /// Receives the file. What stood in the local file behind its last byte stays.
+    /// Receives the file. The local file is overwritten in place and not truncated.
     void download();
-    /// Asks the operation that runs to stop.
+    /// Asks the running operation to stop.
     void Cancel();
 
     /// Seconds as "5 초", "1 분 0 초" or "2 시 3 분".
     static platform::Text FormatTime(float sglTime);
-    /// Bytes in the unit that suits them, the number by `Mask`.
+    /// Bytes in the unit that suits their size, the number formatted by `Mask`.
     static platform::Text FormatFileSize(double dFileSize, platform::TextView Mask = u"");
 
     platform::Event<> DLComplete;

@@ -13,12 +13,9 @@
 
 namespace update {
 
-/// Where the local facts of an update stand; the installer writes the file.
-platform::Text version_ini(const platform::Platform& platform);
-
-/// Looks, while it asks the user for patience, whether a file of the installation is out of date. What it
-/// found is in `gUpdateServerReached`, `gUpdateAvailable` and the variables beside them. It closes by itself;
-/// closing it earlier gives the check up.
+/// Asks for patience and looks whether a file of the installation is out of date. What it found is in
+/// `gUpdateServerReached`, `gUpdateAvailable` and the variables beside them. It closes by itself; closing it
+/// earlier ends the check.
 class frmUpdate : public platform::Form {
   public:
     frmUpdate(platform::Platform& platform, core::AppState& state);
@@ -49,7 +46,7 @@ class frmUpdate : public platform::Form {
     void Form_Close() override;
 
   private:
-    void Timer1_Timer();
+    void check_and_close();
     void check();
     platform::Text fetched_ini() const;
     void fetch_ini(const platform::Text& address);

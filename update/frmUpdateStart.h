@@ -26,11 +26,11 @@ class frmUpdateStart : public platform::Form {
   protected:
     void Form_Load() override;
     void Form_Unload() override;
-    void Form_Escape() override { Command2_Click(); }
+    void Form_Escape() override { put_off(); }
 
   private:
-    void Command1_Click();
-    void Command2_Click();
+    void start_update();
+    void put_off();
     platform::Text note_path() const;
 
     platform::Platform& platform_;

@@ -1,10 +1,10 @@
 #include "update/update_check.h"
 
-#include "core/files.h"
-#include "core/ini_file.h"
-#include "core/windows.h"
+#include "core/boxes.h"
+#include "core/paths.h"
 #include "update/frmUpdate.h"
 #include "update/frmUpdateStart.h"
+#include "update/manifest.h"
 
 namespace update {
 
@@ -18,24 +18,26 @@ namespace {
 
 /// Returns whether the check came to its end.
 bool look_for_update(Platform& platform, AppState& state) {
-    state.gUpdateServerReached = false;
-    state.gUpdateAvailable = false;
+    state.update.gUpdateServerReached = false;
+    state.update.gUpdateAvailable = false;
     frmUpdate form(platform, state);
     form.show_modal();
     return !form.given_up();
 }
 
-bool update_is_due(const AppState& state) { return state.gUpdateServerReached && state.gUpdateAvailable; }
-
-bool user_wants_it(Platform& platform, AppState& state) {
-    state.gDialogConfirmed = false;
-    frmUpdateStart form(platform, state);
-    form.show_modal();
-    return state.gDialogConfirmed;
+bool update_is_due(const AppState& state) {
+    return state.update.gUpdateServerReached && state.update.gUpdateAvailable;
 }
 
-/// Hands over to the installer and does not return; without one the program goes on.
-void hand_over(Platform& platform, frmZent& form, BooleanWord prepare) {
+bool user_wants_it(Platform& platform, AppState& state) {
+    state.forms.gDialogConfirmed = false;
+    frmUpdateStart form(platform, state);
+    form.show_modal();
+    return state.forms.gDialogConfirmed;
+}
+
+/// Starts the installer and does not return; without one the program goes on.
+void start_installer(Platform& platform, frmZent& form, BooleanWord prepare) {
     if (prepare) form.BEFORE_UPDATE_RUN();
     const Text installer = platform.files.application_directory() + u"\\i_update.exe";
     if (!core::FILE_EXISTS(platform, installer)) return;
@@ -49,7 +51,7 @@ void tell_up_to_date(Platform& platform) {
                                   .icon = platform::BoxIcon::information});
 }
 
-/// An empty server is not named.
+/// Names the server unless it is empty.
 void tell_not_reached(Platform& platform, const Text& server = {}) {
     const Text which = server.empty() ? u"웹서버" : u"웹서버(" + server + u")";
     core::warn(
@@ -59,25 +61,25 @@ void tell_not_reached(Platform& platform, const Text& server = {}) {
 }
 
 Text server_named_in(const Platform& platform, const Text& ini) {
-    return core::INI_READ(platform, ini, u"SERVER_1", u"HTTPSERVER");
+    return read_fact(platform, ini, HTTP_SERVER);
 }
 
 }  // namespace
 
-void mnuUpDate_Click(Platform& platform, AppState& state, frmZent& form) {
+void check_from_menu(Platform& platform, AppState& state, frmZent& form) {
     form.Timer1.set_enabled(false);
     const bool looked = look_for_update(platform, state);
     if (update_is_due(state)) {
-        // Deliberately without polling from here on: who puts an update off is not disturbed by hand-overs
-        // until the next start.
+        // Deliberately without polling from here on: a user who puts an update off is not disturbed by
+        // hand-overs until the next start.
         if (!user_wants_it(platform, state)) return;
-        hand_over(platform, form, state.gUpdateIFlag);
+        start_installer(platform, form, state.update.gUpdateIFlag);
     }
-    if (state.gUpdateServerReached) {
+    if (state.update.gUpdateServerReached) {
         tell_up_to_date(platform);
     } else if (looked) {
-        // Deliberately a letter off the name of the file that the check reads: the box names no server unless
-        // an installation has put this file there too.
+        // Reads "i_verision.ini" (sic), which normally does not exist, so that the box names no server.
+        // Deliberately kept: support knows the box so.
         tell_not_reached(platform, server_named_in(platform, platform.files.application_directory() +
                                                                  u"\\i_verision.ini"));
     }
@@ -90,8 +92,8 @@ bool check_at_start(Platform& platform, AppState& state, frmZent& form) {
     form.Timer1.set_enabled(false);
     const bool looked = look_for_update(platform, state);
     if (update_is_due(state) && user_wants_it(platform, state))
-        hand_over(platform, form, state.gUpdateUmsFlag);
-    if (state.gUpdateServerReached || !looked) return true;
+        start_installer(platform, form, state.update.gUpdateUmsFlag);
+    if (state.update.gUpdateServerReached || !looked) return true;
     // Deliberately two boxes: the second names the server.
     tell_not_reached(platform);
     tell_not_reached(platform, server_named_in(platform, facts));

@@ -7,7 +7,7 @@
 
 namespace machine::jet {
 
-/// A connection to what was read of the card manager's file; it keeps its contents while the file changes.
+/// A connection to the cards as they were read; later changes of the card manager's file do not affect it.
 class JetCardConnection : public platform::CardConnection {
   public:
     explicit JetCardConnection(std::shared_ptr<CardDatabase> cards) : cards_(std::move(cards)) {}

@@ -6,15 +6,15 @@
 
 namespace machine::jet {
 
-/// Lets the window paint during long work that says `beat()` again and again.
+/// Keeps the window painted during long work, which has to call `beat()` often.
 class Heartbeat {
   public:
-    /// The longest that work may wait for something without a beat.
+    /// The longest time without a beat that work may spend waiting.
     static constexpr std::chrono::milliseconds INTERVAL{10};
 
     explicit Heartbeat(std::function<void()> keep_alive) : keep_alive_(std::move(keep_alive)) {}
 
-    /// Cheap unless the last time has passed long enough ago.
+    /// Cheap when the last beat was less than INTERVAL ago.
     void beat() {
         if (!keep_alive_ || SteadyClock::now() - last_ < INTERVAL) return;
         keep_alive_();

@@ -20,7 +20,8 @@ namespace {
 
 constexpr const char* READER = "/card-reader";
 
-/// No sound file becomes longer than this in the stream: NULLs and compressed texts grow, but not as much.
+/// The stream of a sound file is never longer than this many times the file: NULLs and compressed texts grow,
+/// but less.
 constexpr std::size_t LONGEST_STREAM_BY_FILE = 32;
 
 }  // namespace

@@ -14,18 +14,18 @@
 
 namespace machine::jet {
 
-/// The card manager's Jet file. The program `card-reader` beside ours reads it once as long as it does not
-/// change; statements run on what was read, in memory.
+/// The card manager's Jet file. The separate program `card-reader` reads it, again only after it has changed;
+/// statements run on the rows in memory.
 class JetCardSource : public platform::CardSource {
   public:
-    /// `keep_alive` is called every few milliseconds while a connection or a statement takes its time.
+    /// `keep_alive` is called every few milliseconds during a long connection or statement.
     explicit JetCardSource(posix::Paths paths, std::function<void()> keep_alive = {},
                            std::chrono::milliseconds longest_reading = std::chrono::seconds(30));
 
     std::unique_ptr<platform::CardConnection> connect(const platform::Text& connection_string) override;
 
   private:
-    /// What a file gave, or what was wrong with it: neither is read again until the file changes.
+    /// The cards of a file, or what is wrong with it. The file is not read again until it changes.
     struct Reading {
         FileState file;
         bool settled = false;
@@ -34,7 +34,7 @@ class JetCardSource : public platform::CardSource {
         std::optional<platform::RuntimeError> fault{};
     };
 
-    /// Fills the reading. Raises RuntimeError for what may be better the next time.
+    /// Fills the reading. Raises RuntimeError for a failure that may not happen again.
     void read(const CardFile& file, Reading& reading);
 
     posix::Paths paths_;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string_view>
 #include <unistd.h>
 #include <utility>
 
@@ -25,8 +24,5 @@ class FileDescriptor {
   private:
     int number_;
 };
-
-/// Writes all the bytes. Returns 0, or the `errno` of the write that failed.
-int write_all(int file, std::string_view bytes);
 
 }  // namespace machine::posix

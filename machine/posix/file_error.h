@@ -6,10 +6,9 @@
 
 namespace machine::posix {
 
-/// What failed, for the user: the classic number of a system call's `errno`, where `path` is the machine's
-/// path of a file.
+/// The run-time error for the `errno` of a system call that failed; `path` is the machine's path of a file.
 platform::RuntimeError file_error(int code, const std::string& path);
-/// The same of a folder.
+/// The same for a folder.
 platform::RuntimeError folder_error(int code);
 
 }  // namespace machine::posix

@@ -36,14 +36,14 @@ void for_each_entry(const std::string& path, Take take) {
     const int descriptor = ::dirfd(folder.get());
     while (const dirent* entry = ::readdir(folder.get())) {
         struct stat status {};
-        // One that has gone meanwhile is none.
+        // Deleted since the folder was read.
         if (::fstatat(descriptor, entry->d_name, &status, AT_SYMLINK_NOFOLLOW) == 0)
             take(std::string(entry->d_name), status, descriptor);
     }
 }
 
-/// The name as the program's paths can say it; nothing for a hidden one and for one with a backslash, which
-/// would lead them into another folder.
+/// The name as the program's paths write it; nothing for a hidden entry, and for one with a backslash, which
+/// a path would take for a folder.
 std::optional<Text> listed_name(const std::string& name) {
     if (name.starts_with('.') || name.find('\\') != std::string::npos) return std::nullopt;
     return platform::from_utf8(name);
@@ -56,7 +56,8 @@ LocalTime local_time(std::time_t seconds) {
                                parts.tm_min, parts.tm_sec);
 }
 
-/// Puts the syllables of the names together; a name stays spelled out where another entry has the short one.
+/// Composes the Hangul syllables of the names. A name stays decomposed when another entry already has the
+/// composed one.
 template <class Entry, class Name>
 void compose_names(std::vector<Entry>& entries, Name name_of) {
     std::vector<Entry*> apart;

@@ -43,9 +43,9 @@ bool is_there(const std::string& path) {
     return ::lstat(path.c_str(), &status) == 0;
 }
 
-/// The folder's entry that the component means; nothing when the folder has none of the kind.
+/// The folder's entry that the component means, or nothing.
 std::optional<std::string> entry_of(const std::string& folder, TextView component) {
-    // Files that come from some systems spell the syllables of their names out, and nobody can type that.
+    // Files from some systems have decomposed Hangul in their names, which nobody can type.
     const Text composed = platform::compose_hangul(component);
     for (const Text& spelling : {Text(component), composed, platform::decompose_hangul(component)}) {
         if (std::string name = platform::to_utf8(spelling); is_there(folder + "/" + name)) return name;
@@ -55,8 +55,7 @@ std::optional<std::string> entry_of(const std::string& folder, TextView componen
     for (fs::directory_iterator entry(folder.empty() ? "/" : folder, error), end; !error && entry != end;
          entry.increment(error)) {
         const std::string name = entry->path().filename();
-        // The order of a folder's entries is the file system's whim: the least name makes the choice a fixed
-        // one.
+        // File systems list entries in any order; the smallest name is always the same one.
         if (platform::equal_without_case(platform::compose_hangul(platform::from_utf8(name)), composed) &&
             (!found || name < *found))
             found = name;

@@ -18,11 +18,11 @@ namespace {
 
 constexpr const char* LIBRARY = "./x_msggate_d.so";
 
-/// What the library may write behind a text's end without harm: it counts its bytes carelessly.
+/// Room behind each text, since the library does not count exactly what it writes.
 constexpr std::size_t ROOM = 256;
 
-/// A text as the library gets it: a copy of its own, which comes back when the call is over. No more comes
-/// back than went, whatever the library wrote, so a missing NUL does not matter.
+/// A text as an argument of the library: a copy that is written back after the call. No more is written back
+/// than the text's own length, so a NUL that the library forgets does no harm.
 class Copy {
   public:
     explicit Copy(std::string& text) : text_(text), buffer_(text.begin(), text.end()) {
@@ -127,7 +127,7 @@ std::int32_t PosixCarrierLibrary::fn_x_submit(Submit& submit) {
 }
 
 std::int32_t PosixCarrierLibrary::fn_x_submit_2(Submit& submit) {
-    // The third argument means something to the carrier alone; it is always this.
+    // Only the carrier knows what the third argument means; it never changes.
     constexpr std::int32_t ARGUMENT_3 = 1;
     return export_of<SubmitAny>("fn_x_submit_2")(
         submit.s_data_type, submit.s_data_sub_type, ARGUMENT_3, Copy(submit.user_id),

@@ -8,8 +8,8 @@
 
 namespace machine::posix {
 
-/// The carrier's library from the current directory. It is loaded at the first call of an export, as is each
-/// export; a call that found none lets the next one look again.
+/// The carrier's library in the current directory. The library and each export are looked up when first
+/// called; after a failure the next call looks again.
 class PosixCarrierLibrary : public platform::CarrierLibrary {
   public:
     std::int32_t fn_x_bind(std::int32_t argument1, std::string& user_id, std::string& password,

@@ -1,9 +1,8 @@
 #include "machine/posix/posix_files.h"
 
+#include "machine/posix/file_bytes.h"
 #include "machine/posix/file_error.h"
 #include "machine/posix/folder_list.h"
-#include "machine/posix/open_file.h"
-#include "machine/posix/whole_file.h"
 #include "platform/file_name.h"
 #include "platform/text/hangul.h"
 
@@ -30,8 +29,8 @@ namespace fs = std::filesystem;
 
 constexpr mode_t USER_ALONE = 0700;
 
-/// The home folder by the user database; the program reads no environment. Empty for a user whom it does not
-/// know.
+/// The home folder in the user database: the program does not read the environment. Empty for an unknown
+/// user.
 std::string home_folder() {
     std::vector<char> buffer(16384);
     passwd entry{};
@@ -46,7 +45,8 @@ std::string default_windows_directory(const Paths& paths) {
     return home.empty() ? paths.drive_c() + "/windows" : home + "/.config/cardvale";
 }
 
-/// Makes the folder with those above it. Silent: what then wants to stand in it fails by itself.
+/// Makes the folder and those above it. Errors are ignored here; they surface when something is written
+/// there.
 void make_folders(const fs::path& folder) {
     std::error_code ignored;
     if (fs::is_directory(folder, ignored)) return;
@@ -54,7 +54,7 @@ void make_folders(const fs::path& folder) {
     ::mkdir(folder.c_str(), USER_ALONE);
 }
 
-/// What the path names last; a backslash behind it does not count.
+/// The path's last component; a backslash at the end does not count.
 TextView name_in(TextView path) {
     while (path.ends_with(u'\\')) path.remove_suffix(1);
     return path.substr(path.find_last_of(u"\\:") + 1);
@@ -83,7 +83,7 @@ bool PosixFiles::file_exists(const Text& path) const {
     const Text pattern = path.substr(name_at);
     if (pattern.empty()) return false;
     bool exists = false;
-    // A path that cannot be names nothing.
+    // An impossible path names nothing.
     platform::ignore_errors([&] {
         if (pattern.find_first_of(u"*?") == Text::npos) {
             exists = is_normal_file(paths_.to_posix(path));
@@ -135,8 +135,7 @@ std::vector<Text> PosixFiles::list_folders(const Text& folder) const {
 }
 
 std::string PosixFiles::read(const Text& path) const {
-    // Lists of thousands of files are read one by one: what is there under exactly its name is not searched
-    // for.
+    // Thousands of files are read one by one, so try the exact name before searching the folder.
     if (auto bytes = read_if_there(paths_.as_it_stands(path))) return std::move(*bytes);
     return read_whole_file(paths_.to_posix(path));
 }
@@ -195,13 +194,13 @@ void PosixFiles::remove_folder(const Text& path) {
         throw RuntimeError(fs::exists(folder, error) ? ErrorNumber::path_access
                                                      : ErrorNumber::path_not_found);
     }
-    // Links go as links: what they lead to stays.
+    // A link is deleted itself; what it leads to stays.
     fs::remove_all(folder, error);
     if (error) throw folder_error(error.value());
 }
 
-/// In its own folders the program keeps what nobody else is to read, passwords among it. Elsewhere is what
-/// the user has named and gives to others as he likes.
+/// The program's own folders hold private data such as passwords. Files elsewhere were named by the user, who
+/// may share them.
 Readers PosixFiles::readers_of(const std::string& path) const {
     for (const std::string& own : {paths_.application_directory(), windows_directory_}) {
         if (path.starts_with(own + "/")) return Readers::user_alone;
@@ -209,8 +208,8 @@ Readers PosixFiles::readers_of(const std::string& path) const {
     return Readers::as_usual;
 }
 
-/// Drive `c:` and the Windows directory are always there for the program: made when something is to stand in
-/// them.
+/// The program relies on drive `c:` and the Windows directory, so they are made when something is written
+/// there.
 void PosixFiles::make_standing_folder_of(const std::string& path) {
     const std::string folder = fs::path(path).parent_path();
     if (folder == windows_directory_ || folder == paths_.drive_c()) make_folders(folder);

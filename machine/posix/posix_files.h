@@ -1,18 +1,18 @@
 #pragma once
 
+#include "machine/posix/file_bytes.h"
 #include "machine/posix/paths.h"
-#include "machine/posix/whole_file.h"
 #include "platform/ports/files.h"
 
 namespace machine::posix {
 
-/// The machine's file system. Folders that it makes are their user's alone, and so are files in the program's
+/// The machine's file system. Only the user may read the folders that it makes and the files in the program's
 /// own folders.
 class PosixFiles : public platform::Files {
   public:
-    /// With `~/.config/cardvale` as the Windows directory, of the home that the user database tells.
+    /// With `~/.config/cardvale` as the Windows directory, in the home folder that the user database names.
     explicit PosixFiles(const Paths& paths);
-    /// With another Windows directory, an absolute path; the first write into it makes it.
+    /// With another Windows directory, an absolute path. It is made when it is first written to.
     PosixFiles(Paths paths, std::string windows_directory);
 
     platform::Text application_directory() const override;

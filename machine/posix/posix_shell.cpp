@@ -19,8 +19,8 @@ using platform::Text;
 
 namespace {
 
-/// Starts the program and forgets it. The program's parent ends at once, so that the system takes it in and
-/// no dead process is left waiting for this one to ask.
+/// Starts the program and forgets it. It is started by a child that ends at once, so that the system adopts
+/// it and no zombie is left.
 void start(const std::string& program, const std::optional<std::string>& argument = std::nullopt) {
     const pid_t parent = ::fork();
     if (parent == 0) {
@@ -33,15 +33,14 @@ void start(const std::string& program, const std::optional<std::string>& argumen
     }
 }
 
-/// Whether the part behind a host's colon begins with a port.
+/// Whether the text behind a host's colon begins with a port.
 bool is_port(std::string_view rest) {
     const std::size_t digits = std::min(rest.find_first_not_of("0123456789"), rest.size());
     return digits > 0 &&
            (digits == rest.size() || std::string_view("/?#").find(rest[digits]) != std::string_view::npos);
 }
 
-/// The address with a browser's scheme; nothing for one of another scheme, which may mean a file or a
-/// program.
+/// The address with `http:` or `https:`; nothing for another scheme, which may mean a file or a program.
 std::optional<std::string> page_of(const std::string& address) {
     const std::size_t colon = std::min(address.find(':'), address.size());
     const std::string before = address.substr(0, colon);
@@ -54,7 +53,7 @@ std::optional<std::string> page_of(const std::string& address) {
     return "http://" + address;
 }
 
-/// A name for the instances of one user in one application directory, whatever way leads to the directory.
+/// A name that all instances of one user in one application directory share, whatever path leads there.
 std::string instance_name(const std::string& application_directory) {
     struct stat folder {};
     ::stat(application_directory.c_str(), &folder);
@@ -70,7 +69,7 @@ PosixShell::PosixShell(Paths paths, std::string opener)
 void PosixShell::open(const Text& path) {
     platform::ignore_errors([&] {
         const std::string file = paths_.to_posix(path);
-        // By its name too: on a foreign disk every file may be executed.
+        // The name counts too: on a foreign disk every file may be marked as executable.
         const bool is_program =
             platform::lower_case(path).ends_with(u".exe") && ::access(file.c_str(), X_OK) == 0;
         is_program ? start(file) : start(opener_, file);
@@ -88,8 +87,7 @@ void PosixShell::end_process() { ::_exit(0); }
 bool PosixShell::another_instance_runs() {
     if (instance_.is_open()) return false;
 
-    // A socket's name that begins with a NUL lies in no folder, and the kernel frees it however the process
-    // ends.
+    // A socket name that begins with a NUL is in no folder, and the kernel frees it however the process ends.
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     const std::string name = instance_name(paths_.application_directory());

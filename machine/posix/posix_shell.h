@@ -8,10 +8,10 @@
 
 namespace machine::posix {
 
-/// The user's desktop programs, and the instances of this user in this application directory.
+/// Starts the user's desktop programs and knows other instances of this user in this application directory.
 class PosixShell : public platform::Shell {
   public:
-    /// `opener` is the program that knows which program opens a file.
+    /// `opener` is the program that opens a file with the right program.
     explicit PosixShell(Paths paths, std::string opener = "xdg-open");
 
     void open(const platform::Text& path) override;

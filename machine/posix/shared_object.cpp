@@ -1,6 +1,6 @@
 #include "machine/posix/shared_object.h"
 
-#include "machine/posix/whole_file.h"
+#include "machine/posix/file_bytes.h"
 #include "platform/error.h"
 
 #include <cstring>
@@ -13,7 +13,7 @@ namespace {
 using Header = ElfW(Ehdr);
 using Segment = ElfW(Phdr);
 
-/// Whether the bytes hold `size` more from `offset` on.
+/// Whether there are `size` bytes from `offset` on.
 bool holds(const std::string& bytes, std::uint64_t offset, std::uint64_t size) {
     return offset <= bytes.size() && size <= bytes.size() - offset;
 }

@@ -4,8 +4,8 @@
 
 namespace machine::posix {
 
-/// Whether the file is a shared library of this machine's kind with all its bytes. The loader does not look
-/// and ends the process at the first byte that a half copied or downloaded library lacks.
+/// Whether the file is a complete shared library for this machine. The loader does not check: it crashes the
+/// process when a half-copied library lacks bytes.
 bool is_whole_shared_object(const std::string& path);
 
 }  // namespace machine::posix

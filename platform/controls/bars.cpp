@@ -21,17 +21,12 @@ void ToolBar::press(int index) {
     refresh(Aspect::value);
 }
 
-void ToolBar::set_button_enabled(int index, bool enabled) {
-    buttons_[static_cast<std::size_t>(index - 1)].enabled = enabled;
-    refresh(Aspect::value);
-}
-
 void StatusBar::set_panel_text(int index, Text text) {
     assign(panels_[static_cast<std::size_t>(index - 1)].text, std::move(text), Aspect::text);
 }
 
 void StatusBar::set_panel_tool_tip(int index, Text text) {
-    assign(panels_[static_cast<std::size_t>(index - 1)].tool_tip, std::move(text), Aspect::tool_tip);
+    assign(panels_[static_cast<std::size_t>(index - 1)].tool_tip, std::move(text), Aspect::text);
 }
 
 void StatusBar::set_panel_picture(int index, int picture) {

@@ -62,7 +62,6 @@ class TabStrip : public Control {
 
     const std::vector<Text>& captions() const { return captions_; }
     int selected() const { return selected_; }
-    const Text& selected_caption() const { return captions_[static_cast<std::size_t>(selected_ - 1)]; }
 
     /// Chooses a tab and raises Click, also when the tab was already chosen. Raises RuntimeError 9 for a tab
     /// that does not exist.
@@ -95,7 +94,6 @@ class ToolBar : public Control {
     const Button& button(int index) const { return buttons_[static_cast<std::size_t>(index - 1)]; }
     /// Presses the button and releases the others of its group. Raises no event.
     void press(int index);
-    void set_button_enabled(int index, bool enabled);
 
     Event<int> ButtonClick;
 

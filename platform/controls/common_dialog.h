@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ports/desktop.h"
+#include "platform/ports/files.h"
 #include "platform/text/text.h"
 
 namespace platform {
@@ -18,6 +19,10 @@ class CommonDialog {
     /// Each raises RuntimeError 32755 when the user cancels; the file name then stays as it was.
     void show_open() { show(FileQuestion::Purpose::open); }
     void show_save() { show(FileQuestion::Purpose::save); }
+
+    /// Asks where to save until the name is free or the user agrees to write over its file; false when the
+    /// user gives up at that question. RuntimeError 32755 when the user cancels the dialog.
+    bool choose_free_name(const Files& files);
 
     /// The full path.
     const Text& file_name() const { return question_.file_name; }

@@ -2,6 +2,8 @@
 
 #include "platform/controls/control.h"
 
+#include <cstddef>
+
 namespace platform {
 
 /// A line or paragraph of text on the form.
@@ -46,6 +48,9 @@ class ProgressBar : public Control {
     int value() const { return value_; }
     /// Raises RuntimeError 380 outside 0 to 100.
     void set_value(int value);
+    /// Shows so many of all as hundredths, without the fraction; `of` is not 0. Run-time error 380 when more
+    /// is done than was expected.
+    void set_progress(std::size_t done, std::size_t of) { set_value(static_cast<int>(done * 100 / of)); }
 
   private:
     int value_ = 0;

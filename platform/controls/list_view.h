@@ -66,8 +66,8 @@ class ListView : public Control {
     struct Column {
         Text caption;
         /// Picture beside the caption: 0 ascending, 1 descending.
-        std::optional<int> picture;
-        /// In twips; 0 keeps the screen's width.
+        std::optional<int> picture = {};
+        /// In twips; 0 leaves it to the screen.
         int width = 0;
     };
 

@@ -14,7 +14,8 @@ namespace {
 
 Text minutes_and_seconds(std::size_t samples) {
     const auto seconds = static_cast<int>(samples / SAMPLES_A_SECOND);
-    return format_number(seconds / 60, u"00") + u":" + format_number(seconds % 60, u"00");
+    const int minutes = seconds / 60;
+    return format_number(minutes, u"00") + u":" + format_number(seconds % 60, u"00");
 }
 
 }  // namespace
@@ -25,8 +26,10 @@ SoundRecorder::~SoundRecorder() {
 
 void SoundRecorder::open() {
     if (open_) return;
-    if (!ignore_errors([this] { recorder_.open(*this); })) {
-        return warn(u"녹음 기능이 설치되어 있지 않습니다. 프로그램을 다시 설치해 주십시오.");
+    try {
+        recorder_.open(*this);
+    } catch (const RuntimeError& error) {
+        return warn(error.description());
     }
     open_ = true;
     become_idle();

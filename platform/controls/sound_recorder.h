@@ -12,7 +12,7 @@ class SoundRecorder : public Control, private Recorder::Listener {
   public:
     enum class State { idle, recording, playing };
 
-    static constexpr std::size_t LIMIT = 6 * 60 * SAMPLES_A_SECOND;
+    static constexpr std::size_t LIMIT = SAMPLES_A_SECOND * 60 * 6;
 
     SoundRecorder(Form& form, TextView name, Recorder& recorder, Files& files)
         : Control(form, name), recorder_(recorder), files_(files) {}

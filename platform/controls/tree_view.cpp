@@ -7,7 +7,7 @@ namespace platform {
 Text TreeNode::full_path() const {
     Text path = text_;
     for (const TreeNode* above = parent_; above != nullptr; above = above->parent_) {
-        path = above->text_ + u"/" + path;
+        path.insert(0, above->text_ + u"/");
     }
     return path;
 }

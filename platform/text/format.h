@@ -10,9 +10,6 @@ namespace platform {
 /// a comma between placeholders asks for commas between thousands. Beyond 15 digits a number shows zeros.
 Text format_number(double number, TextView pattern);
 
-/// The same for a text that is a number; any other text is returned unchanged.
-Text format_number_text(TextView value, TextView pattern);
-
 /// The layout "0000-####-####" of a service number: digits fill it from the right, the first group is padded
 /// with zeros and grows when there are more. A `#` place without a digit stays empty though the hyphens stay,
 /// so that a short number is not mistaken for one with zeros: 5 gives "0000--5". A text that is no number,

@@ -84,11 +84,6 @@ Text format_number(double number, TextView pattern) {
     return out += pattern.substr(end);
 }
 
-Text format_number_text(TextView value, TextView pattern) {
-    const auto number = text_as_number(value);
-    return number ? format_number(*number, pattern) : Text(value);
-}
-
 Text format_service_number(TextView value) {
     constexpr std::size_t GROUP = 4;
     const auto number = text_as_number(value);

@@ -99,6 +99,19 @@ Text blanks_for_nul(Text text) {
     return text;
 }
 
+std::vector<TextView> split(TextView text, char16_t separator) {
+    std::vector<TextView> pieces;
+    std::size_t begin = 0;
+    for (auto end = text.find(separator); end != TextView::npos; end = text.find(separator, begin)) {
+        pieces.push_back(text.substr(begin, end - begin));
+        begin = end + 1;
+    }
+    pieces.push_back(text.substr(begin));
+    return pieces;
+}
+
+Text with_line_feeds(TextView text) { return replace_all(replace_all(text, CRLF, u"\n"), u"\r", u"\n"); }
+
 bool contains(TextView text, TextView what) { return text.find(what) != TextView::npos; }
 
 Text lower_case(TextView text) {
@@ -111,8 +124,6 @@ bool equal_without_case(TextView a, TextView b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](char16_t x, char16_t y) { return lower_case_unit(x) == lower_case_unit(y); });
 }
-
-Text decimal(long long number) { return from_ascii(std::to_string(number)); }
 
 Text from_ascii(std::string_view ascii) { return Text(ascii.begin(), ascii.end()); }
 

@@ -2,6 +2,8 @@
 
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <vector>
 
 namespace platform {
 
@@ -25,16 +27,25 @@ Text blanks_for_nul(Text text);
 
 bool contains(TextView text, TextView what);
 
+/// The pieces between the separators; one more than there are separators.
+std::vector<TextView> split(TextView text, char16_t separator);
+
+/// The text with a line feed alone at the end of each line, whichever kind of line end it came with.
+Text with_line_feeds(TextView text);
+
 /// ASCII letters in lower case, every other character as it is.
 Text lower_case(TextView text);
 bool equal_without_case(TextView a, TextView b);
 
-/// The number in decimal, with a leading minus sign when negative.
-Text decimal(long long number);
-
-/// ASCII only, in both directions: for keys, names of resources and test output, not for texts that the user
-/// reads.
+/// ASCII only in either direction: meant for keys, names of resources and test output, not for user texts.
 Text from_ascii(std::string_view ascii);
+
+/// The number in decimal, with a leading minus sign when negative.
+template <class Number>
+Text decimal(Number number) {
+    static_assert(std::is_integral_v<Number>);
+    return from_ascii(std::to_string(number));
+}
 
 /// UTF-8 for file names and for the toolkit's side; a lone surrogate or a broken sequence becomes U+FFFD.
 std::string to_utf8(TextView text);

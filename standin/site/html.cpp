@@ -36,11 +36,6 @@ Html& Html::operator<<(std::string_view text) {
     return *this;
 }
 
-Html& Html::operator<<(std::int64_t number) {
-    bytes_ += std::to_string(number);
-    return *this;
-}
-
 Html& Html::operator<<(const Html& part) {
     bytes_ += part.bytes_;
     return *this;

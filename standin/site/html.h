@@ -17,7 +17,6 @@ class Html {
         return *this;
     }
     Html& operator<<(std::string_view text);
-    Html& operator<<(std::int64_t number);
     Html& operator<<(const Html& part);
 
     const std::string& bytes() const { return bytes_; }

@@ -24,7 +24,7 @@ const httplib::Headers page_headers = {
 
 void send(const Answer& answer, httplib::Response& response) {
     response.status = answer.status;
-    response.set_content(answer.body, answer.type.c_str());
+    response.set_content(answer.body, answer.type);
     if (!answer.file_name.empty()) {
         response.set_header("Content-Disposition",
                             "attachment; filename*=UTF-8''" + escaped_for_query(answer.file_name));
@@ -94,7 +94,5 @@ int Server::bind(int port) {
 }
 
 void Server::run() { http_->server.listen_after_bind(); }
-
-void Server::stop() { http_->server.stop(); }
 
 }  // namespace standin::site

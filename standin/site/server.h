@@ -16,9 +16,8 @@ class Server {
 
     /// Binds the port, any free one for 0, and returns it. Raises std::runtime_error when that fails.
     int bind(int port);
-    /// Answers requests until the process ends or another thread calls `stop`.
+    /// Answers until the process ends.
     void run();
-    void stop();
 
   private:
     struct Http;

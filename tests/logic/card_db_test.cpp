@@ -47,7 +47,7 @@ TEST_F(CardDb, AFailureLeavesNothingOpenAndIsShownWhenAsked) {
         EXPECT_FALSE(OPEN_CARD_DB(platform, state, true));
         EXPECT_EQ(utf8(desktop.boxes.back().text), row.result);
         EXPECT_EQ(desktop.boxes.back().icon, platform::BoxIcon::critical);
-        EXPECT_EQ(state.gCardDb, nullptr);
+        EXPECT_EQ(state.cards.gCardDb, nullptr);
         EXPECT_THROW(open_recordset(state, u"SELECT 1"), RuntimeError);
         cards.refusal.reset();
         cards.state = platform::CONNECTION_OPEN;

@@ -1,8 +1,11 @@
-#include "core/common.h"
 
-#include "core/files.h"
-#include "core/list_columns.h"
-#include "core/windows.h"
+#include "addressbook/card_db.h"
+#include "core/centring.h"
+#include "core/paths.h"
+#include "core/phone_number.h"
+#include "core/settings.h"
+#include "gateway/gateway.h"
+#include "platform/controls/list_columns.h"
 #include "platform/error.h"
 #include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
@@ -78,7 +81,7 @@ TEST(Texts, ATextFromAPaddedBufferLosesOnlyItsPadding) {
                 {u"Hong" + Text(1, u'\0') + Text(15, u' '), "Hong"},
                 {u"ab" + Text(1, u'\0') + u"c  ", "ab c"},
                 {u"  ab", "  ab"}};
-    for (const auto& row : rows) EXPECT_EQ(utf8(CLEAN_FIXED_TEXT(row.buffer)), row.clean);
+    for (const auto& row : rows) EXPECT_EQ(utf8(gateway::CLEAN_FIXED_TEXT(row.buffer)), row.clean);
 }
 
 TEST(FieldValue, IsTheTextOfAFieldTrimmedOnTheRightOnlyForTypes10And12) {
@@ -93,7 +96,7 @@ TEST(FieldValue, IsTheTextOfAFieldTrimmedOnTheRightOnlyForTypes10And12) {
                 {{10, u" a  "}, u" a"},
                 {{12, u" a  "}, u" a"},
                 {{11, u"a "}, u"a "}};
-    for (const auto& row : rows) EXPECT_EQ(utf8(FIELD_VALUE(row.field)), utf8(row.value));
+    for (const auto& row : rows) EXPECT_EQ(utf8(addressbook::FIELD_VALUE(row.field)), utf8(row.value));
 }
 
 struct Paths : testing::Test, tests::TestPlatform {};

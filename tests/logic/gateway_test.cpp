@@ -1,6 +1,5 @@
 #include "gateway/gateway.h"
 
-#include "gateway/result_text.h"
 #include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
 
@@ -21,11 +20,11 @@ struct Wrappers : testing::Test, tests::TestPlatform {
     Wrappers() {
         carrier.scribbles = true;
         carrier.at_call = [this] { pointer_meanwhile = desktop.pointer; };
-        state.gLoginUserId = u"홍hong";
-        state.gLoginPassword = u"secret";
-        state.gServiceDomain = u"pondira.example";
-        state.gServiceNumber = u"03030xxxxxxx";
-        state.gClientAddress = u"127.0.0.1";
+        state.session.gLoginUserId = u"홍hong";
+        state.session.gLoginPassword = u"secret";
+        state.session.gServiceDomain = u"pondira.example";
+        state.session.gServiceNumber = u"03030xxxxxxx";
+        state.session.gClientAddress = u"127.0.0.1";
     }
 
     Gateway carrier_gateway{platform, state};
@@ -49,25 +48,26 @@ TEST_F(Wrappers, PassTheSessionInCp949AndKeepWhatTheLibraryWrote) {
                                         "hong",
                                         "secret", "pondira.example"}));
     EXPECT_EQ(carrier.bind_numbers, (std::vector<std::int32_t>{1, 1, 0}));
-    EXPECT_EQ(utf8(state.gLoginPassword), "#ecret") << "inputs are rewritten too";
-    EXPECT_EQ(utf8(state.gServiceDomain), "#ondira.example");
+    EXPECT_EQ(utf8(state.session.gLoginPassword), "#ecret") << "inputs are rewritten too";
+    EXPECT_EQ(utf8(state.session.gServiceDomain), "#ondira.example");
 
     carrier.arguments.clear();
-    state.gLoginUserId = u"hong";
+    state.session.gLoginUserId = u"hong";
     EXPECT_TRUE(carrier_gateway.GATEWAY_UNBIND());
     EXPECT_EQ(carrier.arguments, (Texts{"hong", "#ecret"}));
-    EXPECT_EQ(utf8(state.gLoginUserId), "#ong");
+    EXPECT_EQ(utf8(state.session.gLoginUserId), "#ong");
 
     carrier.arguments.clear();
     carrier.service_type = 24;
     carrier.service_state = 1;
     EXPECT_TRUE(carrier_gateway.GATEWAY_MONEY_STATUS());
     EXPECT_EQ(carrier.arguments, (Texts{"#ong", "#ondira.example", "03030xxxxxxx", "127.0.0.1"}));
-    EXPECT_EQ(utf8(state.gServiceNumber), "#3030xxxxxxx");
-    EXPECT_EQ(utf8(state.gClientAddress), "#27.0.0.1");
-    EXPECT_EQ((std::vector<int>{state.gServiceType, state.gServiceState, state.gMoneyField1,
-                                state.gMoneyField4, state.gMoneyField5}),
-              (std::vector<int>{24, 1, 11, 44, 55}));
+    EXPECT_EQ(utf8(state.session.gServiceNumber), "#3030xxxxxxx");
+    EXPECT_EQ(utf8(state.session.gClientAddress), "#27.0.0.1");
+    EXPECT_EQ(
+        (std::vector<int>{state.session.gServiceType, state.session.gServiceState, state.session.gMoneyField1,
+                          state.session.gMoneyField4, state.session.gMoneyField5}),
+        (std::vector<int>{24, 1, 11, 44, 55}));
 }
 
 TEST_F(Wrappers, TheModeOfABindChoosesTheFirstCallbackAndEveryCallbackAnswersOne) {
@@ -87,21 +87,23 @@ TEST_F(Wrappers, TheProfileArrivesInPaddedBuffersOfFixedLengths) {
                                         "hong",
                                         "pondira.example", "03030xxxxxxx", "127.0.0.1", std::string(20, ' '),
                                         std::string(40, ' '), std::string(40, ' '), std::string(20, ' ')}));
-    EXPECT_EQ(utf8(state.gInfoUserName), "홍길동" + std::string(1, '\0') + std::string(33, ' '));
-    EXPECT_EQ(utf8(state.gInfoServiceNumber), "030312345678" + std::string(1, '\0') + std::string(7, ' '));
+    EXPECT_EQ(utf8(state.session.gInfoUserName), "홍길동" + std::string(1, '\0') + std::string(33, ' '));
+    EXPECT_EQ(utf8(state.session.gInfoServiceNumber),
+              "030312345678" + std::string(1, '\0') + std::string(7, ' '));
 }
 
 TEST_F(Wrappers, ALibraryThatWritesNothingLeavesBlanks) {
     for (const bool missing : {false, true}) {
-        state.gInfoServiceNumber = state.gInfoUserName = state.gInfoSenderName = state.gInfoCallback = u"old";
+        state.session.gInfoServiceNumber = state.session.gInfoUserName = state.session.gInfoSenderName =
+            state.session.gInfoCallback = u"old";
         carrier.results[{"user_info", 1}] = 5;
         if (missing) {
             carrier.missing = {"user_info"};
             desktop.expect_box(u"오류번호:453");
         }
         EXPECT_FALSE(carrier_gateway.GATEWAY_USER_INFO());
-        EXPECT_EQ(utf8(state.gInfoServiceNumber + state.gInfoUserName + state.gInfoSenderName +
-                       state.gInfoCallback),
+        EXPECT_EQ(utf8(state.session.gInfoServiceNumber + state.session.gInfoUserName +
+                       state.session.gInfoSenderName + state.session.gInfoCallback),
                   std::string(20 + 40 + 40 + 20, ' '));
     }
 }
@@ -144,8 +146,8 @@ struct Registrations : Wrappers {
                        .s_attach_file = u"C:\\Temp\\문서 A.WAV;"};
 };
 
-TEST_F(Registrations, OnlyKindsWithIndexOneUseTheSecondSubmit) {
-    state.gSubmitSequence = 7;
+TEST_F(Registrations, OnlyAnIndexOfOneGoesThroughTheSecondSubmit) {
+    state.session.gSubmitSequence = 7;
     for (const int index : {0, 1, 2}) {
         message.SMSIndex = index;
         EXPECT_EQ(utf8(carrier_gateway.UMS_SEND_START(message)), "등록성공");

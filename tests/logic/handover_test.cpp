@@ -127,23 +127,23 @@ TEST_F(HandOver, WithoutASignalNothingHappensAndASignalWaitsForTheJobToEnd) {
     form.choose(compose::MessageKind::voice);
     files.files[RECIPIENTS] = "x\tA\t0101111\r\n";
     take_in();
-    state.gSendFormOpen = true;
+    state.forms.gSendFormOpen = true;
     files.files[SIGNAL] = "1";
     take_in();
     EXPECT_EQ(files.files.size(), 2u);
     EXPECT_EQ(form.recipients.ListView1.row_count(), 0u);
-    state.gSendFormOpen = false;
+    state.forms.gSendFormOpen = false;
     take_in();
     EXPECT_EQ(form.recipients.ListView1.row_count(), 1u);
 }
 
 TEST_F(HandOver, IsThrownAwayWhileAPageIsOpenOrWithoutRecipients) {
     form.choose(compose::MessageKind::voice);
-    state.gWebFormOpen = true;
+    state.forms.gWebFormOpen = true;
     hand("1", u"x\tA\t0101111\r\n");
     take_in();
     EXPECT_TRUE(files.files.empty());
-    state.gWebFormOpen = false;
+    state.forms.gWebFormOpen = false;
     files.files[SIGNAL] = "1";
     take_in();
     hand("1", u"");
@@ -179,8 +179,8 @@ TEST_F(HandOver, FilesThatCannotBeDeletedAreTakenInOnceAndPollingGoesOnWithoutAB
 }
 
 TEST_F(HandOver, APageWhoseSignalCannotBeDeletedOpensOnce) {
-    state.gLoggedIn = true;
-    state.gLoginResult = true;
+    state.session.gLoggedIn = true;
+    state.session.gLoginResult = true;
     int opened = 0;
     desktop.in_form(u"frmWeb", [&](platform::Form& page) {
         ++opened;
@@ -206,9 +206,9 @@ TEST_F(HandOver, WhileItIsTakenInNoOtherOneStartsAndTheWindowIsPainted) {
     EXPECT_EQ(progress, (std::vector<int>{0, 50, 100}));
 }
 
-TEST_F(HandOver, APageOpensForAUserWhoIsLoggedIn) {
-    state.gLoggedIn = true;
-    state.gLoginResult = true;
+TEST_F(HandOver, APageIsOpenedForWhoIsLoggedIn) {
+    state.session.gLoggedIn = true;
+    state.session.gLoginResult = true;
     Rows captions;
     for (const char* value : {"50", "51", "52", "53"}) {
         hand(value, u"x\tA\t0101111\r\n");

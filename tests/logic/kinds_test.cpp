@@ -159,7 +159,7 @@ TEST_F(Kinds, TheDraftIsResetWhenNoKindIsPressedAndLeftAloneOtherwise) {
 }
 
 TEST_F(Bars, ToolBarButtonsChooseKindsAndOpenPages) {
-    state.gLoggedIn = true;
+    state.session.gLoggedIn = true;
     for (int button = 1; button <= 9; ++button) {
         const int kind_before = form.TabStrip1.selected();
         const Doors page = button == 7   ? Doors{"발송결과||code=&userid=&domain="}
@@ -195,7 +195,7 @@ TEST_F(Bars, StatusBarPanelsReactToTheLeftButtonAccordingToTheLogin) {
     EXPECT_EQ(click(3), Doors{"팩스수신||code=&userid=hong&domain=pondira.example"});
     desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::yes);
     click(1);
-    EXPECT_FALSE(state.gLoggedIn);
+    EXPECT_FALSE(state.session.gLoggedIn);
 
     desktop.in_form<service::frmAbout>(u"frmAbout", [](service::frmAbout& about) { about.escape_pressed(); });
     click(4);
@@ -206,7 +206,7 @@ TEST_F(Bars, ButtonsAndMenusOpenTheirDoors) {
     form.Command1.Click.raise();
     form.text.MyMsgBttn.Click.raise();
     form.mnuUpDate.Click.raise();
-    EXPECT_EQ(opened, (Doors{"send", "message_box", "update_check"}));
+    EXPECT_EQ(opened, (Doors{"send", "saved_texts", "update_check"}));
 }
 
 TEST_F(StartingAnew, NoKeepsTheDraftAndYesEmptiesAllButItsKindAndSchedule) {

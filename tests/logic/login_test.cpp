@@ -39,9 +39,9 @@ const std::string SIGN_UP_PAGE = "KT 폰디라 신규 가입|" + utf8(core::depl
 
 struct Session : testing::Test, tests::MainWindow {
     void SetUp() override {
-        state.gPartnerPath = u"kelmora";
-        state.gPartnerCode = u"07190533";
-        state.gPartnerSubCode = u"026";
+        state.session.gPartnerPath = u"kelmora";
+        state.session.gPartnerCode = u"07190533";
+        state.session.gPartnerSubCode = u"026";
         form.load();
     }
 
@@ -52,9 +52,9 @@ struct Session : testing::Test, tests::MainWindow {
         EXPECT_EQ(utf8(desktop.boxes[0].title), title);
     }
     void expect_logged_out() const {
-        EXPECT_FALSE(state.gLoggedIn);
-        EXPECT_FALSE(state.gLoginResult);
-        EXPECT_EQ(state.gServiceState, 3);
+        EXPECT_FALSE(state.session.gLoggedIn);
+        EXPECT_FALSE(state.session.gLoginResult);
+        EXPECT_EQ(state.session.gServiceState, 3);
         EXPECT_TRUE(form.session.cmdLogin.enabled());
         EXPECT_FALSE(form.session.cmdLogOut.enabled());
         EXPECT_EQ(panels(), (Calls{"로그아웃상태", "가입자", "폰디라번호"}));
@@ -121,7 +121,7 @@ TEST_F(ManualLogin, ShowsTheSavedIdAndThePasswordOnlyWithAutoLogin) {
 TEST_F(ManualLogin, IsCheckedAppliedAndSavedWhilePollingWaits) {
     save_setting(u"SET", u"ZentUserNickName", u" 홍길동 ");
     save_setting(u"SET", u"ZentUserPhoneID", u"0311234567");
-    state.gInfoServiceNumber = u"030399999999";
+    state.session.gInfoServiceNumber = u"030399999999";
     form.Timer1.set_enabled(true);
     in_login([&](gateway::frmZentLogin& login) {
         EXPECT_FALSE(form.Timer1.enabled());
@@ -134,9 +134,9 @@ TEST_F(ManualLogin, IsCheckedAppliedAndSavedWhilePollingWaits) {
     EXPECT_EQ(carrier.calls, (Calls{"bind", "money_status", "user_info", "unbind"}));
     EXPECT_EQ(utf8(carrier.bound_user), "hong");
     EXPECT_EQ(utf8(carrier.bound_password), "secret");
-    EXPECT_EQ(utf8(state.gServiceNumber), "030399999999") << "the number known before this login";
-    EXPECT_EQ(state.gSubmitSequence, 1);
-    EXPECT_TRUE(state.gLoggedIn);
+    EXPECT_EQ(utf8(state.session.gServiceNumber), "030399999999") << "the number known before this login";
+    EXPECT_EQ(state.session.gSubmitSequence, 1);
+    EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINID"), "hong");
     EXPECT_EQ(saved_login(u"LOGINPW"), "secret") << "with auto login off, too";
     EXPECT_EQ(setting(u"LOGIN", u"LOGINID"), "") << "not beside the program";
@@ -212,8 +212,8 @@ TEST_F(ManualLogin, AFailedBindIsExplainedAndTheFormStaysForAnotherTry) {
         enter(login, u"hong", u"right");
     });
     form.session.cmdLogin.Click.raise();
-    expect_shown(FAILURE, BoxIcon::exclamation, "로그인 실패");
-    EXPECT_TRUE(state.gLoggedIn);
+    expect_told(FAILURE, BoxIcon::exclamation, "로그인 실패");
+    EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINPW"), "right");
 }
 
@@ -253,8 +253,9 @@ TEST_F(ManualLogin, ChecksTheTypeOfServiceButNotItsState) {
         EXPECT_EQ(desktop.forms.back(), row.answer == BoxAnswer::yes ? u"frmPondiraReg" : u"frmZentLogin");
         EXPECT_EQ(carrier.count("unbind"), 1);
         if (accepted) {
-            EXPECT_TRUE(state.gLoggedIn && state.gLoginResult && form.session.cmdLogOut.enabled());
-            EXPECT_EQ(state.gServiceState, row.state);
+            EXPECT_TRUE(state.session.gLoggedIn && state.session.gLoginResult &&
+                        form.session.cmdLogOut.enabled());
+            EXPECT_EQ(state.session.gServiceState, row.state);
         } else {
             expect_logged_out();
             expect_shown(row.box, BoxIcon::exclamation, row.title);
@@ -266,11 +267,11 @@ TEST_F(ManualLogin, SucceedsWithoutAProfileAndAsksForNoneWithoutAMoneyStatus) {
     carrier.results[{"user_info", 1}] = 7;
     log_in(u"hong", u"secret");
     form.session.cmdLogin.Click.raise();
-    EXPECT_TRUE(state.gLoggedIn);
+    EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(panels(), (Calls{"로그인상태", "가입자 hong[]  ", "폰디라번호   "}));
 
-    // Then the type of service that was known before counts.
-    state.gServiceType = 22;
+    // The kind of service that counts is then the one that was known before.
+    state.session.gServiceType = 22;
     carrier.calls.clear();
     carrier.results[{"money_status", 1}] = 7;
     desktop.expect_box(Text(CHANGE_SERVICE), BoxAnswer::no);
@@ -308,7 +309,7 @@ TEST_F(AutomaticLogin, ChecksTheStateOfTheServiceButNotItsType) {
         EXPECT_EQ(pages, row.answer == BoxAnswer::yes ? Calls{SIGN_UP_PAGE} : Calls{});
         EXPECT_EQ(carrier.calls, (Calls{"bind", "money_status", "user_info", "unbind"}));
         if (accepted) {
-            EXPECT_TRUE(state.gLoggedIn);
+            EXPECT_TRUE(state.session.gLoggedIn);
             EXPECT_EQ(form.session.cmdLogOut.enabled(), usable)
                 << "the buttons alone say that it is of no use";
         } else {
@@ -341,7 +342,7 @@ TEST_F(AutomaticLogin, AFailedBindIsExplainedAndTheManualFormMayStillSucceed) {
     log_in(u"hong", u"new");
     form.session.AUTO_LOGIN_START();
     EXPECT_EQ(desktop.forms, (std::vector<Text>{u"frmAutoLogin", u"frmZentLogin"}));
-    EXPECT_TRUE(state.gLoggedIn);
+    EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINPW"), "new");
 }
 
@@ -356,8 +357,8 @@ TEST_F(LogOut, AsksAndThenForgetsTheLogin) {
     carrier.calls.clear();
     desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::no);
     form.session.cmdLogOut.Click.raise();
-    EXPECT_TRUE(state.gLoggedIn);
-    expect_shown(u"Cardvale 폰디라 통합메시징 서비스 로그아웃 하시겠습니까?", BoxIcon::question, "");
+    EXPECT_TRUE(state.session.gLoggedIn);
+    expect_told(u"Cardvale 폰디라 통합메시징 서비스 로그아웃 하시겠습니까?", BoxIcon::question, "");
 
     desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::yes);
     form.session.cmdLogOut.Click.raise();
@@ -366,7 +367,8 @@ TEST_F(LogOut, AsksAndThenForgetsTheLogin) {
 
     log_in(u"hong", u"secret");
     form.session.cmdLogin.Click.raise();
-    EXPECT_EQ(utf8(state.gServiceNumber.substr(0, 12)), "030312345678") << "the last known number goes along";
+    EXPECT_EQ(utf8(state.session.gServiceNumber.substr(0, 12)), "030312345678")
+        << "the last known number goes along";
 }
 
 }  // namespace

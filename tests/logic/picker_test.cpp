@@ -128,10 +128,10 @@ TEST_F(Picker, ADatabaseThatDoesNotOpenIsReportedAndTheWindowStaysUsable) {
 
 TEST_F(Picker, WhileItIsOpenItStopsHandOversAndHasItsOwnConnection) {
     form.Timer1.set_enabled(true);
-    state.gDialogConfirmed = true;
+    state.forms.gDialogConfirmed = true;
     pick(TEXT, [&](frmSendMan& picker) {
         EXPECT_FALSE(form.Timer1.enabled());
-        EXPECT_FALSE(state.gDialogConfirmed);
+        EXPECT_FALSE(state.forms.gDialogConfirmed);
         EXPECT_EQ(cards.open_connections, 1);
         const auto connected = cards.connected.size();
         const auto statements = cards.statements.size();
@@ -333,7 +333,7 @@ TEST_F(Picker, PickedRowsBecomeRecipientsWhenTheyHaveANumberThatIsNew) {
         picker.ListView2.user_selected_item(0);
         picker.Command2[1].Click.raise();
         EXPECT_TRUE(picker.loaded());
-        EXPECT_TRUE(state.gDialogConfirmed);
+        EXPECT_TRUE(state.forms.gDialogConfirmed);
         EXPECT_FALSE(picker.PBar1.visible());
         EXPECT_EQ(recipients(), (Rows{"기존|0311|", "홍길동|01011112222|부장1", "한빛|01033334444|",
                                       "이름없음|02333|", "끊 김|01077778888|과 장"}));
@@ -341,10 +341,10 @@ TEST_F(Picker, PickedRowsBecomeRecipientsWhenTheyHaveANumberThatIsNew) {
         EXPECT_EQ(form.recipients.ListView1.selected_item(), 4u);
         EXPECT_FALSE(form.recipients.ListView1.row(2).selected()) << "the newest alone is";
 
-        state.gDialogConfirmed = false;
+        state.forms.gDialogConfirmed = false;
         picker.Command2[0].Click.raise();
         EXPECT_FALSE(picker.loaded());
-        EXPECT_FALSE(state.gDialogConfirmed) << "all were there already";
+        EXPECT_FALSE(state.forms.gDialogConfirmed) << "all were there already";
         EXPECT_EQ(form.recipients.ListView1.row_count(), 5u);
     });
 }

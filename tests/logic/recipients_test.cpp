@@ -209,11 +209,11 @@ TEST_F(Picking, CountsAgainAfterNewRowsOrAConfirmedDialog) {
     bool adds = false, confirms = false;
     pick_recipients = [&] {
         if (adds) add(u"가", u"010");
-        state.gDialogConfirmed = confirms;
+        state.forms.gDialogConfirmed = confirms;
     };
     for (const int outcome : {0, 1, 2}) {
         form.recipients.Label4.set_caption(u"old");
-        state.gDialogConfirmed = true;
+        state.forms.gDialogConfirmed = true;
         adds = outcome == 1;
         confirms = outcome == 2;
         (confirms ? form.recipients.Command7.Click : form.recipients.mnusubpopup1.Click).raise();

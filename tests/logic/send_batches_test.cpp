@@ -66,8 +66,7 @@ TEST(SendBatches, CloseAtTheByteLimitOfTheAddresses) {
         s.add(name_of(300), u"01011112222");
         s.send();
         EXPECT_EQ(s.registered([](const Registration& r) {
-            return decimal(r.s_dest_addr_count) + u" " +
-                   decimal(static_cast<long long>(r.s_dest_addr.size()));
+            return decimal(r.s_dest_addr_count) + u" " + decimal(r.s_dest_addr.size());
         }),
                   row.batches);
         EXPECT_EQ(s.marks(), "---------");

@@ -85,7 +85,7 @@ TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsCorrected) {
 
 TEST(SendCheck, ShowsTheFirstOfSeveralFaults) {
     Sending s;
-    s.state.gLoggedIn = false;
+    s.state.session.gLoggedIn = false;
     s.form.text.mText1.set_text(u"");
     s.form.schedule.Option2.set_chosen(true);
     s.form.schedule.Combo1.set_list_index(9);
@@ -94,8 +94,8 @@ TEST(SendCheck, ShowsTheFirstOfSeveralFaults) {
         s.click();
     };
     s.desktop.in_form(u"frmZentLogin", [](Form& login) { login.escape_pressed(); });
-    refused(u"KT 폰디라 Login과정을 거쳐야 합니다.");
-    s.state.gLoggedIn = true;
+    told(u"KT 폰디라 Login과정을 거쳐야 합니다.");
+    s.state.session.gLoggedIn = true;
     s.files.folders.clear();
     refused(u"메시지 내용을 입력하십시오!");
     EXPECT_TRUE(s.files.folders.contains(u"c:\\temp"));
@@ -223,7 +223,7 @@ TEST(SendBox, EveryWayToCloseItExceptTheStartButtonCancels) {
     for (const auto& way_out : ways_out) {
         Sending s;
         s.add(u"a", u"01011112222");
-        s.state.gDialogConfirmed = true;
+        s.state.forms.gDialogConfirmed = true;
         s.form.Timer1.set_enabled(true);
         s.desktop.in_form<send::frmSBox>(u"frmSBox", [&](send::frmSBox& box) {
             EXPECT_FALSE(s.form.Timer1.enabled()) << "no hand-over while the box stands";

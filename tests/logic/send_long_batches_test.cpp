@@ -102,7 +102,7 @@ TEST(SendLongBatches, MorePiecesThanTheProgressCanShowEndTheJobWithItsError) {
     EXPECT_EQ(s.desktop.boxes.back().icon, BoxIcon::critical);
     EXPECT_EQ(s.carrier.registrations.size(), 43u);
     EXPECT_EQ(s.marks(), "x");
-    EXPECT_FALSE(s.state.gSendFormOpen);
+    EXPECT_FALSE(s.state.forms.gSendFormOpen);
     EXPECT_TRUE(s.form.Timer1.enabled());
 }
 

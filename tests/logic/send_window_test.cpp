@@ -24,7 +24,7 @@ TEST(SendWindow, StartsOneJobHalfASecondAfterItsActivation) {
     s.add_many(1);
     s.form.Timer1.set_enabled(true);
     s.desktop.in_form<send::frmZentSend>(u"frmZentSend", [&](send::frmZentSend& job) {
-        EXPECT_TRUE(s.state.gSendFormOpen);
+        EXPECT_TRUE(s.state.forms.gSendFormOpen);
         EXPECT_FALSE(s.form.Timer1.enabled());
         EXPECT_TRUE(job.Animation1.playing());
         s.clock.run_for(499);
@@ -45,7 +45,7 @@ TEST(SendWindow, StartsOneJobHalfASecondAfterItsActivation) {
     s.click();
     EXPECT_EQ(s.carrier.registrations.size(), 1u);
     EXPECT_EQ(pages, Lines{"발송결과||code=&userid=&domain="});
-    EXPECT_FALSE(s.state.gSendFormOpen);
+    EXPECT_FALSE(s.state.forms.gSendFormOpen);
     EXPECT_TRUE(s.form.Timer1.enabled());
 }
 
@@ -119,7 +119,7 @@ TEST(SendSession, AJobWithoutTheCarrierOrAnAccountEndsWithABoxAndNoReport) {
         EXPECT_EQ(s.desktop.boxes.back().icon, BoxIcon::exclamation);
         EXPECT_EQ(s.carrier.calls, row.calls);
         EXPECT_EQ(s.marks(), std::string(row.sent, '-') + std::string(250 - row.sent, 'x'));
-        EXPECT_FALSE(s.state.gSendFormOpen);
+        EXPECT_FALSE(s.state.forms.gSendFormOpen);
         EXPECT_EQ(s.desktop.pointer, Pointer::normal);
     }
 }

@@ -1,7 +1,7 @@
 #include "service/service_pages.h"
 
+#include "app/entry_routine.h"
 #include "core/deployment.h"
-#include "core/entry_routine.h"
 #include "service/frmAbout.h"
 #include "service/frmPondiraReg.h"
 #include "tests/support/main_window.h"
@@ -19,7 +19,7 @@ struct ServicePages : testing::Test, tests::MainWindow {
     Lines seen;
 
     void SetUp() override {
-        core::entry_routine(platform, state, [] {});
+        app::entry_routine(platform, state, [] {});
         form.load();
     }
     void write_links() {
@@ -29,10 +29,10 @@ struct ServicePages : testing::Test, tests::MainWindow {
             "money\r\n";
     }
     void log_in_as(platform::TextView user_id) {
-        state.gLoggedIn = true;
-        state.gLoginUserId = user_id;
-        state.gLoginPassword = u"geheim";
-        state.gServiceDomain = u"pondira.example";
+        state.session.gLoggedIn = true;
+        state.session.gLoginUserId = user_id;
+        state.session.gLoginPassword = u"geheim";
+        state.session.gServiceDomain = u"pondira.example";
     }
     std::string open(int page) {
         seen.clear();
@@ -90,11 +90,11 @@ TEST_F(ServicePages, GetTheTypeOfTheBodyAndStopHandOversWhileOpen) {
         EXPECT_EQ(utf8(web.WebBrowser.navigation().header),
                   "Content-Type: application/x-www-form-urlencoded\r\n");
         EXPECT_EQ(utf8(web.WebBrowser.navigation().address), "") << "there is no urllink.ini";
-        EXPECT_TRUE(state.gWebFormOpen);
+        EXPECT_TRUE(state.forms.gWebFormOpen);
         web.Command1.Click.raise();
     });
     form.session.KTSMS_LINK(0);
-    EXPECT_FALSE(state.gWebFormOpen);
+    EXPECT_FALSE(state.forms.gWebFormOpen);
 }
 
 TEST_F(ServicePages, FollowEachOtherInOneForm) {
@@ -102,7 +102,7 @@ TEST_F(ServicePages, FollowEachOtherInOneForm) {
     log_in_as(u"demo");
     desktop.in_form<service::frmWeb>(u"frmWeb", [&](service::frmWeb& web) {
         form.session.KTSMS_LINK(service::CARD_MANAGER_INBOX);
-        EXPECT_TRUE(web.loaded() && state.gWebFormOpen);
+        EXPECT_TRUE(web.loaded() && state.forms.gWebFormOpen);
         EXPECT_EQ(utf8(web.caption()), "팩스수신");
         EXPECT_EQ(utf8(web.WebBrowser.navigation().address), "http://s/inbox");
         EXPECT_EQ(web.WebBrowser.navigation().body, service::post_body(state));

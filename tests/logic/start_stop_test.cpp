@@ -1,5 +1,5 @@
+#include "app/entry_routine.h"
 #include "core/deployment.h"
-#include "core/entry_routine.h"
 #include "platform/error.h"
 #include "tests/support/main_window.h"
 
@@ -15,7 +15,7 @@ using Forms = std::vector<Text>;
 
 struct Entry : testing::Test, tests::TestPlatform {
     bool enter() {
-        return core::entry_routine(platform, state, [this] {
+        return app::entry_routine(platform, state, [this] {
             shown_with_folders = files.folders;
             ++shown;
         });
@@ -30,10 +30,10 @@ TEST_F(Entry, TheFirstInstancePreparesFoldersAndStateAndShowsTheMainWindow) {
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(shown_with_folders,
               (tests::MemoryFiles::Paths{u"c:\\temp", u"z:\\app\\내모음함", u"z:\\app\\내모음함\\내모음함"}));
-    EXPECT_EQ(utf8(state.gInfoServiceNumber), "03030xxxxxxx") << "what the first bind goes out with";
-    EXPECT_EQ(state.gServiceState, 3);
-    EXPECT_EQ(utf8(state.gSavedSenderName), "Hong");
-    EXPECT_EQ(utf8(state.gSavedCallback), "0212345678");
+    EXPECT_EQ(utf8(state.session.gInfoServiceNumber), "03030xxxxxxx") << "what the first bind goes out with";
+    EXPECT_EQ(state.session.gServiceState, 3);
+    EXPECT_EQ(utf8(state.sender.gSavedSenderName), "Hong");
+    EXPECT_EQ(utf8(state.sender.gSavedCallback), "0212345678");
 }
 
 TEST_F(Entry, ASecondInstanceEndsWithoutATrace) {
@@ -95,7 +95,7 @@ TEST_F(MainWindowLife, LoadingFillsTheControlsFromTheClock) {
     desktop.screen_size.twips_per_pixel_x = 16;
     clock.set(make_time(2026, 12, 31, 23, 5, 59));
     form.load();
-    EXPECT_EQ(state.gMinTrackX, 698) << "697.5 pixels";
+    EXPECT_EQ(state.window.gMinTrackX, 698) << "697.5 pixels";
     EXPECT_EQ(utf8(form.session.STBar1.panel(4).text), "버전:" + utf8(core::deployment::version()));
     EXPECT_EQ(form.schedule.DTP1.value(), make_time(2026, 12, 31));
     EXPECT_EQ(utf8(form.schedule.Combo1.text() + u":" + form.schedule.Combo2.text()), "23:05");
@@ -157,7 +157,7 @@ TEST_F(MainWindowLife, TheFirstTickLeavesTheLoginToAHandOverThatLogsIn) {
     for (const bool logged_in : {false, true}) {
         tests::MainWindow window;
         window.hand_over = [&] {
-            window.state.gLoggedIn = logged_in;
+            window.state.session.gLoggedIn = logged_in;
             window.form.Timer2.set_tag(logged_in ? u"" : u"OK");
         };
         window.form.show();
@@ -230,7 +230,7 @@ TEST(Stop, SenderAndReplyNumberAreSavedWhenTheyDifferFromWhatWasRead) {
         window.form.load();
         for (const char16_t* key : {u"ZentUserNickName", u"ZentUserPhoneID"})
             window.save_setting(u"SET", key, u"untouched");
-        window.state.gSavedSenderName = window.state.gSavedCallback = row.read;
+        window.state.sender.gSavedSenderName = window.state.sender.gSavedCallback = row.read;
         window.form.sender.txtUserName.set_text(row.field);
         window.form.sender.txtCallback.set_text(row.field);
         window.form.unload();
@@ -283,7 +283,7 @@ TEST_F(MainWindowLife, AReadOnlyDiskLosesPreferencesSilently) {
     files.failure = ErrorNumber::permission_denied;
     log_in(u"hong", u"secret");
     first_tick();
-    EXPECT_TRUE(state.gLoggedIn);
+    EXPECT_TRUE(state.session.gLoggedIn);
     form.unload();
     EXPECT_FALSE(form.loaded());
     EXPECT_TRUE(desktop.boxes.empty());

@@ -1,4 +1,4 @@
-#include "core/common.h"
+#include "core/byte_length.h"
 #include "tests/support/main_window.h"
 
 #include <gtest/gtest.h>
@@ -291,7 +291,7 @@ TEST_F(SenderName, ANewOneReplacesTheOldOneInTheTextAndIsSaved) {
         {compose::MessageKind::text, u"", "[홍길동] 글 [홍길동]"},
         {compose::MessageKind::fax, u"이순신", "[홍길동] 글 [홍길동]"},
     };
-    state.gSavedSenderName = u"홍길동";
+    state.sender.gSavedSenderName = u"홍길동";
     for (const auto& row : rows) {
         form.choose(row.kind);
         form.sender.txtUserName.show();

@@ -47,8 +47,8 @@ TEST(UpdateDecision, DependsOnPresenceAndOnTheVersionAsText) {
         if (row.present) updates.files.files[u"z:\\app\\" + from_ascii(row.file)] = "x";
         updates.offer(entry(1, "apppath", row.file, row.version));
         updates.check();
-        EXPECT_TRUE(updates.state.gUpdateServerReached);
-        EXPECT_EQ(updates.state.gUpdateAvailable, row.due)
+        EXPECT_TRUE(updates.state.update.gUpdateServerReached);
+        EXPECT_EQ(updates.state.update.gUpdateAvailable, row.due)
             << row.installed << " " << row.file << " " << row.present << " " << row.version;
     }
 }
@@ -76,7 +76,7 @@ TEST(UpdateDecision, LooksForAFileWhereItsTypeSays) {
         updates.files.files[row.place] = "x";
         updates.offer(entry(1, row.kind, row.file, "1"));
         updates.check();
-        EXPECT_FALSE(updates.state.gUpdateAvailable) << row.kind << " " << row.file;
+        EXPECT_FALSE(updates.state.update.gUpdateAvailable) << row.kind << " " << row.file;
         for (const Text& path : updates.files.touched)
             EXPECT_TRUE(path.ends_with(u"i_version.ini") || path.ends_with(u"update_temp\\update.ini"))
                 << "only looked for, never opened: " << utf8(path);
@@ -99,8 +99,8 @@ TEST(UpdateDecision, MarkersCountOnlyWithFilesThatAreDue) {
         updates.offer(entry(1, "apppath", "a.dll", row.version, row.marker) +
                       entry(2, "apppath", "b", "1", "x"));
         updates.check();
-        EXPECT_EQ(updates.state.gUpdateUmsFlag, row.ums) << row.marker << row.version;
-        EXPECT_EQ(updates.state.gUpdateIFlag, row.i) << row.marker << row.version;
+        EXPECT_EQ(updates.state.update.gUpdateUmsFlag, row.ums) << row.marker << row.version;
+        EXPECT_EQ(updates.state.update.gUpdateIFlag, row.i) << row.marker << row.version;
     }
 }
 
@@ -137,7 +137,7 @@ TEST_F(UpdateCheck, TheFieldsOfARowStandInTheirColumns) {
         list += "\n";
     }
     EXPECT_EQ(list, "a|b|c|d|e|f|g||||\n||only a name||||||||\n");
-    EXPECT_EQ(utf8(state.gUpdateNoteFile), "http://server/note.html");
+    EXPECT_EQ(utf8(state.update.gUpdateNoteFile), "http://server/note.html");
     EXPECT_EQ(utf8(form.ListView2.column(9).caption), "버전확인");
 }
 
@@ -172,10 +172,10 @@ TEST_F(UpdateCheck, WithoutAnAnswerOrLocalFactsThereIsNoUpdate) {
         updates.install("1");
         updates.offer(entry(1, "apppath", "missing", "1"));
         row.arrange(updates);
-        updates.state.gUpdateServerReached = updates.state.gUpdateAvailable = true;
+        updates.state.update.gUpdateServerReached = updates.state.update.gUpdateAvailable = true;
         updates.check();
-        EXPECT_EQ(updates.state.gUpdateServerReached, row.reached) << row.name;
-        EXPECT_FALSE(updates.state.gUpdateAvailable) << row.name;
+        EXPECT_EQ(updates.state.update.gUpdateServerReached, row.reached) << row.name;
+        EXPECT_FALSE(updates.state.update.gUpdateAvailable) << row.name;
         EXPECT_FALSE(updates.files.folders.contains(u"z:\\app\\update_temp")) << row.name;
     }
 }
@@ -185,7 +185,7 @@ TEST_F(UpdateCheck, AListThatArrivesInPartIsReadAsFarAsItArrived) {
     const std::string list = "[UPDATE_FILE_LIST]\r\n" + entry(1, "apppath", "missing", "1");
     internet.answers[tests::LIST] = {.header = "HTTP/1.1 200 OK", .body = list};  // no length
     check();
-    EXPECT_TRUE(state.gUpdateAvailable);
+    EXPECT_TRUE(state.update.gUpdateAvailable);
 }
 
 TEST_F(UpdateCheck, RemovesItsFileAndItsFolder) {
@@ -193,14 +193,14 @@ TEST_F(UpdateCheck, RemovesItsFileAndItsFolder) {
     files.folders.insert(u"z:\\app\\update_temp");
     files.files[u"z:\\app\\update_temp\\old.exe"] = "left by a check that died";
     internet.while_waiting = [&] {
-        EXPECT_TRUE(state.gUpdateFormOpen);
+        EXPECT_TRUE(state.update.gUpdateFormOpen);
         EXPECT_FALSE(files.files.contains(u"z:\\app\\update_temp\\old.exe"));
     };
     offer(entry(1, "apppath", "missing", "1"));
     const auto before = files.files;
     check();
-    EXPECT_TRUE(state.gUpdateAvailable);
-    EXPECT_FALSE(state.gUpdateFormOpen);
+    EXPECT_TRUE(state.update.gUpdateAvailable);
+    EXPECT_FALSE(state.update.gUpdateFormOpen);
     EXPECT_TRUE(files.folders.empty());
     EXPECT_EQ(files.files.size(), before.size() - 1);
     EXPECT_EQ(internet.asked, (std::vector<Text>{tests::SERVER, tests::LIST}));
@@ -224,8 +224,8 @@ TEST_F(UpdateCheck, ClosingTheWindowCancelsItWhereverItWaits) {
             updates.files.touched, [](const Text& path) { return path.ends_with(u"\\update.ini"); });
         EXPECT_EQ(list_opened, wait >= 5) << wait;
         EXPECT_TRUE(form.given_up());
-        EXPECT_FALSE(updates.state.gUpdateServerReached);
-        EXPECT_FALSE(updates.state.gUpdateAvailable);
+        EXPECT_FALSE(updates.state.update.gUpdateServerReached);
+        EXPECT_FALSE(updates.state.update.gUpdateAvailable);
         EXPECT_TRUE(updates.files.folders.empty());
     }
 }

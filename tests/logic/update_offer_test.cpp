@@ -36,7 +36,7 @@ struct Offer : tests::Updates {
         desktop.in_form<frmUpdateStart>(u"frmUpdateStart",
                                         [button](frmUpdateStart& start) { (start.*button).Click.raise(); });
     }
-    void check_from_menu() { update::mnuUpDate_Click(platform, state, form); }
+    void check_from_menu() { update::check_from_menu(platform, state, form); }
     std::string shown(std::size_t box) { return utf8(desktop.boxes.at(box).text); }
 };
 
@@ -83,11 +83,11 @@ TEST_F(UpdateOffer, ANoRemovesTheNoteAndPollingStaysOff) {
     files.files[INSTALLER] = "program";
     for (const auto& refuse : refusals) {
         files.files[NOTE] = "old";
-        state.gDialogConfirmed = true;
+        state.forms.gDialogConfirmed = true;
         form.Timer1.set_enabled(true);
         desktop.in_form<frmUpdateStart>(u"frmUpdateStart", refuse);
         check_from_menu();
-        EXPECT_FALSE(state.gDialogConfirmed);
+        EXPECT_FALSE(state.forms.gDialogConfirmed);
         EXPECT_FALSE(files.files.contains(NOTE));
         EXPECT_TRUE(shell.opened.empty());
         EXPECT_FALSE(form.Timer1.enabled());
@@ -121,11 +121,11 @@ TEST_F(UpdateOffer, WithoutAnInstallerTheUserReadsThatAllIsUpToDateAndTheNoteSta
 
 TEST_F(UpdateOffer, TheUpdateContinuesWhenTheNoteCannotBeWritten) {
     files.failure = ErrorNumber::permission_denied;
-    state.gDialogConfirmed = false;
+    state.forms.gDialogConfirmed = false;
     frmUpdateStart start(platform, state);
     start.load();
     start.Command1.Click.raise();
-    EXPECT_TRUE(state.gDialogConfirmed);
+    EXPECT_TRUE(state.forms.gDialogConfirmed);
     EXPECT_FALSE(start.loaded());
 }
 

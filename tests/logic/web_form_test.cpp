@@ -1,5 +1,5 @@
 #include "service/frmWeb.h"
-#include "service/open_browser.h"
+#include "service/service_pages.h"
 #include "tests/support/test_platform.h"
 
 #include <gtest/gtest.h>
@@ -9,16 +9,16 @@ namespace {
 TEST(WebForm, CountsAsOpenAsLongAsItIsOpen) {
     tests::TestPlatform machine;
     service::frmWeb form(machine.platform, machine.state);
-    EXPECT_FALSE(machine.state.gWebFormOpen);
+    EXPECT_FALSE(machine.state.forms.gWebFormOpen);
     form.load();
-    EXPECT_TRUE(machine.state.gWebFormOpen);
+    EXPECT_TRUE(machine.state.forms.gWebFormOpen);
     const platform::Placement middle{.left = 8400, .top = 3600, .width = 12000, .height = 9000};
     EXPECT_EQ(form.placement(), middle);
-    machine.state.gWebFormOpen = false;
+    machine.state.forms.gWebFormOpen = false;
     form.window_activated();
-    EXPECT_TRUE(machine.state.gWebFormOpen);
+    EXPECT_TRUE(machine.state.forms.gWebFormOpen);
     form.Command1.Click.raise();
-    EXPECT_FALSE(machine.state.gWebFormOpen);
+    EXPECT_FALSE(machine.state.forms.gWebFormOpen);
     EXPECT_FALSE(form.loaded());
 }
 

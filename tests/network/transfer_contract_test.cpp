@@ -1,7 +1,7 @@
 // What every `Transfer` does. The same rows run with the toolkit's and with the double that the update's
 // tests use.
 
-#include "platform/qt/network/qt_internet.h"
+#include "machine/qt/modules/network/qt_internet.h"
 #include "tests/support/error_number.h"
 #include "tests/support/http_server.h"
 #include "tests/support/scripted_internet.h"
@@ -37,7 +37,7 @@ struct RealNetwork : Network {
         return server->url();
     }
     std::unique_ptr<tests::HttpServer> server;
-    qt::QtInternet real{qt::TransferLimits{}};
+    machine::qt::QtInternet real{machine::qt::TransferLimits{}};
 };
 
 struct ScriptedNetwork : Network {

@@ -1,5 +1,5 @@
 #include "machine/jet/file/connection_string.h"
-#include "machine/jet/file/jet_text.h"
+#include "machine/jet/file/jet_values.h"
 #include "machine/jet/reader/card_stream.h"
 #include "machine/jet/sql/like_pattern.h"
 #include "machine/jet/sql/statement.h"

@@ -1,5 +1,5 @@
 #include "machine/qt/desktop/qt_clock.h"
-#include "machine/qt/look/korean_translator.h"
+#include "machine/qt/look/korean.h"
 #include "platform/text/calendar.h"
 #include "tests/screen/screen_fixture.h"
 
@@ -109,8 +109,6 @@ TEST_F(ControlTest, BarsAndMenusRaiseTheirClicksAndKeepWhatTheHandlersSet) {
     EXPECT_TRUE(action("Toolbar1_2").isChecked());
     EXPECT_FALSE(action("Toolbar1_3").isChecked()) << "only the handler presses";
     EXPECT_FALSE(action("Toolbar1_2").icon().isNull());
-    form.Toolbar1.set_button_enabled(3, false);
-    EXPECT_FALSE(action("Toolbar1_3").isEnabled());
 
     form.STBar1.set_panel_text(1, u"로그인");
     form.STBar1.set_panel_picture(1, 2);

@@ -1,5 +1,5 @@
 #include "machine/posix/posix_files.h"
-#include "machine/qt/look/korean_translator.h"
+#include "machine/qt/look/korean.h"
 #include "tests/screen/screen_fixture.h"
 #include "tests/support/files_on_disk.h"
 #include "tests/support/utf8.h"

@@ -1,8 +1,8 @@
 // The main window's byte limits while a syllable is unfinished.
 
 #include "compose/main_form.h"
-#include "core/common.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "core/byte_length.h"
+#include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/message_edit.h"
 #include "send/send_check.h"
 #include "tests/screen/program_fixture.h"
@@ -84,14 +84,14 @@ class InputMethod : public QObject {
 
 /// The main window while one of its texts is being written.
 struct Draft : WindowsOnDoubles {
-    Draft(int kind, Manner manner) : method(manner), kind(kind) {
-        state.gLoggedIn = true;
+    Draft(compose::MessageKind kind, Manner manner) : method(manner), kind(kind) {
+        state.session.gLoggedIn = true;
         form.show();
         QCoreApplication::processEvents();
         form.choose(kind);
-        form.txtCallback.set_text(u"02-123-4567");
-        form.ListView1.add_row(u"", {u"김", u"010-1234-5678", u"", u""}, true);
-        form.ttsText.set_text(u"안내");
+        form.sender.txtCallback.set_text(u"02-123-4567");
+        form.recipients.ListView1.add_row(u"", {u"김", u"010-1234-5678", u"", u""}, true);
+        form.voice.ttsText.set_text(u"안내");
     }
     ~Draft() {
         form.unload();
@@ -99,7 +99,7 @@ struct Draft : WindowsOnDoubles {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    platform::TextBox& field() { return kind == compose::MessageKind::text ? form.mText1 : form.mText2; }
+    platform::TextBox& field() { return kind == compose::MessageKind::text ? form.text.mText1 : form.plus.mText2; }
     const char* field_name() const { return kind == compose::MessageKind::text ? "mText1" : "mText2"; }
 
     void write(const Text& text) {
@@ -130,8 +130,8 @@ struct Draft : WindowsOnDoubles {
     HastyClock clock;
     platform::Platform hasty = with(platform, {.clock = &clock});
     InputMethod method;
-    int kind;
-    compose::frmZent form{hasty, state, {.send = [this] { send::Command1_Click(hasty, state, form); }}};
+    compose::MessageKind kind;
+    compose::frmZent form{hasty, state, {.send = [this] { send::check_and_send(hasty, state, form); }}};
 };
 
 /// Line ends, of two bytes each; the subject drops them.
@@ -160,7 +160,7 @@ struct Case {
 
 class HangulLimits : public DeskTest {
   protected:
-    void play(int kind, const std::vector<Case>& cases) {
+    void play(compose::MessageKind kind, const std::vector<Case>& cases) {
         for (const Manner manner : {Manner::silent, Manner::commits_again}) {
             for (const Case& c : cases) {
                 SCOPED_TRACE(std::string(c.name) + (manner == Manner::silent ? "" : ", committed again"));
@@ -199,12 +199,12 @@ class HangulLimits : public DeskTest {
 
         const auto bytes = core::BYTE_LEN(c.after);
         if (draft.kind == compose::MessageKind::text) {
-            EXPECT_EQ(utf8(draft.form.mHLen1.caption()), std::to_string(bytes) + "Bytes");
-            EXPECT_EQ(draft.form.mHLen3.visible(), bytes > compose::TEXT_LIMIT);
+            EXPECT_EQ(utf8(draft.form.text.mHLen1.caption()), std::to_string(bytes) + "Bytes");
+            EXPECT_EQ(draft.form.text.mHLen3.visible(), bytes > compose::TEXT_LIMIT);
         } else {
-            EXPECT_EQ(utf8(draft.form.mHLen2.caption()), std::to_string(bytes) + "/80Byte");
+            EXPECT_EQ(utf8(draft.form.plus.mHLen2.caption()), std::to_string(bytes) + "/80Byte");
         }
-        EXPECT_EQ(utf8(draft.form.subjectText.text()), utf8(c.subject));
+        EXPECT_EQ(utf8(draft.form.subject.subjectText.text()), utf8(c.subject));
         EXPECT_EQ(find<QLineEdit>("subjectText").text().toStdString(), utf8(c.subject));
 
         std::string boxes;
@@ -268,7 +268,7 @@ void click_subject(Draft& draft) {
 const Text OWN_SUBJECT = u"열다섯 글자보다 더 긴 제목";
 
 void click_subject_of_its_own(Draft& draft) {
-    draft.form.subjectText.set_text(OWN_SUBJECT);
+    draft.form.subject.subjectText.set_text(OWN_SUBJECT);
     click_subject(draft);
 }
 
@@ -311,13 +311,13 @@ TEST_F(HangulLimits, BackspaceInALongTextRemovesLettersAndSyllablesWithoutABox) 
 TEST_F(HangulLimits, APlaceholderGoesBehindTheUnfinishedSyllableOfAnUnlimitedText) {
     play(compose::MessageKind::text, {{"chosen by the mouse", AT_79,
                                        [](Draft& draft) {
-                                           draft.form.Check1.set_checked(true);
+                                           draft.form.text.Check1.set_checked(true);
                                            draft.leave_han_unfinished();
                                            press("Combo3");
                                            QWidget* rows = find<QComboBox>("Combo3").view();
                                            QTest::keyClick(rows, Qt::Key_Down);
                                            QTest::keyClick(rows, Qt::Key_Return);
-                                           EXPECT_EQ(draft.form.Combo3.list_index(), 1);
+                                           EXPECT_EQ(draft.form.text.Combo3.list_index(), 1);
                                        },
                                        "", AT_79 + u"한{이름}", u"가나다라a한"}});
 }
@@ -382,29 +382,29 @@ TEST_F(HangulLimits, AnotherKindBeginsItsTextWithoutTheUnfinishedSyllable) {
             SCOPED_TRACE(boxes);
             Draft draft(compose::MessageKind::text, manner);
             expect_boxes(draft, boxes);
-            draft.form.txtUserName.set_text(u"홍");
+            draft.form.sender.txtUserName.set_text(u"홍");
             draft.write(AT_79);
             draft.leave_han_unfinished();
             auto& tabs = find<QTabBar>("TabStrip1");
-            const auto click_tab = [&](int kind) {
-                QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(kind - 1).center());
+            const auto click_tab = [&](compose::MessageKind kind) {
+                QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(static_cast<int>(kind) - 1).center());
                 settle();
             };
             click_tab(compose::MessageKind::plus);
             EXPECT_EQ(draft.boxes.asked.size(), boxes.size());
-            EXPECT_EQ(draft.form.mText1.text(), boxes == "Y" ? AT_79 + u"한" : AT_79);
-            EXPECT_EQ(draft.form.subjectText.text(), boxes == "Y" ? u"가나다라a한" : u"가나다라a");
+            EXPECT_EQ(draft.form.text.mText1.text(), boxes == "Y" ? AT_79 + u"한" : AT_79);
+            EXPECT_EQ(draft.form.subject.subjectText.text(), boxes == "Y" ? u"가나다라a한" : u"가나다라a");
 
             draft.kind = compose::MessageKind::plus;
             const Text plus = u"[홍]\r\n\r\n\r\n\r\n☎통화를눌러확인하세요";
-            EXPECT_EQ(draft.form.mText2.text(), plus);
+            EXPECT_EQ(draft.form.plus.mText2.text(), plus);
             EXPECT_EQ(find<machine::qt::MessageEdit>("mText2").committed_text(),
                       machine::qt::shown_text(plus));
             draft.field().set_focus();
             draft.leave_han_unfinished();
             click_tab(compose::MessageKind::text);
-            EXPECT_EQ(draft.form.mText2.text(), u"한" + plus);
-            EXPECT_EQ(draft.form.mText1.text(), u"[홍]");
+            EXPECT_EQ(draft.form.plus.mText2.text(), u"한" + plus);
+            EXPECT_EQ(draft.form.text.mText1.text(), u"[홍]");
             EXPECT_EQ(find<machine::qt::MessageEdit>("mText1").committed_text(), "[홍]");
         }
     }
@@ -441,7 +441,7 @@ class HangulSending : public HangulLimits {
 
 TEST_F(HangulSending, SendsTheTextWithTheUnfinishedSyllable) {
     struct Sent {
-        int kind;
+        compose::MessageKind kind;
         Text before;
         std::string boxes;
         std::vector<Text> texts;

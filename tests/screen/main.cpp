@@ -1,6 +1,6 @@
+#include "machine/qt/desktop/qt_application.h"
 #include "machine/qt/look/desk_style.h"
 
-#include <QApplication>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
@@ -8,7 +8,7 @@ int main(int argc, char** argv) {
     qputenv("QT_ACCESSIBILITY", "1");
     // The servers are on this machine: bypass the user's proxy.
     qputenv("no_proxy", "127.0.0.1");
-    QApplication application(argc, argv);
+    machine::qt::QtApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new machine::qt::DeskStyle);
     testing::InitGoogleTest(&argc, argv);

@@ -64,23 +64,6 @@ void ProgramTest::run() {
     machine.desktop.run_until_closed(application.main_form());
 }
 
-<<<<<<< HEAD
-void ProgramTest::order(const std::string& lines) {
-    std::ofstream(folder.path() / "carrier.ini", std::ios::app) << "\n" << lines << "\n";
-}
-
-std::vector<std::string> ProgramTest::ledger(const std::string& field) const {
-    const std::string file = folder.path() / "carrier-ledger.db";
-    if (!std::filesystem::exists(file)) return {};
-    const standin::Database database(file, standin::Database::Access::read);
-    standin::Statement rows = database.prepare("SELECT " + field + " FROM registration ORDER BY id");
-    std::vector<std::string> values;
-    while (rows.step()) values.push_back(rows.bytes(0));
-    return values;
-}
-
-=======
->>>>>>> 6040514fe806bc64bf91a86ab76384f130f4c899
 void ProgramTest::log_in() {
     user.in_window("frmZentLogin", [](QWidget& window) {
         type_into(window, "Text1", QStringLiteral("demo"));

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/application.h"
-#include "app/machine.h"
-#include "platform/qt/qt_clock.h"
+#include "app/desktop_machine.h"
+#include "machine/qt/desktop/qt_clock.h"
 #include "tests/support/temporary_folder.h"
 
 #include <QTimer>
@@ -67,8 +67,8 @@ class ProgramTest : public testing::Test {
     WindowPlayer user;
     machine::posix::Paths paths{folder.path().string()};
     HastyClock clock;
-    app::Machine machine{paths, machine::posix::PosixFiles(paths, (folder.path() / "windows").string()),
-                         clock};
+    app::DesktopMachine machine{
+        paths, machine::posix::PosixFiles(paths, (folder.path() / "windows").string()), clock};
     app::Application application{machine.platform};
 };
 

@@ -41,7 +41,7 @@ struct RecorderPanel : tests::DeskTest, tests::WindowsOnDoubles {
 TEST_F(RecorderPanel, LooksForTheMicrophoneOnceTheUserSeesIt) {
     settle();
     EXPECT_EQ(message(), "");
-    form.TabStrip2.select(2);
+    form.voice.TabStrip2.select(2);
     paint();
     EXPECT_TRUE(button("_record").isEnabled());
     EXPECT_FALSE(find("_recordWarning").isVisible());
@@ -51,10 +51,10 @@ TEST_F(RecorderPanel, LooksForTheMicrophoneOnceTheUserSeesIt) {
     EXPECT_TRUE(find("_recordWarning").isVisible());
 }
 
-TEST_F(RecorderPanel, RecordsStopsAndPlaysWithOneKey) {
-    form.TabStrip2.select(2);
+TEST_F(RecorderPanel, RecordsStopsAndPlaysByOneKey) {
+    form.voice.TabStrip2.select(2);
     paint();
-    form.RFK1.set_focus();
+    form.voice.RFK1.set_focus();
     ASSERT_EQ(QApplication::focusWidget(), &button("_record"));
     press_key(Qt::Key_Space);
     machine.recorder.speak(Samples(3 * SAMPLES_A_SECOND, 20000));
@@ -65,21 +65,21 @@ TEST_F(RecorderPanel, RecordsStopsAndPlaysWithOneKey) {
     press_key(Qt::Key_Space);
     EXPECT_TRUE(machine.recorder.playing);
     EXPECT_EQ(QApplication::focusWidget(), &button("_stop"));
-    EXPECT_TRUE(form.RFK1.has_focus());
+    EXPECT_TRUE(form.voice.RFK1.has_focus());
 
-    form.subjectText.set_focus();
+    form.subject.subjectText.set_focus();
     machine.recorder.end_playing();
-    EXPECT_TRUE(form.subjectText.has_focus()) << "only the panel's own focus goes on";
-    form.RFK1.set_kept();
+    EXPECT_TRUE(form.subject.subjectText.has_focus()) << "only the panel's own focus goes on";
+    form.voice.RFK1.set_kept();
     press_key(Qt::Key_R, Qt::ControlModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return machine.recorder.recording; }));
-    EXPECT_TRUE(form.RFK1.has_focus()) << "the field has seen its loss";
+    EXPECT_TRUE(form.voice.RFK1.has_focus()) << "the field has seen its loss";
 }
 
 TEST_F(RecorderPanel, ShowsEveryMessageWholeInTheSmallestWindow) {
     machine.recorder.installed = false;
     form.choose(compose::MessageKind::plus);
-    form.TabStrip2.select(2);
+    form.voice.TabStrip2.select(2);
     QWidget& window = *find("RFK1").window();
     window.resize(window.minimumSize());
     paint();
@@ -92,33 +92,33 @@ TEST_F(RecorderPanel, ShowsEveryMessageWholeInTheSmallestWindow) {
     };
     expect_whole("설치");
     machine.recorder.installed = true;
-    form.RFK1.open();
+    form.voice.RFK1.open();
     machine.recorder.busy = true;
-    form.RFK1.record();
+    form.voice.RFK1.record();
     expect_whole("다른 프로그램");
     machine.recorder.busy = false;
-    form.RFK1.record();
+    form.voice.RFK1.record();
     machine.recorder.speak(Samples(6 * 60 * SAMPLES_A_SECOND));
     expect_whole("6분");
     machine.recorder.busy = true;
-    form.RFK1.play();
+    form.voice.RFK1.play();
     expect_whole("스피커");
     machine.files.failure = platform::ErrorNumber::path_not_found;
-    form.RFK1.SaveWave(u"c:\\temp\\", u"tmp.wav");
+    form.voice.RFK1.SaveWave(u"c:\\temp\\", u"tmp.wav");
     expect_whole("경로를 찾을 수 없습니다");
     machine.recorder.plug_in(false);
     expect_whole("마이크를 찾을 수 없습니다");
     machine.recorder.plug_in(true);
     machine.recorder.busy = false;
-    form.RFK1.set_kept();
-    form.RFK1.record();
+    form.voice.RFK1.set_kept();
+    form.voice.RFK1.record();
     machine.recorder.speak(Samples(1));
     machine.recorder.break_recording();
     expect_whole("끊어졌습니다");
 }
 
-TEST_F(RecorderPanel, HasANameForAScreenReaderOnEveryControl) {
-    form.TabStrip2.select(2);
+TEST_F(RecorderPanel, HasANameForEverythingThatAScreenReaderMeets) {
+    form.voice.TabStrip2.select(2);
     paint();
     for (const char* name : {"_record", "_stop", "_play", "_recordTime", "_recordLevel", "_recordMessage"}) {
         const auto* accessible = QAccessible::queryAccessibleInterface(&find(name));

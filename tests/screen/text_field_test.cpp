@@ -1,4 +1,4 @@
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/message_edit.h"
 #include "tests/screen/screen_fixture.h"
 

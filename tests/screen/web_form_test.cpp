@@ -28,7 +28,7 @@ TEST_F(WebForm, SaysThatTheEngineIsMissingAndCloses) {
     for (const bool by_escape : {true, false}) {
         open(u"http://127.0.0.1/");
         ASSERT_TRUE(
-            QTest::qWaitFor([this] { return notice().text().contains(QStringLiteral("찾을 수 없습니다")); }));
+            QTest::qWaitFor([this] { return notice().text().contains(QStringLiteral("(zent_web.so)")); }));
         EXPECT_TRUE(notice().isVisible());
         EXPECT_FALSE(find<QWidget>("WebBrowser").findChild<QProgressBar*>()->isVisible());
         if (by_escape) {

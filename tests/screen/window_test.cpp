@@ -1,5 +1,6 @@
 #include "machine/qt/binders/screen_faults.h"
-#include "machine/qt/desktop/keep_painted.h"
+#include "machine/qt/desktop/long_work.h"
+#include "machine/qt/desktop/qt_application.h"
 #include "machine/qt/desktop/qt_clock.h"
 #include "tests/screen/screen_fixture.h"
 
@@ -208,7 +209,19 @@ TEST_F(WindowTest, LongWorkLetsItPaintAndNothingElse) {
     EXPECT_GE(ticks, 1) << "the timer runs on afterwards";
 }
 
-TEST_F(WindowTest, FaultsBetweenAFormAndItsScreenAreFound) {
+TEST_F(WindowTest, AnUncaughtErrorIsShownAndTheProgramGoesOn) {
+    auto& application = dynamic_cast<machine::qt::QtApplication&>(*qApp);
+    std::vector<int> shown;
+    application.show_errors_with(
+        [&](const platform::RuntimeError& error) { shown.push_back(error.number()); });
+    form.Command1.Click.connect([] { throw platform::RuntimeError(platform::ErrorNumber::overflow); });
+    QTest::mouseClick(&find("Command1"), Qt::LeftButton);
+    QTest::mouseClick(&find("Command1"), Qt::LeftButton);
+    EXPECT_EQ(shown, (std::vector<int>{6, 6}));
+    application.show_errors_with({});
+}
+
+TEST_F(WindowTest, ATestFindsWhatIsWrongBetweenAFormAndItsScreen) {
     frmSample whole(desktop);
     EXPECT_EQ(faults_of(whole, *screens.build(u"frmSample")), std::vector<QString>{});
 

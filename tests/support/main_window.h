@@ -62,7 +62,7 @@ struct MainWindow : TestPlatform {
         return {.send = write("send"),
                 .pick_recipients = [this] { pick_recipients(); },
                 .NEW_SENDMAN_LOAD = [this] { hand_over(); },
-                .message_box = write("message_box"),
+                .saved_texts = write("saved_texts"),
                 .update_check = write("update_check"),
                 .update_check_at_start = [this] { return update_check_at_start(); }};
     }

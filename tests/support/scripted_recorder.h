@@ -11,7 +11,9 @@ namespace tests {
 class ScriptedRecorder : public platform::Recorder {
   public:
     void open(Listener& listener) override {
-        if (!installed) throw platform::RuntimeError(platform::ErrorNumber::library_not_loaded);
+        if (!installed)
+            throw platform::RuntimeError(platform::ErrorNumber::library_not_loaded,
+                                         u"녹음 모듈(zent_sound.so)이 설치되어 있지 않습니다.");
         listener_ = &listener;
     }
     void close() override { listener_ = nullptr; }

@@ -2,9 +2,9 @@
 
 #include "compose/main_form.h"
 #include "platform/text/cp949.h"
-#include "send/frmSBox.h"
-#include "send/frmSendEndBox.h"
+#include "send/confirmation.h"
 #include "send/frmZentSend.h"
+#include "send/report.h"
 #include "send/send_check.h"
 #include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
@@ -18,7 +18,7 @@ namespace tests {
 
 /// The main window of a user who is logged in, with a send button that works and a draft without recipients.
 struct Sending : TestPlatform {
-    compose::frmZent form{platform, state, {.send = [this] { send::Command1_Click(platform, state, form); }}};
+    compose::frmZent form{platform, state, {.send = [this] { send::check_and_send(platform, state, form); }}};
 
     /// The text of the last report, and whether it offered the results.
     std::string report;
@@ -26,8 +26,8 @@ struct Sending : TestPlatform {
 
     Sending() {
         form.load();
-        state.gLoggedIn = true;
-        state.gInfoCallback = u"02-999-0000         ";
+        state.session.gLoggedIn = true;
+        state.session.gInfoCallback = u"02-999-0000         ";
         form.sender.txtUserName.set_text(u"홍길동");
         form.sender.txtCallback.set_text(u"02-123-4567");
         form.choose(compose::MessageKind::text);

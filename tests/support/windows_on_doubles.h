@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/qt/qt_desktop.h"
+#include "core/app_state.h"
+#include "machine/qt/desktop/qt_desktop.h"
 #include "tests/support/test_platform.h"
 
 namespace tests {
@@ -8,8 +9,8 @@ namespace tests {
 /// Real windows of the program's screens on a machine whose other parts are doubles.
 struct WindowsOnDoubles {
     TestPlatform machine;
-    platform::qt::Screens screens = platform::qt::program_screens();
-    platform::qt::QtDesktop desktop{screens, machine.files};
+    machine::qt::Screens screens = machine::qt::program_screens();
+    machine::qt::QtDesktop desktop{screens, machine.files};
     platform::Platform platform = machine.on(desktop);
     core::AppState& state = machine.state;
 };

@@ -1,6 +1,6 @@
 // What the user types while the program is busy, on an X server of its own.
 
-#include "machine/qt/desktop/keep_painted.h"
+#include "machine/qt/desktop/long_work.h"
 #include "tests/support/virtual_display.h"
 
 #include <QApplication>

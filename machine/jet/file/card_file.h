@@ -8,7 +8,7 @@
 
 namespace machine::jet {
 
-/// By what one tells that a file is still the one read before: where it lies, its length and its date.
+/// Tells whether a file is still the one that was read: its place, length and date.
 struct FileState {
     dev_t device = 0;
     ino_t number = 0;
@@ -16,20 +16,20 @@ struct FileState {
     timespec changed{};
 
     bool operator==(const FileState& other) const;
-    /// Whether a change from now on shows in the date, which goes by the ticks of a clock. One in the future
-    /// tells nothing.
+    /// Whether any later change will show in the date. The date has the resolution of a clock tick; a date in
+    /// the future proves nothing.
     bool is_settled() const;
 };
 
 /// The card manager's file, open for reading.
 class CardFile {
   public:
-    /// Raises RuntimeError when the file is missing or is no normal file.
+    /// Raises RuntimeError when the file is missing or not a normal file.
     explicit CardFile(const std::string& path);
 
     int descriptor() const { return file_.number(); }
     FileState state() const;
-    /// Raises RuntimeError when the file does not begin, or end, as a Jet file does.
+    /// Raises RuntimeError when the file does not begin like a Jet file or is cut off.
     JetHeader header() const;
 
   private:

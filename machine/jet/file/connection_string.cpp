@@ -1,7 +1,5 @@
 #include "machine/jet/file/connection_string.h"
 
-#include <algorithm>
-
 namespace machine::jet {
 
 using platform::Text;
@@ -9,11 +7,7 @@ using platform::TextView;
 
 ConnectionString ConnectionString::parse(TextView text) {
     ConnectionString parsed;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find(u';'), text.size());
-        const TextView pair = text.substr(0, end);
-        text.remove_prefix(std::min(end + 1, text.size()));
-
+    for (const TextView pair : platform::split(text, u';')) {
         const std::size_t equals = pair.find(u'=');
         if (equals == TextView::npos) continue;
         const Text name = platform::trim(pair.substr(0, equals));

@@ -4,8 +4,8 @@
 
 namespace machine::jet {
 
-/// What a connection string asks for: pairs of a name and a value with semicolons between them, names in any
-/// case. What it does not name is empty.
+/// The parts of a connection string that matter: `name=value` pairs separated by semicolons, names in any
+/// case. Missing parts are empty.
 struct ConnectionString {
     platform::Text data_source;
     platform::Text password;

@@ -1,6 +1,6 @@
 #include "machine/jet/file/jet_header.h"
 
-#include "machine/jet/file/little_endian.h"
+#include "machine/jet/file/jet_values.h"
 
 #include <algorithm>
 #include <array>
@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::string_view SIGNATURE("\0\1\0\0Standard Jet DB\0\1", 21);
 
-// Where the enciphered part of the header lies, and within the file what is wanted of it.
+// The enciphered part of the header and what is read from it, as positions in the file.
 constexpr std::size_t CIPHER_START = 0x18;
 constexpr std::size_t CIPHER_BYTES = 128;
 constexpr std::size_t PASSWORD_START = 0x42;
@@ -47,7 +47,7 @@ std::string deciphered(std::string_view bytes) {
     return plain;
 }
 
-/// The day on which the file was made, as a number; it masks the password.
+/// The file's creation day as a number, which masks the password.
 std::uint32_t creation_day(std::string_view header) {
     const std::size_t at = CREATION_DATE_START - CIPHER_START;
     const auto date =

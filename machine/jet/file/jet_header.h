@@ -8,12 +8,12 @@
 
 namespace machine::jet {
 
-/// A Jet 4 file is made of pages of this length, the first of which is its header.
+/// A Jet 4 file consists of pages of this length. The first one is its header.
 inline constexpr std::size_t PAGE_BYTES = 4096;
 
-/// What the first page of a Jet 4 file tells; nothing when it is not the first page of one.
+/// What the first page of a Jet 4 file says.
 struct JetHeader {
-    /// Empty when the file asks for none.
+    /// Empty when the file needs none.
     platform::Text password;
 
     static std::optional<JetHeader> read(std::string_view page);

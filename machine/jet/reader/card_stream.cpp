@@ -16,7 +16,7 @@ constexpr std::string_view START("CARDS\0\1\n", 8);
 constexpr std::size_t FRAME_HEAD = 1 + sizeof(std::uint32_t);
 constexpr char ROW_FRAME = 'R';
 constexpr char END_FRAME = 'E';
-/// Beyond what the texts of one page can become.
+/// More than the texts of one page can need.
 constexpr std::size_t LONGEST_FRAME = 32768;
 
 constexpr char IS_NULL = '0';
@@ -28,7 +28,7 @@ void append(std::string& out, Number number) {
     out.append(reinterpret_cast<const char*>(&number), sizeof number);
 }
 
-/// The number at the front, which the caller has seen to be there.
+/// Takes the number at the front; the caller has checked the length.
 template <class Number>
 Number take(std::string_view& bytes) {
     Number number;
@@ -56,8 +56,8 @@ void append_cell(std::string& out, const Cell& cell) {
     }
 }
 
-/// Takes the cell at the front of the bytes; nothing when none of the kind stands there whole. `texts` has
-/// room for it.
+/// Takes the cell at the front of the bytes, or nothing when it is incomplete or of another kind. `texts` has
+/// room for its text.
 std::optional<Cell> take_cell(std::string_view& bytes, Kind kind, Text& texts) {
     if (bytes.empty()) return std::nullopt;
     const char mark = bytes.front();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "machine/jet/sql/card_schema.h"
+#include "machine/jet/reader/card_schema.h"
 #include "platform/text/text.h"
 
 #include <array>
@@ -13,17 +13,17 @@
 
 namespace machine::jet {
 
-/// How the reader hands the tables over to the program: a mark with the version, a frame for each row and one
-/// at the end with the numbers of rows. A stream without that end is no part of the cards but none of them.
+/// How the reader passes the tables to the program: a mark with the version, a frame for each row and an end
+/// frame with the numbers of rows. A stream without its end frame is discarded whole.
 ///
-/// A frame is a letter, the length of what follows in four bytes and that. In a row's frame stands the table
-/// and then each of its columns but the memos, which nobody reads. Numbers and texts are as the machine has
-/// them, since both ends are one installation's.
+/// A frame is a letter, the length of the payload in four bytes and the payload. A row's payload is the table
+/// and each of its columns except memos, which nobody reads. Numbers and texts are in the machine's own byte
+/// order, since both programs run on it.
 
-/// NULL, a number or a text that lives as long as the row is looked at.
+/// NULL, a number or a text, which is valid during the call that passes the row.
 using Cell = std::variant<std::monostate, std::int32_t, platform::TextView>;
 
-/// A row's cells in the order of its table's columns; those behind the table's last one are NULL.
+/// A row's cells in the order of its table's columns; cells after the last column are NULL.
 using Row = std::array<Cell, MOST_COLUMNS>;
 
 /// The start of the stream.
@@ -31,17 +31,16 @@ std::string stream_start();
 void append_row(std::string& stream, Table table, const Row& row);
 void append_end(std::string& stream, std::uint32_t folders, std::uint32_t cards);
 
-/// Takes a stream apart that may be anything: a reader of hostile files can be made to write what it should
-/// not.
+/// Parses a stream and trusts none of its bytes: a hostile file can make the reader write anything.
 class CardStreamParser {
   public:
     using TakeRow = std::function<void(Table table, const Row& row)>;
 
     explicit CardStreamParser(TakeRow take_row) : take_row_(std::move(take_row)) {}
 
-    /// Takes the next bytes. Returns false once the stream is broken, and from then on.
+    /// Takes the next bytes. Returns false when the stream is broken, and stays so.
     bool feed(std::string_view bytes);
-    /// Whether the whole stream has come, and nothing behind it.
+    /// Whether the stream has ended properly, with nothing after its end frame.
     bool is_complete() const { return state_ == State::end; }
 
   private:
@@ -54,7 +53,7 @@ class CardStreamParser {
 
     TakeRow take_row_;
     State state_ = State::start;
-    /// The beginning of what has not come whole yet.
+    /// The bytes of a frame that is not complete yet.
     std::string waiting_;
     std::array<std::uint32_t, std::size(TABLES)> rows_{};
     platform::Text texts_;

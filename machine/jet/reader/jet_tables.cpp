@@ -1,10 +1,9 @@
 #include "machine/jet/reader/jet_tables.h"
 
 #include "machine/jet/file/jet_header.h"
-#include "machine/jet/file/jet_text.h"
-#include "machine/jet/file/little_endian.h"
+#include "machine/jet/file/jet_values.h"
 
-// Ahead of libmdb's header, which would pull it in as C.
+// Before libmdb's header, which would include it as C.
 #include <glib.h>
 //
 #include <deque>
@@ -53,10 +52,10 @@ bool holds(const MdbColumn& column, Kind kind) {
     return false;
 }
 
-/// Where libmdb has a column of ours.
+/// One of our columns as libmdb knows it.
 struct Position {
     unsigned column;
-    /// Memos are not, nor a column of a type that we do not expect.
+    /// False for memos and for a column of an unexpected type.
     bool is_read;
 };
 
@@ -89,7 +88,7 @@ std::int32_t number_of(std::string_view bytes) {
     }
 }
 
-/// The rows of one page after the other.
+/// The rows of a table, page by page.
 class RowReader {
   public:
     RowReader(MdbHandle* file, Table table)
@@ -115,7 +114,7 @@ class RowReader {
     }
 
   private:
-    /// Returns false for a row that was deleted, or moved to where it is found later.
+    /// Returns false for a row that was deleted, or moved to a place that is read later.
     bool read_row(int number) {
         int start = 0;
         std::size_t length = 0;

@@ -1,5 +1,6 @@
-// Reads the card manager's tables from the Jet file on its standard input and writes them as a card stream. A
-// program of its own, since a broken file may crash or hang the library that reads it, or make it do worse.
+// Reads the card manager's tables from the Jet file on its standard input and writes them as a card stream.
+// It is a separate program because a damaged or hostile file may crash, hang or take over the library that
+// reads it.
 
 #include "machine/jet/reader/card_stream.h"
 #include "machine/jet/reader/jet_tables.h"
@@ -27,7 +28,7 @@ void limit(decltype(RLIMIT_CPU) resource, rlim_t most) {
     if (::setrlimit(resource, &limit) != 0) std::_Exit(EXIT_FAILURE);
 }
 
-/// Takes from this process what reading a file does not need.
+/// Gives up all rights that reading a file does not need.
 void limit_myself() {
     limit(RLIMIT_CPU, LONGEST_SECONDS);
     limit(RLIMIT_FSIZE, 0);
@@ -68,7 +69,7 @@ int main() {
         append_end(stream, folders, cards);
         write_out(stream);
     } catch (const std::exception&) {
-        // Whoever reads the stream sees that its end is missing.
+        // The program notices that the end frame is missing.
         std::_Exit(EXIT_FAILURE);
     }
     std::_Exit(EXIT_SUCCESS);

@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::size_t CHUNK_BYTES = 65536;
 
-/// What becomes of the standard files of the process: the database, the pipe and nothing.
+/// Sets the standard files of the process: input is the database, output the pipe, errors go nowhere.
 class StandardFiles {
   public:
     StandardFiles(int input, int output) {

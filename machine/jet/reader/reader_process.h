@@ -9,8 +9,7 @@
 
 namespace machine::jet {
 
-/// The program that reads a Jet file with a library that a broken file can crash, hang or mislead. It runs as
-/// long as this object lives at most.
+/// The running `card-reader`. It is killed with this object at the latest.
 class ReaderProcess {
   public:
     /// Starts `program` with the open file as its standard input. Raises RuntimeError when it does not start.
@@ -20,7 +19,7 @@ class ReaderProcess {
     ~ReaderProcess();
 
     enum class News { bytes, nothing, end };
-    /// Waits for what the program writes, but no longer than this; `bytes` stay until the next call.
+    /// Waits for output of the program, at most as long as `longest`. `bytes` are valid until the next call.
     News wait(std::chrono::milliseconds longest, std::string_view& bytes);
 
   private:

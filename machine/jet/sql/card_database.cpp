@@ -21,12 +21,12 @@ using platform::TextView;
 
 namespace {
 
-/// How much of what statements gave is kept: the lists of some openings of the picker. A statement itself
-/// counts as well.
+/// How many fields of results are kept: the lists of several openings of the picker. The statements
+/// themselves count as well.
 constexpr std::size_t MOST_RESULT_FIELDS = 3'000'000;
 constexpr std::size_t FIELDS_A_STATEMENT = 100;
 
-/// Between two looks at the clock.
+/// Steps of SQLite between two heartbeats.
 constexpr int OPCODES_A_BEAT = 1000;
 
 int beat(void* heartbeat) {
@@ -34,7 +34,7 @@ int beat(void* heartbeat) {
     return 0;
 }
 
-/// The value's text where it lies. Asked for as text, SQLite would copy it, to put a NUL behind it.
+/// The value's text in place. SQLite would copy it to add a NUL if it were asked for as text.
 TextView text_of(sqlite3_value* value) {
     const auto bytes = static_cast<std::size_t>(sqlite3_value_bytes16(value));
     return {static_cast<const char16_t*>(sqlite3_value_blob(value)), bytes / sizeof(char16_t)};
@@ -50,14 +50,14 @@ void like(sqlite3_context* context, int, sqlite3_value** arguments) {
         if (!parsed) return sqlite3_result_error(context, "broken pattern", -1);
         pattern = new LikePattern(std::move(*parsed));
         sqlite3_result_int(context, pattern->matches(text_of(arguments[1])));
-        // SQLite keeps it from row to row, or may delete it at once.
+        // SQLite keeps the pattern from row to row, or deletes it at once.
         return sqlite3_set_auxdata(context, 0, pattern,
                                    [](void* kept) { delete static_cast<LikePattern*>(kept); });
     }
     sqlite3_result_int(context, pattern->matches(text_of(arguments[1])));
 }
 
-/// What the user types becomes part of a statement: statements read the two tables and do nothing else.
+/// Allows only reading the two tables, since what the user types becomes part of statements.
 int only_reading(void*, int action, const char*, const char* function, const char*, const char*) {
     if (action == SQLITE_SELECT || action == SQLITE_READ) return SQLITE_OK;
     const bool known = action == SQLITE_FUNCTION &&
@@ -65,7 +65,7 @@ int only_reading(void*, int action, const char*, const char* function, const cha
     return known ? SQLITE_OK : SQLITE_DENY;
 }
 
-/// The type of a column by the declaration of what it was fetched from; a result of counting is a number.
+/// The type of a result's column: that of the table's column, or a number for a count.
 int type_of(sqlite3_stmt* statement, int column) {
     const char* declared = sqlite3_column_decltype(statement, column);
     if (declared == nullptr || std::strcmp(declared, "INTEGER") == 0) return FIELD_LONG;
@@ -96,7 +96,7 @@ void CardDatabase::all_added() {
     for (CardTable& table : tables_) table.all_added();
 
     sqlite3* opened = nullptr;
-    // One thread has it: locks would cost a quarter of the time.
+    // Only one thread uses it; locks would cost a quarter of the time.
     const int result = sqlite3_open_v2(
         ":memory:", &opened, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
     database_.reset(opened);
@@ -105,7 +105,7 @@ void CardDatabase::all_added() {
     for (const CardTable& table : tables_) good = good && attach(opened, table);
     if (!good) throw RuntimeError(ErrorNumber::out_of_memory);
 
-    // Otherwise a name in quotes that nothing has would count as a text.
+    // Otherwise an unknown name in quotes would be taken for a text.
     sqlite3_db_config(opened, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_progress_handler(opened, OPCODES_A_BEAT, beat, heartbeat_.get());
     sqlite3_create_function(opened, "like", 2, SQLITE_UTF16 | SQLITE_DETERMINISTIC, nullptr, like, nullptr,
@@ -147,7 +147,7 @@ std::shared_ptr<const CardRows> CardDatabase::fetch(const Text& statement) {
     return rows;
 }
 
-/// A statement with something behind it counts as broken.
+/// A statement followed by another one is an error.
 CardDatabase::Statement CardDatabase::prepare(const Text& sql) {
     if (sql.size() > std::numeric_limits<int>::max() / sizeof(char16_t))
         throw RuntimeError(ErrorNumber::broken_statement);
@@ -162,7 +162,7 @@ CardDatabase::Statement CardDatabase::prepare(const Text& sql) {
     return statement;
 }
 
-/// Returns whether there is a row.
+/// Returns whether there is another row.
 bool CardDatabase::step(sqlite3_stmt* statement) {
     const int result = sqlite3_step(statement);
     if (result == SQLITE_ROW) return true;

@@ -14,7 +14,7 @@ struct sqlite3_stmt;
 
 namespace machine::jet {
 
-/// The card manager's two tables in memory, on which its statements run.
+/// The card manager's two tables in memory, and the statements on them.
 class CardDatabase {
   public:
     explicit CardDatabase(std::shared_ptr<Heartbeat> heartbeat);
@@ -22,12 +22,12 @@ class CardDatabase {
     CardDatabase(const CardDatabase&) = delete;
     CardDatabase& operator=(const CardDatabase&) = delete;
 
-    /// Rows are added in the file's order, all of them before the first statement.
+    /// Rows are added in the file's order, all before the first statement.
     void add(Table table, const Row& row) { tables_[static_cast<std::size_t>(table)].add(row); }
     void all_added();
 
-    /// What the statement gives; that of a statement run before is still known. Raises RuntimeError for a
-    /// statement that is broken, names what is not there or would do more than read.
+    /// Runs the statement, or returns the kept result of an earlier run. Raises RuntimeError for a statement
+    /// with an error, one that names something unknown or one that does more than read.
     std::shared_ptr<const CardRows> run(const platform::Text& statement);
 
   private:

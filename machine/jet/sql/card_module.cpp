@@ -5,8 +5,8 @@
 #include <sqlite3.h>
 #include <string>
 
-// SQLite reads the tables where they are: copying the rows into tables of its own would take as long as
-// reading the file. What follows are the routines of a virtual table in SQLite's terms.
+// A virtual table of SQLite, which reads the rows in place: copying them into tables of its own would take as
+// long as reading the file. The routines are named as in SQLite's documentation.
 
 namespace machine::jet {
 
@@ -23,7 +23,7 @@ struct Cursor : sqlite3_vtab_cursor {
     std::size_t at = 0;
 };
 
-/// The ways to go through a table, as xBestIndex tells xFilter.
+/// The ways to go through a table; xBestIndex passes one to xFilter.
 enum Way { in_file_order, in_order, of_folder };
 
 const CardTable& cards_of(sqlite3_vtab* table) { return *static_cast<VirtualTable*>(table)->cards; }
@@ -52,7 +52,7 @@ int disconnect(sqlite3_vtab* table) {
     return SQLITE_OK;
 }
 
-/// Says which way through the table serves the statement best.
+/// Chooses the best way through the table for the statement.
 int best_index(sqlite3_vtab* table, sqlite3_index_info* info) {
     const CardTable& cards = cards_of(table);
     const auto rows = static_cast<double>(cards.rows()->size());
@@ -67,7 +67,7 @@ int best_index(sqlite3_vtab* table, sqlite3_index_info* info) {
             continue;
         }
         info->idxNum = of_folder;
-        // SQLite tests the rows once more, so that what is no whole number finds nothing.
+        // SQLite checks the rows itself again, so that a value that is no whole number finds nothing.
         info->aConstraintUsage[i].argvIndex = 1;
         info->estimatedCost = rows / 100 + 1;
         info->estimatedRows = static_cast<sqlite3_int64>(rows) / 100 + 1;

@@ -17,10 +17,11 @@ using platform::TextView;
 namespace {
 
 constexpr std::size_t LONGEST_TEXT = (1U << 30) - 1;
-/// A million cards. A file that repeats its folders would have the statements make any number of rows.
+/// Enough for a million cards. With a file that repeats its folders a statement could produce any number of
+/// rows.
 constexpr std::size_t MOST_FIELDS = 20'000'000;
 
-/// Where the part stands in the text, when it is one.
+/// The position of the part when it lies within the text.
 std::optional<std::size_t> position_in(const Text& text, TextView part) {
     const std::less_equal<const char16_t*> before;
     const bool inside =

@@ -12,7 +12,7 @@
 
 namespace machine::jet {
 
-/// Rows of fields, packed: of hundreds of thousands few are looked at.
+/// Rows of fields in little memory: of hundreds of thousands only a few are looked at.
 class CardRows {
   public:
     struct Column {
@@ -20,23 +20,23 @@ class CardRows {
         int type = platform::FIELD_TEXT;
     };
 
-    /// Texts that are `source`'s are kept there alone.
+    /// Texts that come from `source` are not copied.
     explicit CardRows(std::vector<Column> columns, std::shared_ptr<const CardRows> source = {})
         : columns_(std::move(columns)), source_(std::move(source)) {}
 
-    /// Fields are added row by row, one for each column. Raises error 7 (out of memory) beyond what a card
-    /// database can be.
+    /// Fields are added row by row, one for each column. Raises RuntimeError 7 (out of memory) when there are
+    /// more than a card database can have.
     void add(const Cell& cell);
 
     std::size_t size() const { return columns_.empty() ? 0 : cells_.size() / columns_.size(); }
     std::size_t fields() const { return cells_.size(); }
-    /// The position of the column of that name, in any case.
+    /// The position of the column with that name, in any case.
     std::optional<std::size_t> column(platform::TextView name) const;
     Cell at(std::size_t row, std::size_t column) const;
     platform::CardField field(std::size_t row, std::size_t column) const;
 
   private:
-    /// A number, or where a text begins and how long it is.
+    /// A number, or the start and length of a text.
     struct Packed {
         enum class Kind : std::uint32_t { null, number, text, text_of_source };
 

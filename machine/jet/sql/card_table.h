@@ -12,8 +12,8 @@ namespace machine::jet {
 /// Positions of rows, in some order.
 using RowNumbers = std::span<const std::uint32_t>;
 
-/// One of the card manager's tables in memory, with the orders in which statements want it. Rows that an
-/// order leaves open stand as in the file.
+/// One of the card manager's tables in memory, with the orders that statements ask for. Rows with equal keys
+/// keep the file's order.
 class CardTable {
   public:
     explicit CardTable(Table table);
@@ -25,8 +25,7 @@ class CardTable {
     Table table() const { return table_; }
     const std::shared_ptr<CardRows>& rows() const { return rows_; }
 
-    /// The column that tells the folder, and the one by which lists are ordered: the folders' own number, the
-    /// cards' place.
+    /// The column with the folder, and the one by which lists are ordered: a folder's number, a card's place.
     std::size_t folder_column() const { return 0; }
     std::size_t order_column() const { return table_ == Table::folder ? 0 : 2; }
 
@@ -36,7 +35,7 @@ class CardTable {
     RowNumbers of_folder(std::int32_t folder) const;
 
   private:
-    /// The column's number in every row; a row without one comes before all others.
+    /// The column's number in every row; a row without a number sorts first.
     std::vector<std::int64_t> keys_of(std::size_t column) const;
 
     Table table_;

@@ -1,5 +1,7 @@
 #include "machine/jet/sql/like_pattern.h"
 
+#include "platform/text/wild_cards.h"
+
 #include <algorithm>
 
 namespace machine::jet {
@@ -8,8 +10,7 @@ using platform::TextView;
 
 namespace {
 
-/// The small letter of a capital one of the Latin, Greek and Cyrillic alphabets and of the wide Latin one;
-/// every other character as it is.
+/// The small letter of a Latin, Greek, Cyrillic or full-width Latin capital; every other character unchanged.
 char16_t fold(char16_t unit) {
     if (unit < 0x80) return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
     const bool plus_32 = (unit >= 0x00C0 && unit <= 0x00DE && unit != 0x00D7) ||
@@ -57,7 +58,7 @@ std::optional<LikePattern> LikePattern::parse(TextView pattern) {
         } else if (unit == u'[') {
             const auto end = pattern.find(u']');
             if (end == TextView::npos) return std::nullopt;
-            // An empty set stands for an empty text.
+            // An empty set matches an empty text.
             if (end > 0) {
                 auto element = parse_set(pattern.substr(0, end));
                 if (!element) return std::nullopt;
@@ -73,27 +74,9 @@ std::optional<LikePattern> LikePattern::parse(TextView pattern) {
 }
 
 bool LikePattern::matches(TextView text) const {
-    std::size_t element = 0, at = 0;
-    // Behind the last `%` passed, and where the text that it stands for ends by now: only that one may have
-    // to take in more, since whatever those before it took leaves the rest the same.
-    std::optional<std::size_t> behind_any;
-    std::size_t any_end = 0;
-    while (at < text.size()) {
-        if (element < elements_.size() && elements_[element].kind == Element::Kind::any_text) {
-            behind_any = ++element;
-            any_end = at;
-        } else if (element < elements_.size() && elements_[element].matches(fold(text[at]))) {
-            ++element;
-            ++at;
-        } else if (behind_any) {
-            element = *behind_any;
-            at = ++any_end;
-        } else {
-            return false;
-        }
-    }
-    return std::all_of(elements_.begin() + static_cast<std::ptrdiff_t>(element), elements_.end(),
-                       [](const Element& left) { return left.kind == Element::Kind::any_text; });
+    return platform::matches_wild_cards(
+        text, elements_, [](const Element& element) { return element.kind == Element::Kind::any_text; },
+        [](const Element& element, char16_t unit) { return element.matches(fold(unit)); });
 }
 
 }  // namespace machine::jet

@@ -7,11 +7,11 @@
 
 namespace machine::jet {
 
-/// A LIKE pattern as the card manager's database provider reads it: `%` is any text, `_` any character,
-/// `[a-z]` one of a set and `[!a-z]` or `[^a-z]` none of it; the case of letters does not matter.
+/// A LIKE pattern by the rules of the card manager's database provider: `%` is any text, `_` any character,
+/// `[a-z]` one of a set and `[!a-z]` or `[^a-z]` one outside it. The case of letters does not matter.
 class LikePattern {
   public:
-    /// Nothing for a set without its end, or with a range that runs backwards.
+    /// Nothing for a set without its end or with a reversed range.
     static std::optional<LikePattern> parse(platform::TextView pattern);
 
     bool matches(platform::TextView text) const;

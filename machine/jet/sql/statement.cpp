@@ -17,11 +17,11 @@ using platform::TextView;
 
 namespace {
 
-/// A word is a name, a number or a key word; everything but words and quoted pieces is a symbol of its own.
+/// A word is a name, a number or a key word. Every character outside words and quotes is a symbol.
 struct Token {
     enum class Kind { word, quoted, symbol } kind;
     Text text;
-    /// A blank or more stand before it.
+    /// It follows one or more blanks.
     bool apart = false;
 
     bool is(TextView wanted) const {
@@ -39,7 +39,7 @@ bool is_word_unit(char16_t unit) {
            unit == u'_' || unit >= 0x80;
 }
 
-/// The piece at the front from its first character to `end`.
+/// Takes the piece from the front to `end`.
 TextView closed_piece(TextView text, char16_t end) {
     const auto at = text.find(end, 1);
     if (at == TextView::npos) throw RuntimeError(ErrorNumber::broken_statement);
@@ -48,7 +48,7 @@ TextView closed_piece(TextView text, char16_t end) {
 
 Token token_at(TextView rest) {
     const char16_t first = rest.front();
-    // A quote that stands doubled in a text makes two pieces side by side, which stay so.
+    // A doubled quote within a text gives two adjacent pieces, which are written back like that.
     if (first == u'\'' || first == u'"') return {Token::Kind::quoted, Text(closed_piece(rest, first))};
     if (first == u'[') return {Token::Kind::quoted, Text(closed_piece(rest, u']'))};
     if (!is_word_unit(first)) return {Token::Kind::symbol, Text(1, first)};
@@ -73,7 +73,7 @@ Tokens tokens_of(TextView rest) {
     return tokens;
 }
 
-/// A test of a column for one number, as it stands in a folder filter.
+/// A test of a column for one number, as in a folder filter.
 struct Test {
     Text column, number;
     std::size_t tokens = 0;
@@ -92,8 +92,8 @@ std::optional<Test> test_at(const Tokens& tokens, std::size_t at) {
     return Test{tokens[at].text, (negative ? u"-" : u"") + tokens[number].text, number + 1 - at};
 }
 
-/// Writes the row of tests at `at` as one and moves behind it. Does nothing where no such row is all of a
-/// condition.
+/// Writes the chain of tests at `at` as one test and moves behind it. Does nothing unless such a chain is the
+/// whole condition.
 bool take_tests(const Tokens& tokens, std::size_t& at, Text& out) {
     if (at == 0 || !(tokens[at - 1].is(u"where") || tokens[at - 1].is(u"("))) return false;
     const auto first = test_at(tokens, at);
@@ -107,8 +107,8 @@ bool take_tests(const Tokens& tokens, std::size_t& at, Text& out) {
         end += 1 + next->tokens;
     }
     if (end != tokens.size() && !tokens[end].is(u")")) return false;
-    // The sign keeps SQLite from going through the table folder by folder: cards with the same place in the
-    // order come as the file has them.
+    // The `+` keeps SQLite from going folder by folder, so that cards with the same place keep the file's
+    // order.
     out += u" +" + first->column + u" IN (" + numbers + u")";
     at = end;
     return true;

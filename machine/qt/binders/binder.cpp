@@ -1,7 +1,7 @@
 #include "machine/qt/binders/binder.h"
 
 #include "machine/qt/typing/composition.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -12,7 +12,7 @@ using platform::Aspect;
 using platform::Control;
 
 WidgetBinder::WidgetBinder(BoundForm& bound, Control& control, QWidget& widget)
-    : Binder(bound, control), control_(control), widget_(widget) {
+    : Binder(bound, control, widget) {
     widget.installEventFilter(this);
     if (!control.enabled()) refresh(Aspect::enabled);
     if (!control.visible()) refresh(Aspect::visible);
@@ -24,23 +24,25 @@ WidgetBinder::WidgetBinder(BoundForm& bound, Control& control, QWidget& widget)
 void WidgetBinder::refresh(Aspect aspect) {
     switch (aspect) {
         case Aspect::enabled:
-            return widget_.setEnabled(control_.enabled());
+            return widget().setEnabled(control().enabled());
         case Aspect::visible:
-            return widget_.setVisible(control_.visible());
+            return widget().setVisible(control().visible());
         case Aspect::tool_tip:
-            return widget_.setToolTip(to_qstring(control_.tool_tip()));
+            return widget().setToolTip(to_qstring(control().tool_tip()));
         case Aspect::focus:
-            return widget_.setFocus(Qt::OtherFocusReason);
+            return widget().setFocus(Qt::OtherFocusReason);
         default:
-            return;
+            return show(aspect);
     }
 }
 
+void WidgetBinder::show(Aspect) {}
+
 bool WidgetBinder::eventFilter(QObject* object, QEvent* event) {
     if (!is_bound_live()) return false;
-    // The loss of the focus is told by the gain elsewhere: a box or another window takes the focus from the
-    // widget, but not from the control.
-    if (event->type() == QEvent::FocusIn && object == &widget_) bound().form.move_focus(&control_);
+    // A control loses the focus when another control gets it, never by FocusOut: the user has not left a
+    // field because a box or another window is in front of it.
+    if (event->type() == QEvent::FocusIn && object == &widget()) bound().form.move_focus(&control());
     return is_bound_live() && filter(*object, *event);
 }
 
@@ -48,13 +50,13 @@ bool WidgetBinder::filter(QObject&, QEvent&) { return false; }
 
 void WidgetBinder::finish_text() { commit_composition(); }
 
-/// A screen reader has to call the widget something when no label in front of it does.
+/// A screen reader needs a name for a widget that has no label in front of it.
 void WidgetBinder::name_by_tool_tip() {
-    if (!widget_.accessibleName().isEmpty() || widget_.toolTip().isEmpty()) return;
+    if (!widget().accessibleName().isEmpty() || widget().toolTip().isEmpty()) return;
     for (const QLabel* label : bound().window.findChildren<QLabel*>()) {
-        if (label->buddy() == &widget_) return;
+        if (label->buddy() == &widget()) return;
     }
-    widget_.setAccessibleName(widget_.toolTip());
+    widget().setAccessibleName(widget().toolTip());
 }
 
 }  // namespace machine::qt

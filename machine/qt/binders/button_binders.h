@@ -12,8 +12,7 @@ namespace machine::qt {
 /// What all buttons have: a caption, and the focus by their key.
 class ButtonBinder : public WidgetBinder {
   public:
-    ButtonBinder(BoundForm& bound, platform::Control& control, QAbstractButton& button,
-                 const platform::Text& caption);
+    ButtonBinder(BoundForm& bound, platform::Control& control, QAbstractButton& button);
 
   protected:
     bool filter(QObject& object, QEvent& event) override;
@@ -21,42 +20,32 @@ class ButtonBinder : public WidgetBinder {
 
   private:
     void let_out_if_released();
-
-    QAbstractButton& button_;
+    QAbstractButton& button() const;
 };
 
-class CommandButtonBinder : public ButtonBinder {
+class CommandButtonBinder : public BinderOf<platform::CommandButton, QAbstractButton, ButtonBinder> {
   public:
     CommandButtonBinder(BoundForm& bound, platform::CommandButton& control, QAbstractButton& button);
 
-    void refresh(platform::Aspect aspect) override;
-
   private:
-    platform::CommandButton& control_;
+    void show(platform::Aspect aspect) override;
 };
 
-class CheckBoxBinder : public ButtonBinder {
+class CheckBoxBinder : public BinderOf<platform::CheckBox, QCheckBox, ButtonBinder> {
   public:
     CheckBoxBinder(BoundForm& bound, platform::CheckBox& control, QCheckBox& box);
 
-    void refresh(platform::Aspect aspect) override;
-
   private:
-    platform::CheckBox& control_;
-    QCheckBox& box_;
+    void show(platform::Aspect aspect) override;
 };
 
-class OptionButtonBinder : public ButtonBinder {
+class OptionButtonBinder : public BinderOf<platform::OptionButton, QRadioButton, ButtonBinder> {
   public:
     OptionButtonBinder(BoundForm& bound, platform::OptionButton& control, QRadioButton& button);
 
-    void refresh(platform::Aspect aspect) override;
-
   private:
+    void show(platform::Aspect aspect) override;
     bool filter(QObject& object, QEvent& event) override;
-
-    platform::OptionButton& control_;
-    QRadioButton& button_;
 };
 
 }  // namespace machine::qt

@@ -8,25 +8,22 @@ class QComboBox;
 
 namespace machine::qt {
 
-class ComboBoxBinder : public WidgetBinder, private EditedField {
+class ComboBoxBinder : public BinderOf<platform::ComboBox, QComboBox>, private EditedField {
   public:
     ComboBoxBinder(BoundForm& bound, platform::ComboBox& control, QComboBox& combo);
 
-    void refresh(platform::Aspect aspect) override;
-
   private:
+    void show(platform::Aspect aspect) override;
     bool filter(QObject& object, QEvent& event) override;
     QString widget_text() const override;
     void hand_over() override;
     void write_back() override;
     bool is_live() const override { return is_bound_live(); }
 
-    bool is_editable() const { return control_.style() == platform::ComboBox::Style::editable; }
+    bool is_editable() const { return control().style() == platform::ComboBox::Style::editable; }
     void show_rows();
     void choose(int index);
 
-    platform::ComboBox& control_;
-    QComboBox& combo_;
     UserEdits edits_{*this};
     bool working_ = false;
 };

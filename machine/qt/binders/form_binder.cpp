@@ -1,18 +1,16 @@
 #include "machine/qt/binders/form_binder.h"
 
+#include "machine/qt/binders/bar_binders.h"
 #include "machine/qt/binders/button_binders.h"
 #include "machine/qt/binders/combo_box_binder.h"
+#include "machine/qt/binders/date_picker_binder.h"
+#include "machine/qt/binders/display_binders.h"
 #include "machine/qt/binders/list_view_binder.h"
-#include "machine/qt/binders/menu_binder.h"
-#include "machine/qt/binders/plain_binders.h"
 #include "machine/qt/binders/sound_recorder_binder.h"
-#include "machine/qt/binders/status_bar_binder.h"
-#include "machine/qt/binders/tab_strip_binder.h"
 #include "machine/qt/binders/text_box_binder.h"
-#include "machine/qt/binders/tool_bar_binder.h"
 #include "machine/qt/binders/tree_view_binder.h"
 #include "machine/qt/binders/web_browser_binder.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/animation_player.h"
 #include "machine/qt/widgets/message_edit.h"
 #include "machine/qt/widgets/recorder_panel.h"
@@ -70,27 +68,27 @@ void FormBinder::release() {
     for (Binder* binder : binders_) binder->release();
 }
 
-void FormBinder::visit(Animation& control) { bind<AnimationBinder, AnimationPlayer>(control); }
-void FormBinder::visit(CheckBox& control) { bind<CheckBoxBinder, QCheckBox>(control); }
-void FormBinder::visit(ComboBox& control) { bind<ComboBoxBinder, QComboBox>(control); }
-void FormBinder::visit(CommandButton& control) { bind<CommandButtonBinder, QAbstractButton>(control); }
-void FormBinder::visit(DatePicker& control) { bind<DatePickerBinder, QDateEdit>(control); }
-void FormBinder::visit(Frame& control) { bind<FrameBinder, QWidget>(control); }
-void FormBinder::visit(Image& control) { bind<ImageBinder, QLabel>(control); }
-void FormBinder::visit(Label& control) { bind<LabelBinder, QLabel>(control); }
-void FormBinder::visit(ListView& control) { bind<ListViewBinder, QTreeView>(control); }
-void FormBinder::visit(OptionButton& control) { bind<OptionButtonBinder, QRadioButton>(control); }
-void FormBinder::visit(PictureBox& control) { bind<PictureBoxBinder, QFrame>(control); }
-void FormBinder::visit(ProgressBar& control) { bind<ProgressBarBinder, QProgressBar>(control); }
-void FormBinder::visit(SoundRecorder& control) { bind<SoundRecorderBinder, RecorderPanel>(control); }
-void FormBinder::visit(StatusBar& control) { bind<StatusBarBinder, QStatusBar>(control); }
-void FormBinder::visit(TabStrip& control) { bind<TabStripBinder, QTabBar>(control); }
-void FormBinder::visit(ToolBar& control) { bind<ToolBarBinder, QToolBar>(control); }
-void FormBinder::visit(TreeView& control) { bind<TreeViewBinder, QTreeView>(control); }
-void FormBinder::visit(WebBrowser& control) { bind<WebBrowserBinder, WebArea>(control); }
+void FormBinder::visit(Animation& control) { bind<AnimationBinder>(control); }
+void FormBinder::visit(CheckBox& control) { bind<CheckBoxBinder>(control); }
+void FormBinder::visit(ComboBox& control) { bind<ComboBoxBinder>(control); }
+void FormBinder::visit(CommandButton& control) { bind<CommandButtonBinder>(control); }
+void FormBinder::visit(DatePicker& control) { bind<DatePickerBinder>(control); }
+void FormBinder::visit(Frame& control) { bind<FrameBinder>(control); }
+void FormBinder::visit(Image& control) { bind<ImageBinder>(control); }
+void FormBinder::visit(Label& control) { bind<LabelBinder>(control); }
+void FormBinder::visit(ListView& control) { bind<ListViewBinder>(control); }
+void FormBinder::visit(OptionButton& control) { bind<OptionButtonBinder>(control); }
+void FormBinder::visit(PictureBox& control) { bind<PictureBoxBinder>(control); }
+void FormBinder::visit(ProgressBar& control) { bind<ProgressBarBinder>(control); }
+void FormBinder::visit(SoundRecorder& control) { bind<SoundRecorderBinder>(control); }
+void FormBinder::visit(StatusBar& control) { bind<StatusBarBinder>(control); }
+void FormBinder::visit(TabStrip& control) { bind<TabStripBinder>(control); }
+void FormBinder::visit(ToolBar& control) { bind<ToolBarBinder>(control); }
+void FormBinder::visit(TreeView& control) { bind<TreeViewBinder>(control); }
+void FormBinder::visit(WebBrowser& control) { bind<WebBrowserBinder>(control); }
 
 void FormBinder::visit(TextBox& control) {
-    if (!try_bind<MessageBinder, MessageEdit>(control)) bind<LineBinder, QLineEdit>(control);
+    if (!try_bind<MessageBinder>(control)) bind<LineBinder>(control);
 }
 
 void FormBinder::visit(Menu& control) {
@@ -98,8 +96,7 @@ void FormBinder::visit(Menu& control) {
     auto* action = find<QAction>(name);
     if (const auto* menu = find<QMenu>(name)) action = menu->menuAction();
     if (action == nullptr) return add_fault(control);
-    binders_.push_back(new MenuBinder(bound_, control, *action));
-    binders_.back()->setParent(&owner_);
+    add(new MenuBinder(bound_, control, *action));
 }
 
 template <class Kind>
@@ -110,18 +107,22 @@ Kind* FormBinder::find(const QString& name) const {
     return nullptr;
 }
 
-template <class BinderType, class Widget, class ControlType>
+template <class BinderType, class ControlType>
 bool FormBinder::try_bind(ControlType& control) {
-    auto* widget = find<Widget>(to_qstring(control.name()));
+    auto* widget = find<typename BinderType::Shown>(to_qstring(control.name()));
     if (widget == nullptr) return false;
-    binders_.push_back(new BinderType(bound_, control, *widget));
-    binders_.back()->setParent(&owner_);
+    add(new BinderType(bound_, control, *widget));
     return true;
 }
 
-template <class BinderType, class Widget, class ControlType>
+template <class BinderType, class ControlType>
 void FormBinder::bind(ControlType& control) {
-    if (!try_bind<BinderType, Widget>(control)) add_fault(control);
+    if (!try_bind<BinderType>(control)) add_fault(control);
+}
+
+void FormBinder::add(Binder* binder) {
+    binder->setParent(&owner_);
+    binders_.push_back(binder);
 }
 
 void FormBinder::add_fault(const Control& control) {

@@ -15,10 +15,10 @@ class FormBinder : private platform::ControlVisitor {
     /// The binders become children of the window's.
     FormBinder(BoundForm& bound, QObject& owner);
 
-    /// Parts with the form, which may be destroyed afterwards.
+    /// Parts with the form and its controls, which may be destroyed afterwards.
     void release();
 
-    /// Controls without a widget and widgets of a wrong kind: faults of the screen that a test looks for.
+    /// Controls without a widget or with one of a wrong kind, for a test of the screen.
     const std::vector<QString>& faults() const { return faults_; }
 
   private:
@@ -45,15 +45,16 @@ class FormBinder : private platform::ControlVisitor {
 
     template <class Kind>
     Kind* find(const QString& name) const;
-    template <class BinderType, class Widget, class ControlType>
+    template <class BinderType, class ControlType>
     bool try_bind(ControlType& control);
-    template <class BinderType, class Widget, class ControlType>
+    template <class BinderType, class ControlType>
     void bind(ControlType& control);
+    void add(Binder* binder);
     void add_fault(const platform::Control& control);
 
     BoundForm& bound_;
     QObject& owner_;
-    /// What the window holds, by name; while the controls are joined only.
+    /// What the window holds, by name; empty once the controls are joined.
     QMultiHash<QString, QObject*> named_;
     std::vector<Binder*> binders_;
     std::vector<QString> faults_;

@@ -1,7 +1,7 @@
 #include "machine/qt/binders/list_rows.h"
 
-#include "machine/qt/binders/icon_list.h"
-#include "machine/qt/typing/twips.h"
+#include "machine/qt/look/late_icon.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -12,19 +12,8 @@ namespace machine::qt {
 
 using platform::ListView;
 
-namespace {
-
-std::vector<QIcon> small_icons(const QTreeView& view) {
-    std::vector<QIcon> icons;
-    const auto count = view.property("smallIcons").toStringList().size();
-    for (int number = 1; number <= count; ++number) icons.push_back(icon_of_list(view, "smallIcons", number));
-    return icons;
-}
-
-}  // namespace
-
 ListRows::ListRows(ListView& list, QTreeView& view)
-    : list_(list), view_(view), model_(list, small_icons(view), this) {
+    : list_(list), view_(view), model_(list, pictures_of(view), this) {
     view.setModel(&model_);
     const QItemSelectionModel* selection = view.selectionModel();
     connect(selection, &QItemSelectionModel::selectionChanged, this, &ListRows::take_selection);
@@ -120,7 +109,7 @@ void ListRows::show_selection() {
     }
 }
 
-/// A view with rows but without a current one brings the toolkit down when a screen reader asks for it.
+/// Keeps a current row: Qt crashes when a screen reader asks for the current row of a view that has none.
 void ListRows::keep_current(int row) {
     if (last_row() < 0) return;
     const QScopedValueRollback<bool> showing(showing_, true);

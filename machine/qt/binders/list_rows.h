@@ -10,11 +10,11 @@ class QTreeView;
 
 namespace machine::qt {
 
-/// Keeps the rows, the selection and the current row of a list and of its view the same.
+/// Keeps rows, selection and current row of a list and its view the same.
 ///
 /// Handlers add, select and mark rows one by one, up to 100,000 of them. What the view does not need at once
-/// (which rows are new or look different, which are selected, where to scroll) is gathered and told once a
-/// turn of the event loop.
+/// (new and changed rows, the selection, where to scroll) is collected and passed to it once in each turn of
+/// the event loop.
 class ListRows : public QObject, public platform::RowsView {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ class ListRows : public QObject, public platform::RowsView {
 
     ListViewModel& model() { return model_; }
 
-    /// Tells the view what has gathered, before the user acts on it.
+    /// Passes on what has been collected; needed before the user acts on the view.
     void bring_up_to_date();
     void let_go();
 

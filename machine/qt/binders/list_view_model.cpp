@@ -1,7 +1,7 @@
 #include "machine/qt/binders/list_view_model.h"
 
 #include "machine/qt/look/late_icon.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 
 namespace machine::qt {
 
@@ -20,16 +20,16 @@ QVariant ListViewModel::data(const QModelIndex& index, int role) const {
     if (list_ == nullptr || !index.isValid()) return QVariant();
     const ListItem& row = list_->row(static_cast<std::size_t>(index.row()));
     if (role == Qt::DisplayRole) return to_qstring(row.sub_item(index.column()));
-    if (role == Qt::DecorationRole && index.column() == 0) return small_icon(row);
+    if (role == Qt::DecorationRole && index.column() == 0) return picture(row);
     if (role == Qt::CheckStateRole && index.column() == 0 && list_->check_boxes()) {
         return row.checked() ? Qt::Checked : Qt::Unchecked;
     }
     return QVariant();
 }
 
-QVariant ListViewModel::small_icon(const ListItem& row) const {
-    const auto number = static_cast<std::size_t>(row.small_icon());
-    return number == 0 || number > icons_.size() ? QVariant() : QVariant(icons_[number - 1]);
+QVariant ListViewModel::picture(const ListItem& row) const {
+    const QIcon picture = pictures_.value(row.small_icon() - 1);
+    return picture.isNull() ? QVariant() : QVariant(picture);
 }
 
 bool ListViewModel::setData(const QModelIndex& index, const QVariant& value, int role) {

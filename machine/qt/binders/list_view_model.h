@@ -4,24 +4,24 @@
 
 #include <QAbstractTableModel>
 #include <QIcon>
-#include <vector>
+#include <QList>
 
 namespace machine::qt {
 
-/// The rows of a list as the toolkit's views read them: in place, nothing is copied.
+/// The rows of a list for Qt's views, which read them in place: nothing is copied.
 class ListViewModel : public QAbstractTableModel {
     Q_OBJECT
 
   public:
-    /// Rows show the icons by their numbers, counted from 1.
-    ListViewModel(platform::ListView& list, std::vector<QIcon> icons, QObject* parent)
+    /// Rows show the pictures by their numbers, counted from 1.
+    ListViewModel(platform::ListView& list, QList<QIcon> pictures, QObject* parent)
         : QAbstractTableModel(parent),
           list_(&list),
-          icons_(std::move(icons)),
+          pictures_(std::move(pictures)),
           told_rows_(static_cast<int>(list.row_count())) {}
 
-    /// The list goes. Nobody is told, since it may go in the midst of the view's own work; the view is closed
-    /// anyway.
+    /// To be called before the list is destroyed. It notifies nobody: the view may be at work, and it is
+    /// closed soon anyway.
     void let_go() { list_ = nullptr; }
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -31,7 +31,7 @@ class ListViewModel : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    /// Tells the views all rows that have come since they were last told.
+    /// Tells the views about all rows added since the last call.
     void tell_added_rows();
     void begin_rearranging() { beginResetModel(); }
     void end_rearranging();
@@ -39,15 +39,15 @@ class ListViewModel : public QAbstractTableModel {
     void columns_changed();
 
   signals:
-    /// The user ticked the row's box or took the tick away.
+    /// The user changed the row's check box.
     void checked_by_user(std::size_t row, bool checked);
 
   private:
     int rows_of_list() const { return static_cast<int>(list_->row_count()); }
-    QVariant small_icon(const platform::ListItem& row) const;
+    QVariant picture(const platform::ListItem& row) const;
 
     platform::ListView* list_;
-    std::vector<QIcon> icons_;
+    QList<QIcon> pictures_;
     int told_rows_;
 };
 

@@ -1,7 +1,7 @@
 #include "machine/qt/binders/screen_faults.h"
 
 #include "machine/qt/binders/form_binder.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/message_edit.h"
 
 #include <QAbstractButton>
@@ -29,7 +29,7 @@ bool has_control(const Form& form, const QString& name) {
                        [&](const Control* control) { return to_qstring(control->name()) == name; });
 }
 
-/// Whether its children are the screen's; what is in other widgets is made by the toolkit and the binders.
+/// Whether the widget's children are the screen's; those of other widgets are made by Qt and the binders.
 bool holds_controls(const QWidget& widget) {
     const QString kind = QString::fromLatin1(widget.metaObject()->className());
     static const QStringList CONTAINERS{"QWidget", "QFrame",   "QGroupBox",   "QMainWindow",

@@ -9,9 +9,9 @@
 
 namespace machine::qt {
 
-/// What is wrong between a form and its screen: controls without a widget or with one of a wrong kind, named
-/// widgets and actions without a control, and widgets to work with that a screen reader has no name for. A
-/// name of the screen's own begins with "_".
+/// The faults between a form and its screen: controls without a widget or with one of a wrong kind, widgets
+/// and actions without a control, and widgets without a name for a screen reader. Names that begin with "_"
+/// are the screen's own.
 std::vector<QString> screen_faults(platform::Form& form, QWidget& window, platform::Files& files);
 
 }  // namespace machine::qt

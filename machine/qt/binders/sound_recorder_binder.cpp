@@ -12,30 +12,29 @@ using platform::Aspect;
 using platform::SoundRecorder;
 
 SoundRecorderBinder::SoundRecorderBinder(BoundForm& bound, SoundRecorder& control, RecorderPanel& panel)
-    : WidgetBinder(bound, control, panel), control_(control), panel_(panel) {
-    connect_button(panel.record_button(), [this] { control_.record(); });
-    connect_button(panel.stop_button(), [this] { control_.stop(); });
-    connect_button(panel.play_button(), [this] { control_.play(); });
+    : BinderOf(bound, control, panel) {
+    connect_button(panel.record_button(), [this] { this->control().record(); });
+    connect_button(panel.stop_button(), [this] { this->control().stop(); });
+    connect_button(panel.play_button(), [this] { this->control().play(); });
     panel.show_recorder(control);
 }
 
-void SoundRecorderBinder::refresh(Aspect aspect) {
-    if (aspect == Aspect::value || aspect == Aspect::text) return panel_.show_recorder(control_);
-    WidgetBinder::refresh(aspect);
+void SoundRecorderBinder::show(Aspect aspect) {
+    if (aspect == Aspect::value || aspect == Aspect::text) widget().show_recorder(control());
 }
 
 bool SoundRecorderBinder::filter(QObject& object, QEvent& event) {
     switch (event.type()) {
         case QEvent::Show:
-            seen_ = seen_ && &object != &panel_;
+            seen_ = seen_ && &object != &widget();
             return false;
         case QEvent::Paint:
-            // What sound needs takes a moment to load: once the user sees the panel, and after that.
-            if (&object == &panel_ && !std::exchange(seen_, true))
+            // The sound libraries take a moment to load, so only when the panel has been painted.
+            if (&object == &widget() && !std::exchange(seen_, true))
                 QMetaObject::invokeMethod(this, &SoundRecorderBinder::open, Qt::QueuedConnection);
             return false;
         case QEvent::FocusIn:
-            bound().form.move_focus(&control_);
+            bound().form.move_focus(&control());
             return false;
         case QEvent::Shortcut:
             static_cast<QWidget&>(object).setFocus(Qt::ShortcutFocusReason);
@@ -46,7 +45,7 @@ bool SoundRecorderBinder::filter(QObject& object, QEvent& event) {
 }
 
 void SoundRecorderBinder::open() {
-    if (is_bound_live()) control_.open();
+    if (is_bound_live()) control().open();
 }
 
 void SoundRecorderBinder::connect_button(QAbstractButton& button, std::function<void()> press) {

@@ -11,18 +11,16 @@ namespace machine::qt {
 
 class RecorderPanel;
 
-class SoundRecorderBinder : public WidgetBinder {
+class SoundRecorderBinder : public BinderOf<platform::SoundRecorder, RecorderPanel> {
   public:
     SoundRecorderBinder(BoundForm& bound, platform::SoundRecorder& control, RecorderPanel& panel);
-    void refresh(platform::Aspect aspect) override;
 
   private:
+    void show(platform::Aspect aspect) override;
     bool filter(QObject& object, QEvent& event) override;
     void open();
     void connect_button(QAbstractButton& button, std::function<void()> press);
 
-    platform::SoundRecorder& control_;
-    RecorderPanel& panel_;
     bool seen_ = false;
 };
 

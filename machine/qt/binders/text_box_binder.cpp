@@ -1,8 +1,8 @@
 #include "machine/qt/binders/text_box_binder.h"
 
 #include "machine/qt/typing/composition.h"
+#include "machine/qt/typing/conversion.h"
 #include "machine/qt/typing/field_events.h"
-#include "machine/qt/typing/text_conversion.h"
 #include "machine/qt/widgets/message_edit.h"
 
 #include <QLineEdit>
@@ -16,34 +16,32 @@ using platform::Text;
 using platform::TextBox;
 
 TextBoxBinder::TextBoxBinder(BoundForm& bound, TextBox& control, QWidget& widget)
-    : WidgetBinder(bound, control, widget), control_(control), widget_(widget) {
+    : BinderOf(bound, control, widget) {
     if (control.text_colour()) show_colour();
 }
 
-void TextBoxBinder::refresh(Aspect aspect) {
+void TextBoxBinder::show(Aspect aspect) {
     if (aspect == Aspect::text) {
         write_back();
     } else if (aspect == Aspect::selection) {
         select_as_model();
     } else if (aspect == Aspect::colour) {
         show_colour();
-    } else {
-        WidgetBinder::refresh(aspect);
     }
 }
 
 void TextBoxBinder::show_colour() {
     QPalette palette;
-    if (const auto colour = control_.text_colour())
+    if (const auto colour = control().text_colour())
         palette.setColor(QPalette::Text, QColor::fromRgb(QRgb(*colour)));
-    widget_.setPalette(palette);
+    widget().setPalette(palette);
 }
 
 void TextBoxBinder::press_key(KeyPressed& key) {
-    // A key that an input method lets go while a box of the field's handlers is open would open another one.
-    // Its text waits as any edit does.
+    // An input method may pass on a key while the field's handlers have a box open, which would open a second
+    // one. The text of that key waits as every edit does.
     if (!is_live() || edits_.running()) return;
-    edits_.run([&] { control_.KeyPress.raise(key); });
+    edits_.run([&] { control().KeyPress.raise(key); });
     edits_.settle();
     if (!is_live()) key.swallow();
 }
@@ -53,21 +51,21 @@ void TextBoxBinder::edited() {
     edits_.settle();
     if (!is_live() || edits_.waiting()) return;
     const Selection now = selection();
-    const std::size_t start = program_position(control_.text(), now.start);
-    control_.user_selection(start, program_position(control_.text(), now.end) - start);
+    const std::size_t start = program_position(control().text(), now.start);
+    control().user_selection(start, program_position(control().text(), now.end) - start);
 }
 
 void TextBoxBinder::hand_over() {
     Text text = program_text(widget_text());
     const std::size_t caret = program_position(text, selection().caret);
-    control_.user_edit(std::move(text), caret);
+    control().user_edit(std::move(text), caret);
 }
 
 void TextBoxBinder::write_back() {
-    const QString text = shown_text(control_.text());
+    const QString text = shown_text(control().text());
     if (text != widget_text()) {
-        // A syllable that is begun at a place which is gone would be put into the new text, or in twice.
-        drop_composition(widget_);
+        // The input method would put its unfinished syllable into the new text, or put it in twice.
+        drop_composition(widget());
         const QScopedValueRollback<bool> writing(writing_, true);
         write(text);
     }
@@ -77,47 +75,46 @@ void TextBoxBinder::write_back() {
 
 void TextBoxBinder::select_as_model() {
     const QScopedValueRollback<bool> writing(writing_, true);
-    const Text& text = control_.text();
-    const std::size_t start = control_.selection_start();
-    const std::size_t end = start + control_.selection_length();
+    const Text& text = control().text();
+    const std::size_t start = control().selection_start();
+    const std::size_t end = start + control().selection_length();
     if (!edits_.waiting()) {
         select(shown_position(text, start), shown_position(text, end));
     } else if (start == text.size()) {
-        // Behind the end is also behind what the user has added meanwhile.
+        // The end is also the end of what the user has added meanwhile.
         const int behind = static_cast<int>(widget_text().size());
         select(behind, behind);
     }
 }
 
 MessageBinder::MessageBinder(BoundForm& bound, TextBox& control, MessageEdit& edit)
-    : TextBoxBinder(bound, control, edit), edit_(edit) {
+    : BinderOf(bound, control, edit) {
     write_back();
     connect(&edit, &MessageEdit::key_pressed, this, [this](KeyPressed& key) { press_key(key); });
     connect(&edit, &MessageEdit::edited, this, [this] { edited(); });
 }
 
-QString MessageBinder::widget_text() const { return edit_.committed_text(); }
+QString MessageBinder::widget_text() const { return widget().committed_text(); }
 
-void MessageBinder::write(const QString& text) { edit_.write(text); }
+void MessageBinder::write(const QString& text) { widget().write(text); }
 
 void MessageBinder::select(int start, int end) {
-    QTextCursor cursor = edit_.textCursor();
+    QTextCursor cursor = widget().textCursor();
     if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
     cursor.setPosition(start);
     cursor.setPosition(end, QTextCursor::KeepAnchor);
-    edit_.setTextCursor(cursor);
+    widget().setTextCursor(cursor);
 }
 
 TextBoxBinder::Selection MessageBinder::selection() const {
-    const QTextCursor cursor = edit_.textCursor();
+    const QTextCursor cursor = widget().textCursor();
     return {cursor.selectionStart(), cursor.selectionEnd(), cursor.position()};
 }
 
-LineBinder::LineBinder(BoundForm& bound, TextBox& control, QLineEdit& edit)
-    : TextBoxBinder(bound, control, edit), edit_(edit) {
+LineBinder::LineBinder(BoundForm& bound, TextBox& control, QLineEdit& edit) : BinderOf(bound, control, edit) {
     write_back();
-    // Its own signals come in the midst of its work; they are waited out here, and those of menus are taken
-    // later.
+    // The field signals in the middle of its own work. What keys change is read when that work is over
+    // (filter); what a menu changes is read in the next turn of the event loop.
     const auto tell_later = [this] {
         if (!working_) QMetaObject::invokeMethod(this, &LineBinder::join_lines, Qt::QueuedConnection);
     };
@@ -128,42 +125,42 @@ LineBinder::LineBinder(BoundForm& bound, TextBox& control, QLineEdit& edit)
 
 bool LineBinder::filter(QObject&, QEvent& event) {
     return filter_field_event(
-        edit_, event, [this](KeyPressed& key) { press_key(key); },
+        widget(), event, [this](KeyPressed& key) { press_key(key); },
         [this](bool begins) {
             working_ = begins;
             if (!begins) join_lines();
         });
 }
 
-/// A paste may bring line ends, which have no place in one line.
+/// A paste may contain line ends, which do not belong in one line.
 void LineBinder::join_lines() {
     const auto one_line = [](const QString& text) { return to_lines(text).remove(u'\n'); };
-    if (const QString text = edit_.text(); has_edit() && text != one_line(text)) {
-        const auto caret = one_line(text.left(edit_.cursorPosition())).size();
+    if (const QString text = widget().text(); has_edit() && text != one_line(text)) {
+        const auto caret = one_line(text.left(widget().cursorPosition())).size();
         const QScopedValueRollback<bool> working(working_, true);
-        edit_.setText(one_line(text));
-        edit_.setCursorPosition(static_cast<int>(caret));
+        widget().setText(one_line(text));
+        widget().setCursorPosition(static_cast<int>(caret));
     }
     edited();
 }
 
-QString LineBinder::widget_text() const { return edit_.text(); }
+QString LineBinder::widget_text() const { return widget().text(); }
 
-void LineBinder::write(const QString& text) { edit_.setText(text); }
+void LineBinder::write(const QString& text) { widget().setText(text); }
 
 void LineBinder::select(int start, int end) {
     if (start == end) {
-        edit_.deselect();
-        edit_.setCursorPosition(start);
+        widget().deselect();
+        widget().setCursorPosition(start);
     } else {
-        edit_.setSelection(start, end - start);
+        widget().setSelection(start, end - start);
     }
 }
 
 TextBoxBinder::Selection LineBinder::selection() const {
-    const int caret = edit_.cursorPosition();
-    if (!edit_.hasSelectedText()) return {caret, caret, caret};
-    return {edit_.selectionStart(), edit_.selectionEnd(), caret};
+    const int caret = widget().cursorPosition();
+    if (!widget().hasSelectedText()) return {caret, caret, caret};
+    return {widget().selectionStart(), widget().selectionEnd(), caret};
 }
 
 }  // namespace machine::qt

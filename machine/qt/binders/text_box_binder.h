@@ -10,12 +10,10 @@ namespace machine::qt {
 
 class MessageEdit;
 
-/// Joins a text box with its field: texts, the caret and keys, each way.
-class TextBoxBinder : public WidgetBinder, protected EditedField {
+/// Joins a text box with its field: text, caret and keys in both directions.
+class TextBoxBinder : public BinderOf<platform::TextBox, QWidget>, protected EditedField {
   public:
     TextBoxBinder(BoundForm& bound, platform::TextBox& control, QWidget& widget);
-
-    void refresh(platform::Aspect aspect) override;
 
   protected:
     struct Selection {
@@ -28,10 +26,10 @@ class TextBoxBinder : public WidgetBinder, protected EditedField {
     virtual Selection selection() const = 0;
 
     void press_key(platform::KeyPressed& key);
-    /// The widget is done with an edit or a move of the caret.
+    /// To be called after an edit or a move of the caret in the widget.
     void edited();
 
-    /// Whether the user has changed the text since it was handed over.
+    /// Whether the widget has an edit that the model does not have yet.
     bool has_edit() const { return edits_.waiting(); }
 
     void hand_over() final;
@@ -39,17 +37,16 @@ class TextBoxBinder : public WidgetBinder, protected EditedField {
     bool is_live() const final { return is_bound_live(); }
 
   private:
+    void show(platform::Aspect aspect) final;
     void select_as_model();
     void show_colour();
 
-    platform::TextBox& control_;
-    QWidget& widget_;
     UserEdits edits_{*this};
     bool writing_ = false;
 };
 
 /// A text box of several lines.
-class MessageBinder : public TextBoxBinder {
+class MessageBinder : public BinderOf<platform::TextBox, MessageEdit, TextBoxBinder> {
   public:
     MessageBinder(BoundForm& bound, platform::TextBox& control, MessageEdit& edit);
 
@@ -58,12 +55,10 @@ class MessageBinder : public TextBoxBinder {
     void write(const QString& text) override;
     void select(int start, int end) override;
     Selection selection() const override;
-
-    MessageEdit& edit_;
 };
 
 /// A text box of one line.
-class LineBinder : public TextBoxBinder {
+class LineBinder : public BinderOf<platform::TextBox, QLineEdit, TextBoxBinder> {
   public:
     LineBinder(BoundForm& bound, platform::TextBox& control, QLineEdit& edit);
 
@@ -75,7 +70,6 @@ class LineBinder : public TextBoxBinder {
     Selection selection() const override;
     void join_lines();
 
-    QLineEdit& edit_;
     bool working_ = false;
 };
 

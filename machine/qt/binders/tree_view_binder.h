@@ -1,15 +1,15 @@
 #pragma once
 
-#include "machine/qt/binders/binder.h"
+#include "machine/qt/binders/item_view_binder.h"
 #include "machine/qt/binders/tree_view_model.h"
 
-class QContextMenuEvent;
 class QTreeView;
 
 namespace machine::qt {
 
-/// Joins a tree with its view; the screen's list `pictures` has the names of the nodes' pictures.
-class TreeViewBinder : public WidgetBinder, private platform::NodesView {
+/// Joins a tree with its view. The screen's list `pictures` names the nodes' pictures.
+class TreeViewBinder : public BinderOf<platform::TreeView, QTreeView, ItemViewBinder>,
+                       private platform::NodesView {
   public:
     TreeViewBinder(BoundForm& bound, platform::TreeView& control, QTreeView& view);
 
@@ -25,18 +25,15 @@ class TreeViewBinder : public WidgetBinder, private platform::NodesView {
 
     bool filter(QObject& object, QEvent& event) override;
     bool press_mouse(QEvent& event);
-    void open_menu(const QContextMenuEvent& event);
     void choose(const QModelIndex& index);
     void click(const QModelIndex& index);
     void expand(const QModelIndex& index, bool expanded);
     void keep_current();
 
-    platform::TreeView& control_;
-    QTreeView& view_;
     TreeViewModel model_;
-    /// The view turns to a node by itself.
+    /// The binder itself moves the view to a node.
     bool showing_ = false;
-    /// The click that is under way has chosen its node already, as the button went down.
+    /// The press of the present click has chosen the node already.
     bool chosen_by_press_ = false;
 };
 

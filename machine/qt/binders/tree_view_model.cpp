@@ -1,6 +1,6 @@
 #include "machine/qt/binders/tree_view_model.h"
 
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 
 namespace machine::qt {
 

@@ -8,21 +8,21 @@
 
 namespace machine::qt {
 
-/// The nodes of a tree as the toolkit's views read them: in place, nothing is copied.
+/// The nodes of a tree for Qt's views, which read them in place: nothing is copied.
 class TreeViewModel : public QAbstractItemModel {
     Q_OBJECT
 
   public:
-    /// The pictures of the nodes, the first for number 1.
+    /// Nodes show the pictures by their numbers, counted from 1.
     TreeViewModel(platform::TreeView& tree, QList<QIcon> pictures, QObject* parent)
         : QAbstractItemModel(parent), tree_(&tree), pictures_(std::move(pictures)) {}
 
-    /// The tree goes. Nobody is told, since it may go in the midst of the view's own work; the view is closed
-    /// anyway.
+    /// To be called before the tree is destroyed. It notifies nobody: the view may be at work, and it is
+    /// closed soon anyway.
     void let_go() { tree_ = nullptr; }
 
     QModelIndex index_of(const platform::TreeNode* node) const;
-    /// The node, which the view may show and the user act on; none for an invalid index.
+    /// The node of the index; null for an invalid one.
     platform::TreeNode* node_at(const QModelIndex& index) const;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;

@@ -1,6 +1,6 @@
 #include "machine/qt/binders/web_browser_binder.h"
 
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/web_area.h"
 #include "platform/error.h"
 
@@ -13,29 +13,28 @@ using platform::PageFile;
 using platform::WebBrowser;
 
 WebBrowserBinder::WebBrowserBinder(BoundForm& bound, WebBrowser& control, WebArea& area)
-    : WidgetBinder(bound, control, area), control_(control), area_(area) {
+    : BinderOf(bound, control, area) {
     area.set_files({.largest = WebBrowser::LARGEST_FILE,
                     .place = [this](const QString& name) { return place(name); },
                     .received =
                         [this](qint64 bytes, qint64 size) {
-                            if (is_bound_live()) control_.FileReceived.raise(bytes, size);
+                            if (is_bound_live()) this->control().FileReceived.raise(bytes, size);
                         },
                     .ended =
                         [this](FileEnd end) {
-                            if (is_bound_live()) control_.FileEnded.raise(end);
+                            if (is_bound_live()) this->control().FileEnded.raise(end);
                         }});
     if (!control.navigation().address.empty()) navigate();
 }
 
-void WebBrowserBinder::refresh(Aspect aspect) {
-    if (aspect == Aspect::value) return navigate();
-    WidgetBinder::refresh(aspect);
+void WebBrowserBinder::show(Aspect aspect) {
+    if (aspect == Aspect::value) navigate();
 }
 
 QString WebBrowserBinder::place(const QString& name) {
     if (!is_bound_live()) return {};
     PageFile file{.name = to_text(name), .path = {}};
-    control_.FileOffered.raise(file);
+    control().FileOffered.raise(file);
     QString path;
     if (!file.path.empty()) {
         platform::ignore_errors(
@@ -45,10 +44,10 @@ QString WebBrowserBinder::place(const QString& name) {
 }
 
 void WebBrowserBinder::navigate() {
-    const Navigation& to = control_.navigation();
-    area_.show_page({.address = to_qstring(to.address).trimmed(),
-                     .body = QByteArray::fromStdString(to.body),
-                     .header = to_qstring(to.header).toLatin1()});
+    const Navigation& to = control().navigation();
+    widget().show_page({.address = to_qstring(to.address).trimmed(),
+                        .body = QByteArray::fromStdString(to.body),
+                        .header = to_qstring(to.header).toLatin1()});
 }
 
 }  // namespace machine::qt

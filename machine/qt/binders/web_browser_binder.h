@@ -7,17 +7,14 @@ namespace machine::qt {
 
 class WebArea;
 
-class WebBrowserBinder : public WidgetBinder {
+class WebBrowserBinder : public BinderOf<platform::WebBrowser, WebArea> {
   public:
     WebBrowserBinder(BoundForm& bound, platform::WebBrowser& control, WebArea& area);
-    void refresh(platform::Aspect aspect) override;
 
   private:
+    void show(platform::Aspect aspect) override;
     void navigate();
     QString place(const QString& name);
-
-    platform::WebBrowser& control_;
-    WebArea& area_;
 };
 
 }  // namespace machine::qt

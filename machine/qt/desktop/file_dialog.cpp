@@ -1,6 +1,6 @@
 #include "machine/qt/desktop/file_dialog.h"
 
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -30,14 +30,14 @@ std::vector<NameFilter> filters_of(const Text& filter) {
     return filters;
 }
 
-/// As the toolkit takes it: the patterns in brackets behind the name, and "*" where every file is meant.
+/// The filter in Qt's form: the name with the patterns in brackets, and "*" for all files.
 QString toolkit_filter(const NameFilter& filter) {
     QStringList patterns = filter.patterns;
     patterns.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
     return filter.name + QStringLiteral(" (") + patterns.join(u' ') + u')';
 }
 
-/// What a name without an ending gets, from a pattern such as "*.wav"; empty where any ending will do.
+/// The ending that a name without one gets, from a pattern such as "*.wav"; empty when any will do.
 QString suffix_of(const QString& pattern) {
     const QString suffix = pattern.section(u'.', -1);
     return pattern.contains(u'.') && !suffix.contains(u'*') ? suffix : QString();
@@ -48,7 +48,7 @@ QString first_folder() {
     return QDir(documents).exists() ? documents : QDir::homePath();
 }
 
-/// Room for the places and for long names; the kind of a file is told by its name.
+/// Makes room for the places and for long names. The column of kinds is hidden: a file's name shows its kind.
 void arrange(QFileDialog& dialog) {
     constexpr int SIZE_COLUMN = 1;
     constexpr int KIND_COLUMN = 2;
@@ -69,7 +69,7 @@ void arrange(QFileDialog& dialog) {
 }  // namespace
 
 std::optional<Text> FileDialog::ask(const FileQuestion& question, QWidget* parent) {
-    // The toolkit's own dialog on every desktop: its words are Korean, and it gives real paths.
+    // Qt's own dialog on every desktop: its words are Korean and it returns real paths.
     QFileDialog dialog(parent, to_qstring(question.title));
     dialog.setObjectName(QStringLiteral("fileDialog"));
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails |

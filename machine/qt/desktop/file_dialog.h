@@ -10,7 +10,8 @@ class QWidget;
 
 namespace machine::qt {
 
-/// The dialog for a file's path. It opens where the user was last, at first in the documents' folder.
+/// The dialog for a file's path. It opens in the folder of the last choice, at first in the documents'
+/// folder.
 class FileDialog {
   public:
     /// The files have to outlive the dialog.

@@ -1,7 +1,6 @@
 #include "machine/qt/desktop/form_window.h"
 
-#include "machine/qt/typing/text_conversion.h"
-#include "machine/qt/typing/twips.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -41,7 +40,7 @@ FormWindow::FormWindow(Form& form, QWidget& window, Files& files)
       window_(window),
       bound_{form, window, files, std::nullopt},
       binder_(bound_, *this) {
-    // The main window would offer a menu of its own to hide the tool bar.
+    // Qt would offer a menu that hides the tool bar.
     window.setContextMenuPolicy(Qt::NoContextMenu);
     caption_changed();
     minimum_size_changed();
@@ -65,7 +64,7 @@ void FormWindow::show() {
 }
 
 void FormWindow::show_in_front_of(QWidget* parent) {
-    // A window that gets a parent forgets which of its widgets is to have the focus.
+    // A new parent makes the window forget which of its widgets has the focus.
     QWidget* focus = window_.focusWidget();
     window_.setParent(parent, window_.windowFlags() | Qt::Dialog);
     window_.setWindowModality(Qt::ApplicationModal);
@@ -85,7 +84,7 @@ void FormWindow::caption_changed() { window_.setWindowTitle(to_qstring(form_.cap
 
 void FormWindow::placement_changed() {
     const QScopedValueRollback<bool> placing(placing_, true);
-    // A form that only changes its state leaves its place to the desktop.
+    // When only the state changes, the desktop keeps the place.
     if (const Placement& place = form_.placement(); place != placed_) {
         window_.resize(to_pixels(place.width), to_pixels(place.height));
         window_.move(to_pixels(place.left), to_pixels(place.top));
@@ -111,7 +110,7 @@ bool FormWindow::eventFilter(QObject*, QEvent* event) {
         case QEvent::KeyPress:
             return press_key(static_cast<const QKeyEvent&>(*event));
         case QEvent::Close:
-            // The form decides; when it unloads itself the window goes by that.
+            // The form decides whether to close: when it unloads itself, that closes the window.
             event->ignore();
             form_.close_requested();
             return true;
@@ -140,8 +139,8 @@ void FormWindow::activate() {
     form_.window_activated();
 }
 
-/// A desktop may activate a new window late or never; the form's first work must not wait for that, nor be
-/// done twice.
+/// A desktop may activate a new window late or never. The form's first work must not wait for that and must
+/// not be done twice.
 void FormWindow::activate_if_late() {
     if (activated_ || !bound_.live) return;
     activate();

@@ -8,8 +8,8 @@ class QKeyEvent;
 
 namespace machine::qt {
 
-/// The window of a form, whatever its kind: it shows the form's caption and place and tells the form what
-/// becomes of them. It belongs to its window and goes with it.
+/// The window of a form: shows the form's caption and placement and reports the user's changes of them. It is
+/// destroyed with its window.
 class FormWindow : public QObject, public platform::FormView {
     Q_OBJECT
 
@@ -20,14 +20,14 @@ class FormWindow : public QObject, public platform::FormView {
     QWidget& window() { return window_; }
     const std::optional<QPoint>& popup_point() const { return bound_.popup_point; }
 
-    /// Shows the window, or brings it before the others when it is shown already, and activates the form,
-    /// whether or not the desktop gives the window the focus yet.
+    /// Shows the window, or brings it to the front, and activates the form, even if the desktop does not give
+    /// the window the focus yet.
     void show();
-    /// Shows it as a modal one that stays in front of another.
+    /// Shows the window as a modal one in front of another.
     void show_in_front_of(QWidget* parent);
 
-    /// Parts with the form, which may be destroyed afterwards, and takes the window away as soon as nothing
-    /// of it is running any more.
+    /// Parts with the form, which may be destroyed afterwards. The window is hidden at once and deleted when
+    /// none of its code is running any more.
     void close();
 
     void caption_changed() override;

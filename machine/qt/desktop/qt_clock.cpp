@@ -1,6 +1,6 @@
 #include "machine/qt/desktop/qt_clock.h"
 
-#include "machine/qt/desktop/keep_painted.h"
+#include "machine/qt/desktop/long_work.h"
 
 #include <QDateTime>
 #include <QEventLoop>
@@ -17,7 +17,7 @@ namespace {
 class QtTicker : public Ticker {
   public:
     QtTicker(int milliseconds, std::function<void()> tick) {
-        // The slot keeps what it runs: the tick may end its own ticker.
+        // The slot shares the tick's data: the tick may destroy its own ticker.
         auto kept = std::make_shared<Tick>(Tick{std::move(tick), false});
         QObject::connect(&timer_, &QTimer::timeout, &timer_, [kept] { run(*kept); });
         timer_.start(milliseconds);
@@ -29,7 +29,7 @@ class QtTicker : public Ticker {
         bool running;
     };
 
-    /// The tick may open a box under which the timer goes on.
+    /// Does nothing while the tick runs: it may open a box, and the timer goes on meanwhile.
     static void run(Tick& tick) {
         if (tick.running || is_keeping_painted()) return;
         const QScopedValueRollback<bool> running(tick.running, true);
@@ -49,7 +49,7 @@ LocalTime QtClock::now() {
 double QtClock::timer() {
     constexpr std::int64_t A_DAY = 24LL * 60 * 60 * 1000;
     const std::int64_t now = QDateTime::currentMSecsSinceEpoch();
-    // The time zone takes longer to ask for than all else that is done with the time.
+    // Asking for the time zone is slow, so it is done once a second.
     if (const std::int64_t second = now / 1000; second != zone_asked_at_) {
         zone_asked_at_ = second;
         zone_ = QDateTime::currentDateTime().offsetFromUtc() * 1000LL;

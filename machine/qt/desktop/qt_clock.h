@@ -15,7 +15,7 @@ class QtClock : public platform::Clock {
     std::unique_ptr<platform::Ticker> every(int milliseconds, std::function<void()> tick) override;
 
   private:
-    /// Milliseconds that the clock on the wall is ahead, and in which second that was so.
+    /// The local time's offset in milliseconds, and the second in which it was read.
     std::int64_t zone_ = 0;
     std::int64_t zone_asked_at_ = -1;
 };

@@ -1,13 +1,10 @@
 #include "machine/qt/desktop/qt_desktop.h"
 
+#include "machine/qt/desktop/boxes.h"
 #include "machine/qt/desktop/form_window.h"
-#include "machine/qt/desktop/input_box.h"
-#include "machine/qt/desktop/input_watch.h"
-#include "machine/qt/desktop/keep_painted.h"
-#include "machine/qt/desktop/message_box.h"
+#include "machine/qt/desktop/long_work.h"
 #include "machine/qt/typing/composition.h"
-#include "machine/qt/typing/text_conversion.h"
-#include "machine/qt/typing/twips.h"
+#include "machine/qt/typing/conversion.h"
 #include "platform/controls/bars.h"
 
 #include <QApplication>
@@ -17,7 +14,7 @@
 #include <QScreen>
 #include <QTimer>
 
-/// The pictures lie in a static library, from which the linker takes only what is asked for.
+/// Makes the linker keep the pictures, which are in a static library.
 static void load_pictures() { Q_INIT_RESOURCE(resource); }
 
 namespace machine::qt {
@@ -37,9 +34,9 @@ using platform::Text;
 
 namespace {
 
-/// Desktops differ in whether they give the window before a closed one the focus again, and when two windows
-/// close right behind each other some give it to neither, even when asked. So it is asked for unless the user
-/// has another window of ours before him, and once more when nothing has come of it.
+/// Asks for the focus of the window behind a closed one: not every desktop gives it back, and some lose it
+/// when two windows close one after the other, even when asked. So it asks again later if no window is
+/// active. It does not ask when another window of ours is active.
 void give_back_focus(QWidget* window) {
     constexpr int LATE = 200;
     if (window == nullptr) return;
@@ -66,7 +63,7 @@ QtDesktop::~QtDesktop() {
 
 void QtDesktop::run_until_closed(const Form& form) {
     wait_for_close(form);
-    // Nothing that is closed is running any more.
+    // No code of a closed window is running any more, so it can be deleted.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
@@ -136,7 +133,7 @@ Text QtDesktop::input_box(const InputBox& box) {
     return answer;
 }
 
-/// The hourglass is a state, not a count: nobody has to give back each one that was set.
+/// The hourglass is a state, not a count: setting it twice needs one reset only.
 void QtDesktop::set_pointer(Pointer pointer) {
     const bool hourglass = pointer == Pointer::hourglass;
     if (hourglass == hourglass_) return;
@@ -173,8 +170,8 @@ FormWindow* QtDesktop::window_of(const Form& form) const {
     return found == windows_.end() ? nullptr : found->second.data();
 }
 
-/// The window that boxes and modal forms stay in front of. A window that has just been closed may still count
-/// as the active one; what it took as its child would go with it.
+/// The window in front of which boxes and modal forms open. Not one that has just been closed, even if it
+/// still counts as active: its children would be destroyed with it.
 QWidget* QtDesktop::front_window() const {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     if (QWidget* active = QApplication::activeWindow(); active != nullptr && active->isVisible())
@@ -187,7 +184,7 @@ QWidget* QtDesktop::front_window() const {
 
 void QtDesktop::wait_for_close(const Form& form) const {
     const FormWindow* window = window_of(form);
-    // Its own activation may have closed it.
+    // The form may have closed itself when it was activated.
     if (window == nullptr) return;
     QEventLoop loop;
     QObject::connect(window, &FormWindow::closed, &loop, &QEventLoop::quit);

@@ -14,7 +14,7 @@ namespace machine::qt {
 
 class FormWindow;
 
-/// The desktop by Qt: a window for each form, made when the form is loaded.
+/// The desktop with Qt: each form has a window, made when the form is loaded.
 class QtDesktop : public platform::Desktop {
   public:
     /// Both have to outlive the desktop.

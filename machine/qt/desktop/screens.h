@@ -9,10 +9,10 @@
 
 namespace machine::qt {
 
-/// The screen of each form: what builds its window with its widgets, compiled from the form's Designer file.
+/// Builds each form's window with its widgets from its compiled Designer file.
 class Screens {
   public:
-    /// Enters a screen: `Ui` is the compiled Designer file, `Window` the class of its root widget.
+    /// Adds a screen: `Ui` is the compiled Designer file, `Window` the class of its root widget.
     template <class Ui, class Window>
     void add(platform::TextView form) {
         builders_[platform::Text(form)] = [] {
@@ -22,8 +22,8 @@ class Screens {
         };
     }
 
-    /// A new window for the form, not shown yet. A form without a screen is a fault of the program:
-    /// std::logic_error.
+    /// A new window for the form, not shown yet. Throws std::logic_error for a form without a screen, which
+    /// is a mistake in the program.
     std::unique_ptr<QWidget> build(const platform::Text& form) const;
 
   private:

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int ROW_AIR = 6;
 
-/// Half way between the text and what it stands on, whichever of them is the dark one.
+/// Half way between the colours of text and background, for light and dark desktops.
 QColor edge_colour(const QPalette& palette) {
     const QColor text = palette.color(QPalette::Text);
     const QColor ground = palette.color(QPalette::Base);
@@ -26,7 +26,7 @@ QSize DeskStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                   const QWidget* widget) const {
     if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
         header != nullptr && widget != nullptr) {
-        // The toolkit keeps room for bold captions, which no list has: the start would wait for that font.
+        // Qt measures for bold captions, which no list has; loading that font would delay the start.
         QStyleOptionHeader plain(*header);
         plain.version = QStyleOptionHeader::Version;
         plain.fontMetrics = widget->fontMetrics();
@@ -37,8 +37,8 @@ QSize DeskStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     return size;
 }
 
-/// The toolkit derives the edges of boxes and rings from the window's colour alone, which leaves an empty one
-/// unseen on a dark list.
+/// Qt derives the edges of check boxes and radio buttons from the window's colour, so that an empty one
+/// cannot be seen on a dark list.
 void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -57,7 +57,7 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     painter->restore();
 }
 
-/// A wheel that is turned to scroll would otherwise choose on its way: another kind of message, which costs
+/// Otherwise scrolling with the wheel over a choice would change it: another kind of message, which clears
 /// the draft, another hour, another sender.
 int DeskStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                          QStyleHintReturn* returned) const {
@@ -65,8 +65,8 @@ int DeskStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
     return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
-/// Every bar asks for the arrow behind which it puts what has no room, though it seldom shows it. Making that
-/// icon loads every picture format that the toolkit has.
+/// Every tool bar asks for the arrow of its overflow menu, which is hardly ever shown. Making that icon loads
+/// all of Qt's picture formats.
 QIcon DeskStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
     if (icon != SP_ToolBarHorizontalExtensionButton && icon != SP_ToolBarVerticalExtensionButton)
         return QProxyStyle::standardIcon(icon, option, widget);

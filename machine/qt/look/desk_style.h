@@ -4,8 +4,8 @@
 
 namespace machine::qt {
 
-/// The look of the program's windows: the toolkit's own style, with rows of lists that are easy to hit,
-/// boxes to tick that are seen on dark windows too and choices that the wheel of the mouse passes over.
+/// The look of the program's windows: Qt's Fusion style with taller rows in lists, check boxes that are
+/// visible on dark windows too, and choices that the mouse wheel does not change.
 class DeskStyle : public QProxyStyle {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 #include "machine/qt/look/late_icon.h"
 
 #include <QIconEngine>
+#include <QVariant>
 #include <utility>
 
 namespace machine::qt {
@@ -15,7 +16,7 @@ class LateIconEngine : public QIconEngine {
         icon().paint(painter, place, Qt::AlignCenter, mode, state);
     }
 
-    /// The size counts the screen's own pixels.
+    /// The size is in the screen's own pixels.
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
         return icon().pixmap(size, 1.0, mode, state);
     }
@@ -42,6 +43,13 @@ QIcon late_icon(std::function<QIcon()> make) { return QIcon(new LateIconEngine(s
 
 QIcon late_icon(const QString& name) {
     return late_icon([name] { return QIcon(QStringLiteral(":/icons/%1.svg").arg(name)); });
+}
+
+QList<QIcon> pictures_of(const QObject& widget) {
+    QList<QIcon> pictures;
+    for (const QString& name : widget.property("pictures").toStringList())
+        pictures.append(name.isEmpty() ? QIcon() : late_icon(name));
+    return pictures;
 }
 
 }  // namespace machine::qt

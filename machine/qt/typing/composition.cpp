@@ -15,17 +15,17 @@ constexpr char ENDED[] = "endedSyllable";
 
 QString unfinished(const QWidget& field) { return field.property(UNFINISHED).toString(); }
 
-/// The last syllable that was ended, until something else is typed. There is one input method for all fields,
-/// and what it commits late goes to the field that has the focus by then.
+/// The syllable that was ended last, until something else is typed. It is kept with the application and not
+/// with the field: a late commit of the input method goes to whichever field has the focus.
 QString ended() { return qApp->property(ENDED).toString(); }
 void set_ended(const QString& syllable) { qApp->setProperty(ENDED, syllable); }
 
-/// The last event of a composition that is ended from our side.
+/// The event with which the program itself ends a composition.
 class Ending : public QInputMethodEvent {};
 
 void end(QWidget& field, const QString& syllable, const QString& commit) {
     set_ended(syllable);
-    // Before the field's handlers may open a box, at which an input method commits what it still has.
+    // First of all: the field's handlers may open a box, and then an input method commits what it still has.
     if (QGuiApplication::focusObject() == &field) QGuiApplication::inputMethod()->reset();
     Ending event;
     event.setCommitString(commit);
@@ -54,7 +54,7 @@ bool is_composing(const QWidget& field) { return !unfinished(field).isEmpty(); }
 void commit_composition(QWidget& field) {
     if (!is_composing(field)) return;
     if (QGuiApplication::focusObject() == &field) QGuiApplication::inputMethod()->commit();
-    // Not every input method obeys.
+    // Some input methods do not react.
     if (const QString syllable = unfinished(field); !syllable.isEmpty()) end(field, syllable, syllable);
 }
 

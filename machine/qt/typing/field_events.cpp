@@ -1,7 +1,7 @@
 #include "machine/qt/typing/field_events.h"
 
 #include "machine/qt/typing/composition.h"
-#include "machine/qt/typing/key_code.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QFocusEvent>
 #include <QInputMethodEvent>

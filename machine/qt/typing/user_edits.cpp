@@ -13,7 +13,7 @@ void UserEdits::settle() {
 
 void UserEdits::run(const std::function<void()>& handlers) {
     {
-        // A handler may, while it runs, bring about another handler of the same field.
+        // Handlers of a field may lead to further handlers of the same field.
         if (!running_) rewritten_ = false;
         const QScopedValueRollback<bool> running(running_, true);
         handlers();

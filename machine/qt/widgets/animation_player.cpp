@@ -13,7 +13,7 @@ using platform::AviFile;
 
 namespace {
 
-/// A frame with its fourth bytes as opacity, which is no opacity yet where the film has no such bytes.
+/// A frame with its pixels' fourth bytes as opacity, or opacity 0 for a film of three bytes a pixel.
 QImage read_frame(const AviFile& film, std::size_t frame) {
     const int pixel_size = film.bits_per_pixel / 8;
     QImage image(film.width, film.height, QImage::Format_ARGB32);
@@ -43,8 +43,8 @@ bool is_blank(const QImage& image) {
     return true;
 }
 
-/// The frames ready to be painted. A film without opacity is transparent wherever it has the colour of the
-/// first frame's top left pixel, so that an installation's own older films also stand on the window's colour.
+/// The frames ready to be painted. In a film without opacity the colour of the first frame's top left pixel
+/// is transparent, so that older films of an installation fit the window's colour too.
 QList<QImage> read_frames(const AviFile& film) {
     QList<QImage> frames;
     for (std::size_t frame = 0; frame < film.frames.size(); ++frame) frames.append(read_frame(film, frame));
@@ -100,7 +100,7 @@ QSize AnimationPlayer::sizeHint() const { return frames_.isEmpty() ? QSize() : f
 void AnimationPlayer::paintEvent(QPaintEvent* /*event*/) {
     if (frames_.isEmpty()) return;
     const QImage& frame = frames_.at(present_);
-    // A widget smaller than the film shrinks it; a larger one shows it in its middle, at its own size.
+    // A small widget shrinks the film; a large one shows it in the middle at its own size.
     const QSize shown = frame.size().boundedTo(frame.size().scaled(size(), Qt::KeepAspectRatio));
     const QPoint corner((width() - shown.width()) / 2, (height() - shown.height()) / 2);
     QPainter painter(this);

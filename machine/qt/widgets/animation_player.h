@@ -9,28 +9,27 @@ class QByteArray;
 
 namespace machine::qt {
 
-/// Shows an uncompressed AVI film, over and over. It stands still while it is hidden or stopped and needs no
-/// time then.
+/// Plays an uncompressed AVI film in a loop. While it is hidden or stopped it uses no processor time.
 class AnimationPlayer : public QWidget {
     Q_OBJECT
 
   public:
     explicit AnimationPlayer(QWidget* parent = nullptr);
 
-    /// Shows the first frame of the film, stopped, in place of what was shown. Returns false and shows
-    /// nothing when the bytes are no film that can be played.
+    /// Shows the first frame of the film, stopped. Returns false and shows nothing when the film cannot be
+    /// played.
     bool open(const QByteArray& bytes);
 
-    /// Goes on from the present frame; without a film it does nothing.
+    /// Continues from the present frame; does nothing without a film.
     void play();
 
-    /// Stands still on the present frame.
+    /// Stops at the present frame.
     void stop();
 
     /// Stops and shows nothing.
     void close();
 
-    /// The size of the film's frames; no size without a film.
+    /// The size of the film's frames; invalid without a film.
     QSize sizeHint() const override;
 
   protected:

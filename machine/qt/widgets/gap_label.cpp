@@ -18,7 +18,7 @@ QSize GapLabel::sizeHint() const {
 }
 
 bool GapLabel::event(QEvent* event) {
-    // The text and the font are known by then, and the layout asks before it places anything.
+    // Text and font are known at that time, and the layout has not placed anything yet.
     if (event->type() == QEvent::Polish || event->type() == QEvent::FontChange) make_room();
     return QLabel::event(event);
 }

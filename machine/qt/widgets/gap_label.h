@@ -5,8 +5,7 @@
 
 namespace machine::qt {
 
-/// A label whose text goes around the widget that it holds: a run of blanks in the text stands for the
-/// widget.
+/// A label with a widget within its text: a run of blanks in the text marks the place of the widget.
 class GapLabel : public QLabel {
     Q_OBJECT
 
@@ -21,7 +20,7 @@ class GapLabel : public QLabel {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    /// What stands before the gap and what behind it.
+    /// The text before the gap and after it.
     std::pair<QString, QString> parts() const;
     void make_room();
 };

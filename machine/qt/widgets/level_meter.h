@@ -4,7 +4,7 @@
 
 namespace machine::qt {
 
-/// How loud it is, from 0 to 100, as a row of lights: green, yellow for a loud voice, red where it distorts.
+/// Shows a level from 0 to 100 as a row of lights: green, yellow for a loud voice, red where it distorts.
 class LevelMeter : public QProgressBar {
     Q_OBJECT
 

@@ -1,8 +1,7 @@
 #include "machine/qt/widgets/message_edit.h"
 
 #include "machine/qt/typing/composition.h"
-#include "machine/qt/typing/key_code.h"
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 
 #include <QFocusEvent>
 #include <QInputMethodEvent>
@@ -61,7 +60,7 @@ void MessageEdit::focusOutEvent(QFocusEvent* event) {
 }
 
 bool MessageEdit::viewportEvent(QEvent* event) {
-    // The click moves the caret away from the syllable, and the toolkit would throw it away.
+    // The click moves the caret away from the unfinished syllable, which Qt would discard.
     if (event->type() == QEvent::MouseButtonPress) commit_composition(*this);
     bool handled = false;
     work([&] { handled = QPlainTextEdit::viewportEvent(event); });
@@ -81,7 +80,7 @@ void MessageEdit::work(const std::function<void()>& step) {
     if (working_ == 0) emit edited();
 }
 
-/// For changes that come by no event of this widget, as from its context menu.
+/// For changes without an event of this widget, such as those from its context menu.
 void MessageEdit::tell_later() {
     if (working_ == 0) QMetaObject::invokeMethod(this, &MessageEdit::edited, Qt::QueuedConnection);
 }

@@ -7,28 +7,28 @@
 
 namespace machine::qt {
 
-/// A field of several lines of plain text that tells of an edit when it is over.
+/// A field of several lines of plain text that signals an edit when it is complete.
 ///
-/// The toolkit's editor signals a change in the midst of its own work and on every step of a Hangul
-/// composition, where a handler that cuts the text or opens a box would pull the ground from under it.
+/// Qt's editor signals changes in the middle of its own work and at every step of a Hangul composition. A
+/// handler that cuts the text or opens a box at that time would corrupt its state.
 class MessageEdit : public QPlainTextEdit {
     Q_OBJECT
 
   public:
     explicit MessageEdit(QWidget* parent = nullptr);
 
-    /// The text without what an input method has unfinished; line ends are "\n".
+    /// The text without an input method's unfinished syllable; line ends are "\n".
     QString committed_text() const;
 
-    /// Makes this the text and touches only what differs, so that the caret's surroundings and undo stay.
+    /// Changes the text to this one by replacing only what differs, so that the scroll position and undo
+    /// survive.
     void write(const QString& text);
 
   signals:
-    /// A key that will change the text; swallowed, it never reaches the field.
+    /// A key that would change the text. If it is swallowed, the field does not get it.
     void key_pressed(platform::KeyPressed& key);
 
-    /// The field is done with a key, a composition step, a paste or the like, and text or caret may be
-    /// others.
+    /// The field has handled a key, a composition step, a paste or the like; text or caret may have changed.
     void edited();
 
   protected:

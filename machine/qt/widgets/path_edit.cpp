@@ -25,7 +25,7 @@ void PathEdit::paintEvent(QPaintEvent* event) {
 }
 
 QRect PathEdit::text_place() const {
-    // The toolkit's own distance between the frame and the text.
+    // Qt's own distance between frame and text.
     constexpr int MARGIN = 2;
     QStyleOptionFrame frame;
     initStyleOption(&frame);

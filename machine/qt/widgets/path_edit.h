@@ -4,8 +4,8 @@
 
 namespace machine::qt {
 
-/// A field for a path. One that is too long for it is cut in the middle while nobody edits it, so that the
-/// file's name shows, and its tool tip tells the whole of it.
+/// A field for a path. While it has no focus, a path that is too long is cut in the middle, so that the
+/// file's name can be read; the tool tip shows it whole.
 class PathEdit : public QLineEdit {
     Q_OBJECT
 

@@ -1,6 +1,6 @@
 #include "machine/qt/widgets/recorder_panel.h"
 
-#include "machine/qt/typing/text_conversion.h"
+#include "machine/qt/typing/conversion.h"
 #include "platform/controls/sound_recorder.h"
 #include "ui_RecorderPanel.h"
 
@@ -13,7 +13,7 @@ using platform::SoundRecorder;
 RecorderPanel::RecorderPanel(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::RecorderPanel>()) {
     ui_->setupUi(this);
     setFocusProxy(ui_->_record);
-    // Digits change many times a second and messages come and go; nothing around them is to move.
+    // Time and messages change all the time; nothing around them should move.
     ui_->_recordTime->setMinimumWidth(ui_->_recordTime->sizeHint().width());
     ui_->_recordMessage->setMinimumHeight(2 * ui_->_recordMessage->fontMetrics().lineSpacing());
 }
@@ -28,15 +28,15 @@ void RecorderPanel::show_recorder(const SoundRecorder& recorder) {
     ui_->_recordLevel->setValue(recorder.level());
     if (const QString message = to_qstring(recorder.message()); message != ui_->_recordMessage->text()) {
         ui_->_recordMessage->setText(message);
-        // A screen reader says it: who records does not look for it.
+        // So that a screen reader says it while the user records.
         QAccessibleEvent said(ui_->_recordMessage, QAccessible::Alert);
         QAccessible::updateAccessibility(&said);
     }
     ui_->_recordWarning->setVisible(recorder.message_warns());
 }
 
-/// The focus of a button that cannot be pressed any longer goes to the first that can: from recording to
-/// stopping to playing by the same key.
+/// Moves the focus from a button that becomes disabled to the first enabled one, so that the same key starts,
+/// stops and plays a recording.
 void RecorderPanel::show_buttons(std::initializer_list<ButtonState> buttons) {
     QPushButton* next = nullptr;
     QPushButton* with_focus = nullptr;

@@ -17,7 +17,7 @@ class SoundRecorder;
 
 namespace machine::qt {
 
-/// The buttons, the time, the level and the message of a recorder.
+/// The buttons, time, level and message of a recorder.
 class RecorderPanel : public QWidget {
     Q_OBJECT
 

@@ -1,7 +1,8 @@
 #include "machine/qt/widgets/web_area.h"
 
+#include "machine/qt/typing/conversion.h"
+
 #include <QLabel>
-#include <QPluginLoader>
 #include <QProgressBar>
 #include <utility>
 
@@ -10,14 +11,9 @@ namespace machine::qt {
 namespace {
 
 constexpr int PROGRESS_HEIGHT = 3;
-/// What a load shows before the first thing has happened.
+/// What the progress bar shows until the first progress arrives.
 constexpr int FIRST_PERCENT = 5;
 constexpr int ALL_PERCENT = 100;
-
-/// The engine of the module beside the program; none when the module is missing or does not fit.
-WebEngine* web_engine() {
-    return qobject_cast<WebEngine*>(QPluginLoader(QStringLiteral("zent_web")).instance());
-}
 
 }  // namespace
 
@@ -60,7 +56,7 @@ void WebArea::show_page(PageRequest request) {
     update();
 }
 
-/// The engine takes its time to load, so the window is painted first, with a word of what is going on.
+/// Loads the module after the window is painted: it takes a while, and the notice says so meanwhile.
 void WebArea::paintEvent(QPaintEvent*) {
     if (waiting_) QMetaObject::invokeMethod(this, &WebArea::open_waiting_page, Qt::QueuedConnection);
 }
@@ -70,30 +66,25 @@ void WebArea::resizeEvent(QResizeEvent*) { lay_out(); }
 void WebArea::open_waiting_page() {
     const auto request = std::exchange(waiting_, std::nullopt);
     if (!request) return;
-    if (!make_page()) return progress_.hide();
+    try {
+        WebModule& web = load_module<WebModule>();
+        if (const QString obstacle = web.obstacle(); !obstacle.isEmpty()) return show_obstacle(obstacle);
+        make_page(web);
+    } catch (const platform::RuntimeError& error) {
+        return show_obstacle(to_qstring(error.description()));
+    }
     show_view();
     page_->load(*request);
 }
 
-bool WebArea::make_page() {
-    WebEngine* engine = web_engine();
-    const QString obstacle = engine == nullptr
-                                 ? QStringLiteral(
-                                       "페이지를 보여 주는 구성 요소(zent_web)를 찾을 수 없습니다.\n"
-                                       "프로그램을 다시 설치해 주십시오.")
-                                 : engine->obstacle();
-    if (!obstacle.isEmpty()) {
-        show_notice(obstacle);
-        return false;
-    }
+void WebArea::make_page(WebModule& web) {
     const bool focus = hasFocus();
-    page_ = engine->open(*this, {.progress = [this](int percent) { show_progress(percent); },
-                                 .died = [this] { show_death(); },
-                                 .files = guarded_files()});
+    page_ = web.open(*this, {.progress = [this](int percent) { show_progress(percent); },
+                             .died = [this] { show_crash(); },
+                             .files = guarded_files()});
     setFocusProxy(&page_->widget());
     if (focus) setFocus();
     lay_out();
-    return true;
 }
 
 PageFiles WebArea::guarded_files() {
@@ -122,10 +113,14 @@ void WebArea::show_progress(int percent) {
     progress_.setVisible(percent < ALL_PERCENT);
 }
 
-void WebArea::show_death() {
+void WebArea::show_obstacle(const QString& text) {
     progress_.hide();
+    show_notice(text);
+}
+
+void WebArea::show_crash() {
     page_->widget().hide();
-    show_notice(QStringLiteral("페이지가 예기치 않게 멈추었습니다.\n창을 닫고 다시 열어 주십시오."));
+    show_obstacle(QStringLiteral("페이지가 예기치 않게 멈추었습니다.\n창을 닫고 다시 열어 주십시오."));
 }
 
 void WebArea::show_notice(const QString& text) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "machine/qt/modules/web_engine.h"
+#include "machine/qt/modules/web/web_module.h"
 
 #include <QWidget>
 #include <memory>
@@ -11,8 +11,8 @@ class QProgressBar;
 
 namespace machine::qt {
 
-/// The place of a web page in a window. The engine is loaded for the first page that comes on the screen;
-/// until there is something to see, and when there never will be, a line of text says so.
+/// The place of a web page in a window. The module is loaded for the first page that is painted. While there
+/// is no page, or when there cannot be one, a notice says so.
 class WebArea : public QWidget {
     Q_OBJECT
 
@@ -20,10 +20,10 @@ class WebArea : public QWidget {
     explicit WebArea(QWidget* parent = nullptr);
     ~WebArea() override;
 
-    /// For the files of pages that are made from now on.
+    /// Applies to pages that are made from now on.
     void set_files(PageFiles files) { files_ = std::move(files); }
 
-    /// Goes to the page once the area is on the screen; an empty address shows nothing.
+    /// Goes to the page when the area is next painted; an empty address shows nothing.
     void show_page(PageRequest request);
 
   protected:
@@ -32,11 +32,13 @@ class WebArea : public QWidget {
 
   private:
     void open_waiting_page();
-    bool make_page();
+    void make_page(WebModule& web);
     PageFiles guarded_files();
     void show_view();
     void show_progress(int percent);
-    void show_death();
+    void show_crash();
+    /// Why there is no page.
+    void show_obstacle(const QString& text);
     void show_notice(const QString& text);
     void lay_out();
 
@@ -45,7 +47,7 @@ class WebArea : public QWidget {
     std::unique_ptr<WebPage> page_;
     std::optional<PageRequest> waiting_;
     PageFiles files_;
-    /// The user is asked where a file goes, and the page that waits for it must not go meanwhile.
+    /// While the user is asked where to save a file, the page that hands it out must not be destroyed.
     bool asking_ = false;
 };
 

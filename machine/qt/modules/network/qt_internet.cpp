@@ -11,9 +11,9 @@ using platform::Transfer;
 
 namespace {
 
-/// The system's proxies. Where it has none the toolkit would read a plain connection byte by byte for as long
-/// as more comes: its thread would hear of no abort, and a header without an end would keep it for ever. With
-/// the connection left to the socket's own default it reads in pieces and hears.
+/// The system's proxies. For `NoProxy` Qt reads the connection byte by byte while more arrives and its thread
+/// notices no abort, so that an endless header would block it forever. With `DefaultProxy` it reads in pieces
+/// and notices an abort.
 class SystemProxies : public QNetworkProxyFactory {
   public:
     QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override {
@@ -35,7 +35,7 @@ std::unique_ptr<Transfer> QtInternet::make_transfer() { return std::make_unique<
 QNetworkAccessManager& QtInternet::manager() {
     if (manager_ == nullptr) {
         manager_ = std::make_unique<QNetworkAccessManager>();
-        // It owns them.
+        // The manager takes ownership.
         manager_->setProxyFactory(new SystemProxies);
     }
     return *manager_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "machine/qt/modules/network_module.h"
+#include "machine/qt/modules/network/network_module.h"
 
 #include <memory>
 
@@ -8,12 +8,12 @@ class QNetworkAccessManager;
 
 namespace machine::qt {
 
-/// The network by the toolkit, through the proxy that the user's system names. Nothing is remembered from one
-/// transfer to the next.
+/// The network with Qt, through the proxy of the user's system. Nothing is kept from one transfer to the
+/// next.
 class QtInternet : public platform::Internet {
   public:
     explicit QtInternet(const TransferLimits& limits);
-    /// After its transfers.
+    /// Its transfers have to be destroyed before.
     ~QtInternet() override;
 
     std::unique_ptr<platform::Transfer> make_transfer() override;

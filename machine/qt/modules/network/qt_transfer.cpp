@@ -19,9 +19,9 @@ using platform::TextView;
 
 namespace {
 
-/// What the toolkit may read ahead. When it is full the server has to wait.
+/// How much Qt reads ahead. When that is full the server has to wait.
 constexpr qint64 READ_AHEAD = 512 * 1024;
-/// What is taken from the toolkit at a time: it tells its thread of every read.
+/// How much is read from Qt at a time: each read has to notify its thread.
 constexpr std::size_t BUFFER = 64 * 1024;
 
 QString to_qstring(TextView text) {
@@ -33,7 +33,7 @@ Text to_text(const QByteArray& bytes) {
                 static_cast<std::size_t>(bytes.size()));
 }
 
-/// The toolkit would open files and its own resources by an address too.
+/// Allows only web addresses: Qt would also open files and its own resources.
 QUrl web_address(const Text& text) {
     QString address = to_qstring(platform::trim(text));
     static const QRegularExpression scheme_first(QStringLiteral("^[A-Za-z0-9+.-]*://"));
@@ -58,12 +58,12 @@ QNetworkRequest request_for(const QUrl& url) {
     set(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     set(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
     set(QNetworkRequest::Http2AllowedAttribute, false);
-    // A small answer must not unfold to a large one, and its length is to be what the header says.
+    // A compressed answer could grow without limit, and its length would not be the one in the header.
     request.setRawHeader("Accept-Encoding", "identity");
     return request;
 }
 
-/// Whether the connection failed; a status that means an error is an answer like any other.
+/// Whether the connection failed; an answer with an error status did not.
 bool is_broken(QNetworkReply::NetworkError error) {
     return error != QNetworkReply::NoError &&
            !(error >= QNetworkReply::ContentAccessDenied && error <= QNetworkReply::UnknownContentError) &&
@@ -167,7 +167,7 @@ bool QtTransfer::fill_buffer() {
         wait();
     }
     buffer_.clear();
-    // The toolkit takes some early ends for an end.
+    // Qt takes some broken connections for a regular end.
     const qint64 promised = reply_->header(QNetworkRequest::ContentLengthHeader).toLongLong();
     if (is_broken(reply_->error()) || static_cast<qint64>(received_) < promised)
         throw RuntimeError(ErrorNumber::request_not_completed);

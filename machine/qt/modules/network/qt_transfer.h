@@ -14,10 +14,10 @@ namespace machine::qt {
 
 class QtInternet;
 
-/// A transfer of the toolkit's. Whatever the server does, it holds no more of the answer than one buffer.
+/// A transfer with Qt. It never holds more of the answer than its buffers, whatever the server does.
 class QtTransfer : public platform::Transfer {
   public:
-    /// The network outlives its transfers.
+    /// The network has to outlive its transfers.
     explicit QtTransfer(QtInternet& internet);
     ~QtTransfer() override;
 
@@ -41,14 +41,14 @@ class QtTransfer : public platform::Transfer {
 
     QtInternet& internet_;
     QNetworkReply* reply_ = nullptr;
-    /// Ends the connections to a reply that is dropped.
+    /// Owns the connections to the reply; gone when the reply is dropped.
     std::unique_ptr<QObject> listener_;
     QTimer silence_timer_;
     QTimer answer_timer_;
     QEventLoop* waiting_ = nullptr;
-    /// Why nothing more is to be had, other than by what the server did.
+    /// Why the program itself ended the transfer: a time or size limit, or cancel().
     std::optional<platform::ErrorNumber> failure_;
-    /// What has been taken from the reply and not asked for yet.
+    /// What has been read from the reply; `place_` is the start of what nobody has asked for yet.
     std::string buffer_;
     std::size_t place_ = 0;
     std::size_t received_ = 0;

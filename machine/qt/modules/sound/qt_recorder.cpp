@@ -19,13 +19,13 @@ using platform::SampleView;
 namespace {
 
 constexpr int SAMPLE_BYTES = sizeof(Samples::value_type);
-/// Bytes of 20 milliseconds: what the end of a recording can lose is no more than such a piece.
+/// Bytes of 20 milliseconds, the most that the end of a recording can lose.
 constexpr qsizetype PIECE = SAMPLES_A_SECOND / 50 * SAMPLE_BYTES;
-/// Silence behind what is played, in bytes of 300 milliseconds: the sink reports the end when it has read
-/// all, while the last of it is still to be heard.
+/// Silence after the sound, in bytes of 300 milliseconds: the sink reports the end when it has read
+/// everything, while the last part is still being played.
 constexpr qsizetype TAIL = SAMPLES_A_SECOND * 3 / 10 * SAMPLE_BYTES;
 
-// Milliseconds. The toolkit does not tell of devices that come and go.
+// Milliseconds between looks for a microphone: Qt does not report when devices come and go.
 constexpr int LOOK_INTERVAL = 1000;
 constexpr int LOOK_INTERVAL_RECORDING = 200;
 constexpr int PROGRESS_INTERVAL = 50;
@@ -38,7 +38,8 @@ QAudioFormat speech_format() {
     return format;
 }
 
-/// The device, when it is there and takes speech as it is. Sound servers convert, so what they show does.
+/// Returns the device if it exists and supports the format of speech. Devices of a sound server do, since it
+/// converts.
 QAudioDevice usable(QAudioDevice device) {
     if (device.isNull() || !device.isFormatSupported(speech_format()))
         throw RuntimeError(ErrorNumber::permission_denied);
@@ -55,10 +56,10 @@ QtRecorder::QtRecorder() {
     });
 }
 
-/// The devices' ends run the event loop, and what it brings must find a whole recorder.
+/// Deleting a device runs the event loop, and the events must find a complete recorder.
 QtRecorder::~QtRecorder() {
     close();
-    // One by one: a device's end takes others with it.
+    // One by one: deleting a device may delete others.
     while (QObject* device = findChild<QObject*>(QString(), Qt::FindDirectChildrenOnly)) delete device;
 }
 
@@ -79,7 +80,7 @@ void QtRecorder::look_for_microphone() {
     const QList<QAudioDevice> microphones = QMediaDevices::audioInputs();
     const bool there = !microphones.isEmpty();
     if (std::exchange(has_microphone_, there) != there) listener_->microphone_changed();
-    // The sound server would go on with another source, or with the silence of none.
+    // The sound server would silently go on with another microphone or with none.
     if (source_ != nullptr &&
         std::none_of(microphones.begin(), microphones.end(),
                      [this](const QAudioDevice& microphone) { return microphone.id() == source_id_; }))
@@ -96,7 +97,8 @@ void QtRecorder::start_recording() {
         end_recording();
         throw RuntimeError(ErrorNumber::permission_denied);
     }
-    // Queued, since the listener may end the recording and the source cannot go within its own signal.
+    // Queued, since the listener may end the recording and the source must not be deleted within its own
+    // signal.
     connect(
         stream_, &QIODevice::readyRead, this, [this] { take(); }, Qt::QueuedConnection);
     connect(
@@ -150,7 +152,7 @@ void QtRecorder::start_playing(SampleView samples) {
     connect(
         sink_.get(), &QAudioSink::stateChanged, this,
         [this, sink = sink_.get()](QAudio::State state) {
-            // A machine that is too slow for a moment is idle too, in the middle of the sound.
+            // On a slow machine the sink may be idle for a moment in the middle of the sound.
             const bool over =
                 state == QAudio::StoppedState || (state == QAudio::IdleState && sound_reader_.atEnd());
             if (over && sink == sink_.get()) end_playing();

@@ -13,7 +13,7 @@
 
 namespace machine::qt {
 
-/// The recorder over the desktop's sound: the microphone and the loudspeaker that the user has chosen there.
+/// Records and plays with the microphone and the loudspeaker that the user has chosen in the desktop.
 class QtRecorder : public QObject, public platform::Recorder {
   public:
     QtRecorder();
@@ -28,7 +28,7 @@ class QtRecorder : public QObject, public platform::Recorder {
     void stop_playing() override;
 
   private:
-    /// Goes with the next turn of the event loop: its own signals may lead to its end.
+    /// Deletes in the next turn of the event loop: an object's own signal may lead to its deletion.
     struct Later {
         void operator()(QObject* object) const { object->deleteLater(); }
     };
@@ -44,7 +44,7 @@ class QtRecorder : public QObject, public platform::Recorder {
     QTimer look_;
 
     std::unique_ptr<QAudioSource, Later> source_;
-    /// What the source has recorded; gone when the source breaks.
+    /// Where the source's sound is read; deleted when the source breaks.
     QPointer<QIODevice> stream_;
     QByteArray source_id_;
 

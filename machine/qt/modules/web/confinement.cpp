@@ -18,7 +18,7 @@ bool write_file(const char* path, const char* text) {
     return file >= 0 && ::write(file, text, std::strlen(text)) == length;
 }
 
-/// What the engine does to shut a process in. Some systems let a user make a name space and then refuse him
+/// Does what the engine does for its sandbox. Some systems let a user make a name space and then refuse
 /// everything in it.
 bool shut_in(const char* user, const char* group) {
     return ::unshare(CLONE_NEWUSER) == 0 && write_file("/proc/self/setgroups", "deny") &&
@@ -28,7 +28,7 @@ bool shut_in(const char* user, const char* group) {
 
 std::string map_to_itself(unsigned id) { return std::to_string(id) + " " + std::to_string(id) + " 1"; }
 
-/// Whether a process of the user may be shut in, tried by one that does nothing else.
+/// Whether the sandbox works, tried in a child process.
 bool can_have_user_namespace() {
     const std::string user = map_to_itself(::geteuid());
     const std::string group = map_to_itself(::getegid());

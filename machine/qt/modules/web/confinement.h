@@ -2,13 +2,13 @@
 
 namespace machine::qt {
 
-/// What the engine's processes may be kept from on this machine.
+/// Whether the engine can run its processes in a sandbox on this machine.
 enum class Confinement {
-    /// They are shut in.
+    /// It can.
     possible,
-    /// The user is root, for whom the engine does not do it: pages are shown all the same.
+    /// The user is root, for whom the engine has no sandbox. Pages are shown without one.
     not_for_root,
-    /// The machine does not let users do it, and the engine would end the whole program over it.
+    /// The system forbids it to users. The engine would end the whole program, so no pages are shown.
     impossible,
 };
 

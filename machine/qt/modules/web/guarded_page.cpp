@@ -30,13 +30,13 @@ GuardedPage::GuardedPage(QWebEngineProfile& profile) : QWebEnginePage(&profile) 
             [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
     connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
             [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
-    // In place of this page. What no click of the user began is not even asked about.
+    // A new window opens in place of this page if the user clicked for it, and otherwise not at all.
     connect(this, &QWebEnginePage::newWindowRequested, this,
             [this](const QWebEngineNewWindowRequest& window) {
                 if (window.isUserInitiated() && is_web_address(window.requestedUrl()))
                     load(window.requestedUrl());
             });
-    // An authenticator without anything in it gives up.
+    // An empty authenticator gives up.
     connect(this, &QWebEnginePage::authenticationRequired, this,
             [](const QUrl&, QAuthenticator* authenticator) { *authenticator = QAuthenticator(); });
     connect(this, &QWebEnginePage::proxyAuthenticationRequired, this,
@@ -47,7 +47,7 @@ GuardedPage::GuardedPage(QWebEngineProfile& profile) : QWebEnginePage(&profile) 
 
 bool GuardedPage::acceptNavigationRequest(const QUrl& address, NavigationType, bool is_main_frame) {
     if (is_web_address(address)) return true;
-    // Frames start empty, and pages fill them by script.
+    // Frames start as "about:blank" and are filled by scripts.
     return !is_main_frame && address.scheme() == QStringLiteral("about");
 }
 
@@ -59,7 +59,7 @@ bool GuardedPage::javaScriptConfirm(const QUrl& origin, const QString& text) {
     return dialogs_.confirm(QWebEngineView::forPage(this), origin, text);
 }
 
-/// Deliberately no line to type into: what a page asks for belongs into the page, where the user sees whose
+/// Deliberately no field to type into: a page should ask within the page, where the user sees whose question
 /// it is.
 bool GuardedPage::javaScriptPrompt(const QUrl&, const QString&, const QString&, QString*) { return false; }
 

@@ -6,8 +6,8 @@
 
 namespace machine::qt {
 
-/// A page that may show itself, ask the user by its own dialogs and go on to other pages of the web. Whatever
-/// else it wants is refused without a word.
+/// A page that may show itself, open its own dialogs and go to other pages of the web. Everything else is
+/// refused silently.
 class GuardedPage : public QWebEnginePage {
     Q_OBJECT
 

@@ -10,7 +10,7 @@ bool is_web_address(const QUrl& address) {
 
 void WebOnly::interceptRequest(QWebEngineUrlRequestInfo& request) {
     const QUrl address = request.requestUrl();
-    // Pictures and scripts that a page carries along or makes for itself.
+    // Pictures and scripts that a page contains or makes itself.
     const bool is_page_s_own =
         address.scheme() == QStringLiteral("data") || address.scheme() == QStringLiteral("blob");
     const bool is_page = request.resourceType() == QWebEngineUrlRequestInfo::ResourceTypeMainFrame;
@@ -21,7 +21,7 @@ NarrowProfile::NarrowProfile() {
     setHttpAcceptLanguage(QStringLiteral("ko-KR,ko;q=0.9"));
     setUrlRequestInterceptor(&web_only_);
 
-    // Pages that do not name their code page are in the one of Korean desktops.
+    // Pages that do not name their encoding use that of Korean desktops.
     settings()->setDefaultTextEncoding(QStringLiteral("EUC-KR"));
     settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
     for (const auto refused :

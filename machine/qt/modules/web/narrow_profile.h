@@ -5,17 +5,17 @@
 
 namespace machine::qt {
 
-/// Whether the page itself may be of this address.
+/// Whether a page may have this address.
 bool is_web_address(const QUrl& address);
 
-/// Lets nothing but the web's own requests pass.
+/// Blocks all requests that are not for the web.
 class WebOnly : public QWebEngineUrlRequestInterceptor {
   public:
     void interceptRequest(QWebEngineUrlRequestInfo& request) override;
 };
 
-/// What a page may know and do: it is Korean, runs its scripts and keeps its cookies as long as it is shown.
-/// It leaves nothing on the disk of itself, and the next page knows nothing of it.
+/// What a page may know and do: it is told that the user reads Korean, may run scripts and keeps cookies
+/// while it is shown. It stores nothing on the disk, and the next page learns nothing of it.
 class NarrowProfile : public QWebEngineProfile {
     Q_OBJECT
 

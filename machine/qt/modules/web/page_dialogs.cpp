@@ -8,7 +8,7 @@ namespace machine::qt {
 
 namespace {
 
-/// What fits on a screen.
+/// About as much as fits on a screen.
 constexpr int LONGEST_TEXT = 1000;
 
 }  // namespace

@@ -7,12 +7,12 @@ class QWidget;
 
 namespace machine::qt {
 
-/// The boxes that a page opens. They say whose they are, and from the second on the user can tell the page to
-/// leave off: a page that never stops asking would keep him from closing the form.
+/// The boxes that a page opens. They name the site, and from the second box on the user can stop further
+/// ones; otherwise a page could open boxes forever, and the form could not be closed.
 class PageDialogs {
   public:
     void alert(QWidget* parent, const QUrl& origin, const QString& text);
-    /// Whether the user agreed; without being asked he does not.
+    /// Whether the user agreed; false when the user has stopped the boxes.
     bool confirm(QWidget* parent, const QUrl& origin, const QString& text);
 
   private:

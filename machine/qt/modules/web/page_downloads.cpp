@@ -14,14 +14,14 @@ PageDownloads::PageDownloads(QWebEngineProfile& profile, PageFiles files) : file
             [this](QWebEngineDownloadRequest* download) { take(*download); });
 }
 
-/// Half a file is not left behind.
+/// Cancelling removes the part that was downloaded.
 PageDownloads::~PageDownloads() {
     if (current_ == nullptr) return;
     current_->disconnect(this);
     current_->cancel();
 }
 
-/// A server may take its time for the answer to a click, but not until the user has forgotten it.
+/// A server may answer a click slowly, but not when the user has forgotten it.
 bool PageDownloads::has_leave() {
     constexpr qint64 LONGEST_ANSWER = 30'000;
     const QElapsedTimer since_act = std::exchange(since_act_, QElapsedTimer());
@@ -36,7 +36,7 @@ void PageDownloads::take(QWebEngineDownloadRequest& download) {
         current_ = nullptr;
         return download.cancel();
     }
-    // The engine writes beside the file and puts the new one in its place once it is whole.
+    // The engine writes to a temporary file beside this one and renames it when it is complete.
     const QFileInfo place(path);
     download.setDownloadDirectory(place.absolutePath());
     download.setDownloadFileName(place.fileName());
@@ -52,7 +52,7 @@ void PageDownloads::take(QWebEngineDownloadRequest& download) {
 
 void PageDownloads::watch_size(QWebEngineDownloadRequest& download) {
     const qint64 size = std::max<qint64>(download.totalBytes(), 0);
-    // A cancelled one counts from 0 again.
+    // A cancelled download counts from 0 again.
     if (too_large_) return;
     too_large_ = std::max(download.receivedBytes(), size) > files_.largest;
     if (!too_large_) return files_.received(download.receivedBytes(), size);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "machine/qt/modules/web_engine.h"
+#include "machine/qt/modules/web/web_module.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -11,8 +11,8 @@ class QWebEngineProfile;
 
 namespace machine::qt {
 
-/// Takes the files that the user clicks for, one at a time; whatever else a page wants to leave is refused
-/// without a word.
+/// Downloads files that the user clicks for, one at a time. All other downloads of a page are refused
+/// silently.
 class PageDownloads : public QObject {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ class PageDownloads : public QObject {
     PageDownloads(QWebEngineProfile& profile, PageFiles files);
     ~PageDownloads() override;
 
-    /// The user has pressed something in the page, which may hand out one file for it.
+    /// To be called when the user has clicked in the page, which may then start one download.
     void user_acted() { since_act_.start(); }
 
   private:

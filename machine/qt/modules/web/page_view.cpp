@@ -10,7 +10,7 @@ namespace machine::qt {
 
 namespace {
 
-/// The engine's view with a menu of what there is to do with a page here.
+/// The engine's view with a menu of what users can do with a page.
 class View : public QWebEngineView {
   public:
     using QWebEngineView::QWebEngineView;
@@ -49,7 +49,7 @@ QWebEngineHttpRequest engine_request(const QUrl& address, const PageRequest& req
         const qsizetype colon = line.indexOf(':');
         if (colon > 0) posted.setHeader(line.left(colon), line.mid(colon + 1).trimmed());
     }
-    // Last, for a request that is changed after its body is set loses it.
+    // Last, since changing a request after that loses its body.
     if (!request.body.isEmpty()) posted.setPostData(request.body);
     return posted;
 }
@@ -61,7 +61,7 @@ PageView::PageView(QWidget& parent, PageEvents events)
       downloads_(profile_, std::move(events.files)),
       view_(std::make_unique<View>(&parent)) {
     view_->setPage(&page_);
-    // A file that is dropped on a page would be given to it.
+    // Otherwise a file dropped on the page would be passed to it.
     view_->setAcceptDrops(false);
     view_->setAccessibleName(QStringLiteral("웹 페이지"));
     connect(&page_, &QWebEnginePage::loadProgress, this, progress_);
@@ -85,7 +85,7 @@ void PageView::load(const PageRequest& request) {
 bool PageView::eventFilter(QObject* object, QEvent* event) {
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::MouseButtonRelease) return false;
     const auto* widget = qobject_cast<QWidget*>(object);
-    // A list that is open in the page closes with its Escape, which the engine hands on all the same.
+    // An Escape that closed a list in the page is passed on by the engine; it must not close the form too.
     if (widget == view_->parentWidget() && !event->spontaneous()) return is_escape(*event);
     if (widget == nullptr || (widget != view_.get() && !view_->isAncestorOf(widget))) return false;
     if (event->type() == QEvent::MouseButtonRelease) {
@@ -94,7 +94,8 @@ bool PageView::eventFilter(QObject* object, QEvent* event) {
     }
     switch (static_cast<QKeyEvent*>(event)->key()) {
         case Qt::Key_Escape:
-            // A page could keep it for itself, but the way out of the form is the user's.
+            // Sent to the window directly: a page could swallow it, but the user must be able to close the
+            // form.
             return QCoreApplication::sendEvent(view_->window(), event);
         case Qt::Key_Return:
         case Qt::Key_Enter:

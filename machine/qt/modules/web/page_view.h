@@ -3,14 +3,14 @@
 #include "machine/qt/modules/web/guarded_page.h"
 #include "machine/qt/modules/web/narrow_profile.h"
 #include "machine/qt/modules/web/page_downloads.h"
-#include "machine/qt/modules/web_engine.h"
+#include "machine/qt/modules/web/web_module.h"
 
 #include <QObject>
 #include <QWebEngineView>
 
 namespace machine::qt {
 
-/// One page with everything it has: its view, its profile, of which nothing is kept, and its end.
+/// One page with its view, its profile and its downloads, all of which end with it.
 class PageView : public QObject, public WebPage {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ class PageView : public QObject, public WebPage {
     std::function<void(int)> progress_;
     NarrowProfile profile_;
     PageDownloads downloads_;
-    // In this order: the page goes before its profile, and the view before its page.
+    // In this order: the page has to be destroyed before its profile, and the view before the page.
     GuardedPage page_{profile_};
     std::unique_ptr<QWebEngineView> view_;
 };

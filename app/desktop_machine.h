@@ -1,0 +1,47 @@
+#pragma once
+
+#include "machine/jet/jet_card_source.h"
+#include "machine/posix/posix_carrier_library.h"
+#include "machine/posix/posix_files.h"
+#include "machine/posix/posix_shell.h"
+#include "machine/qt/desktop/long_work.h"
+#include "machine/qt/desktop/qt_desktop.h"
+#include "machine/qt/modules/late_ports.h"
+#include "platform/formats/ini_settings.h"
+#include "platform/ports/platform.h"
+
+#include <utility>
+
+namespace app {
+
+/// The desktop machine: files and the carrier's library by POSIX, windows, sound and the network by Qt, cards
+/// out of the card manager's Jet file. The clock has to outlive it.
+struct DesktopMachine {
+    DesktopMachine(const machine::posix::Paths& paths, machine::posix::PosixFiles machine_files,
+                   platform::Clock& clock)
+        : files(std::move(machine_files)),
+          shell(paths),
+          cards(paths, machine::qt::keep_painted),
+          platform{.desktop = desktop,
+                   .clock = clock,
+                   .files = files,
+                   .settings = settings,
+                   .shell = shell,
+                   .carrier = carrier,
+                   .cards = cards,
+                   .recorder = recorder,
+                   .internet = internet} {}
+
+    machine::posix::PosixFiles files;
+    platform::IniSettings settings{files};
+    machine::posix::PosixShell shell;
+    machine::posix::PosixCarrierLibrary carrier;
+    machine::jet::JetCardSource cards;
+    machine::qt::LateRecorder recorder;
+    machine::qt::LateInternet internet;
+    machine::qt::Screens screens = machine::qt::program_screens();
+    machine::qt::QtDesktop desktop{screens, files};
+    platform::Platform platform;
+};
+
+}  // namespace app

@@ -1,0 +1,55 @@
+#include "core/phone_number.h"
+
+#include "platform/text/number.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace core {
+
+using platform::Text;
+using platform::TextView;
+
+namespace {
+
+constexpr std::array<TextView, 15> AREA_CODES = {u"031", u"032", u"033", u"041", u"042",
+                                                 u"043", u"051", u"052", u"053", u"054",
+                                                 u"055", u"061", u"062", u"063", u"064"};
+constexpr std::array<TextView, 7> MOBILE_CODES = {u"010", u"011", u"012", u"016", u"017", u"018", u"019"};
+
+template <std::size_t N>
+bool begins_with_one_of(const Text& number, const std::array<TextView, N>& codes) {
+    return std::ranges::any_of(codes, [&](TextView code) { return number.starts_with(code); });
+}
+
+/// The digits when they can be dialled at all: three or more that do not make 0. Empty otherwise.
+Text usable_digits(TextView number) {
+    Text digits = platform::trim(DIGITS_ONLY(platform::trim(number)));
+    if (platform::leading_number(digits) == 0 || digits.size() < 3) digits.clear();
+    return digits;
+}
+
+}  // namespace
+
+Text DIGITS_ONLY(TextView value) {
+    const Text trimmed = platform::trim(value);
+    Text digits;
+    std::ranges::copy_if(trimmed, std::back_inserter(digits),
+                         [](char16_t c) { return c >= u'0' && c <= u'9'; });
+    return platform::leading_number(digits) != 0 ? digits : trimmed;
+}
+
+bool TEXT_NUMBER_OK(TextView number) {
+    const Text digits = usable_digits(number);
+    return !digits.empty() && !digits.starts_with(u"02") && !begins_with_one_of(digits, AREA_CODES);
+}
+
+bool FAX_NUMBER_OK(TextView number) {
+    const Text digits = usable_digits(number);
+    if (digits.empty() || begins_with_one_of(digits, MOBILE_CODES)) return false;
+    if (digits.size() < 6) return true;
+    return !digits.starts_with(u"03030") && !digits.starts_with(u"0502") && !digits.starts_with(u"0505");
+}
+
+}  // namespace core

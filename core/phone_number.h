@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/text/text.h"
+
+namespace core {
+
+/// The digits of the trimmed text, joined; the trimmed text itself when it has none or they make 0.
+platform::Text DIGITS_ONLY(platform::TextView value);
+
+/// Whether the number may receive text messages: every number but those with a Korean area code.
+bool TEXT_NUMBER_OK(platform::TextView number);
+
+/// Whether the number may receive fax messages: neither a mobile one nor one of the unified numbers.
+bool FAX_NUMBER_OK(platform::TextView number);
+
+}  // namespace core

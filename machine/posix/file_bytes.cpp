@@ -1,0 +1,153 @@
+#include "machine/posix/file_bytes.h"
+
+#include "machine/posix/file_descriptor.h"
+#include "machine/posix/file_error.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace machine::posix {
+
+using platform::ErrorNumber;
+using platform::OpenFile;
+using platform::RuntimeError;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view NEW_FILE = ".zent-new-";
+
+/// Writes all the bytes. Returns 0, or the `errno` of the write that failed.
+int write_all(int file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file, bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR) return errno;
+        if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return 0;
+}
+
+/// Writes the file and makes the disk keep it. Returns 0 or an `errno`.
+int fill(int file, std::string_view bytes) {
+    if (const int failure = write_all(file, bytes)) return failure;
+    return ::fsync(file) == 0 ? 0 : errno;
+}
+
+/// Makes the disk keep the folder's entries. A file system that cannot do this still has the new file.
+void sync_folder(const std::string& folder) {
+    const FileDescriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.is_open()) ::fsync(opened.number());
+}
+
+/// Makes a file with an unused name; -1 with `errno` on failure.
+int open_new_file(const std::string& folder, mode_t mode, std::string& path) {
+    for (int number = 0;; ++number) {
+        path =
+            folder + "/" + std::string(NEW_FILE) + std::to_string(::getpid()) + "-" + std::to_string(number);
+        const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+        if (file >= 0 || errno != EEXIST) return file;
+    }
+}
+
+/// Small writes go to the system together.
+constexpr std::size_t BUFFER = 64 * 1024;
+
+class PosixOpenFile : public OpenFile {
+  public:
+    explicit PosixOpenFile(const std::string& path)
+        : path_(path),
+          file_(::open(path.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC,
+                       0600)) {
+        if (!file_.is_open()) throw file_error(errno, path);
+        struct stat status {};
+        if (::fstat(file_.number(), &status) != 0 || !S_ISREG(status.st_mode))
+            throw RuntimeError(ErrorNumber::path_access);
+    }
+
+    void write(std::string_view bytes) override {
+        waiting_ += bytes;
+        if (waiting_.size() >= BUFFER) flush();
+    }
+
+    void flush() override {
+        const std::string bytes = std::exchange(waiting_, {});
+        if (const int failure = write_all(file_.number(), bytes)) throw file_error(failure, path_);
+    }
+
+  private:
+    std::string path_;
+    FileDescriptor file_;
+    std::string waiting_;
+};
+
+}  // namespace
+
+std::string read_whole_file(const std::string& path) {
+    if (auto bytes = read_if_there(path)) return std::move(*bytes);
+    throw file_error(ENOENT, path);
+}
+
+std::optional<std::string> read_if_there(const std::string& path) {
+    // Checked before opening: some devices act when they are opened.
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) {
+        if (errno == ENOENT) return std::nullopt;
+        throw file_error(errno, path);
+    }
+    if (!S_ISREG(status.st_mode)) throw RuntimeError(ErrorNumber::path_access);
+
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!file.is_open()) throw file_error(errno, path);
+    std::string bytes;
+    bytes.reserve(static_cast<std::size_t>(status.st_size));
+    std::array<char, 65536> chunk;
+    for (;;) {
+        const ssize_t got = ::read(file.number(), chunk.data(), chunk.size());
+        if (got < 0 && errno != EINTR) throw file_error(errno, path);
+        if (got > 0) bytes.append(chunk.data(), static_cast<std::size_t>(got));
+        // Only at its end does a normal file give less than was asked for.
+        if (got >= 0 && static_cast<std::size_t>(got) < chunk.size()) return bytes;
+    }
+}
+
+void replace_file(const std::string& path, const std::string& bytes, Readers readers) {
+    const std::string folder = fs::path(path).parent_path();
+    std::string new_file;
+    const FileDescriptor file(open_new_file(folder, readers == Readers::user_alone ? 0600 : 0666, new_file));
+    if (!file.is_open()) throw file_error(errno, new_file);
+    struct stat old {};
+    if (readers == Readers::as_usual && ::lstat(path.c_str(), &old) == 0 && S_ISREG(old.st_mode))
+        ::fchmod(file.number(), old.st_mode & 0666);
+    int failure = fill(file.number(), bytes);
+    // A link is replaced, not followed: it could lead into a folder where others could read a password.
+    if (failure == 0 && ::rename(new_file.c_str(), path.c_str()) != 0) failure = errno;
+    if (failure != 0) {
+        ::unlink(new_file.c_str());
+        throw file_error(failure, path);
+    }
+    sync_folder(folder);
+    remove_remains(folder);
+}
+
+void remove_remains(const std::string& folder) {
+    // They may hold a password that the user has removed since.
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+        if (entry->path().filename().string().starts_with(NEW_FILE)) ::unlink(entry->path().c_str());
+    }
+}
+
+std::unique_ptr<OpenFile> open_file_for_writing(const std::string& path) {
+    return std::make_unique<PosixOpenFile>(path);
+}
+
+}  // namespace machine::posix

@@ -1,0 +1,172 @@
+#include "machine/qt/binders/bar_binders.h"
+
+#include "machine/qt/look/late_icon.h"
+#include "machine/qt/typing/composition.h"
+#include "machine/qt/typing/conversion.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <algorithm>
+
+namespace machine::qt {
+
+using platform::Aspect;
+using platform::Menu;
+using platform::MouseButton;
+using platform::StatusBar;
+using platform::TabStrip;
+using platform::Text;
+using platform::ToolBar;
+
+namespace {
+
+/// The name of the widget for one part of a bar.
+QString part_name(const QObject& bar, int number) {
+    return QStringLiteral("%1_%2").arg(bar.objectName()).arg(number);
+}
+
+}  // namespace
+
+MenuBinder::MenuBinder(BoundForm& bound, Menu& control, QAction& action) : BinderOf(bound, control, action) {
+    action.setText(to_qstring(control.caption()));
+    if (const QString picture = action.property("picture").toString(); !picture.isEmpty())
+        action.setIcon(late_icon(picture));
+    action.setSeparator(control.caption() == u"-");
+    for (const Aspect aspect : {Aspect::enabled, Aspect::visible, Aspect::value}) refresh(aspect);
+    if (action.menu() == nullptr) {
+        connect(&action, &QAction::triggered, this, [this] { click(); });
+    }
+}
+
+void MenuBinder::refresh(Aspect aspect) {
+    switch (aspect) {
+        case Aspect::enabled:
+            return widget().setEnabled(control().enabled());
+        case Aspect::visible:
+            return widget().setVisible(control().visible());
+        case Aspect::value:
+            if (control().checked()) widget().setCheckable(true);
+            return widget().setChecked(control().checked());
+        default:
+            return;
+    }
+}
+
+void MenuBinder::click() {
+    commit_composition();
+    if (is_bound_live()) control().Click.raise();
+    // Qt has toggled the mark already; the handler decides whether it stays.
+    if (is_bound_live()) refresh(Aspect::value);
+}
+
+StatusBarBinder::StatusBarBinder(BoundForm& bound, StatusBar& control, QStatusBar& bar)
+    : BinderOf(bound, control, bar) {
+    for (int number = 1; number <= control.count(); ++number) {
+        auto* panel = new QToolButton(&bar);
+        panel->setObjectName(part_name(bar, number));
+        panel->setAutoRaise(true);
+        panel->setFocusPolicy(Qt::TabFocus);
+        panel->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        panel->installEventFilter(this);
+        connect(panel, &QToolButton::clicked, this, [this, number] { click(number, MouseButton::left); });
+        bar.addWidget(panel);
+        panels_.push_back(panel);
+    }
+    show_panels();
+}
+
+void StatusBarBinder::show(Aspect aspect) {
+    if (aspect == Aspect::text || aspect == Aspect::picture) show_panels();
+}
+
+/// Qt's buttons react to the left mouse button only.
+bool StatusBarBinder::filter(QObject& object, QEvent& event) {
+    const auto panel = std::find(panels_.begin(), panels_.end(), &object);
+    if (panel == panels_.end() || event.type() != QEvent::MouseButtonRelease) return false;
+    const auto& mouse = static_cast<const QMouseEvent&>(event);
+    if (mouse.button() != Qt::RightButton || !(*panel)->rect().contains(mouse.position().toPoint()))
+        return false;
+    click(static_cast<int>(panel - panels_.begin()) + 1, MouseButton::right);
+    return true;
+}
+
+void StatusBarBinder::show_panels() {
+    const QList<QIcon> pictures = pictures_of(widget());
+    for (std::size_t i = 0; i < panels_.size(); ++i) {
+        const StatusBar::Panel& shown = control().panel(static_cast<int>(i) + 1);
+        QToolButton& panel = *panels_[i];
+        panel.setText(to_qstring(shown.text));
+        panel.setToolTip(to_qstring(shown.tool_tip));
+        panel.setIcon(pictures.value(shown.picture - 1));
+        panel.setAccessibleName(to_qstring(shown.text.empty() ? shown.tool_tip : shown.text));
+    }
+}
+
+/// The handlers learn the mouse button before the panel; a key counts as the left button.
+void StatusBarBinder::click(int number, MouseButton button) {
+    act([&] {
+        control().MouseDown.raise(button);
+        control().PanelClick.raise(number);
+    });
+}
+
+TabStripBinder::TabStripBinder(BoundForm& bound, TabStrip& control, QTabBar& bar)
+    : BinderOf(bound, control, bar) {
+    for (const Text& caption : control.captions()) bar.addTab(to_qstring(caption));
+    show(Aspect::value);
+    // A click counts on the chosen tab too. Its signal comes before the bar changes the tab, so a change that
+    // the control does not know yet was made with a key.
+    connect(&bar, &QTabBar::tabBarClicked, this, [this](int index) {
+        if (index >= 0) choose(index);
+    });
+    connect(&bar, &QTabBar::currentChanged, this, [this](int index) {
+        if (is_bound_live() && index != this->control().selected() - 1) choose(index);
+    });
+}
+
+void TabStripBinder::show(Aspect aspect) {
+    if (aspect == Aspect::value) widget().setCurrentIndex(control().selected() - 1);
+}
+
+void TabStripBinder::choose(int index) {
+    act([&] { control().select(index + 1); });
+}
+
+ToolBarBinder::ToolBarBinder(BoundForm& bound, ToolBar& control, QToolBar& bar)
+    : BinderOf(bound, control, bar) {
+    const QList<QIcon> pictures = pictures_of(bar);
+    for (int number = 1; number <= control.count(); ++number) {
+        const ToolBar::Button& button = control.button(number);
+        auto* action = new QAction(pictures.value(number - 1), to_qstring(button.caption), &bar);
+        action->setObjectName(part_name(bar, number));
+        action->setSeparator(button.caption.empty());
+        action->setCheckable(button.in_group);
+        bar.addAction(action);
+        actions_.push_back(action);
+        connect(action, &QAction::triggered, this, [this, number] {
+            act([&] { this->control().ButtonClick.raise(number); });
+            // Qt has pressed the button already; the handler decides whether it stays so.
+            if (is_bound_live()) show_buttons();
+        });
+    }
+    show_buttons();
+}
+
+void ToolBarBinder::show(Aspect aspect) {
+    if (aspect == Aspect::value) show_buttons();
+}
+
+void ToolBarBinder::show_buttons() {
+    for (std::size_t i = 0; i < actions_.size(); ++i) {
+        const ToolBar::Button& button = control().button(static_cast<int>(i) + 1);
+        actions_[i]->setChecked(button.pressed);
+        actions_[i]->setEnabled(button.enabled);
+    }
+}
+
+}  // namespace machine::qt

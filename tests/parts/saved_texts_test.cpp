@@ -1,0 +1,113 @@
+// The box of saved texts in real folders, in the state in which other systems, other programs and mishaps
+// leave them.
+
+#include "core/saved_texts_folder.h"
+#include "platform/text/hangul.h"
+#include "saved_texts/frmMyMsgBox.h"
+#include "tests/support/child_process.h"
+#include "tests/support/files_on_disk.h"
+#include "tests/support/lists.h"
+#include "tests/support/test_platform.h"
+#include "tests/support/utf8.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using platform::Text;
+using tests::bytes_of;
+using tests::choose;
+using tests::column;
+using tests::names_in;
+using tests::put;
+using tests::utf8;
+using Strings = std::vector<std::string>;
+
+class SavedTextsOnDisk : public testing::Test, protected tests::FilesOnDisk {
+  protected:
+    SavedTextsOnDisk() { core::make_saved_texts_folders(platform); }
+
+    tests::TestPlatform machine;
+    tests::ScriptedDesktop& desktop = machine.desktop;
+    platform::Platform platform = tests::with(machine.platform, {.files = &files});
+    saved_texts::frmMyMsgBox box{platform, [](const platform::Text&, const platform::Text&) {}};
+    const fs::path root = application / "내모음함";
+    const fs::path first = root / "내모음함";
+};
+
+TEST_F(SavedTextsOnDisk, NamesWithSpelledOutSyllablesListOpenAndAreFoundByTyping) {
+    const std::string apart = platform::to_utf8(platform::decompose_hangul(u"각서"));
+    fs::create_directory(root / apart);
+    put(root / apart / (apart + ".txt"), "\xB0\xA1");
+    box.load();
+    EXPECT_EQ(column(box.ListView1), (Strings{"내모음함", "각서"}));
+    choose(box.ListView1, 1);
+    choose(box.ListView2, 0);
+    EXPECT_EQ(utf8(box.Text1.text() + box.txtText.text()), "각서가");
+
+    desktop.expect_box(u"'각서' 제목은 이미 존재하고 있습니다.");
+    box.Command1.Click.raise();
+    desktop.expect_box(u"수정 되었습니다.");
+    box.txtText.set_text(u"나");
+    box.Command2.Click.raise();
+    EXPECT_EQ(names_in(root / apart), std::set<std::string>{"각서.txt"});
+    EXPECT_EQ(bytes_of(root / apart / "각서.txt"), "\xB3\xAA");
+}
+
+TEST_F(SavedTextsOnDisk, NoPathLeavesTheBox) {
+    fs::create_directory(folder.path() / "outside");
+    put(folder.path() / "outside/남.txt", "theirs");
+    put(application / "..txt", "x");
+    fs::create_directory_symlink(folder.path() / "outside", root / "밖");
+    fs::create_symlink(folder.path() / "outside/남.txt", first / "링크.txt");
+    put(first / "..\\..\\위.txt", "x");
+    box.load();
+    EXPECT_EQ(column(box.ListView1), Strings{"내모음함"});
+    EXPECT_EQ(column(box.ListView2), Strings{});
+    for (const char16_t* name : {u"밖", u"..", u"."}) {
+        desktop.expect_input(u"등록할", name);
+        desktop.expect_box(u"' 분류명은 이미 존재하고 있습니다.");
+        desktop.expect_input(u"등록할", u"");
+        box.Command8.Click.raise();
+    }
+
+    fs::remove_all(first);
+    fs::create_directory_symlink(folder.path() / "outside", first);
+    desktop.expect_box(u"오류번호:75\r\n\r\n'내모음함' 분류는 내 모음함 밖으로 연결된 폴더");
+    box.Command10.Click.raise();
+    box.Text1.set_text(u"남");
+    box.txtText.set_text(u"글");
+    desktop.expect_box(u"'남' 제목은 이미 존재하고 있습니다.");
+    box.Command1.Click.raise();
+    box.Text1.set_text(u"새");
+    desktop.expect_box(u"오류번호:75");
+    box.Command1.Click.raise();
+    EXPECT_EQ(names_in(folder.path() / "outside"), std::set<std::string>{"남.txt"});
+    EXPECT_EQ(bytes_of(folder.path() / "outside/남.txt"), "theirs");
+}
+
+TEST_F(SavedTextsOnDisk, AMessageWithoutPermissionIsToldAndHidesNoOther) {
+    put(first / "가.txt", "1");
+    put(first / "나.txt", "2");
+    fs::create_directory(root / "잠김");
+    fs::permissions(first / "가.txt", fs::perms::none);
+    fs::permissions(root / "잠김", fs::perms::none);
+    for (const fs::path& path : {folder.path(), application, root, first})
+        fs::permissions(path, fs::perms(0755));
+    fs::permissions(first / "나.txt", fs::perms(0644));
+    tests::ChildProcess child([&] {
+        constexpr uid_t NOBODY = 65534;
+        if (::getuid() == 0 && ::setuid(NOBODY) != 0) return 1;
+        desktop.expect_box(u"오류번호:70\r\n\r\n'가.txt'");
+        box.load();
+        if (column(box.ListView2) != Strings{"나"}) return 2;
+        desktop.expect_box(u"오류번호:75");
+        choose(box.ListView1, 1);
+        return testing::Test::HasFailure() ? 3 : 0;
+    });
+    EXPECT_EQ(child.wait(), 0);
+    fs::permissions(root / "잠김", fs::perms(0700));
+}
+
+}  // namespace

@@ -1,0 +1,157 @@
+#include "tests/screen/screen_checks.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QTabBar>
+#include <gtest/gtest.h>
+#include <map>
+#include <vector>
+
+namespace tests {
+
+namespace {
+
+std::string name_of(const QWidget& widget) { return widget.objectName().toStdString(); }
+
+/// The room that a button's picture and text take, with the edge that the style draws around them.
+int width_needed(const QAbstractButton& button) {
+    if (qobject_cast<const QCheckBox*>(&button) || qobject_cast<const QRadioButton*>(&button))
+        return button.sizeHint().width();
+    constexpr int EDGES = 8;
+    const int picture = button.icon().isNull() ? 0 : button.iconSize().width() + 4;
+    return picture + button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width() + EDGES;
+}
+
+bool shows_its_text(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+        if (label->text().isEmpty()) return true;
+        if (label->wordWrap()) return label->height() >= label->heightForWidth(label->width());
+        return label->width() >= label->sizeHint().width() && label->height() >= label->sizeHint().height();
+    }
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+        return button->text().isEmpty() || button->width() >= width_needed(*button);
+    }
+    if (const auto* tabs = qobject_cast<const QTabBar*>(&widget)) {
+        return tabs->width() >= tabs->minimumSizeHint().width();
+    }
+    return true;
+}
+
+void expect_everything_readable(const QWidget& window) {
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || widget->isWindow() || widget->objectName().isEmpty()) continue;
+        EXPECT_TRUE(shows_its_text(*widget)) << name_of(*widget) << " cuts its text";
+        EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry()))
+            << name_of(*widget) << " is cut off by what holds it";
+    }
+}
+
+/// The widgets that Tab visits, from the first one on.
+std::vector<QWidget*> tab_order(QWidget& window) {
+    std::vector<QWidget*> order;
+    for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
+        if (next->isVisible() && next->isEnabled() && (next->focusPolicy() & Qt::TabFocus) &&
+            next->focusProxy() == nullptr && next->window() == &window)
+            order.push_back(next);
+    }
+    return order;
+}
+
+/// Tab goes down, or up to the head of the next column. A widget that the screen's order forgets comes before
+/// all others, which is a jump upwards for the one after it.
+void expect_tab_order_of_a_reader(QWidget& window) {
+    const auto order = tab_order(window);
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        const QRect from = place_in(window, *order[i - 1]);
+        const QRect to = place_in(window, *order[i]);
+        EXPECT_TRUE(to.bottom() >= from.top() || to.left() > from.right())
+            << "from " << name_of(*order[i - 1]) << " up to " << name_of(*order[i]);
+    }
+}
+
+/// What presses a widget or an action of the window at present.
+struct Shortcut {
+    QKeySequence keys;
+    std::string of;
+    QString tool_tip;
+};
+
+std::vector<Shortcut> shortcuts(const QWidget& window) {
+    std::vector<Shortcut> found;
+    for (const auto* action : window.findChildren<QAction*>()) {
+        if (action->isEnabled() && action->isVisible())
+            found.push_back({action->shortcut(), action->objectName().toStdString(), {}});
+    }
+    for (const auto* button : window.findChildren<QAbstractButton*>()) {
+        if (button->isEnabled() && button->isVisible())
+            found.push_back({button->shortcut(), name_of(*button), button->toolTip()});
+    }
+    for (const auto* label : window.findChildren<QLabel*>()) {
+        if (label->isVisible() && label->buddy() != nullptr)
+            found.push_back({QKeySequence::mnemonic(label->text()), name_of(*label), {}});
+    }
+    std::erase_if(found, [](const Shortcut& shortcut) { return shortcut.keys.isEmpty(); });
+    return found;
+}
+
+/// Two shortcuts alike would press nothing; a tool tip that names another key would mislead.
+void expect_clear_shortcuts(const QWidget& window) {
+    static const QRegularExpression KEYS(QStringLiteral("\\(((?:Ctrl|Alt|F\\d)[^)]*)\\)"));
+    std::map<QString, std::string> owners;
+    for (const Shortcut& shortcut : shortcuts(window)) {
+        const QString keys = shortcut.keys.toString();
+        const auto [other, is_new] = owners.emplace(keys, shortcut.of);
+        EXPECT_TRUE(is_new) << keys.toStdString() << " of " << shortcut.of << " and " << other->second;
+        QString told = KEYS.match(shortcut.tool_tip).captured(1);
+        told.replace(QStringLiteral("Enter"), QStringLiteral("Return"));
+        EXPECT_TRUE(told.isEmpty() || told == keys) << shortcut.of << " tells " << told.toStdString();
+    }
+}
+
+}  // namespace
+
+void settle() {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    QCoreApplication::processEvents();
+}
+
+QRect place_in(const QWidget& window, const QWidget& widget) {
+    return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
+}
+
+void expect_good_screen(QWidget& window) {
+    settle();
+    expect_clear_shortcuts(window);
+    expect_everything_readable(window);
+    expect_tab_order_of_a_reader(window);
+}
+
+void expect_pictures(const QWidget& window) {
+    const auto expect_picture = [](const QObject& object, const QIcon& icon) {
+        EXPECT_TRUE(icon.isNull() || !icon.pixmap(16).isNull()) << object.objectName().toStdString();
+    };
+    for (const auto* button : window.findChildren<QAbstractButton*>())
+        expect_picture(*button, button->icon());
+    for (const auto* action : window.findChildren<QAction*>()) expect_picture(*action, action->icon());
+}
+
+void expect_no_captions(const QWidget& screen) {
+    EXPECT_TRUE(screen.windowTitle().isEmpty());
+    for (const QObject* object : screen.findChildren<QObject*>()) {
+        if (object->objectName().startsWith(u'_')) continue;
+        for (const char* caption : {"text", "title"}) {
+            const bool is_field = object->inherits("QLineEdit") || object->inherits("QProgressBar") ||
+                                  object->inherits("QAbstractSpinBox");
+            EXPECT_TRUE(is_field || object->property(caption).toString().isEmpty())
+                << object->objectName().toStdString();
+        }
+    }
+}
+
+}  // namespace tests
