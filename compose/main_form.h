@@ -38,7 +38,7 @@ struct MainDoors {
     std::function<void()> NEW_SENDMAN_LOAD = {};
     /// Opens the box of saved texts.
     std::function<void()> saved_texts = {};
-    /// Looks for an update and offers it.
+    /// Checks for an update and offers it.
     std::function<void()> update_check = {};
     /// The same while the program starts; false when the server was not reached.
     std::function<bool()> update_check_at_start = {};

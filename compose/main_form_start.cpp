@@ -125,7 +125,7 @@ bool frmZent::update_check_at_start() {
 void frmZent::Form_Unload() {
     voice.RFK1.stop();
     sender.save();
-    // Written for those who may read it one day; this program never does.
+    // Settings files have always had this key, though the program never reads it.
     core::write_setting(platform_, core::settings::UPDATE_CHECK_AT_START,
                         mnuStartUpdate.checked() ? u"1" : u"0");
     session.save();

@@ -47,7 +47,7 @@ void PlusPanel::mText2_Change() {
 void PlusPanel::refuse_excess() {
     Text text = mText2.text();
     if (core::BYTE_LEN(text) <= TEXT_LIMIT) return;
-    tell_text_is_cut(desktop_);
+    show_text_is_cut(desktop_);
     mText2.set_text(core::LLL(text, TEXT_LIMIT));
     mText2.set_caret_to_end();
     Picture2.set_focus();

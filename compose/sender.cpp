@@ -29,8 +29,8 @@ Sender::Sender(platform::Form& form, platform::Platform& platform, core::AppStat
       state_(state) {
     txtUserName.GotFocus.connect([this] { txtUserName.set_tag(u"[" + txtUserName.text() + u"]"); });
     txtUserName.LostFocus.connect([this] { name_left(); });
-    // Deliberately under a key spelled otherwise than the one written at the end: settings files have always
-    // had both, and keys are found whatever their case.
+    // Deliberately a key in another spelling than the one that `save` writes: settings files have always had
+    // either, and the case of a key does not count.
     txtCallback.LostFocus.connect([this] { save_callback(core::settings::SENDER_NUMBER_LEFT); });
 }
 

@@ -100,8 +100,8 @@ void Session::read_auto_login_mark() {
 
 void Session::go_on_after_login() {
     state_.session.gSubmitSequence = 1;
-    // After an automatic login, which does not look at the kind of service, the buttons alone say that this
-    // one is of no use: the user stays logged in.
+    // The automatic login does not check the type of service. For one that cannot send only the buttons
+    // change: the user stays logged in.
     if (state_.session.gServiceType < core::SERVICE_PRO || state_.session.gServiceType > core::SERVICE_POP) {
         SET_LOGIN_BUTTONS(false);
         return;

@@ -125,7 +125,7 @@ void TextPanel::mText1_Change() {
     }
     const std::size_t bytes = core::BYTE_LEN(mText1.text());
     mHLen1.set_caption(platform::decimal(bytes) + u"Bytes");
-    // Below the limit the question is armed again; at exactly 80 bytes the answer still holds.
+    // Below the limit the user is to be asked again; at exactly 80 bytes the answer still holds.
     if (bytes < TEXT_LIMIT) mText1.set_tag(u"");
     mHLen3.set_visible(bytes > TEXT_LIMIT);
 }
@@ -161,7 +161,7 @@ void TextPanel::apply(Text text) {
         if (ask_for_long_text(platform_.desktop, u"[확인]을 하시면")) {
             mText1.set_tag(u"LONG");
         } else {
-            tell_text_is_cut(platform_.desktop);
+            show_text_is_cut(platform_.desktop);
             text = core::LLL(text, TEXT_LIMIT);
         }
     }
@@ -186,7 +186,7 @@ void TextPanel::save() {
     const Text subject = subject_.subjectText.text();
     Text title = subject;
     try {
-        // Asked for first: a wildcard in the subject would find other texts below.
+        // Checked first: a wildcard in the subject would match other texts below.
         core::check_saved_text_name(platform_, core::DEFAULT_CATEGORY, subject);
         for (int i = 1;
              core::FILE_EXISTS(platform_, core::saved_text_path(platform_, core::DEFAULT_CATEGORY, title));

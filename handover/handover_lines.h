@@ -10,8 +10,8 @@ namespace handover {
 /// and a NUL, which no message can hold, becomes a blank.
 platform::Text handed_over_text(std::string_view bytes);
 
-/// What the signal asks for: a page by the card manager's number of it, or a tab. What is no number of 16
-/// bits asks for the first tab, as 0 does.
+/// What the signal asks for: a page, by the card manager's number for it, or a tab. Anything but a 16-bit
+/// number asks for the first tab, as 0 does.
 int value_of_signal(platform::TextView signal);
 
 /// The recipient of each line in turn. A field that a line lacks keeps its value from the line before.

@@ -7,9 +7,9 @@ namespace platform {
 /// What no name of a file or folder may have, beside control characters.
 inline constexpr TextView FORBIDDEN_IN_NAMES = u"\\/:*?\"<>|";
 
-/// Whether a new file or folder may have the name: one that every system the user's files may be carried to
-/// takes, and that no list hides. Raises RuntimeError 52, whose description tells the user what is wrong.
-/// Files that are there already open under any name.
+/// Checks the name of a new file or folder: every system to which users carry their files must accept it, and
+/// no list may hide it. Raises RuntimeError 52, whose description tells the user what is wrong. Existing
+/// files open under any name.
 void check_file_name(TextView name);
 
 /// The closest name to a stranger's proposal that passes `check_file_name`: without folders, forbidden

@@ -39,7 +39,7 @@ void frmZentSend::next_piece(SendJob& job) {
 Text frmZentSend::CUT_NEXT_PIECE() {
     Text text = mText1.text();
     Text piece = core::LLL(text, compose::TEXT_LIMIT);
-    // Deliberately trimmed at its end only: a blank that opens a piece is the user's.
+    // Deliberately trimmed at its end only: a blank at the start of a piece is the user's.
     mText1.set_text(platform::right_trim(text.substr(piece.size())));
     return piece;
 }

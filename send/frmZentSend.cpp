@@ -35,7 +35,7 @@ void frmZentSend::Form_Load() {
 
 void frmZentSend::Form_Activate() {
     state_.forms.gSendFormOpen = true;
-    // The window becomes active again when a box over it closes; there is one job all the same.
+    // The window becomes active again when a box over it closes; that must not start a second job.
     if (!Timer1.tag().empty()) return;
     Timer1.set_tag(u"OK");
     Timer1.set_enabled(true);

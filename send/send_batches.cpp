@@ -39,7 +39,7 @@ void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options
     while (current != rows) {
         ++current;
         if (options.leaves_trace) RecipientRows.make_visible(current - 1);
-        if (gather(batch, current)) submit_batch(job, batch, current, options.leaves_trace);
+        if (add_to_batch(batch, current)) submit_batch(job, batch, current, options.leaves_trace);
         if (options.shows_progress) PBar1.set_progress(current, rows);
         if (current == rows) {
             // The last rows were left out, but the batch holds earlier ones.
@@ -56,7 +56,7 @@ void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options
 /// Adds the row to the batch when it is checked and has a number. Returns whether the batch is to be
 /// submitted now. A row that does not fit is not consumed (`current` is decremented) and starts the next
 /// batch.
-bool frmZentSend::gather(Batch& batch, std::size_t& current) const {
+bool frmZentSend::add_to_batch(Batch& batch, std::size_t& current) const {
     const platform::ListItem& row = RecipientRows.row(current - 1);
     if (!row.checked()) return false;
     const std::optional<Text> address = address_of(row);

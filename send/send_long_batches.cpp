@@ -39,7 +39,7 @@ void frmZentSend::SEND_LONG_BATCHES() {
             // or the later pieces would reach nobody. A stop ends the pass of one piece alone.
             const bool last = mText1.text().empty();
             pass_over_rows(job, batch, {.leaves_trace = last, .shows_progress = false});
-            // Deliberately unchecked: above 100 it is the error that ends such a job.
+            // Deliberately not limited: a value above 100 raises the error that ends such a job.
             if (!last) PBar1.set_progress(static_cast<std::size_t>(job.pieces), expected);
         }
     });

@@ -67,7 +67,7 @@ class ListView : public Control {
         Text caption;
         /// Picture beside the caption: 0 ascending, 1 descending.
         std::optional<int> picture = {};
-        /// In twips; 0 leaves it to the screen.
+        /// In twips; 0 keeps the screen's width.
         int width = 0;
     };
 

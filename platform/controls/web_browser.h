@@ -45,7 +45,7 @@ class WebBrowser : public Control {
     /// The last navigation that a handler asked for; the user may have followed links since.
     const Navigation& navigation() const { return navigation_; }
 
-    /// A file that grows beyond it is given up, in bytes.
+    /// The largest file that is accepted, in bytes; a larger one is given up.
     static constexpr std::int64_t LARGEST_FILE = std::int64_t{100} * 1024 * 1024;
 
     // One file at a time, and only after a click of the user. Without a handler every file is refused.

@@ -37,7 +37,8 @@ Text with_line_feeds(TextView text);
 Text lower_case(TextView text);
 bool equal_without_case(TextView a, TextView b);
 
-/// ASCII only in either direction: meant for keys, names of resources and test output, not for user texts.
+/// ASCII only, in both directions: for keys, names of resources and test output, not for texts that the user
+/// reads.
 Text from_ascii(std::string_view ascii);
 
 /// The number in decimal, with a leading minus sign when negative.

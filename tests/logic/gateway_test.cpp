@@ -146,7 +146,7 @@ struct Registrations : Wrappers {
                        .s_attach_file = u"C:\\Temp\\문서 A.WAV;"};
 };
 
-TEST_F(Registrations, OnlyAnIndexOfOneGoesThroughTheSecondSubmit) {
+TEST_F(Registrations, OnlyKindsWithIndexOneUseTheSecondSubmit) {
     state.session.gSubmitSequence = 7;
     for (const int index : {0, 1, 2}) {
         message.SMSIndex = index;

@@ -206,7 +206,7 @@ TEST_F(HandOver, WhileItIsTakenInNoOtherOneStartsAndTheWindowIsPainted) {
     EXPECT_EQ(progress, (std::vector<int>{0, 50, 100}));
 }
 
-TEST_F(HandOver, APageIsOpenedForWhoIsLoggedIn) {
+TEST_F(HandOver, APageOpensForAUserWhoIsLoggedIn) {
     state.session.gLoggedIn = true;
     state.session.gLoginResult = true;
     Rows captions;

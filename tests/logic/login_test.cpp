@@ -270,7 +270,7 @@ TEST_F(ManualLogin, SucceedsWithoutAProfileAndAsksForNoneWithoutAMoneyStatus) {
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(panels(), (Calls{"로그인상태", "가입자 hong[]  ", "폰디라번호   "}));
 
-    // The kind of service that counts is then the one that was known before.
+    // Then the type of service that was known before counts.
     state.session.gServiceType = 22;
     carrier.calls.clear();
     carrier.results[{"money_status", 1}] = 7;

@@ -36,7 +36,7 @@ class SavedTextsOnDisk : public testing::Test, protected tests::FilesOnDisk {
     const fs::path first = root / "내모음함";
 };
 
-TEST_F(SavedTextsOnDisk, NamesWithSpelledOutSyllablesListOpenAndAreFoundByTyping) {
+TEST_F(SavedTextsOnDisk, NamesInConjoiningLettersAreListedOpenedAndFoundByTyping) {
     const std::string apart = platform::to_utf8(platform::decompose_hangul(u"각서"));
     fs::create_directory(root / apart);
     put(root / apart / (apart + ".txt"), "\xB0\xA1");
@@ -87,7 +87,7 @@ TEST_F(SavedTextsOnDisk, NoPathLeavesTheBox) {
     EXPECT_EQ(bytes_of(folder.path() / "outside/남.txt"), "theirs");
 }
 
-TEST_F(SavedTextsOnDisk, AMessageWithoutPermissionIsToldAndHidesNoOther) {
+TEST_F(SavedTextsOnDisk, AMessageWithoutPermissionIsReportedAndHidesNoOther) {
     put(first / "가.txt", "1");
     put(first / "나.txt", "2");
     fs::create_directory(root / "잠김");

@@ -51,7 +51,7 @@ TEST_F(RecorderPanel, LooksForTheMicrophoneOnceTheUserSeesIt) {
     EXPECT_TRUE(find("_recordWarning").isVisible());
 }
 
-TEST_F(RecorderPanel, RecordsStopsAndPlaysByOneKey) {
+TEST_F(RecorderPanel, RecordsStopsAndPlaysWithOneKey) {
     form.voice.TabStrip2.select(2);
     paint();
     form.voice.RFK1.set_focus();
@@ -117,7 +117,7 @@ TEST_F(RecorderPanel, ShowsEveryMessageWholeInTheSmallestWindow) {
     expect_whole("끊어졌습니다");
 }
 
-TEST_F(RecorderPanel, HasANameForEverythingThatAScreenReaderMeets) {
+TEST_F(RecorderPanel, HasANameForAScreenReaderOnEveryControl) {
     form.voice.TabStrip2.select(2);
     paint();
     for (const char* name : {"_record", "_stop", "_play", "_recordTime", "_recordLevel", "_recordMessage"}) {

@@ -55,7 +55,7 @@ class SavedTextsWindow : public ProgramTest {
     std::filesystem::path first = root / "내모음함";
 };
 
-TEST_F(SavedTextsWindow, NamesACategoryWithASyllableThatIsUnfinishedWhenTheButtonIsPressed) {
+TEST_F(SavedTextsWindow, AnUnfinishedSyllableIsPartOfANewCategorysName) {
     log_in();
     in_main([](QWidget& window) { press(window, "MyMsgBttn"); });
     in_box([](QWidget& window) { press(window, "Command8"); });
@@ -82,7 +82,7 @@ TEST_F(SavedTextsWindow, NamesACategoryWithASyllableThatIsUnfinishedWhenTheButto
     run();
 }
 
-TEST_F(SavedTextsWindow, SavesTheDraftAndTakesATextBackAndKeepsEveryCharacter) {
+TEST_F(SavedTextsWindow, SavingAndApplyingATextKeepsEveryCharacter) {
     std::string all;
     for (unsigned unit = 0x20; unit < 0x10000; ++unit) {
         const std::string encoded = platform::encode_cp949(platform::Text(1, static_cast<char16_t>(unit)));

@@ -221,7 +221,7 @@ TEST_F(WindowTest, AnUncaughtErrorIsShownAndTheProgramGoesOn) {
     application.show_errors_with({});
 }
 
-TEST_F(WindowTest, ATestFindsWhatIsWrongBetweenAFormAndItsScreen) {
+TEST_F(WindowTest, FaultsBetweenAFormAndItsScreenAreFound) {
     frmSample whole(desktop);
     EXPECT_EQ(faults_of(whole, *screens.build(u"frmSample")), std::vector<QString>{});
 
