@@ -212,7 +212,7 @@ TEST_F(ManualLogin, AFailedBindIsExplainedAndTheFormStaysForAnotherTry) {
         enter(login, u"hong", u"right");
     });
     form.session.cmdLogin.Click.raise();
-    expect_told(FAILURE, BoxIcon::exclamation, "로그인 실패");
+    expect_shown(FAILURE, BoxIcon::exclamation, "로그인 실패");
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINPW"), "right");
 }
@@ -358,7 +358,7 @@ TEST_F(LogOut, AsksAndThenForgetsTheLogin) {
     desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::no);
     form.session.cmdLogOut.Click.raise();
     EXPECT_TRUE(state.session.gLoggedIn);
-    expect_told(u"Cardvale 폰디라 통합메시징 서비스 로그아웃 하시겠습니까?", BoxIcon::question, "");
+    expect_shown(u"Cardvale 폰디라 통합메시징 서비스 로그아웃 하시겠습니까?", BoxIcon::question, "");
 
     desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::yes);
     form.session.cmdLogOut.Click.raise();

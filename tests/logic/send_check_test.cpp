@@ -94,7 +94,7 @@ TEST(SendCheck, ShowsTheFirstOfSeveralFaults) {
         s.click();
     };
     s.desktop.in_form(u"frmZentLogin", [](Form& login) { login.escape_pressed(); });
-    told(u"KT 폰디라 Login과정을 거쳐야 합니다.");
+    refused(u"KT 폰디라 Login과정을 거쳐야 합니다.");
     s.state.session.gLoggedIn = true;
     s.files.folders.clear();
     refused(u"메시지 내용을 입력하십시오!");
