@@ -110,7 +110,8 @@ TEST(AllScreens, ShowTheMainWindowWholeAtItsSmallest) {
     std::optional<QRect> panel_place;
     for (const compose::KindOfMessage& kind : compose::kinds_of_message()) {
         for (int source = 1; source <= 3; ++source) {
-            SCOPED_TRACE(testing::Message() << "kind " << platform::to_utf8(kind.caption) << ", source " << source);
+            SCOPED_TRACE(testing::Message()
+                         << "kind " << platform::to_utf8(kind.caption) << ", source " << source);
             form.choose(kind.kind);
             form.voice.TabStrip2.select(source);
             window.resize(smallest);

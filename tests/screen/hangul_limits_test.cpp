@@ -99,7 +99,9 @@ struct Draft : WindowsOnDoubles {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    platform::TextBox& field() { return kind == compose::MessageKind::text ? form.text.mText1 : form.plus.mText2; }
+    platform::TextBox& field() {
+        return kind == compose::MessageKind::text ? form.text.mText1 : form.plus.mText2;
+    }
     const char* field_name() const { return kind == compose::MessageKind::text ? "mText1" : "mText2"; }
 
     void write(const Text& text) {
@@ -387,7 +389,8 @@ TEST_F(HangulLimits, AnotherKindBeginsItsTextWithoutTheUnfinishedSyllable) {
             draft.leave_han_unfinished();
             auto& tabs = find<QTabBar>("TabStrip1");
             const auto click_tab = [&](compose::MessageKind kind) {
-                QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(static_cast<int>(kind) - 1).center());
+                QTest::mouseClick(&tabs, Qt::LeftButton, {},
+                                  tabs.tabRect(static_cast<int>(kind) - 1).center());
                 settle();
             };
             click_tab(compose::MessageKind::plus);

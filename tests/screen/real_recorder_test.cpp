@@ -1,7 +1,7 @@
 // The recorder with a real sound server: it must record what is spoken into the microphone.
 
-#include "platform/error.h"
 #include "machine/qt/modules/late_ports.h"
+#include "platform/error.h"
 #include "tests/screen/sound_server.h"
 
 #include <QFile>
