@@ -22,7 +22,7 @@ class frmSendEndBox : public platform::Form {
     platform::CommandButton Command1{*this, u"Command1", u"발송결과"};
     platform::CommandButton Command2{*this, u"Command2", u"확인(&O)"};
 
-    /// There are results to look at; without any the button stays grey.
+    /// Enables the button that shows the results.
     void offer_results() { Command1.set_enabled(true); }
 
   protected:

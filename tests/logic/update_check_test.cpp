@@ -31,7 +31,7 @@ TEST(UpdateDecision, DependsOnPresenceAndOnTheVersionAsText) {
         {"2.0.1", "a.dll", true, "2.0.1", false},
         {"2.0.1", "a.dll", true, "2.0.0", false},
         {"2.0.1", "a.dll", true, "2.0.2", true},
-        {"2.0.9", "a.dll", true, "2.0.10", false},  // compared as texts
+        {"2.0.9", "a.dll", true, "2.0.10", false},  // compared compared as texts
         {"2.0", "a.dll", true, "2.0.0", true},
         {"A", "a.dll", true, "a", true},
         {"2.0.1", "a.dll", false, "1.0", true},
