@@ -1,6 +1,5 @@
 // Start and stop of the main window: placement, first tick, what is kept at the end.
 
-#include "compose/handover_files.h"
 #include "compose/main_form.h"
 #include "core/app_state.h"
 #include "core/boxes.h"
@@ -130,7 +129,7 @@ void frmZent::Form_Unload() {
                         mnuStartUpdate.checked() ? u"1" : u"0");
     session.save();
     save_placement();
-    for (const Text& file : {isend_text(platform_), tmpman_txt(platform_)})
+    for (const Text& file : {core::isend_text(platform_), core::tmpman_txt(platform_)})
         platform::ignore_errors([&] { core::DELETE_FILE(platform_, file); });
     core::TEMP_ALL_DEL(platform_);
 }

@@ -8,6 +8,14 @@ namespace core {
 using platform::Platform;
 using platform::Text;
 
+Text isend_text(const Platform& platform) {
+    return platform.files.application_directory() + u"\\temp\\isend.text";
+}
+
+Text tmpman_txt(const Platform& platform) {
+    return platform.files.application_directory() + u"\\temp\\tmpman.txt";
+}
+
 void make_folder_when_missing(Platform& platform, const Text& path) {
     platform::ignore_errors([&] {
         if (!platform.files.folder_exists(path)) platform.files.make_folder(path);

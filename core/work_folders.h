@@ -11,6 +11,11 @@ inline constexpr platform::TextView UPDATE_TEMP = u"\\update_temp";
 /// The folder of temporary sound files, on drive C whatever the application directory is.
 inline constexpr platform::TextView SOUND_FOLDER = u"c:\\temp\\";
 
+/// The two files of the card manager's hand-over. The first is the signal and says what is handed over; the
+/// second, with the recipients, is complete when the first appears.
+platform::Text isend_text(const platform::Platform& platform);
+platform::Text tmpman_txt(const platform::Platform& platform);
+
 /// Makes a folder that the program needs when it is missing. Errors are ignored here; they surface when the
 /// folder is used.
 void make_folder_when_missing(platform::Platform& platform, const platform::Text& path);

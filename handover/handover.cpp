@@ -1,7 +1,7 @@
 #include "handover/handover.h"
 
-#include "compose/handover_files.h"
 #include "core/paths.h"
+#include "core/work_folders.h"
 #include "handover/handover_lines.h"
 #include "platform/error.h"
 #include "service/service_pages.h"
@@ -24,24 +24,24 @@ HandOver::HandOver(platform::Platform& platform, core::AppState& state, compose:
 
 void HandOver::NEW_SENDMAN_LOAD() {
     if (state_.forms.gSendFormOpen) return;
-    if (!core::FILE_EXISTS(platform_, compose::isend_text(platform_))) return left_over_.reset();
+    if (!core::FILE_EXISTS(platform_, core::isend_text(platform_))) return left_over_.reset();
     form_.Timer1.set_enabled(false);
     // Files that could not be deleted are taken in only once: choosing the tab every half second would empty
     // the draft each time, and the user could not leave a page.
     if (!left_over_ || *left_over_ != files()) take_in();
-    delete_quietly(compose::isend_text(platform_));
-    delete_quietly(compose::tmpman_txt(platform_));
+    delete_quietly(core::isend_text(platform_));
+    delete_quietly(core::tmpman_txt(platform_));
     left_over_.reset();
-    if (core::FILE_EXISTS(platform_, compose::isend_text(platform_))) left_over_ = files();
+    if (core::FILE_EXISTS(platform_, core::isend_text(platform_))) left_over_ = files();
     form_.Timer1.set_enabled(true);
 }
 
 void HandOver::take_in() {
-    const int value = value_of_signal(handed_over_text(bytes_of(compose::isend_text(platform_))));
+    const int value = value_of_signal(handed_over_text(bytes_of(core::isend_text(platform_))));
     if (is_page(value)) return open_page(value);
-    delete_quietly(compose::isend_text(platform_));
+    delete_quietly(core::isend_text(platform_));
     // Deliberately thrown away while a page is open: the user has turned to something else.
-    if (!state_.forms.gWebFormOpen && core::FILE_EXISTS(platform_, compose::tmpman_txt(platform_)))
+    if (!state_.forms.gWebFormOpen && core::FILE_EXISTS(platform_, core::tmpman_txt(platform_)))
         take_in_recipients(value);
 }
 
@@ -61,7 +61,7 @@ void HandOver::open_page(int page) {
 }
 
 void HandOver::take_in_recipients(int tab) {
-    const Text text = handed_over_text(bytes_of(compose::tmpman_txt(platform_)));
+    const Text text = handed_over_text(bytes_of(core::tmpman_txt(platform_)));
     if (text.empty()) return;
     const std::vector<TextView> lines = platform::split(text, u'\n');
     compose::RecipientList& recipients = form_.recipients;
@@ -81,7 +81,7 @@ void HandOver::take_in_recipients(int tab) {
 }
 
 HandOver::Files HandOver::files() const {
-    return {bytes_of(compose::isend_text(platform_)), bytes_of(compose::tmpman_txt(platform_))};
+    return {bytes_of(core::isend_text(platform_)), bytes_of(core::tmpman_txt(platform_))};
 }
 
 std::string HandOver::bytes_of(const Text& path) const {

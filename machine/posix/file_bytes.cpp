@@ -59,7 +59,7 @@ int open_new_file(const std::string& folder, mode_t mode, std::string& path) {
 }
 
 /// Small writes go to the system together.
-constexpr std::size_t BUFFER = 64 * 1024;
+constexpr std::size_t BUFFER = std::size_t{64} * 1024;
 
 class PosixOpenFile : public OpenFile {
   public:

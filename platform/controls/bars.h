@@ -83,7 +83,6 @@ class ToolBar : public Control {
         /// Stays pressed until another button of its group is pressed.
         bool in_group = false;
         bool pressed = false;
-        bool enabled = true;
     };
 
     ToolBar(Form& form, TextView name, std::vector<Button> buttons)

@@ -117,7 +117,7 @@ std::shared_ptr<const CardRows> CardDatabase::run(const Text& statement) {
     const auto known = results_.find(statement);
     if (known != results_.end()) return known->second;
 
-    const auto rows = fetch(statement);
+    auto rows = fetch(statement);
     if (result_fields_ > MOST_RESULT_FIELDS) {
         results_.clear();
         result_fields_ = 0;
@@ -134,6 +134,7 @@ std::shared_ptr<const CardRows> CardDatabase::fetch(const Text& statement) {
 
     const int count = sqlite3_column_count(prepared.get());
     std::vector<CardRows::Column> columns;
+    columns.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         columns.push_back(
             {platform::from_utf8(sqlite3_column_name(prepared.get(), i)), type_of(prepared.get(), i)});

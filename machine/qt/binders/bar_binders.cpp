@@ -162,11 +162,8 @@ void ToolBarBinder::show(Aspect aspect) {
 }
 
 void ToolBarBinder::show_buttons() {
-    for (std::size_t i = 0; i < actions_.size(); ++i) {
-        const ToolBar::Button& button = control().button(static_cast<int>(i) + 1);
-        actions_[i]->setChecked(button.pressed);
-        actions_[i]->setEnabled(button.enabled);
-    }
+    for (std::size_t i = 0; i < actions_.size(); ++i)
+        actions_[i]->setChecked(control().button(static_cast<int>(i) + 1).pressed);
 }
 
 }  // namespace machine::qt

@@ -120,7 +120,7 @@ BoxAnswer QtDesktop::message_box(const MessageBox& box) {
 std::optional<Text> QtDesktop::ask_for_file(const FileQuestion& question) {
     commit_composition();
     const QPointer<QWidget> front = front_window();
-    const std::optional<Text> chosen = file_dialog_.ask(question, front);
+    std::optional<Text> chosen = file_dialog_.ask(question, front);
     give_back_focus(front);
     return chosen;
 }
@@ -128,7 +128,7 @@ std::optional<Text> QtDesktop::ask_for_file(const FileQuestion& question) {
 Text QtDesktop::input_box(const InputBox& box) {
     commit_composition();
     const QPointer<QWidget> front = front_window();
-    const Text answer = ask_for_text(box, front);
+    Text answer = ask_for_text(box, front);
     give_back_focus(front);
     return answer;
 }

@@ -20,7 +20,7 @@ struct TransferLimits {
     int answer_milliseconds = 60'000;
     /// Four times the longest list. Each of a list's hundred entries is searched for from its start, and the
     /// window must not freeze meanwhile.
-    std::size_t body_bytes = 128 * 1024;
+    std::size_t body_bytes = std::size_t{128} * 1024;
 };
 
 /// Fetches by HTTP for the update check.

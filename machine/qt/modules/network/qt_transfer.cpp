@@ -20,9 +20,9 @@ using platform::TextView;
 namespace {
 
 /// How much Qt reads ahead. When that is full the server has to wait.
-constexpr qint64 READ_AHEAD = 512 * 1024;
+constexpr qint64 READ_AHEAD = qint64{512} * 1024;
 /// How much is read from Qt at a time: each read has to notify its thread.
-constexpr std::size_t BUFFER = 64 * 1024;
+constexpr std::size_t BUFFER = std::size_t{64} * 1024;
 
 QString to_qstring(TextView text) {
     return QString(reinterpret_cast<const QChar*>(text.data()), static_cast<qsizetype>(text.size()));
@@ -38,7 +38,7 @@ QUrl web_address(const Text& text) {
     QString address = to_qstring(platform::trim(text));
     static const QRegularExpression scheme_first(QStringLiteral("^[A-Za-z0-9+.-]*://"));
     if (!scheme_first.match(address).hasMatch()) address.prepend(QStringLiteral("http://"));
-    const QUrl url(address);
+    QUrl url(address);
     const QString scheme = url.scheme();
     if (scheme != QStringLiteral("http") && scheme != QStringLiteral("https"))
         throw RuntimeError(ErrorNumber::protocol_not_supported);
