@@ -26,13 +26,8 @@ bool has_document(const platform::ListView& documents, const Text& path) {
 }  // namespace
 
 FaxPanel::FaxPanel(platform::Form& form, platform::Platform& platform, platform::CommonDialog& dialog)
-    : Frame1(form, u"Frame1_2"),
-      Label3_2(form, u"Label3_2", u"보낼문서:"),
-      FAX1(form, u"FAX1", {{.caption = u"보낼문서"}}),
-      FAXBttn1(form, u"FAXBttn1", u"찾아보기..."),
-      FAXBttn2(form, u"FAXBttn2", u"삭제"),
-      FAXFileSize1(form, u"FAXFileSize1"),
-      Label1_3(form, u"Label1_3",
+    : Room(form),
+      Label1_3(form_, u"Label1_3",
                u"1. 문서형태:doc, xls, ppt, hwp, gul, txt, bmp, gif, jpg\r\n\r\n"
                u"2. 이미지를 A4한장으로 보내려면 파일크기가 544*810을\r\n"
                u"    초과하지 않도록 다음과 같이 처리하십시오.\r\n"
@@ -41,9 +36,7 @@ FaxPanel::FaxPanel(platform::Form& form, platform::Platform& platform, platform:
                u"3. 보낼 문서는 한번에 5개까지 첨부가 가능합니다."),
       platform_(platform),
       dialog_(dialog) {
-    FAX1.set_container(Frame1);
-    FAXBttn1.set_container(Frame1);
-    FAXBttn2.set_container(Frame1);
+    put_into(Frame1, {&FAX1, &FAXBttn1, &FAXBttn2});
     // A cancelled dialog ends the handler silently.
     FAXBttn1.Click.connect([this] { platform::ignore_errors([this] { add_document(); }); });
     FAXBttn2.Click.connect([this] {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "compose/room.h"
 #include "platform/controls/buttons.h"
 #include "platform/controls/common_dialog.h"
 #include "platform/controls/displays.h"
-#include "platform/controls/form.h"
 #include "platform/controls/list_view.h"
 #include "platform/controls/panels.h"
 #include "platform/ports/platform.h"
@@ -11,17 +11,17 @@
 namespace compose {
 
 /// The documents of a fax.
-class FaxPanel {
+class FaxPanel : Room {
   public:
     /// `dialog` asks for documents.
     FaxPanel(platform::Form& form, platform::Platform& platform, platform::CommonDialog& dialog);
 
-    platform::Frame Frame1;
-    platform::Label Label3_2;
-    platform::ListView FAX1;
-    platform::CommandButton FAXBttn1;
-    platform::CommandButton FAXBttn2;
-    platform::Label FAXFileSize1;
+    platform::Frame Frame1{form_, u"Frame1_2"};
+    platform::Label Label3_2{form_, u"Label3_2", u"보낼문서:"};
+    platform::ListView FAX1{form_, u"FAX1", {{.caption = u"보낼문서"}}};
+    platform::CommandButton FAXBttn1{form_, u"FAXBttn1", u"찾아보기..."};
+    platform::CommandButton FAXBttn2{form_, u"FAXBttn2", u"삭제"};
+    platform::Label FAXFileSize1{form_, u"FAXFileSize1"};
     platform::Label Label1_3;
 
     /// Shows the size of all documents together.

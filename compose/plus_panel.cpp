@@ -10,14 +10,9 @@ using platform::Text;
 
 PlusPanel::PlusPanel(platform::Form& form, platform::Desktop& desktop, platform::Control& container,
                      Subject& subject, const Sender& sender)
-    : Picture2(form, u"Picture2_1"),
-      mText2(form, u"mText2"),
-      mHLen2(form, u"mHLen2", u"0/80Byte"),
-      desktop_(desktop),
-      subject_(subject),
-      sender_(sender) {
-    Picture2.set_container(container);
-    mText2.set_container(Picture2);
+    : Room(form), desktop_(desktop), subject_(subject), sender_(sender) {
+    put_into(container, {&Picture2});
+    put_into(Picture2, {&mText2});
     mText2.Change.connect([this] { mText2_Change(); });
     // On every key, backspace too.
     mText2.KeyPress.connect([this](platform::KeyPressed&) { refuse_excess(); });

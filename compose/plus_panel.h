@@ -1,25 +1,25 @@
 #pragma once
 
+#include "compose/room.h"
 #include "compose/sender.h"
 #include "compose/subject.h"
 #include "platform/controls/displays.h"
 #include "platform/controls/fields.h"
-#include "platform/controls/form.h"
 #include "platform/controls/panels.h"
 #include "platform/ports/desktop.h"
 
 namespace compose {
 
 /// The text that goes with a voice: at most 80 bytes of cp949, never sent in pieces.
-class PlusPanel {
+class PlusPanel : Room {
   public:
     /// `container` is the panel of the voice.
     PlusPanel(platform::Form& form, platform::Desktop& desktop, platform::Control& container,
               Subject& subject, const Sender& sender);
 
-    platform::PictureBox Picture2;
-    platform::TextBox mText2;
-    platform::Label mHLen2;
+    platform::PictureBox Picture2{form_, u"Picture2_1"};
+    platform::TextBox mText2{form_, u"mText2"};
+    platform::Label mHLen2{form_, u"mHLen2", u"0/80Byte"};
 
     void mText2_Change();
 

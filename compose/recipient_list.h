@@ -1,12 +1,12 @@
 #pragma once
 
 #include "compose/message_kinds.h"
+#include "compose/room.h"
 #include "core/app_state.h"
 #include "platform/controls/bars.h"
 #include "platform/controls/buttons.h"
 #include "platform/controls/displays.h"
 #include "platform/controls/fields.h"
-#include "platform/controls/form.h"
 #include "platform/controls/list_view.h"
 #include "platform/ports/platform.h"
 
@@ -25,27 +25,35 @@ inline constexpr int RECIPIENT_TITLE = 4;
 inline constexpr platform::TextView NO_NAME = u"이름없음";
 
 /// The recipients: typed, picked from the cards, or handed over by the card manager.
-class RecipientList {
+class RecipientList : Room {
   public:
     /// `pick` opens the picker; without one its button and its menu entry are grey.
     RecipientList(platform::Form& form, platform::Platform& platform, core::AppState& state,
                   std::function<void()> pick);
 
-    std::array<platform::TextBox, 2> HText1;
-    platform::Label Label2_5;
-    platform::CommandButton HBttn1;
-    platform::CommandButton HBttn2;
-    platform::CommandButton Command7;
-    platform::ListView ListView1;
-    platform::ProgressBar PBar1;
-    platform::Label Label4;
+    std::array<platform::TextBox, 2> HText1{platform::TextBox{form_, u"HText1_0"},
+                                            platform::TextBox{form_, u"HText1_1"}};
+    platform::Label Label2_5{form_, u"Label2_5"};
+    platform::CommandButton HBttn1{form_, u"HBttn1", u"추가"};
+    platform::CommandButton HBttn2{form_, u"HBttn2", u"삭제"};
+    platform::CommandButton Command7{form_, u"Command7", u"명함DB 불러오기..."};
+    platform::ListView ListView1{form_,
+                                 u"ListView1",
+                                 {{.caption = u"선택"},
+                                  {.caption = u"이름"},
+                                  {.caption = u"문자보낼번호"},
+                                  {.caption = u"상태"},
+                                  {.caption = u"직위"}},
+                                 true};
+    platform::ProgressBar PBar1{form_, u"PBar1"};
+    platform::Label Label4{form_, u"Label4", u"전체> 대상>"};
 
-    platform::Menu mnuSubPopup;
-    platform::Menu mnusubpopup1;
-    platform::Menu mnusubpopup7;
-    platform::Menu mnusubpopup4;
-    platform::Menu mnusubpopup5;
-    platform::Menu mnusubpopup9;
+    platform::Menu mnuSubPopup{form_, u"mnuSubPopup", u"작업메뉴"};
+    platform::Menu mnusubpopup1{form_, u"mnusubpopup1", u"명함DB 불러오기(&M)..."};
+    platform::Menu mnusubpopup7{form_, u"mnusubpopup7", u"전체선택(&A)"};
+    platform::Menu mnusubpopup4{form_, u"mnusubpopup4", u"선택(&S)"};
+    platform::Menu mnusubpopup5{form_, u"mnusubpopup5", u"선택취소(&C)"};
+    platform::Menu mnusubpopup9{form_, u"mnusubpopup9", u"삭제(&D)"};
 
     /// Sets the kind of message whose numbers are typed from now on.
     void set_kind(const KindOfMessage& kind);
@@ -69,7 +77,6 @@ class RecipientList {
     void row_checked(std::size_t row);
     void sort_by(int column);
 
-    platform::Form& form_;
     platform::Platform& platform_;
     core::AppState& state_;
     std::function<void()> pick_;

@@ -8,16 +8,7 @@
 namespace compose {
 
 SchedulePanel::SchedulePanel(platform::Form& form, platform::Platform& platform)
-    : Option1(form, u"Option1", u"즉시전송"),
-      Option2(form, u"Option2", u"예약전송(권장)"),
-      Label2_2(form, u"Label2_2", u"발송예약 시간:"),
-      DTP1(form, u"DTP1"),
-      Combo1(form, u"Combo1"),
-      Combo2(form, u"Combo2"),
-      Label2_3(form, u"Label2_3", u"시           분"),
-      Combo6(form, u"Combo6"),
-      Command6(form, u"Command6", u"설정"),
-      platform_(platform) {
+    : Room(form), platform_(platform) {
     Option1.set_chosen(true);
     DTP1.set_enabled(false);
     Combo1.set_enabled(false);

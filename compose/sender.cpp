@@ -21,12 +21,7 @@ void fill(ComboBox& field, const Text& first, const Text& second, const Text& sa
 }  // namespace
 
 Sender::Sender(platform::Form& form, platform::Platform& platform, core::AppState& state)
-    : Label2_0(form, u"Label2_0", u"보낸사람:"),
-      txtUserName(form, u"txtUserName", ComboBox::Style::editable),
-      Label2_1(form, u"Label2_1", u"회신번호:"),
-      txtCallback(form, u"txtCallback", ComboBox::Style::editable),
-      platform_(platform),
-      state_(state) {
+    : Room(form), platform_(platform), state_(state) {
     txtUserName.GotFocus.connect([this] { txtUserName.set_tag(u"[" + txtUserName.text() + u"]"); });
     txtUserName.LostFocus.connect([this] { name_left(); });
     // Deliberately a key in another spelling than the one that `save` writes: settings files have always had
@@ -37,10 +32,7 @@ Sender::Sender(platform::Form& form, platform::Platform& platform, core::AppStat
 Text Sender::sender_tag() const { return u"[" + platform::trim(txtUserName.text()) + u"]"; }
 
 void Sender::set_visible(bool visible) {
-    Label2_0.set_visible(visible);
-    Label2_1.set_visible(visible);
-    txtUserName.set_visible(visible);
-    txtCallback.set_visible(visible);
+    show_all({&Label2_0, &Label2_1, &txtUserName, &txtCallback}, visible);
 }
 
 void Sender::fill_from_account() {

@@ -1,23 +1,23 @@
 #pragma once
 
+#include "compose/room.h"
 #include "core/app_state.h"
 #include "core/settings.h"
 #include "platform/controls/displays.h"
 #include "platform/controls/fields.h"
-#include "platform/controls/form.h"
 #include "platform/ports/platform.h"
 
 namespace compose {
 
 /// The sender: the name that begins a text, and the number that recipients can call back.
-class Sender {
+class Sender : Room {
   public:
     Sender(platform::Form& form, platform::Platform& platform, core::AppState& state);
 
-    platform::Label Label2_0;
-    platform::ComboBox txtUserName;
-    platform::Label Label2_1;
-    platform::ComboBox txtCallback;
+    platform::Label Label2_0{form_, u"Label2_0", u"보낸사람:"};
+    platform::ComboBox txtUserName{form_, u"txtUserName", platform::ComboBox::Style::editable};
+    platform::Label Label2_1{form_, u"Label2_1", u"회신번호:"};
+    platform::ComboBox txtCallback{form_, u"txtCallback", platform::ComboBox::Style::editable};
 
     /// The name in brackets, as texts begin with it.
     platform::Text sender_tag() const;

@@ -24,16 +24,7 @@ constexpr int PICTURE_LOGGED_IN = 2;
 
 Session::Session(platform::Form& form, platform::Platform& platform, core::AppState& state,
                  platform::Timer& polling)
-    : STBar1(form, u"STBar1", 4),
-      TOPLogo(form, u"TOPLogo"),
-      cmdLogin(form, u"cmdLogin", u"로그인 하기(&L)..."),
-      cmdLogOut(form, u"cmdLogOut", u"로그아웃 하기(&O)"),
-      mnuAutoLogin(form, u"mnuAutoLogin", u"자동 로그인(&A)"),
-      cmdGoPondira(form, u"cmdGoPondira", u"KT Pondira 홈페이지 연결(&H)..."),
-      cmdRegister(form, u"cmdRegister", u"KT Pondira 신규가입(&N)..."),
-      platform_(platform),
-      state_(state),
-      polling_(polling) {
+    : Room(form), platform_(platform), state_(state), polling_(polling) {
     cmdLogOut.set_enabled(false);
     // The panels are empty until the first login and never say what a click does, so each has a tool tip.
     STBar1.set_panel_tool_tip(1, u"로그인하기");

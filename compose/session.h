@@ -1,29 +1,29 @@
 #pragma once
 
+#include "compose/room.h"
 #include "core/app_state.h"
 #include "core/settings.h"
 #include "platform/controls/bars.h"
 #include "platform/controls/displays.h"
-#include "platform/controls/form.h"
 #include "platform/controls/timer.h"
 #include "platform/ports/platform.h"
 
 namespace compose {
 
 /// The user's login as the status bar and the file menu show it, and the ways to the service's pages.
-class Session {
+class Session : Room {
   public:
     /// `polling` is stopped while the user logs in by hand.
     Session(platform::Form& form, platform::Platform& platform, core::AppState& state,
             platform::Timer& polling);
 
-    platform::StatusBar STBar1;
-    platform::Image TOPLogo;
-    platform::Menu cmdLogin;
-    platform::Menu cmdLogOut;
-    platform::Menu mnuAutoLogin;
-    platform::Menu cmdGoPondira;
-    platform::Menu cmdRegister;
+    platform::StatusBar STBar1{form_, u"STBar1", 4};
+    platform::Image TOPLogo{form_, u"TOPLogo"};
+    platform::Menu cmdLogin{form_, u"cmdLogin", u"로그인 하기(&L)..."};
+    platform::Menu cmdLogOut{form_, u"cmdLogOut", u"로그아웃 하기(&O)"};
+    platform::Menu mnuAutoLogin{form_, u"mnuAutoLogin", u"자동 로그인(&A)"};
+    platform::Menu cmdGoPondira{form_, u"cmdGoPondira", u"KT Pondira 홈페이지 연결(&H)..."};
+    platform::Menu cmdRegister{form_, u"cmdRegister", u"KT Pondira 신규가입(&N)..."};
 
     void cmdLogin_Click();
     void cmdLogOut_Click();

@@ -10,10 +10,7 @@ Text without_line_ends(platform::TextView text) { return platform::remove_all(te
 
 }  // namespace
 
-Subject::Subject(platform::Form& form)
-    : Label3_0(form, u"Label3_0", u"발송제목:"),
-      subjectText(form, u"subjectText"),
-      Label3_1(form, u"Label3_1", u"발송내역 확인 및 문자 내 모음함에 필요한 제목입니다.") {
+Subject::Subject(platform::Form& form) : Room(form) {
     subjectText.Change.connect([this] { subject_changed(); });
     subjectText.LostFocus.connect([this] { freeze(); });
 }

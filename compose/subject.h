@@ -1,19 +1,19 @@
 #pragma once
 
+#include "compose/room.h"
 #include "platform/controls/displays.h"
 #include "platform/controls/fields.h"
-#include "platform/controls/form.h"
 
 namespace compose {
 
 /// The subject of a message. It follows the text until it is fixed, which its tag "END" says.
-class Subject {
+class Subject : Room {
   public:
     explicit Subject(platform::Form& form);
 
-    platform::Label Label3_0;
-    platform::TextBox subjectText;
-    platform::Label Label3_1;
+    platform::Label Label3_0{form_, u"Label3_0", u"발송제목:"};
+    platform::TextBox subjectText{form_, u"subjectText"};
+    platform::Label Label3_1{form_, u"Label3_1", u"발송내역 확인 및 문자 내 모음함에 필요한 제목입니다."};
 
     /// Makes the beginning of the text the subject unless the subject is fixed; `limit` counts characters.
     void follow(const platform::Text& body, std::size_t limit = platform::Text::npos);

@@ -45,20 +45,12 @@ constexpr int MOST_NAMES = 200;
 }  // namespace
 
 TextPanel::TextPanel(platform::Form& form, platform::Platform& platform, Subject& subject, Sender& sender)
-    : Frame1(form, u"Frame1_0"),
-      Picture2(form, u"Picture2_0"),
-      mText1(form, u"mText1"),
-      mHLen1(form, u"mHLen1", u"0Bytes"),
-      mHLen3(form, u"mHLen3", u"장문"),
-      Check1(form, u"Check1", u"개별메시지"),
-      Combo3(form, u"Combo3"),
+    : Room(form),
       Label1_4(
           form, u"Label1_4",
           u"수신인의 이름 또는 선택필드가 비워있는 경우 발송되지 않으니 반드시 확인하시기 바랍니다.(수신인 "
           u"이름+선택필드+메시지내용이 80Byte가 넘으면 입력된 전체 메시지를 80Byte씩 나누어 전송하게 "
           u"됩니다)"),
-      MyMsgBttn(form, u"MyMsgBttn", u"내 모음함"),
-      MySave(form, u"MySave", u"내 모음함에 저장"),
       platform_(platform),
       subject_(subject),
       sender_(sender) {
@@ -68,10 +60,8 @@ TextPanel::TextPanel(platform::Form& form, platform::Platform& platform, Subject
         button.set_container(Frame1);
         button.Click.connect([this, &button] { insert(button.caption()); });
     }
-    for (platform::Control* control :
-         std::initializer_list<platform::Control*>{&Picture2, &MyMsgBttn, &MySave, &Check1, &Combo3})
-        control->set_container(Frame1);
-    mText1.set_container(Picture2);
+    put_into(Frame1, {&Picture2, &MyMsgBttn, &MySave, &Check1, &Combo3});
+    put_into(Picture2, {&mText1});
     mHLen3.hide();
     for (const auto* row : {u"선택해주세요.", u"{이름}", u"{직위}"}) Combo3.add_row(row);
     Combo3.set_list_index(0);

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "compose/room.h"
 #include "compose/sender.h"
 #include "compose/subject.h"
 #include "platform/controls/buttons.h"
 #include "platform/controls/displays.h"
 #include "platform/controls/fields.h"
-#include "platform/controls/form.h"
 #include "platform/controls/panels.h"
 #include "platform/ports/platform.h"
 
@@ -16,22 +16,22 @@ namespace compose {
 
 /// The panel of the text message. Above 80 bytes of cp949 it asks whether the text is to go in pieces: the
 /// field's tag is "LONG" after a yes.
-class TextPanel {
+class TextPanel : Room {
   public:
     TextPanel(platform::Form& form, platform::Platform& platform, Subject& subject, Sender& sender);
 
-    platform::Frame Frame1;
-    platform::PictureBox Picture2;
-    platform::TextBox mText1;
-    platform::Label mHLen1;
-    platform::Label mHLen3;
-    platform::CheckBox Check1;
-    platform::ComboBox Combo3;
+    platform::Frame Frame1{form_, u"Frame1_0"};
+    platform::PictureBox Picture2{form_, u"Picture2_0"};
+    platform::TextBox mText1{form_, u"mText1"};
+    platform::Label mHLen1{form_, u"mHLen1", u"0Bytes"};
+    platform::Label mHLen3{form_, u"mHLen3", u"장문"};
+    platform::CheckBox Check1{form_, u"Check1", u"개별메시지"};
+    platform::ComboBox Combo3{form_, u"Combo3"};
     platform::Label Label1_4;
     /// The emoticons, numbered downwards from 27 in the order of the screen.
     std::deque<platform::CommandButton> mBttn1;
-    platform::CommandButton MyMsgBttn;
-    platform::CommandButton MySave;
+    platform::CommandButton MyMsgBttn{form_, u"MyMsgBttn", u"내 모음함"};
+    platform::CommandButton MySave{form_, u"MySave", u"내 모음함에 저장"};
 
     void mText1_Change();
 

@@ -17,30 +17,17 @@ constexpr platform::TextView WAV_FILTER = u"Wav 파일|*.wav";
 }  // namespace
 
 VoicePanel::VoicePanel(platform::Form& form, platform::Platform& platform, platform::CommonDialog& dialog)
-    : Frame1(form, u"Frame1_1"),
-      TabStrip2(form, u"TabStrip2", {u"TTS", u"마이크녹음", u"파일첨부"}),
-      TPIC{platform::Frame{form, u"TPIC_0"}, platform::Frame{form, u"TPIC_1"},
-           platform::Frame{form, u"TPIC_2"}},
-      ttsText(form, u"ttsText"),
-      TTSHLen(form, u"TTSHLen", u"0/1000Byte"),
-      Label1_0(form, u"Label1_0",
+    : Room(form),
+      Label1_0(form_, u"Label1_0",
                u"* TTS-입력하신 문자를 음성으로 변환하여 전달해 드립니다.\r\n"
                u"* 내용을 입력하세요.(최대 1,000Byte까지 가능합니다.)"),
-      RFK1(form, u"RFK1", platform.recorder, platform.files),
-      TTSPic(form, u"TTSPic"),
-      TTSBttn0(form, u"TTSBttn0", u"파일로 저장..."),
-      Label1_1(form, u"Label1_1",
+      RFK1(form_, u"RFK1", platform.recorder, platform.files),
+      Label1_1(form_, u"Label1_1",
                u"* 빨간색 녹음버튼을 누르고 녹음하세요.(최대6분)\r\n"
                u"* 녹음이 끝나면 정지버튼을 누르세요.\r\n"
                u"* 재생버튼을 누르고 녹음한 음성을 확인하세요.\r\n"
                u"* 보내기버튼을 누르시면 메시지가 전송됩니다."),
-      Label3_3(form, u"Label3_3", u"음성파일:"),
-      TTSFileTxt(form, u"TTSFileTxt"),
-      TTSBttn1(form, u"TTSBttn1", u"찾아보기..."),
-      TTSBttn2(form, u"TTSBttn2", u"삭제"),
-      TTSBttn3(form, u"TTSBttn3", u"미리듣기"),
-      TTSBttn4(form, u"TTSBttn4", u"안내문"),
-      Label1_2(form, u"Label1_2",
+      Label1_2(form_, u"Label1_2",
                u"* 전화기로 녹음한 파일을 첨부하는 기능입니다.\r\n"
                u"* 우측 하단에 있는 폰디라통신 번호(0303-0XXX-XXXX)로 전화를 걸어 1번을 누른 후, 음성녹음을 "
                u"하고 전송을 하세요.\r\n"
@@ -50,7 +37,10 @@ VoicePanel::VoicePanel(platform::Form& form, platform::Platform& platform, platf
                u"추가하여 수신된 파일만 가능합니다."),
       platform_(platform),
       dialog_(dialog) {
-    fill_panels();
+    put_into(Frame1, {&TabStrip2, &TPIC[0], &TPIC[1], &TPIC[2]});
+    put_into(TPIC[0], {&ttsText});
+    put_into(TPIC[1], {&RFK1, &TTSBttn0});
+    put_into(TPIC[2], {&TTSFileTxt, &TTSBttn1, &TTSBttn2, &TTSBttn3, &TTSBttn4});
     // The button has no action and never had one; the text above it gives the guidance.
     TTSBttn4.set_enabled(false);
 
@@ -71,17 +61,6 @@ VoicePanel::VoicePanel(platform::Form& form, platform::Platform& platform, platf
         core::SHELL_OPEN_CHECKED(platform_, TTSFileTxt.text());
     });
     show_source();
-}
-
-/// A control is visible, and can have the focus, only together with the panel that holds it.
-void VoicePanel::fill_panels() {
-    const auto fill = [](platform::Control& panel, std::initializer_list<platform::Control*> controls) {
-        for (platform::Control* control : controls) control->set_container(panel);
-    };
-    fill(Frame1, {&TabStrip2, &TPIC[0], &TPIC[1], &TPIC[2]});
-    fill(TPIC[0], {&ttsText});
-    fill(TPIC[1], {&RFK1, &TTSBttn0});
-    fill(TPIC[2], {&TTSFileTxt, &TTSBttn1, &TTSBttn2, &TTSBttn3, &TTSBttn4});
 }
 
 void VoicePanel::show_source() {

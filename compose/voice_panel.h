@@ -1,12 +1,12 @@
 #pragma once
 
 #include "compose/message_kinds.h"
+#include "compose/room.h"
 #include "platform/controls/bars.h"
 #include "platform/controls/buttons.h"
 #include "platform/controls/common_dialog.h"
 #include "platform/controls/displays.h"
 #include "platform/controls/fields.h"
-#include "platform/controls/form.h"
 #include "platform/controls/panels.h"
 #include "platform/controls/sound_recorder.h"
 #include "platform/ports/platform.h"
@@ -19,27 +19,28 @@ namespace compose {
 inline constexpr std::size_t TTS_LIMIT = 1000;
 
 /// Where the voice of a message comes from: a text that is spoken, a recording, or a sound file.
-class VoicePanel {
+class VoicePanel : Room {
   public:
     /// `dialog` asks for sound files.
     VoicePanel(platform::Form& form, platform::Platform& platform, platform::CommonDialog& dialog);
 
-    platform::Frame Frame1;
-    platform::TabStrip TabStrip2;
-    std::array<platform::Frame, 3> TPIC;
-    platform::TextBox ttsText;
-    platform::Label TTSHLen;
+    platform::Frame Frame1{form_, u"Frame1_1"};
+    platform::TabStrip TabStrip2{form_, u"TabStrip2", {u"TTS", u"마이크녹음", u"파일첨부"}};
+    std::array<platform::Frame, 3> TPIC{platform::Frame{form_, u"TPIC_0"}, platform::Frame{form_, u"TPIC_1"},
+                                        platform::Frame{form_, u"TPIC_2"}};
+    platform::TextBox ttsText{form_, u"ttsText"};
+    platform::Label TTSHLen{form_, u"TTSHLen", u"0/1000Byte"};
     platform::Label Label1_0;
     platform::SoundRecorder RFK1;
-    platform::Image TTSPic;
-    platform::CommandButton TTSBttn0;
+    platform::Image TTSPic{form_, u"TTSPic"};
+    platform::CommandButton TTSBttn0{form_, u"TTSBttn0", u"파일로 저장..."};
     platform::Label Label1_1;
-    platform::Label Label3_3;
-    platform::TextBox TTSFileTxt;
-    platform::CommandButton TTSBttn1;
-    platform::CommandButton TTSBttn2;
-    platform::CommandButton TTSBttn3;
-    platform::CommandButton TTSBttn4;
+    platform::Label Label3_3{form_, u"Label3_3", u"음성파일:"};
+    platform::TextBox TTSFileTxt{form_, u"TTSFileTxt"};
+    platform::CommandButton TTSBttn1{form_, u"TTSBttn1", u"찾아보기..."};
+    platform::CommandButton TTSBttn2{form_, u"TTSBttn2", u"삭제"};
+    platform::CommandButton TTSBttn3{form_, u"TTSBttn3", u"미리듣기"};
+    platform::CommandButton TTSBttn4{form_, u"TTSBttn4", u"안내문"};
     platform::Label Label1_2;
 
     void ttsText_Change();
@@ -51,7 +52,6 @@ class VoicePanel {
     void stop_hidden_recording();
 
   private:
-    void fill_panels();
     void show_source();
     void refuse_excess();
     void ask_before_replacing(bool& may);

@@ -4,12 +4,9 @@
 
 namespace machine::jet {
 
-using platform::CardField;
 using platform::CardRecordset;
 using platform::ErrorNumber;
 using platform::RuntimeError;
-using platform::Text;
-using platform::TextView;
 
 namespace {
 
@@ -23,7 +20,7 @@ class Recordset : public CardRecordset {
         if (end_of_file()) throw RuntimeError(ErrorNumber::no_current_record);
         ++current_;
     }
-    CardField field(TextView name) const override {
+    platform::CardField field(platform::TextView name) const override {
         const auto column = rows_->column(name);
         if (!column) throw RuntimeError(ErrorNumber::no_such_field);
         if (end_of_file()) throw RuntimeError(ErrorNumber::no_current_record);
@@ -37,7 +34,7 @@ class Recordset : public CardRecordset {
 
 }  // namespace
 
-std::unique_ptr<CardRecordset> JetCardConnection::open_recordset(const Text& statement) {
+std::unique_ptr<CardRecordset> JetCardConnection::open_recordset(const platform::Text& statement) {
     if (!cards_) throw RuntimeError(ErrorNumber::connection_closed);
     return std::make_unique<Recordset>(cards_->run(statement));
 }

@@ -11,10 +11,8 @@
 
 namespace machine::jet {
 
-using platform::CardConnection;
 using platform::ErrorNumber;
 using platform::RuntimeError;
-using platform::Text;
 
 namespace {
 
@@ -32,7 +30,7 @@ JetCardSource::JetCardSource(posix::Paths paths, std::function<void()> keep_aliv
       heartbeat_(std::make_shared<Heartbeat>(std::move(keep_alive))),
       longest_reading_(longest_reading) {}
 
-std::unique_ptr<CardConnection> JetCardSource::connect(const Text& connection_string) {
+std::unique_ptr<platform::CardConnection> JetCardSource::connect(const platform::Text& connection_string) {
     const auto wanted = ConnectionString::parse(connection_string);
     const CardFile file(paths_.to_posix(wanted.data_source));
     const FileState state = file.state();

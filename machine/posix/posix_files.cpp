@@ -17,8 +17,6 @@
 namespace machine::posix {
 
 using platform::ErrorNumber;
-using platform::FileEntry;
-using platform::OpenFile;
 using platform::RuntimeError;
 using platform::Text;
 using platform::TextView;
@@ -126,7 +124,7 @@ bool PosixFiles::is_link(const Text& path) const {
     return link;
 }
 
-std::vector<FileEntry> PosixFiles::list_files(const Text& folder, TextView pattern) const {
+std::vector<platform::FileEntry> PosixFiles::list_files(const Text& folder, TextView pattern) const {
     return files_of(paths_.to_posix(folder), pattern);
 }
 
@@ -147,7 +145,7 @@ void PosixFiles::write(const Text& path, const std::string& bytes) {
     replace_file(file, bytes, readers_of(file));
 }
 
-std::unique_ptr<OpenFile> PosixFiles::open_for_writing(const Text& path) {
+std::unique_ptr<platform::OpenFile> PosixFiles::open_for_writing(const Text& path) {
     const std::string file = paths_.to_posix(path);
     make_standing_folder_of(file);
     return open_file_for_writing(file);

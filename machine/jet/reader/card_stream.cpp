@@ -6,7 +6,6 @@
 
 namespace machine::jet {
 
-using platform::Text;
 using platform::TextView;
 
 namespace {
@@ -58,7 +57,7 @@ void append_cell(std::string& out, const Cell& cell) {
 
 /// Takes the cell at the front of the bytes, or nothing when it is incomplete or of another kind. `texts` has
 /// room for its text.
-std::optional<Cell> take_cell(std::string_view& bytes, Kind kind, Text& texts) {
+std::optional<Cell> take_cell(std::string_view& bytes, Kind kind, platform::Text& texts) {
     if (bytes.empty()) return std::nullopt;
     const char mark = bytes.front();
     bytes.remove_prefix(1);

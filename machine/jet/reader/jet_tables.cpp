@@ -16,9 +16,6 @@
 
 namespace machine::jet {
 
-using platform::Text;
-using platform::TextView;
-
 namespace {
 
 struct FreeTable {
@@ -153,7 +150,7 @@ class RowReader {
         if (kind == Kind::number) return number_of(bytes);
         auto text = decode_jet_text(bytes);
         if (!text) unsound("a text that ends in the middle of a character");
-        return TextView(texts_.emplace_back(std::move(*text)));
+        return platform::TextView(texts_.emplace_back(std::move(*text)));
     }
 
     MdbHandle* file_;
@@ -162,7 +159,7 @@ class RowReader {
     std::vector<Position> positions_;
     std::vector<MdbField> fields_;
     std::vector<const MdbField*> field_of_column_;
-    std::deque<Text> texts_;
+    std::deque<platform::Text> texts_;
     Row row_;
 };
 

@@ -12,9 +12,6 @@
 
 namespace machine::jet {
 
-using platform::ErrorNumber;
-using platform::RuntimeError;
-
 namespace {
 
 constexpr std::size_t CHUNK_BYTES = 65536;
@@ -41,8 +38,8 @@ class StandardFiles {
 }  // namespace
 
 ReaderProcess::ReaderProcess(const std::string& program, int file) : chunk_(CHUNK_BYTES, '\0') {
-    const RuntimeError failure(ErrorNumber::database_unusable,
-                               u"데이터베이스를 읽는 프로그램을 시작할 수 없습니다.");
+    const platform::RuntimeError failure(platform::ErrorNumber::database_unusable,
+                                         u"데이터베이스를 읽는 프로그램을 시작할 수 없습니다.");
     int ends[2];
     if (::pipe2(ends, O_CLOEXEC) != 0) throw failure;
     output_ = posix::FileDescriptor(ends[0]);

@@ -12,12 +12,8 @@
 namespace machine::jet {
 
 using platform::ErrorNumber;
-using platform::FIELD_LONG;
-using platform::FIELD_MEMO;
-using platform::FIELD_TEXT;
 using platform::RuntimeError;
 using platform::Text;
-using platform::TextView;
 
 namespace {
 
@@ -35,7 +31,7 @@ int beat(void* heartbeat) {
 }
 
 /// The value's text in place. SQLite would copy it to add a NUL if it were asked for as text.
-TextView text_of(sqlite3_value* value) {
+platform::TextView text_of(sqlite3_value* value) {
     const auto bytes = static_cast<std::size_t>(sqlite3_value_bytes16(value));
     return {static_cast<const char16_t*>(sqlite3_value_blob(value)), bytes / sizeof(char16_t)};
 }
@@ -68,8 +64,8 @@ int only_reading(void*, int action, const char*, const char* function, const cha
 /// The type of a result's column: that of the table's column, or a number for a count.
 int type_of(sqlite3_stmt* statement, int column) {
     const char* declared = sqlite3_column_decltype(statement, column);
-    if (declared == nullptr || std::strcmp(declared, "INTEGER") == 0) return FIELD_LONG;
-    return std::strcmp(declared, "MEMO") == 0 ? FIELD_MEMO : FIELD_TEXT;
+    if (declared == nullptr || std::strcmp(declared, "INTEGER") == 0) return platform::FIELD_LONG;
+    return std::strcmp(declared, "MEMO") == 0 ? platform::FIELD_MEMO : platform::FIELD_TEXT;
 }
 
 Cell cell_of(sqlite3_value* value) {

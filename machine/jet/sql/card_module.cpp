@@ -10,8 +10,6 @@
 
 namespace machine::jet {
 
-using platform::TextView;
-
 namespace {
 
 struct VirtualTable : sqlite3_vtab {
@@ -124,7 +122,7 @@ int column(sqlite3_vtab_cursor* sqlite_cursor, sqlite3_context* context, int num
         cards_of(cursor->pVtab).rows()->at(cursor->rows[cursor->at], static_cast<std::size_t>(number));
     if (const auto* value = std::get_if<std::int32_t>(&cell)) {
         sqlite3_result_int(context, *value);
-    } else if (const auto* text = std::get_if<TextView>(&cell)) {
+    } else if (const auto* text = std::get_if<platform::TextView>(&cell)) {
         sqlite3_result_text16(context, text->data(), static_cast<int>(text->size() * sizeof(char16_t)),
                               SQLITE_STATIC);
     }

@@ -6,8 +6,6 @@
 
 namespace machine::jet {
 
-using platform::FIELD_LONG;
-using platform::FIELD_MEMO;
 using platform::FIELD_TEXT;
 
 namespace {
@@ -15,11 +13,11 @@ namespace {
 int field_type(Kind kind) {
     switch (kind) {
         case Kind::number:
-            return FIELD_LONG;
+            return platform::FIELD_LONG;
         case Kind::text:
             return FIELD_TEXT;
         case Kind::memo:
-            return FIELD_MEMO;
+            return platform::FIELD_MEMO;
     }
     return FIELD_TEXT;
 }

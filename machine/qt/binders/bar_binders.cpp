@@ -16,11 +16,8 @@
 namespace machine::qt {
 
 using platform::Aspect;
-using platform::Menu;
 using platform::MouseButton;
 using platform::StatusBar;
-using platform::TabStrip;
-using platform::Text;
 using platform::ToolBar;
 
 namespace {
@@ -32,7 +29,8 @@ QString part_name(const QObject& bar, int number) {
 
 }  // namespace
 
-MenuBinder::MenuBinder(BoundForm& bound, Menu& control, QAction& action) : BinderOf(bound, control, action) {
+MenuBinder::MenuBinder(BoundForm& bound, platform::Menu& control, QAction& action)
+    : BinderOf(bound, control, action) {
     action.setText(to_qstring(control.caption()));
     if (const QString picture = action.property("picture").toString(); !picture.isEmpty())
         action.setIcon(late_icon(picture));
@@ -115,9 +113,9 @@ void StatusBarBinder::click(int number, MouseButton button) {
     });
 }
 
-TabStripBinder::TabStripBinder(BoundForm& bound, TabStrip& control, QTabBar& bar)
+TabStripBinder::TabStripBinder(BoundForm& bound, platform::TabStrip& control, QTabBar& bar)
     : BinderOf(bound, control, bar) {
-    for (const Text& caption : control.captions()) bar.addTab(to_qstring(caption));
+    for (const platform::Text& caption : control.captions()) bar.addTab(to_qstring(caption));
     show(Aspect::value);
     // A click counts on the chosen tab too. Its signal comes before the bar changes the tab, so a change that
     // the control does not know yet was made with a key.

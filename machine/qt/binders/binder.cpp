@@ -9,9 +9,8 @@
 namespace machine::qt {
 
 using platform::Aspect;
-using platform::Control;
 
-WidgetBinder::WidgetBinder(BoundForm& bound, Control& control, QWidget& widget)
+WidgetBinder::WidgetBinder(BoundForm& bound, platform::Control& control, QWidget& widget)
     : Binder(bound, control, widget) {
     widget.installEventFilter(this);
     if (!control.enabled()) refresh(Aspect::enabled);

@@ -12,13 +12,8 @@
 namespace machine::qt {
 
 using platform::Aspect;
-using platform::CheckBox;
-using platform::CommandButton;
-using platform::Control;
-using platform::OptionButton;
-using platform::Text;
 
-ButtonBinder::ButtonBinder(BoundForm& bound, Control& control, QAbstractButton& button)
+ButtonBinder::ButtonBinder(BoundForm& bound, platform::Control& control, QAbstractButton& button)
     : WidgetBinder(bound, control, button) {}
 
 QAbstractButton& ButtonBinder::button() const { return static_cast<QAbstractButton&>(shown()); }
@@ -43,7 +38,7 @@ bool ButtonBinder::filter(QObject&, QEvent& event) {
 }
 
 /// Keeps the shortcut that the screen gives the button: Qt drops it when the text is set.
-void ButtonBinder::set_caption(const Text& caption) {
+void ButtonBinder::set_caption(const platform::Text& caption) {
     const QKeySequence shortcut = button().shortcut();
     button().setText(to_qstring(caption));
     if (button().shortcut().isEmpty()) button().setShortcut(shortcut);
@@ -55,7 +50,8 @@ void ButtonBinder::let_out_if_released() {
     if (button().isDown() && !(QGuiApplication::mouseButtons() & Qt::LeftButton)) button().setDown(false);
 }
 
-CommandButtonBinder::CommandButtonBinder(BoundForm& bound, CommandButton& control, QAbstractButton& button)
+CommandButtonBinder::CommandButtonBinder(BoundForm& bound, platform::CommandButton& control,
+                                         QAbstractButton& button)
     : BinderOf(bound, control, button) {
     set_caption(control.caption());
     connect(&button, &QAbstractButton::clicked, this,
@@ -66,7 +62,7 @@ void CommandButtonBinder::show(Aspect aspect) {
     if (aspect == Aspect::caption) set_caption(control().caption());
 }
 
-CheckBoxBinder::CheckBoxBinder(BoundForm& bound, CheckBox& control, QCheckBox& box)
+CheckBoxBinder::CheckBoxBinder(BoundForm& bound, platform::CheckBox& control, QCheckBox& box)
     : BinderOf(bound, control, box) {
     set_caption(control.caption());
     box.setChecked(control.checked());
@@ -78,7 +74,8 @@ void CheckBoxBinder::show(Aspect aspect) {
     if (aspect == Aspect::value) widget().setChecked(control().checked());
 }
 
-OptionButtonBinder::OptionButtonBinder(BoundForm& bound, OptionButton& control, QRadioButton& button)
+OptionButtonBinder::OptionButtonBinder(BoundForm& bound, platform::OptionButton& control,
+                                       QRadioButton& button)
     : BinderOf(bound, control, button) {
     set_caption(control.caption());
     // The handlers switch the others of the group off.

@@ -11,10 +11,8 @@
 namespace machine::qt {
 
 using platform::Aspect;
-using platform::ComboBox;
-using platform::KeyPressed;
 
-ComboBoxBinder::ComboBoxBinder(BoundForm& bound, ComboBox& control, QComboBox& combo)
+ComboBoxBinder::ComboBoxBinder(BoundForm& bound, platform::ComboBox& control, QComboBox& combo)
     : BinderOf(bound, control, combo) {
     combo.setEditable(is_editable());
     if (is_editable()) {
@@ -44,7 +42,7 @@ void ComboBoxBinder::show(Aspect aspect) {
 bool ComboBoxBinder::filter(QObject&, QEvent& event) {
     if (!is_editable()) return false;
     return filter_field_event(
-        widget(), event, [](KeyPressed&) {},
+        widget(), event, [](platform::KeyPressed&) {},
         [this](bool begins) {
             working_ = begins;
             if (!begins) edits_.settle();

@@ -6,7 +6,6 @@
 namespace machine::qt {
 
 using platform::Aspect;
-using platform::DatePicker;
 
 namespace {
 
@@ -14,7 +13,7 @@ const QDate FIRST_DAY(1970, 1, 1);
 
 }  // namespace
 
-DatePickerBinder::DatePickerBinder(BoundForm& bound, DatePicker& control, QDateEdit& edit)
+DatePickerBinder::DatePickerBinder(BoundForm& bound, platform::DatePicker& control, QDateEdit& edit)
     : BinderOf(bound, control, edit) {
     edit.setCalendarPopup(true);
     edit.setDisplayFormat(QStringLiteral("yyyy-MM-dd"));

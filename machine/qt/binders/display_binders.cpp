@@ -13,13 +13,7 @@
 
 namespace machine::qt {
 
-using platform::Animation;
 using platform::Aspect;
-using platform::Frame;
-using platform::Image;
-using platform::Label;
-using platform::PictureBox;
-using platform::ProgressBar;
 
 namespace {
 
@@ -36,7 +30,8 @@ bool is_click(const QWidget& widget, const QEvent& event) {
 
 }  // namespace
 
-LabelBinder::LabelBinder(BoundForm& bound, Label& control, QLabel& label) : BinderOf(bound, control, label) {
+LabelBinder::LabelBinder(BoundForm& bound, platform::Label& control, QLabel& label)
+    : BinderOf(bound, control, label) {
     label.setTextFormat(Qt::PlainText);
     show(Aspect::caption);
 }
@@ -51,7 +46,8 @@ bool LabelBinder::filter(QObject&, QEvent& event) {
     return event.type() == QEvent::KeyPress;
 }
 
-ImageBinder::ImageBinder(BoundForm& bound, Image& control, QLabel& label) : BinderOf(bound, control, label) {
+ImageBinder::ImageBinder(BoundForm& bound, platform::Image& control, QLabel& label)
+    : BinderOf(bound, control, label) {
     if (!control.picture().empty()) show_picture();
 }
 
@@ -72,12 +68,12 @@ bool ImageBinder::filter(QObject&, QEvent& event) {
     return event.type() == QEvent::KeyPress;
 }
 
-FrameBinder::FrameBinder(BoundForm& bound, Frame& control, QWidget& widget)
+FrameBinder::FrameBinder(BoundForm& bound, platform::Frame& control, QWidget& widget)
     : BinderOf(bound, control, widget) {
     if (auto* box = qobject_cast<QGroupBox*>(&widget)) box->setTitle(to_qstring(control.caption()));
 }
 
-PictureBoxBinder::PictureBoxBinder(BoundForm& bound, PictureBox& control, QFrame& frame)
+PictureBoxBinder::PictureBoxBinder(BoundForm& bound, platform::PictureBox& control, QFrame& frame)
     : BinderOf(bound, control, frame) {
     show(Aspect::border);
 }
@@ -92,7 +88,7 @@ bool PictureBoxBinder::filter(QObject&, QEvent& event) {
     return false;
 }
 
-ProgressBarBinder::ProgressBarBinder(BoundForm& bound, ProgressBar& control, QProgressBar& bar)
+ProgressBarBinder::ProgressBarBinder(BoundForm& bound, platform::ProgressBar& control, QProgressBar& bar)
     : BinderOf(bound, control, bar) {
     bar.setRange(0, 100);
     bar.setValue(control.value());
@@ -108,7 +104,7 @@ void ProgressBarBinder::show(Aspect aspect) {
     painted_.start();
 }
 
-AnimationBinder::AnimationBinder(BoundForm& bound, Animation& control, AnimationPlayer& player)
+AnimationBinder::AnimationBinder(BoundForm& bound, platform::Animation& control, AnimationPlayer& player)
     : BinderOf(bound, control, player) {
     open();
 }

@@ -33,27 +33,7 @@
 
 namespace machine::qt {
 
-using platform::Animation;
-using platform::CheckBox;
-using platform::ComboBox;
-using platform::CommandButton;
 using platform::Control;
-using platform::DatePicker;
-using platform::Frame;
-using platform::Image;
-using platform::Label;
-using platform::ListView;
-using platform::Menu;
-using platform::OptionButton;
-using platform::PictureBox;
-using platform::ProgressBar;
-using platform::SoundRecorder;
-using platform::StatusBar;
-using platform::TabStrip;
-using platform::TextBox;
-using platform::ToolBar;
-using platform::TreeView;
-using platform::WebBrowser;
 
 FormBinder::FormBinder(BoundForm& bound, QObject& owner) : bound_(bound), owner_(owner) {
     for (QObject* object : bound.window.findChildren<QObject*>()) {
@@ -68,30 +48,30 @@ void FormBinder::release() {
     for (Binder* binder : binders_) binder->release();
 }
 
-void FormBinder::visit(Animation& control) { bind<AnimationBinder>(control); }
-void FormBinder::visit(CheckBox& control) { bind<CheckBoxBinder>(control); }
-void FormBinder::visit(ComboBox& control) { bind<ComboBoxBinder>(control); }
-void FormBinder::visit(CommandButton& control) { bind<CommandButtonBinder>(control); }
-void FormBinder::visit(DatePicker& control) { bind<DatePickerBinder>(control); }
-void FormBinder::visit(Frame& control) { bind<FrameBinder>(control); }
-void FormBinder::visit(Image& control) { bind<ImageBinder>(control); }
-void FormBinder::visit(Label& control) { bind<LabelBinder>(control); }
-void FormBinder::visit(ListView& control) { bind<ListViewBinder>(control); }
-void FormBinder::visit(OptionButton& control) { bind<OptionButtonBinder>(control); }
-void FormBinder::visit(PictureBox& control) { bind<PictureBoxBinder>(control); }
-void FormBinder::visit(ProgressBar& control) { bind<ProgressBarBinder>(control); }
-void FormBinder::visit(SoundRecorder& control) { bind<SoundRecorderBinder>(control); }
-void FormBinder::visit(StatusBar& control) { bind<StatusBarBinder>(control); }
-void FormBinder::visit(TabStrip& control) { bind<TabStripBinder>(control); }
-void FormBinder::visit(ToolBar& control) { bind<ToolBarBinder>(control); }
-void FormBinder::visit(TreeView& control) { bind<TreeViewBinder>(control); }
-void FormBinder::visit(WebBrowser& control) { bind<WebBrowserBinder>(control); }
+void FormBinder::visit(platform::Animation& control) { bind<AnimationBinder>(control); }
+void FormBinder::visit(platform::CheckBox& control) { bind<CheckBoxBinder>(control); }
+void FormBinder::visit(platform::ComboBox& control) { bind<ComboBoxBinder>(control); }
+void FormBinder::visit(platform::CommandButton& control) { bind<CommandButtonBinder>(control); }
+void FormBinder::visit(platform::DatePicker& control) { bind<DatePickerBinder>(control); }
+void FormBinder::visit(platform::Frame& control) { bind<FrameBinder>(control); }
+void FormBinder::visit(platform::Image& control) { bind<ImageBinder>(control); }
+void FormBinder::visit(platform::Label& control) { bind<LabelBinder>(control); }
+void FormBinder::visit(platform::ListView& control) { bind<ListViewBinder>(control); }
+void FormBinder::visit(platform::OptionButton& control) { bind<OptionButtonBinder>(control); }
+void FormBinder::visit(platform::PictureBox& control) { bind<PictureBoxBinder>(control); }
+void FormBinder::visit(platform::ProgressBar& control) { bind<ProgressBarBinder>(control); }
+void FormBinder::visit(platform::SoundRecorder& control) { bind<SoundRecorderBinder>(control); }
+void FormBinder::visit(platform::StatusBar& control) { bind<StatusBarBinder>(control); }
+void FormBinder::visit(platform::TabStrip& control) { bind<TabStripBinder>(control); }
+void FormBinder::visit(platform::ToolBar& control) { bind<ToolBarBinder>(control); }
+void FormBinder::visit(platform::TreeView& control) { bind<TreeViewBinder>(control); }
+void FormBinder::visit(platform::WebBrowser& control) { bind<WebBrowserBinder>(control); }
 
-void FormBinder::visit(TextBox& control) {
+void FormBinder::visit(platform::TextBox& control) {
     if (!try_bind<MessageBinder>(control)) bind<LineBinder>(control);
 }
 
-void FormBinder::visit(Menu& control) {
+void FormBinder::visit(platform::Menu& control) {
     const QString name = to_qstring(control.name());
     auto* action = find<QAction>(name);
     if (const auto* menu = find<QMenu>(name)) action = menu->menuAction();

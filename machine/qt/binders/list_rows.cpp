@@ -10,9 +10,7 @@
 
 namespace machine::qt {
 
-using platform::ListView;
-
-ListRows::ListRows(ListView& list, QTreeView& view)
+ListRows::ListRows(platform::ListView& list, QTreeView& view)
     : list_(list), view_(view), model_(list, pictures_of(view), this) {
     view.setModel(&model_);
     const QItemSelectionModel* selection = view.selectionModel();

@@ -11,10 +11,7 @@
 
 namespace machine::qt {
 
-using platform::KEY_DELETE;
-using platform::KEY_ENTER;
 using platform::KeyPressed;
-using platform::ListView;
 
 namespace {
 
@@ -72,7 +69,7 @@ bool moves_through_rows(const QKeyEvent& event) {
 
 }  // namespace
 
-ListViewBinder::ListViewBinder(BoundForm& bound, ListView& control, QTreeView& view)
+ListViewBinder::ListViewBinder(BoundForm& bound, platform::ListView& control, QTreeView& view)
     : BinderOf(bound, control, view), rows_(control, view) {
     control.attach_rows(&rows_);
     set_up(view);
@@ -128,10 +125,10 @@ bool ListViewBinder::press_key(QKeyEvent& event) {
     if (event.key() == Qt::Key_Space && control().check_boxes()) {
         toggle_check();
     } else if (event.key() == Qt::Key_Delete) {
-        KeyPressed key{KEY_DELETE};
+        KeyPressed key{platform::KEY_DELETE};
         control().KeyDown.raise(key);
     } else if (KeyPressed key{key_code(event)}; !key.swallowed()) {
-        const bool is_enter = key.code == KEY_ENTER;
+        const bool is_enter = key.code == platform::KEY_ENTER;
         control().KeyPress.raise(key);
         if (is_enter && !key.swallowed()) event.ignore();
     } else {

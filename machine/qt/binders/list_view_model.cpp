@@ -6,7 +6,6 @@
 namespace machine::qt {
 
 using platform::ListItem;
-using platform::ListView;
 
 int ListViewModel::rowCount(const QModelIndex& parent) const {
     return list_ == nullptr || parent.isValid() ? 0 : told_rows_;
@@ -44,7 +43,7 @@ QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int
         section >= list_->column_count()) {
         return QVariant();
     }
-    const ListView::Column& column = list_->column(section + 1);
+    const platform::ListView::Column& column = list_->column(section + 1);
     if (role == Qt::DisplayRole) return to_qstring(column.caption);
     if (role == Qt::DecorationRole && column.picture) {
         return late_icon(*column.picture == 0 ? QStringLiteral("sort_up") : QStringLiteral("sort_down"));

@@ -17,8 +17,6 @@
 
 namespace machine::qt {
 
-using platform::Control;
-using platform::Files;
 using platform::Form;
 
 namespace {
@@ -26,7 +24,7 @@ namespace {
 bool has_control(const Form& form, const QString& name) {
     const auto& controls = form.controls();
     return std::any_of(controls.begin(), controls.end(),
-                       [&](const Control* control) { return to_qstring(control->name()) == name; });
+                       [&](const platform::Control* control) { return to_qstring(control->name()) == name; });
 }
 
 /// Whether the widget's children are the screen's; those of other widgets are made by Qt and the binders.
@@ -67,7 +65,7 @@ void look_through(const Form& form, QObject& parent, std::vector<QString>& fault
 
 }  // namespace
 
-std::vector<QString> screen_faults(Form& form, QWidget& window, Files& files) {
+std::vector<QString> screen_faults(Form& form, QWidget& window, platform::Files& files) {
     BoundForm bound{form, window, files, std::nullopt};
     QObject owner;
     FormBinder binder(bound, owner);

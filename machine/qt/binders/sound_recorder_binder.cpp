@@ -9,9 +9,9 @@
 namespace machine::qt {
 
 using platform::Aspect;
-using platform::SoundRecorder;
 
-SoundRecorderBinder::SoundRecorderBinder(BoundForm& bound, SoundRecorder& control, RecorderPanel& panel)
+SoundRecorderBinder::SoundRecorderBinder(BoundForm& bound, platform::SoundRecorder& control,
+                                         RecorderPanel& panel)
     : BinderOf(bound, control, panel) {
     connect_button(panel.record_button(), [this] { this->control().record(); });
     connect_button(panel.stop_button(), [this] { this->control().stop(); });

@@ -8,9 +8,7 @@
 
 namespace machine::qt {
 
-using platform::MouseButton;
 using platform::TreeNode;
-using platform::TreeView;
 
 namespace {
 
@@ -23,7 +21,7 @@ void set_up(QTreeView& view) {
 
 }  // namespace
 
-TreeViewBinder::TreeViewBinder(BoundForm& bound, TreeView& control, QTreeView& view)
+TreeViewBinder::TreeViewBinder(BoundForm& bound, platform::TreeView& control, QTreeView& view)
     : BinderOf(bound, control, view), model_(control, pictures_of(view), this) {
     set_up(view);
     view.setModel(&model_);
@@ -93,7 +91,7 @@ bool TreeViewBinder::filter(QObject& object, QEvent& event) {
 bool TreeViewBinder::press_mouse(QEvent& event) {
     chosen_by_press_ = false;
     act([&] { control().MouseDown.raise(button_of(event)); });
-    return button_of(event) == MouseButton::right || !is_bound_live();
+    return button_of(event) == platform::MouseButton::right || !is_bound_live();
 }
 
 /// Another node is chosen when the button goes down; a click on the node that is current already counts when

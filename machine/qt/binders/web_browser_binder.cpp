@@ -7,9 +7,6 @@
 namespace machine::qt {
 
 using platform::Aspect;
-using platform::FileEnd;
-using platform::Navigation;
-using platform::PageFile;
 using platform::WebBrowser;
 
 WebBrowserBinder::WebBrowserBinder(BoundForm& bound, WebBrowser& control, WebArea& area)
@@ -21,7 +18,7 @@ WebBrowserBinder::WebBrowserBinder(BoundForm& bound, WebBrowser& control, WebAre
                             if (is_bound_live()) this->control().FileReceived.raise(bytes, size);
                         },
                     .ended =
-                        [this](FileEnd end) {
+                        [this](platform::FileEnd end) {
                             if (is_bound_live()) this->control().FileEnded.raise(end);
                         }});
     if (!control.navigation().address.empty()) navigate();
@@ -33,7 +30,7 @@ void WebBrowserBinder::show(Aspect aspect) {
 
 QString WebBrowserBinder::place(const QString& name) {
     if (!is_bound_live()) return {};
-    PageFile file{.name = to_text(name), .path = {}};
+    platform::PageFile file{.name = to_text(name), .path = {}};
     control().FileOffered.raise(file);
     QString path;
     if (!file.path.empty()) {
@@ -44,7 +41,7 @@ QString WebBrowserBinder::place(const QString& name) {
 }
 
 void WebBrowserBinder::navigate() {
-    const Navigation& to = control().navigation();
+    const platform::Navigation& to = control().navigation();
     widget().show_page({.address = to_qstring(to.address).trimmed(),
                         .body = QByteArray::fromStdString(to.body),
                         .header = to_qstring(to.header).toLatin1()});

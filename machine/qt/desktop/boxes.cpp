@@ -18,9 +18,6 @@ namespace machine::qt {
 using platform::BoxAnswer;
 using platform::BoxButtons;
 using platform::BoxIcon;
-using platform::InputBox;
-using platform::KeyPressed;
-using platform::MessageBox;
 using platform::Text;
 
 namespace {
@@ -92,7 +89,7 @@ class ShortcutsAreNoAnswers : public QObject {
 
 }  // namespace
 
-BoxAnswer ask(const MessageBox& box, const QString& application_title, QWidget* parent) {
+BoxAnswer ask(const platform::MessageBox& box, const QString& application_title, QWidget* parent) {
     QMessageBox shown(parent);
     shown.setObjectName(QStringLiteral("messageBox"));
     // Texts contain what users have typed, and a "<" is not markup.
@@ -131,7 +128,7 @@ class AnswerField : public QLineEdit {
         if (handling_) return QLineEdit::event(event);
         handling_ = true;
         const bool done = filter_field_event(
-            *this, *event, [](KeyPressed&) {}, [](bool) {});
+            *this, *event, [](platform::KeyPressed&) {}, [](bool) {});
         handling_ = false;
         return done || QLineEdit::event(event);
     }
@@ -142,7 +139,7 @@ class AnswerField : public QLineEdit {
 
 }  // namespace
 
-Text ask_for_text(const InputBox& box, QWidget* parent) {
+Text ask_for_text(const platform::InputBox& box, QWidget* parent) {
     QDialog window(parent);
     window.setObjectName(QStringLiteral("inputBox"));
     window.setWindowTitle(to_qstring(box.title));

@@ -8,8 +8,6 @@
 
 namespace machine::qt {
 
-using platform::Files;
-using platform::Form;
 using platform::Placement;
 using platform::WindowState;
 
@@ -34,7 +32,7 @@ Qt::WindowStates toolkit_state(WindowState state) {
 
 }  // namespace
 
-FormWindow::FormWindow(Form& form, QWidget& window, Files& files)
+FormWindow::FormWindow(platform::Form& form, QWidget& window, platform::Files& files)
     : QObject(&window),
       form_(form),
       window_(window),

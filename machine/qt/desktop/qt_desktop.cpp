@@ -20,16 +20,9 @@ static void load_pictures() { Q_INIT_RESOURCE(resource); }
 namespace machine::qt {
 
 using platform::BoxAnswer;
-using platform::Control;
-using platform::FileQuestion;
-using platform::Files;
 using platform::Form;
-using platform::InputBox;
-using platform::InputWatch;
 using platform::Menu;
-using platform::MessageBox;
 using platform::Pointer;
-using platform::Screen;
 using platform::Text;
 
 namespace {
@@ -50,7 +43,7 @@ void give_back_focus(QWidget* window) {
 
 }  // namespace
 
-QtDesktop::QtDesktop(const Screens& screens, Files& files)
+QtDesktop::QtDesktop(const Screens& screens, platform::Files& files)
     : screens_(screens), files_(files), file_dialog_(files) {
     load_pictures();
 }
@@ -101,7 +94,7 @@ void QtDesktop::popup_menu(Form& form, Menu& menu) {
     if (popup != nullptr) popup->exec(window->popup_point().value_or(QCursor::pos()));
 }
 
-void QtDesktop::popup_menu_below(Form& form, Menu& menu, const Control& control) {
+void QtDesktop::popup_menu_below(Form& form, Menu& menu, const platform::Control& control) {
     FormWindow* window = window_of(form);
     if (window == nullptr) return;
     auto* popup = window->window().findChild<QMenu*>(to_qstring(menu.name()));
@@ -109,7 +102,7 @@ void QtDesktop::popup_menu_below(Form& form, Menu& menu, const Control& control)
     if (popup != nullptr && widget != nullptr) popup->exec(widget->mapToGlobal(QPoint(0, widget->height())));
 }
 
-BoxAnswer QtDesktop::message_box(const MessageBox& box) {
+BoxAnswer QtDesktop::message_box(const platform::MessageBox& box) {
     commit_composition();
     const QPointer<QWidget> front = front_window();
     const BoxAnswer answer = ask(box, title_, front);
@@ -117,7 +110,7 @@ BoxAnswer QtDesktop::message_box(const MessageBox& box) {
     return answer;
 }
 
-std::optional<Text> QtDesktop::ask_for_file(const FileQuestion& question) {
+std::optional<Text> QtDesktop::ask_for_file(const platform::FileQuestion& question) {
     commit_composition();
     const QPointer<QWidget> front = front_window();
     std::optional<Text> chosen = file_dialog_.ask(question, front);
@@ -125,7 +118,7 @@ std::optional<Text> QtDesktop::ask_for_file(const FileQuestion& question) {
     return chosen;
 }
 
-Text QtDesktop::input_box(const InputBox& box) {
+Text QtDesktop::input_box(const platform::InputBox& box) {
     commit_composition();
     const QPointer<QWidget> front = front_window();
     Text answer = ask_for_text(box, front);
@@ -147,7 +140,7 @@ void QtDesktop::set_pointer(Pointer pointer) {
 
 void QtDesktop::set_clipboard(const Text& text) { QGuiApplication::clipboard()->setText(to_qstring(text)); }
 
-Screen QtDesktop::screen() const {
+platform::Screen QtDesktop::screen() const {
     const QSize size = QGuiApplication::primaryScreen()->availableSize();
     return {to_twips(size.width()), to_twips(size.height()), TWIPS_PER_PIXEL, TWIPS_PER_PIXEL};
 }
@@ -163,7 +156,7 @@ void QtDesktop::paint() {
     painted_.start();
 }
 
-std::unique_ptr<InputWatch> QtDesktop::watch_input() { return std::make_unique<QtInputWatch>(); }
+std::unique_ptr<platform::InputWatch> QtDesktop::watch_input() { return std::make_unique<QtInputWatch>(); }
 
 FormWindow* QtDesktop::window_of(const Form& form) const {
     const auto found = windows_.find(&form);

@@ -20,9 +20,7 @@
 
 namespace machine::qt {
 
-using platform::Text;
-
-std::unique_ptr<QWidget> Screens::build(const Text& form) const {
+std::unique_ptr<QWidget> Screens::build(const platform::Text& form) const {
     const auto builder = builders_.find(form);
     if (builder == builders_.end())
         throw std::logic_error("no screen for the form " + platform::to_utf8(form));

@@ -10,7 +10,6 @@ namespace machine::qt {
 
 using platform::RuntimeError;
 using platform::Text;
-using platform::TextView;
 using platform::Transfer;
 
 namespace {
@@ -24,7 +23,7 @@ class FailedTransfer : public Transfer {
     void execute(const Text&) override { throw error_; }
     bool still_executing() const override { return false; }
     Text header() const override { throw error_; }
-    Text header(TextView) const override { throw error_; }
+    Text header(platform::TextView) const override { throw error_; }
     std::string chunk(std::size_t) override { throw error_; }
     std::string open_url(const Text&, std::size_t) override { throw error_; }
     void cancel() override {}

@@ -6,16 +6,6 @@
 
 namespace machine::qt {
 
-using platform::CRLF;
-using platform::KEY_BACKSPACE;
-using platform::KEY_CTRL_A;
-using platform::KEY_DOWN;
-using platform::KEY_END;
-using platform::KEY_ENTER;
-using platform::KEY_HOME;
-using platform::KEY_PAGE_DOWN;
-using platform::KEY_PAGE_UP;
-using platform::KEY_UP;
 using platform::Text;
 using platform::TextView;
 
@@ -58,7 +48,7 @@ QString shown_text(TextView text) {
 }
 
 Text program_text(const QString& shown) {
-    return platform::replace_all(to_text(to_lines(shown)), u"\n", CRLF);
+    return platform::replace_all(to_text(to_lines(shown)), u"\n", platform::CRLF);
 }
 
 int shown_position(TextView text, std::size_t position) {
@@ -85,9 +75,9 @@ int key_code(const QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            return KEY_ENTER;
+            return platform::KEY_ENTER;
         case Qt::Key_Backspace:
-            return KEY_BACKSPACE;
+            return platform::KEY_BACKSPACE;
         case Qt::Key_Delete:
         case Qt::Key_Escape:
             return 0;
@@ -97,7 +87,7 @@ int key_code(const QKeyEvent& event) {
     // Platforms give a letter with Ctrl different texts.
     if ((event.modifiers() & Qt::ControlModifier) != 0 && event.key() >= Qt::Key_A &&
         event.key() <= Qt::Key_Z) {
-        return event.key() - Qt::Key_A + KEY_CTRL_A;
+        return event.key() - Qt::Key_A + platform::KEY_CTRL_A;
     }
     return event.text().isEmpty() ? 0 : event.text().front().unicode();
 }
@@ -105,17 +95,17 @@ int key_code(const QKeyEvent& event) {
 int moving_key_code(const QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Up:
-            return KEY_UP;
+            return platform::KEY_UP;
         case Qt::Key_Down:
-            return KEY_DOWN;
+            return platform::KEY_DOWN;
         case Qt::Key_PageUp:
-            return KEY_PAGE_UP;
+            return platform::KEY_PAGE_UP;
         case Qt::Key_PageDown:
-            return KEY_PAGE_DOWN;
+            return platform::KEY_PAGE_DOWN;
         case Qt::Key_Home:
-            return KEY_HOME;
+            return platform::KEY_HOME;
         case Qt::Key_End:
-            return KEY_END;
+            return platform::KEY_END;
         default:
             return 0;
     }

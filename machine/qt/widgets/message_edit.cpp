@@ -13,8 +13,6 @@
 
 namespace machine::qt {
 
-using platform::KeyPressed;
-
 MessageEdit::MessageEdit(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
     connect(this, &QPlainTextEdit::textChanged, this, &MessageEdit::tell_later);
@@ -42,7 +40,7 @@ void MessageEdit::write(const QString& text) {
 
 void MessageEdit::keyPressEvent(QKeyEvent* event) {
     note_key();
-    if (KeyPressed key{key_code(*event)}; !key.swallowed()) {
+    if (platform::KeyPressed key{key_code(*event)}; !key.swallowed()) {
         emit key_pressed(key);
         if (key.swallowed()) return event->accept();
     }

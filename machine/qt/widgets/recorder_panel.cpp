@@ -8,8 +8,6 @@
 
 namespace machine::qt {
 
-using platform::SoundRecorder;
-
 RecorderPanel::RecorderPanel(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::RecorderPanel>()) {
     ui_->setupUi(this);
     setFocusProxy(ui_->_record);
@@ -20,7 +18,7 @@ RecorderPanel::RecorderPanel(QWidget* parent) : QWidget(parent), ui_(std::make_u
 
 RecorderPanel::~RecorderPanel() = default;
 
-void RecorderPanel::show_recorder(const SoundRecorder& recorder) {
+void RecorderPanel::show_recorder(const platform::SoundRecorder& recorder) {
     show_buttons({{ui_->_stop, recorder.can_stop()},
                   {ui_->_play, recorder.can_play()},
                   {ui_->_record, recorder.can_record()}});

@@ -7,8 +7,6 @@
 
 namespace machine::qt {
 
-using platform::Transfer;
-
 namespace {
 
 /// The system's proxies. For `NoProxy` Qt reads the connection byte by byte while more arrives and its thread
@@ -30,7 +28,9 @@ QtInternet::QtInternet(const TransferLimits& limits) : limits_(limits) {}
 
 QtInternet::~QtInternet() = default;
 
-std::unique_ptr<Transfer> QtInternet::make_transfer() { return std::make_unique<QtTransfer>(*this); }
+std::unique_ptr<platform::Transfer> QtInternet::make_transfer() {
+    return std::make_unique<QtTransfer>(*this);
+}
 
 QNetworkAccessManager& QtInternet::manager() {
     if (manager_ == nullptr) {
