@@ -14,7 +14,7 @@ if(ZENT_SANITIZE)
 endif()
 
 # Makes one static library from a folder's sources, linked only to the folders below it:
-#   zent_library(core core platform)   the library `core` of ./*.cpp above `platform`
+#   zent_library(core platform)   the library `core` of ./*.cpp above `platform`
 # A folder that includes upwards does not link; tests/layers_test.cmake names the include.
 function(zent_library name)
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)

@@ -10,9 +10,6 @@ using platform::Text;
 
 namespace {
 
-/// The first of the toolbar's buttons for the kinds, which follow a separator.
-constexpr int FIRST_KIND_BUTTON = 2;
-
 std::vector<platform::ToolBar::Button> toolbar_buttons() {
     std::vector<platform::ToolBar::Button> buttons{{}};
     for (const KindOfMessage& kind : kinds_of_message())
@@ -148,13 +145,13 @@ void frmZent::start_text(MessageKind kind) {
             return plus.start();
         case MessageKind::voice:
         case MessageKind::fax:
+        case MessageKind::end:
             return;
     }
 }
 
 void frmZent::open_by_button(int index) {
-    const int last_kind_button = FIRST_KIND_BUTTON + static_cast<int>(kinds_of_message().size()) - 1;
-    if (index >= FIRST_KIND_BUTTON && index <= last_kind_button) {
+    if (index >= FIRST_KIND_BUTTON && index < RESULTS_BUTTON - 1) {
         TabStrip1.select(index - FIRST_KIND_BUTTON + 1);
     } else if (index == RESULTS_BUTTON) {
         session.KTSMS_LINK(service::PAGE_RESULTS);

@@ -24,8 +24,13 @@
 
 namespace compose {
 
-/// The buttons of `frmZent::Toolbar1` that follow those of the kinds.
-enum PageButton { RESULTS_BUTTON = 7, INBOX_BUTTON = 8, CHARGES_BUTTON = 9 };
+/// The buttons of `frmZent::Toolbar1`: a separator, the kinds, another separator, the service's pages.
+enum ToolbarButton {
+    FIRST_KIND_BUTTON = 2,
+    RESULTS_BUTTON = FIRST_KIND_BUTTON + MESSAGE_KINDS + 1,
+    INBOX_BUTTON,
+    CHARGES_BUTTON
+};
 
 /// The functions through which the main window opens what stands above it. `app::Application` fills these
 /// doors; a control whose door is empty is disabled.
@@ -105,7 +110,7 @@ class frmZent : public platform::Form {
     /// Chooses the kind's tab, also when it is chosen already: its text begins anew.
     void choose(MessageKind kind) { TabStrip1.select(static_cast<int>(kind)); }
 
-    /// Fills an empty subject from the text message, or with "제목없음".
+    /// Fills an empty subject from the text message, or with NO_SUBJECT.
     void subjectText_CHECK();
 
     /// Takes a saved text as the text message and its title as the subject; in the other kinds the title
@@ -146,7 +151,7 @@ class frmZent : public platform::Form {
     bool kind_chosen_ = false;
 };
 
-/// The kind that the window shows. Only this function asks the tabs.
+/// The kind that the window shows. Everything that depends on the kind asks this function.
 const KindOfMessage& kind_of(const frmZent& form);
 
 /// What the draft is made of: the kind's own content, or the source of the voice that the user has chosen.

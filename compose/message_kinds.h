@@ -12,13 +12,13 @@ namespace compose {
 /// The most bytes of one text message, in cp949.
 inline constexpr std::size_t TEXT_LIMIT = 80;
 
-/// The kinds of message in the order of their tabs, which are counted from 1.
-enum class MessageKind { text = 1, plus = 2, voice = 3, fax = 4, last = fax };
+/// The kinds of message in the order of their tabs, which are counted from 1; `end` is none of them.
+enum class MessageKind { text = 1, plus, voice, fax, end };
 
-inline constexpr std::size_t MESSAGE_KINDS = static_cast<std::size_t>(MessageKind::last);
+inline constexpr std::size_t MESSAGE_KINDS = static_cast<std::size_t>(MessageKind::end) - 1;
 
-/// The panels of the main window (`frmZent::Frame1`), one of which shows.
-enum class Panel { text = 0, voice = 1, fax = 2 };
+/// The panels of the main window, one of which shows.
+enum class Panel { text, voice, fax };
 
 /// What a message must hold before it can be sent.
 enum class Content { text, speech, recording, sound_file, documents };

@@ -6,6 +6,9 @@
 
 namespace compose {
 
+/// Stands for a subject that nobody has written.
+inline constexpr platform::TextView NO_SUBJECT = u"제목없음";
+
 /// The subject of a message. It follows the text until it is fixed, which its tag "END" says.
 class Subject : Room {
   public:
@@ -25,7 +28,7 @@ class Subject : Room {
     void fix() { subjectText.set_tag(u"END"); }
     void follow_again() { subjectText.set_tag(u""); }
 
-    /// Fills an empty subject with the beginning of the text, or with "제목없음".
+    /// Fills an empty subject with the beginning of the text, or with NO_SUBJECT.
     void fill_empty(const platform::Text& body);
 
     /// The most characters of a subject that is taken from a text.

@@ -62,7 +62,7 @@ class VoicePanel : Room {
     platform::CommonDialog& dialog_;
 };
 
-/// The source that the panel shows. Only this function asks its tabs.
+/// The source that the panel shows. Everything that depends on the source asks this function.
 Content voice_source_of(const VoicePanel& panel);
 
 }  // namespace compose

@@ -10,6 +10,8 @@ inline constexpr platform::TextView UPDATE_TEMP = u"\\update_temp";
 
 /// The folder of temporary sound files, on drive C whatever the application directory is.
 inline constexpr platform::TextView SOUND_FOLDER = u"c:\\temp\\";
+/// The recording in it that goes with a message.
+inline constexpr platform::TextView RECORDING_FILE = u"tmp.wav";
 
 /// The two files of the card manager's hand-over. The first is the signal and says what is handed over; the
 /// second, with the recipients, is complete when the first appears.

@@ -16,7 +16,7 @@ namespace {
 
 Text subject(const compose::frmZent& form) {
     Text text = platform::trim(platform::remove_all(form.subject.subjectText.text(), platform::CRLF));
-    return text.empty() ? Text(u"제목없음") : text;
+    return text.empty() ? Text(compose::NO_SUBJECT) : text;
 }
 
 std::int32_t reply_count(const compose::frmZent& form) {
@@ -36,7 +36,7 @@ void attach(gateway::UmsMessage& message, const compose::frmZent& form, Content 
             message.s_attach_file_count = 1;
             message.s_attach_file = compose::voice_source_of(form.voice) == Content::sound_file
                                         ? form.voice.TTSFileTxt.text() + u";"
-                                        : Text(core::SOUND_FOLDER) + u"tmp.wav;";
+                                        : Text(core::SOUND_FOLDER) + Text(core::RECORDING_FILE) + u";";
             return;
         case Content::documents:
             message.s_attach_file_count = static_cast<std::int32_t>(form.fax.FAX1.row_count());

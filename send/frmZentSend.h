@@ -18,7 +18,7 @@
 
 namespace send {
 
-/// The window of a send job. Half a second after its activation it runs one of four routines, which all do
+/// The window of a send job. Half a second after its activation it runs one of these routines, which all do
 /// the same for their recipients, one submit after the other: open a session with the carrier, register, wait
 /// as the service demands, write the result into the rows, close the session. They differ in how they group
 /// the recipients and what they do with the text:
@@ -26,7 +26,9 @@ namespace send {
 ///     SEND_BATCHES        up to 100 recipients a submit, the text whole
 ///     SEND_LONG_BATCHES   the same once for every piece of a text that is too long for one message
 ///     SEND_PERSONAL       one recipient a submit, the text filled in for each and cut into pieces
-///     SEND_SINGLES        one recipient a submit, the text filled in; too long a text fails
+///     SEND_SINGLES        one recipient a submit, the text filled in; too long a text fails (kept for
+///     support,
+///                         which knows its status texts: nothing runs it)
 ///
 /// What they share is in job_steps.cpp; each has a file of its own.
 class frmZentSend : public platform::Form {
@@ -62,7 +64,6 @@ class frmZentSend : public platform::Form {
     void SEND_BATCHES(const platform::Text& kind_name);
     void SEND_LONG_BATCHES();
     void SEND_PERSONAL();
-    /// Nothing calls it yet; it is the one-recipient form of SEND_BATCHES.
     void SEND_SINGLES(const platform::Text& kind_name);
 
     /// Cuts the next message of at most 80 bytes from `mText1`; no character is split.

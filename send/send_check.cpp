@@ -74,7 +74,7 @@ bool check_content(const Platform& platform, frmZent& form, Content content, Tex
         case Content::speech:
             return check_speech(platform, form);
         case Content::recording:
-            return !form.voice.RFK1.SaveWave(Text(core::SOUND_FOLDER), u"tmp.wav");
+            return !form.voice.RFK1.SaveWave(Text(core::SOUND_FOLDER), Text(core::RECORDING_FILE));
         case Content::sound_file:
             return check_sound_file(platform, form);
         case Content::documents: {
