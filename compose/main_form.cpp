@@ -80,6 +80,7 @@ void frmZent::connect() {
     });
     session.LoggedIn.connect([this] {
         sender.fill_from_account();
+        session.show_logged_in();
         subject.fix();
         text.start_if_empty();
         plus.start_if_empty();

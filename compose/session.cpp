@@ -99,7 +99,6 @@ void Session::go_on_after_login() {
     }
     state_.session.gLoggedIn = true;
     SET_LOGIN_BUTTONS(true);
-    show_logged_in();
     LoggedIn.raise();
 }
 

@@ -37,6 +37,9 @@ class Session : Room {
     /// Saves the menu's mark. Without the automatic login the saved password is blanked.
     void save();
 
+    /// Writes the account into the status bar.
+    void show_logged_in();
+
     /// Raised when the account's data are there to be shown.
     platform::Event<> LoggedIn;
 
@@ -44,7 +47,6 @@ class Session : Room {
     void connect();
     void read_auto_login_mark();
     void go_on_after_login();
-    void show_logged_in();
     void show_logged_out();
     void panel_clicked(int panel);
     void open_in_browser(const core::Setting& link);

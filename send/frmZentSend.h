@@ -26,10 +26,9 @@ namespace send {
 ///     SEND_BATCHES        up to 100 recipients a submit, the text whole
 ///     SEND_LONG_BATCHES   the same once for every piece of a text that is too long for one message
 ///     SEND_PERSONAL       one recipient a submit, the text filled in for each and cut into pieces
-///     SEND_SINGLES        one recipient a submit, the text filled in; too long a text fails (kept for
-///     support,
-///                         which knows its status texts: nothing runs it)
+///     SEND_SINGLES        one recipient a submit, the text filled in; too long a text fails
 ///
+/// Nothing runs the last one; it is kept for support, which knows its status texts.
 /// What they share is in job_steps.cpp; each has a file of its own.
 class frmZentSend : public platform::Form {
   public:
