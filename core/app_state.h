@@ -40,7 +40,7 @@ struct Session {
     /// 1 once a login has passed all checks. Written with the other marks of a login and read by nothing.
     std::int16_t gLoginAccepted = 0;
     platform::Text gLoginUserId;
-    /// Each send job logs in anew with it.
+    /// Each submit begins with it anew.
     platform::Text gLoginPassword;
     platform::Text gServiceNumber{UNKNOWN_SERVICE_NUMBER};
     platform::Text gServiceDomain;

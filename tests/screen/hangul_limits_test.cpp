@@ -3,7 +3,7 @@
 #include "compose/main_form.h"
 #include "core/byte_length.h"
 #include "machine/qt/typing/conversion.h"
-#include "machine/qt/widgets/message_edit.h"
+#include "machine/qt/widgets/multiline_edit.h"
 #include "send/send_check.h"
 #include "tests/screen/program_fixture.h"
 #include "tests/screen/screen_fixture.h"
@@ -191,7 +191,7 @@ class HangulLimits : public DeskTest {
 
     static void check(Draft& draft, const Case& c) {
         const platform::TextBox& field = draft.field();
-        const auto& edit = find<machine::qt::MessageEdit>(draft.field_name());
+        const auto& edit = find<machine::qt::MultilineEdit>(draft.field_name());
         EXPECT_EQ(utf8(field.text()), utf8(c.after));
         EXPECT_EQ(edit.committed_text().toStdString(), machine::qt::shown_text(c.after).toStdString());
         const std::size_t caret = c.caret.value_or(c.after.size());
@@ -352,7 +352,7 @@ TEST_F(HangulLimits, AClickIntoTheSubjectEndsTheSyllableFirst) {
 
 TEST_F(HangulLimits, AKeyThatComesWhileTheQuestionIsOpenOpensNoSecondBox) {
     const auto end_by_period = [](Draft& draft) {
-        auto& edit = find<machine::qt::MessageEdit>("mText1");
+        auto& edit = find<machine::qt::MultilineEdit>("mText1");
         draft.boxes.meanwhile = [&] {
             if (draft.boxes.asked.size() == 1) QTest::keyClick(&edit, Qt::Key_Period);
         };
@@ -401,14 +401,14 @@ TEST_F(HangulLimits, AnotherKindBeginsItsTextWithoutTheUnfinishedSyllable) {
             draft.kind = compose::MessageKind::plus;
             const Text plus = u"[홍]\r\n\r\n\r\n\r\n☎통화를눌러확인하세요";
             EXPECT_EQ(draft.form.plus.mText2.text(), plus);
-            EXPECT_EQ(find<machine::qt::MessageEdit>("mText2").committed_text(),
+            EXPECT_EQ(find<machine::qt::MultilineEdit>("mText2").committed_text(),
                       machine::qt::shown_text(plus));
             draft.field().set_focus();
             draft.leave_han_unfinished();
             click_tab(compose::MessageKind::text);
             EXPECT_EQ(draft.form.plus.mText2.text(), u"한" + plus);
             EXPECT_EQ(draft.form.text.mText1.text(), u"[홍]");
-            EXPECT_EQ(find<machine::qt::MessageEdit>("mText1").committed_text(), "[홍]");
+            EXPECT_EQ(find<machine::qt::MultilineEdit>("mText1").committed_text(), "[홍]");
         }
     }
 }

@@ -1,5 +1,5 @@
 #include "machine/qt/typing/conversion.h"
-#include "machine/qt/widgets/message_edit.h"
+#include "machine/qt/widgets/multiline_edit.h"
 #include "tests/screen/screen_fixture.h"
 
 #include <QClipboard>
@@ -49,7 +49,7 @@ class TextFieldTest : public ScreenTest {
         });
     }
 
-    machine::qt::MessageEdit& edit() { return find<machine::qt::MessageEdit>("mText1"); }
+    machine::qt::MultilineEdit& edit() { return find<machine::qt::MultilineEdit>("mText1"); }
 
     std::vector<Text> changes;
     std::vector<int> codes;

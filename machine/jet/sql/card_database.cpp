@@ -1,8 +1,8 @@
 #include "machine/jet/sql/card_database.h"
 
-#include "machine/jet/sql/card_module.h"
 #include "machine/jet/sql/like_pattern.h"
 #include "machine/jet/sql/statement.h"
+#include "machine/jet/sql/virtual_table.h"
 #include "platform/error.h"
 
 #include <cstring>

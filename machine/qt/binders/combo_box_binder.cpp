@@ -53,7 +53,7 @@ QString ComboBoxBinder::widget_text() const {
     return is_editable() ? to_lines(widget().lineEdit()->text()).remove(u'\n') : QString();
 }
 
-void ComboBoxBinder::hand_over() { control().user_edit(to_text(widget_text())); }
+void ComboBoxBinder::give_to_model() { control().user_edit(to_text(widget_text())); }
 
 void ComboBoxBinder::write_back() {
     const QScopedValueRollback<bool> working(working_, true);

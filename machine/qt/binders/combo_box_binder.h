@@ -16,7 +16,7 @@ class ComboBoxBinder : public BinderOf<platform::ComboBox, QComboBox>, private E
     void show(platform::Aspect aspect) override;
     bool filter(QObject& object, QEvent& event) override;
     QString widget_text() const override;
-    void hand_over() override;
+    void give_to_model() override;
     void write_back() override;
     bool is_live() const override { return is_bound_live(); }
 

@@ -12,7 +12,7 @@
 #include "machine/qt/binders/web_browser_binder.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/animation_player.h"
-#include "machine/qt/widgets/message_edit.h"
+#include "machine/qt/widgets/multiline_edit.h"
 #include "machine/qt/widgets/recorder_panel.h"
 #include "machine/qt/widgets/web_area.h"
 
@@ -68,7 +68,7 @@ void FormBinder::visit(platform::TreeView& control) { bind<TreeViewBinder>(contr
 void FormBinder::visit(platform::WebBrowser& control) { bind<WebBrowserBinder>(control); }
 
 void FormBinder::visit(platform::TextBox& control) {
-    if (!try_bind<MessageBinder>(control)) bind<LineBinder>(control);
+    if (!try_bind<MultilineBinder>(control)) bind<LineBinder>(control);
 }
 
 void FormBinder::visit(platform::Menu& control) {

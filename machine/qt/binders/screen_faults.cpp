@@ -2,7 +2,7 @@
 
 #include "machine/qt/binders/form_binder.h"
 #include "machine/qt/typing/conversion.h"
-#include "machine/qt/widgets/message_edit.h"
+#include "machine/qt/widgets/multiline_edit.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -37,7 +37,7 @@ bool holds_controls(const QWidget& widget) {
 
 bool is_worked_with(const QObject& object) {
     return qobject_cast<const QAbstractButton*>(&object) || qobject_cast<const QLineEdit*>(&object) ||
-           qobject_cast<const MessageEdit*>(&object) || qobject_cast<const QComboBox*>(&object) ||
+           qobject_cast<const MultilineEdit*>(&object) || qobject_cast<const QComboBox*>(&object) ||
            qobject_cast<const QDateEdit*>(&object) || qobject_cast<const QTabBar*>(&object) ||
            qobject_cast<const QTreeView*>(&object);
 }

@@ -3,7 +3,7 @@
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/typing/field_events.h"
-#include "machine/qt/widgets/message_edit.h"
+#include "machine/qt/widgets/multiline_edit.h"
 
 #include <QLineEdit>
 #include <QScopedValueRollback>
@@ -55,7 +55,7 @@ void TextBoxBinder::edited() {
     control().user_selection(start, program_position(control().text(), now.end) - start);
 }
 
-void TextBoxBinder::hand_over() {
+void TextBoxBinder::give_to_model() {
     Text text = program_text(widget_text());
     const std::size_t caret = program_position(text, selection().caret);
     control().user_edit(std::move(text), caret);
@@ -87,18 +87,18 @@ void TextBoxBinder::select_as_model() {
     }
 }
 
-MessageBinder::MessageBinder(BoundForm& bound, TextBox& control, MessageEdit& edit)
+MultilineBinder::MultilineBinder(BoundForm& bound, TextBox& control, MultilineEdit& edit)
     : BinderOf(bound, control, edit) {
     write_back();
-    connect(&edit, &MessageEdit::key_pressed, this, [this](KeyPressed& key) { press_key(key); });
-    connect(&edit, &MessageEdit::edited, this, [this] { edited(); });
+    connect(&edit, &MultilineEdit::key_pressed, this, [this](KeyPressed& key) { press_key(key); });
+    connect(&edit, &MultilineEdit::edited, this, [this] { edited(); });
 }
 
-QString MessageBinder::widget_text() const { return widget().committed_text(); }
+QString MultilineBinder::widget_text() const { return widget().committed_text(); }
 
-void MessageBinder::write(const QString& text) { widget().write(text); }
+void MultilineBinder::write(const QString& text) { widget().write(text); }
 
-void MessageBinder::select(int start, int end) {
+void MultilineBinder::select(int start, int end) {
     QTextCursor cursor = widget().textCursor();
     if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
     cursor.setPosition(start);
@@ -106,7 +106,7 @@ void MessageBinder::select(int start, int end) {
     widget().setTextCursor(cursor);
 }
 
-TextBoxBinder::Selection MessageBinder::selection() const {
+TextBoxBinder::Selection MultilineBinder::selection() const {
     const QTextCursor cursor = widget().textCursor();
     return {cursor.selectionStart(), cursor.selectionEnd(), cursor.position()};
 }

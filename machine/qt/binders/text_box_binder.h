@@ -8,7 +8,7 @@ class QLineEdit;
 
 namespace machine::qt {
 
-class MessageEdit;
+class MultilineEdit;
 
 /// Joins a text box with its field: text, caret and keys in both directions.
 class TextBoxBinder : public BinderOf<platform::TextBox, QWidget>, protected EditedField {
@@ -32,7 +32,7 @@ class TextBoxBinder : public BinderOf<platform::TextBox, QWidget>, protected Edi
     /// Whether the widget has an edit that the model does not have yet.
     bool has_edit() const { return edits_.waiting(); }
 
-    void hand_over() final;
+    void give_to_model() final;
     void write_back() final;
     bool is_live() const final { return is_bound_live(); }
 
@@ -46,9 +46,9 @@ class TextBoxBinder : public BinderOf<platform::TextBox, QWidget>, protected Edi
 };
 
 /// A text box of several lines.
-class MessageBinder : public BinderOf<platform::TextBox, MessageEdit, TextBoxBinder> {
+class MultilineBinder : public BinderOf<platform::TextBox, MultilineEdit, TextBoxBinder> {
   public:
-    MessageBinder(BoundForm& bound, platform::TextBox& control, MessageEdit& edit);
+    MultilineBinder(BoundForm& bound, platform::TextBox& control, MultilineEdit& edit);
 
   private:
     QString widget_text() const override;

@@ -7,7 +7,7 @@ namespace machine::qt {
 void UserEdits::settle() {
     while (!running_ && field_.is_live() && waiting()) {
         agreed_ = field_.widget_text();
-        run([this] { field_.hand_over(); });
+        run([this] { field_.give_to_model(); });
     }
 }
 

@@ -13,7 +13,7 @@ class EditedField {
     /// The widget's committed text.
     virtual QString widget_text() const = 0;
     /// Passes the widget's text to the model as the user's edit; the handlers run before this returns.
-    virtual void hand_over() = 0;
+    virtual void give_to_model() = 0;
     /// Gives the widget the model's text.
     virtual void write_back() = 0;
     /// False once the form has closed.

@@ -1,4 +1,4 @@
-#include "machine/jet/sql/card_module.h"
+#include "machine/jet/sql/virtual_table.h"
 
 #include <limits>
 #include <new>

@@ -1,4 +1,4 @@
-#include "machine/qt/widgets/message_edit.h"
+#include "machine/qt/widgets/multiline_edit.h"
 
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
@@ -13,16 +13,16 @@
 
 namespace machine::qt {
 
-MessageEdit::MessageEdit(QWidget* parent) : QPlainTextEdit(parent) {
+MultilineEdit::MultilineEdit(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
-    connect(this, &QPlainTextEdit::textChanged, this, &MessageEdit::tell_later);
-    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &MessageEdit::tell_later);
-    connect(this, &QPlainTextEdit::selectionChanged, this, &MessageEdit::tell_later);
+    connect(this, &QPlainTextEdit::textChanged, this, &MultilineEdit::tell_later);
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &MultilineEdit::tell_later);
+    connect(this, &QPlainTextEdit::selectionChanged, this, &MultilineEdit::tell_later);
 }
 
-QString MessageEdit::committed_text() const { return to_lines(document()->toRawText()); }
+QString MultilineEdit::committed_text() const { return to_lines(document()->toRawText()); }
 
-void MessageEdit::write(const QString& text) {
+void MultilineEdit::write(const QString& text) {
     const QString present = committed_text();
     const auto [end, new_end] = std::mismatch(present.begin(), present.end(), text.begin(), text.end());
     const qsizetype same = end - present.begin();
@@ -38,7 +38,7 @@ void MessageEdit::write(const QString& text) {
     cursor.endEditBlock();
 }
 
-void MessageEdit::keyPressEvent(QKeyEvent* event) {
+void MultilineEdit::keyPressEvent(QKeyEvent* event) {
     note_key();
     if (platform::KeyPressed key{key_code(*event)}; !key.swallowed()) {
         emit key_pressed(key);
@@ -47,17 +47,17 @@ void MessageEdit::keyPressEvent(QKeyEvent* event) {
     work([&] { QPlainTextEdit::keyPressEvent(event); });
 }
 
-void MessageEdit::inputMethodEvent(QInputMethodEvent* event) {
+void MultilineEdit::inputMethodEvent(QInputMethodEvent* event) {
     if (!note_composition(*this, *event)) return event->accept();
     work([&] { QPlainTextEdit::inputMethodEvent(event); });
 }
 
-void MessageEdit::focusOutEvent(QFocusEvent* event) {
+void MultilineEdit::focusOutEvent(QFocusEvent* event) {
     if (event->reason() != Qt::PopupFocusReason) commit_composition(*this);
     QPlainTextEdit::focusOutEvent(event);
 }
 
-bool MessageEdit::viewportEvent(QEvent* event) {
+bool MultilineEdit::viewportEvent(QEvent* event) {
     // The click moves the caret away from the unfinished syllable, which Qt would discard.
     if (event->type() == QEvent::MouseButtonPress) commit_composition(*this);
     bool handled = false;
@@ -65,12 +65,12 @@ bool MessageEdit::viewportEvent(QEvent* event) {
     return handled;
 }
 
-void MessageEdit::insertFromMimeData(const QMimeData* source) {
+void MultilineEdit::insertFromMimeData(const QMimeData* source) {
     textCursor().insertText(to_lines(source->text()));
     ensureCursorVisible();
 }
 
-void MessageEdit::work(const std::function<void()>& step) {
+void MultilineEdit::work(const std::function<void()>& step) {
     {
         const QScopedValueRollback<int> working(working_, working_ + 1);
         step();
@@ -79,8 +79,8 @@ void MessageEdit::work(const std::function<void()>& step) {
 }
 
 /// For changes without an event of this widget, such as those from its context menu.
-void MessageEdit::tell_later() {
-    if (working_ == 0) QMetaObject::invokeMethod(this, &MessageEdit::edited, Qt::QueuedConnection);
+void MultilineEdit::tell_later() {
+    if (working_ == 0) QMetaObject::invokeMethod(this, &MultilineEdit::edited, Qt::QueuedConnection);
 }
 
 }  // namespace machine::qt

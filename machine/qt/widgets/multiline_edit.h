@@ -11,11 +11,11 @@ namespace machine::qt {
 ///
 /// Qt's editor signals changes in the middle of its own work and at every step of a Hangul composition. A
 /// handler that cuts the text or opens a box at that time would corrupt its state.
-class MessageEdit : public QPlainTextEdit {
+class MultilineEdit : public QPlainTextEdit {
     Q_OBJECT
 
   public:
-    explicit MessageEdit(QWidget* parent = nullptr);
+    explicit MultilineEdit(QWidget* parent = nullptr);
 
     /// The text without an input method's unfinished syllable; line ends are "\n".
     QString committed_text() const;
