@@ -92,6 +92,8 @@ Paths::Parts Paths::parts_of(TextView path) const {
 }
 
 std::string Paths::to_posix(TextView path) const {
+    // Most paths are spelled as they stand on the disk.
+    if (std::string exact = as_it_stands(path); is_there(exact)) return exact;
     const Parts parts = parts_of(path);
     std::string posix = parts.drive;
     bool there = true;
