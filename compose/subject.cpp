@@ -38,7 +38,7 @@ void Subject::fill_empty(const Text& body) {
     if (!platform::trim(subjectText.text()).empty()) return;
     const Text title = platform::trim(without_line_ends(platform::trim(body)));
     if (!title.empty()) subjectText.set_text(title.substr(0, LENGTH));
-    if (subjectText.text().empty()) subjectText.set_text(Text(NO_SUBJECT));
+    if (platform::trim(subjectText.text()).empty()) subjectText.set_text(Text(NO_SUBJECT));
 }
 
 }  // namespace compose

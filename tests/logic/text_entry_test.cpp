@@ -245,6 +245,7 @@ TEST_F(Subject, AnEmptyOneIsFilledFromTheTextMessageOrWithAWordForUntitled) {
         {compose::MessageKind::text, u"", u"12345678901234567890", "123456789012345"},
         {compose::MessageKind::text, u"", u"\r\n\r\n", "제목없음"},
         {compose::MessageKind::voice, u"", u"본문", "제목없음"},
+        {compose::MessageKind::voice, u"  ", u"본문", "제목없음"},
     };
     for (const auto& row : rows) {
         form.choose(row.kind);
