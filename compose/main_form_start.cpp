@@ -43,6 +43,7 @@ void frmZent::Form_Load() {
     set_caption(Text(core::APPLICATION_TITLE));
     for (platform::PictureBox* box : {&Picture1, &Picture3, &Picture4, &Picture5, &Picture6})
         box->set_border(false);
+    sender.load();
     session.load();
     restore_placement();
     core::MAKE_WORK_DIRS(platform_);

@@ -35,6 +35,11 @@ void Sender::set_visible(bool visible) {
     show_all({&Label2_0, &Label2_1, &txtUserName, &txtCallback}, visible);
 }
 
+void Sender::load() {
+    txtUserName.set_text(platform::trim(state_.sender.gSavedSenderName));
+    txtCallback.set_text(platform::trim(state_.sender.gSavedCallback));
+}
+
 void Sender::fill_from_account() {
     core::read_saved_sender(platform_, state_);
     fill(txtUserName, state_.session.gInfoUserName, state_.session.gInfoSenderName,

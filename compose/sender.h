@@ -24,6 +24,9 @@ class Sender : Room {
 
     void set_visible(bool visible);
 
+    /// Shows the saved sender, whom a user that never logs in keeps.
+    void load();
+
     /// Offers the account's names and numbers and chooses the saved ones.
     void fill_from_account();
     /// Puts the account's number into the field if the user has left it empty.

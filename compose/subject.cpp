@@ -17,7 +17,11 @@ Subject::Subject(platform::Form& form) : Room(form) {
 
 void Subject::follow(const Text& body, std::size_t limit) {
     if (platform::trim(subjectText.text()).size() >= LENGTH || !subjectText.tag().empty()) return;
-    subjectText.set_text(without_line_ends(body).substr(0, limit));
+    // Deliberately first whole, then cut: what is too long a subject at its first writing fixes it, and later
+    // changes of the text leave the cut one alone.
+    const Text title = without_line_ends(body);
+    subjectText.set_text(title);
+    if (title.size() > limit) subjectText.set_text(title.substr(0, limit));
 }
 
 void Subject::freeze() {
@@ -34,7 +38,7 @@ void Subject::fill_empty(const Text& body) {
     if (!platform::trim(subjectText.text()).empty()) return;
     const Text title = platform::trim(without_line_ends(platform::trim(body)));
     if (!title.empty()) subjectText.set_text(title.substr(0, LENGTH));
-    if (subjectText.text().empty()) subjectText.set_text(Text(NO_SUBJECT));
+    if (platform::trim(subjectText.text()).empty()) subjectText.set_text(Text(NO_SUBJECT));
 }
 
 }  // namespace compose

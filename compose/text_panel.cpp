@@ -189,11 +189,22 @@ void TextPanel::save() {
         }
         core::write_saved_text(platform_, core::DEFAULT_CATEGORY, title, text);
     } catch (const platform::RuntimeError& error) {
-        core::show_error(platform_.desktop, error, platform::BoxIcon::critical);
-        return;
+        return show_not_saved(error);
     }
     platform_.desktop.message_box({.text = u"내 모음함에 '" + title + u"' 제목으로 등록 되었습니다.",
                                    .icon = platform::BoxIcon::information});
+}
+
+/// A name that cannot be is the subject, which the user may not have typed: he is told, and led there.
+void TextPanel::show_not_saved(const platform::RuntimeError& error) {
+    if (error.number() != static_cast<int>(platform::ErrorNumber::bad_file_name))
+        return core::show_error(platform_.desktop, error, platform::BoxIcon::critical);
+    core::show_error(
+        platform_.desktop,
+        {platform::ErrorNumber::bad_file_name,
+         u"발송제목이 저장할 이름이 됩니다. 발송제목을 고쳐 주십시오.\r\n\r\n" + error.description()},
+        platform::BoxIcon::critical);
+    subject_.subjectText.set_focus();
 }
 
 }  // namespace compose

@@ -7,6 +7,7 @@
 #include "platform/controls/displays.h"
 #include "platform/controls/fields.h"
 #include "platform/controls/panels.h"
+#include "platform/error.h"
 #include "platform/ports/platform.h"
 
 #include <array>
@@ -56,6 +57,7 @@ class TextPanel : Room {
     /// Inserts by way of the clipboard and so overwrites its content.
     void insert(const platform::Text& text);
     void save();
+    void show_not_saved(const platform::RuntimeError& error);
 
     platform::Platform& platform_;
     Subject& subject_;

@@ -5,6 +5,7 @@
 #include "core/paths.h"
 #include "core/work_folders.h"
 #include "platform/error.h"
+#include "platform/formats/pasted_path.h"
 
 namespace compose {
 
@@ -114,8 +115,9 @@ void VoicePanel::save_recording() {
 }
 
 void VoicePanel::translate_machine_path() {
-    if (const Text path = platform::trim(TTSFileTxt.text()); path.starts_with(u'/'))
-        TTSFileTxt.set_text(platform_.files.path_of(platform::to_utf8(path)));
+    const Text path = platform::pasted_path(TTSFileTxt.text());
+    const bool of_machine = path.starts_with(u'/');
+    TTSFileTxt.set_text(of_machine ? platform_.files.path_of(platform::to_utf8(path)) : path);
 }
 
 void VoicePanel::choose_sound_file() {

@@ -14,7 +14,7 @@ bool Login::prove(const Text& user_id, const Text& password) {
     state_.session.gLoginUserId = user_id;
     state_.session.gLoginPassword = password;
     state_.session.gServiceDomain = core::deployment::service_domain();
-    state_.session.gServiceNumber = state_.session.gInfoServiceNumber;
+    state_.session.gServiceNumber = CLEAN_FIXED_TEXT(state_.session.gInfoServiceNumber);
     state_.session.gClientAddress = u"127.0.0.1";
     const core::BusyPointer busy(platform_.desktop);
     state_.session.gSubmitSequence = 1;

@@ -30,9 +30,8 @@ void frmZentSend::SEND_LONG_BATCHES() {
             state_.session.gSubmitSequence = 1;
             job.account_checked = false;
             job.batch_sequence = 0;
-            // Deliberately resets all but the address text, which keeps the recipients of a stopped pass: the
+            // Deliberately leaves address text and count, which keep the recipients of a stopped pass: the
             // service has always been given such a batch.
-            batch.count = 0;
             batch.first_row = 0;
 
             // Deliberately only the last piece counts and marks its rows: they must stay checked until then,

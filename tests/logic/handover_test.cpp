@@ -39,7 +39,7 @@ struct HandOver : testing::Test, tests::MainWindow {
 };
 
 TEST_F(HandOver, RecipientsAreAddedAndTheirTabIsChosen) {
-    hand("4", u"x\t홍길동\t010-1111-2222\t부장\r\nx\t김:영희\t02)333-4444\t3급\r\n");
+    hand("4", u"x\t홍길동\t010-1111-2222\t부장\r\nx\t김:영;희\t02)333-4444\t3급\r\n");
     take_in();
     EXPECT_EQ(rows(), (Rows{"홍길동|01011112222|부장", "김영희|023334444|3"}));
     EXPECT_EQ(kind_of(form).kind, compose::MessageKind::fax);
@@ -66,7 +66,7 @@ TEST_F(HandOver, LinesAreReadAsFarAsTheyMakeSense) {
          {"A|0101111|"}},
         {"a missing number on the first line is none", u"x\tAAAAAAAA\r\n", {}},
         {"a missing name is the one before", u"123456789\r\nx\tA\t0101111\r\n", {"A|0101111|"}},
-        {"an empty name has a stand-in", u"x\t : \t0101111\r\n", {"이름없음|0101111|"}},
+        {"an empty name has a stand-in", u"x\t :; \t0101111\r\n", {"이름없음|0101111|"}},
         {"an empty number is skipped, its title stays",
          u"x\tA\t \tT7890\r\nx\tB\t0101111\r\n",
          {"B|0101111|7890"}},

@@ -97,4 +97,21 @@ TEST_F(SavingAText, ATitleThatNoFileCanHaveIsRefusedAndNothingIsWritten) {
     }
 }
 
+TEST_F(SavingAText, ASubjectThatTheProgramMadeOfTheTextIsNamedWhenItCannotBeAName) {
+    const Text refusal =
+        u"오류번호:52\r\n\r\n발송제목이 저장할 이름이 됩니다. 발송제목을 고쳐 주십시오.\r\n\r\n"
+        u"이름에 다음 문자는 사용할 수 없습니다.\r\n\\ / : * ? \" < > |";
+    desktop.expect_box(refusal);
+    form.Command1.set_focus();
+    save(u"", u"내일 10:30 회의?");
+    EXPECT_TRUE(files.files.empty());
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "내일 10:30 회의?") << "what is sent stays as it is";
+    EXPECT_TRUE(form.subject.subjectText.has_focus());
+    ASSERT_EQ(desktop.boxes.size(), 1u);
+    EXPECT_EQ(utf8(desktop.boxes[0].text), utf8(refusal));
+    EXPECT_EQ(desktop.boxes[0].icon, platform::BoxIcon::critical);
+    EXPECT_EQ(utf8(desktop.boxes[0].title), "");
+    EXPECT_EQ(desktop.boxes[0].buttons, platform::BoxButtons::ok);
+}
+
 }  // namespace

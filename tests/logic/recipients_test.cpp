@@ -56,8 +56,8 @@ TEST_F(Typed, ANumberIsSearchedForAsADuplicateBeforeTheKindChecksIt) {
         std::string box;  // none: the row is added
         std::string row;
     } entries[] = {
-        {compose::MessageKind::text, u"이 순:신 ", u"010-9999-8888", "", "이순신 01099998888"},
-        {compose::MessageKind::text, u" : : ", u"1588-12345", "", "이름없음 158812345"},
+        {compose::MessageKind::text, u"이 순:신; ", u"010-9999-8888", "", "이순신 01099998888"},
+        {compose::MessageKind::text, u" : ; ", u"1588-12345", "", "이름없음 158812345"},
         {compose::MessageKind::text, u"이순신", u"   ", "문자보낼번호를(을) 입력하여 주십시오!", ""},
         {compose::MessageKind::fax, u"", u"", "팩스보낼번호를(을) 입력하여 주십시오!", ""},
         {compose::MessageKind::plus, u"", u"0641234567", wrong("문자보낼번호", "0641234567", TEXT_ONLY), ""},

@@ -36,7 +36,7 @@ TEST(SendBatches, HoldAHundredRecipientsUnderNumberedSubjects) {
 
 TEST(SendBatches, AddressesAreNameAndDigitsWithoutTheirSeparators) {
     Sending s;
-    s.add(u" 김:철수 ", u"010-1111-2222");
+    s.add(u" 김:철;수 ", u"010-1111-2222");
     s.add(u"", u"(010) 2222 3333");
     s.add(u"b", u"01033334444", false);
     s.add(u"이름없음", u"01044445555");

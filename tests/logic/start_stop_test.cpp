@@ -239,6 +239,24 @@ TEST(Stop, SenderAndReplyNumberAreSavedWhenTheyDifferFromWhatWasRead) {
     }
 }
 
+TEST(Stop, WithoutALoginTheSavedSenderIsShownAndKept) {
+    tests::MainWindow window;
+    window.save_setting(u"SET", u"ZentUserNickName", u" 길동");
+    window.save_setting(u"SET", u"ZentUserPhoneID", u"021112222");
+    core::read_saved_sender(window.platform, window.state);
+    window.form.load();
+    window.form.choose(compose::MessageKind::text);
+    EXPECT_EQ(utf8(window.form.sender.txtUserName.text()), "길동");
+    EXPECT_EQ(utf8(window.form.sender.txtCallback.text()), "021112222");
+    window.form.sender.txtUserName.set_focus();
+    window.form.sender.txtCallback.set_focus();
+    window.form.Command1.set_focus();
+    EXPECT_EQ(utf8(window.form.text.mText1.text()), "[길동]");
+    window.form.unload();
+    EXPECT_EQ(window.setting(u"SET", u"ZentUserNickName"), "길동");
+    EXPECT_EQ(window.setting(u"SET", u"ZentUserPhoneID"), "021112222");
+}
+
 TEST(Stop, ANormalWindowSavesItsPlacementAndAnyOtherOnlyItsState) {
     const struct {
         WindowState state;

@@ -193,9 +193,15 @@ TEST_F(Subject, FollowsTheTextWithoutLineEndsInFifteenCharacters) {
     EXPECT_EQ(utf8(form.subject.subjectText.text()), "가나");
     edit(form.text.mText1, u"12345678901234567890");
     EXPECT_EQ(utf8(form.subject.subjectText.text()), "123456789012345");
-    EXPECT_EQ(utf8(form.subject.subjectText.tag()), "");
     edit(form.text.mText1, u"xyz");
     EXPECT_EQ(utf8(form.subject.subjectText.text()), "123456789012345") << "15 characters are enough";
+
+    form.subject.subjectText.set_text(u"");
+    edit(form.text.mText1, u"12345678901234 tail");
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "12345678901234 ");
+    edit(form.text.mText1, u"Y12345678901234 tail");
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "12345678901234 ")
+        << "it stands although a blank ends it";
 
     form.subject.subjectText.set_text(u"");
     edit(form.plus.mText2, u"12345678\r\n901234567890");
@@ -239,6 +245,7 @@ TEST_F(Subject, AnEmptyOneIsFilledFromTheTextMessageOrWithAWordForUntitled) {
         {compose::MessageKind::text, u"", u"12345678901234567890", "123456789012345"},
         {compose::MessageKind::text, u"", u"\r\n\r\n", "제목없음"},
         {compose::MessageKind::voice, u"", u"본문", "제목없음"},
+        {compose::MessageKind::voice, u"  ", u"본문", "제목없음"},
     };
     for (const auto& row : rows) {
         form.choose(row.kind);

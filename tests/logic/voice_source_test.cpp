@@ -98,6 +98,28 @@ TEST_F(VoiceSource, ASoundFileIsPlayedByTheMachineAndAMissingOneIsNamed) {
     EXPECT_EQ(form.voice.TTSFileTxt.text(), NAME);
 }
 
+TEST_F(VoiceSource, AFileIsFoundHoweverItsPathWasPasted) {
+    const struct {
+        const char16_t* pasted;
+        const char* path;
+    } rows[] = {
+        {u" /home/a b.wav ", "/home/a b.wav"},
+        {u"file:///home/a%20b.wav", "/home/a b.wav"},
+        {u"FILE://localhost/home/%ec%9d%b8%EC%82%AC.wav", "/home/인사.wav"},
+        {u"file:///home/100%.wav", "/home/100%.wav"},
+        {u"\"z:\\home\\인사.wav\"", "z:\\home\\인사.wav"},
+        {u" '/home/a b.wav'", "/home/a b.wav"},
+        {u"file://server/home/a%20b.wav", "file://server/home/a%20b.wav"},
+    };
+    desktop.any_box = BoxAnswer::ok;
+    for (const auto& row : rows) {
+        form.voice.TTSFileTxt.set_text(row.pasted);
+        form.voice.TTSBttn3.Click.raise();
+        EXPECT_EQ(utf8(form.voice.TTSFileTxt.text()), row.path);
+    }
+    EXPECT_EQ(shell.opened, std::vector{NAME});
+}
+
 TEST_F(VoiceSource, IsNotRecordedOverUnlessSavedOrSentOrTheUserAgrees) {
     const Text question = u"새로 녹음하시겠습니까?";
     const auto record_again = [&] {
