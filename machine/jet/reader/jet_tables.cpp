@@ -10,6 +10,7 @@
 #include <mdbtools.h>
 #include <memory>
 #include <optional>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -23,8 +24,21 @@ struct FreeTable {
 };
 using TableDefinition = std::unique_ptr<MdbTableDef, FreeTable>;
 
-constexpr int DELETED_ROW = 0x4000;
-constexpr int ROW_OFFSET = 0x1FFF;
+/// Where a data page names the table that it belongs to.
+constexpr int OWNER = 4;
+
+/// A row's slot on its page. The slot of a row that outgrew its page and moved holds a pointer to its new
+/// place, a slot with the other mark, which may point on in turn. A deleted row's own slot has both marks;
+/// the new place that it had stays behind, and nothing points at it any more.
+struct Slot {
+    static constexpr int MOVED = 0x4000;
+    static constexpr int NEW_PLACE = 0x8000;
+    static constexpr int START = 0x1FFF;
+
+    int marks;
+    int start;
+    std::size_t length;
+};
 
 [[noreturn]] void unsound(const char* what) { throw std::runtime_error(what); }
 
@@ -99,10 +113,15 @@ class RowReader {
     std::uint32_t read(const std::function<void(const Row&)>& take_row) {
         std::uint32_t rows = 0;
         while (mdb_read_next_dpg(definition_.get()) > 0) {
-            const int on_page = mdb_get_int16(file_->pg_buf, file_->fmt->row_count_offset);
-            for (int row = 0; row < on_page; ++row) {
-                if (!read_row(row)) continue;
+            const std::uint32_t page = file_->cur_pg;
+            const int on_page = slots_on_page();
+            for (int number = 0; number < on_page; ++number) {
+                turn_to(page);
+                Slot slot = slot_of(number);
+                if ((slot.marks & Slot::NEW_PLACE) != 0) continue;
                 if (++rows > definition_->num_rows) unsound("more rows than the table has");
+                while ((slot.marks & Slot::MOVED) != 0) slot = new_place_of(slot);
+                read_row(slot);
                 take_row(row_);
             }
         }
@@ -111,17 +130,42 @@ class RowReader {
     }
 
   private:
-    /// Returns false for a row that was deleted, or moved to a place that is read later.
-    bool read_row(int number) {
+    void turn_to(std::uint32_t page) {
+        if (mdb_read_pg(file_, page) != static_cast<ssize_t>(PAGE_BYTES)) unsound("a page outside the file");
+    }
+
+    int slots_on_page() const { return mdb_get_int16(file_->pg_buf, file_->fmt->row_count_offset); }
+
+    Slot slot_of(int number) {
         int start = 0;
         std::size_t length = 0;
         if (mdb_find_row(file_, number, &start, &length) < 0) unsound("a row outside its page");
-        if ((start & DELETED_ROW) != 0) return false;
-        start &= ROW_OFFSET;
-        if (length == 0 || static_cast<std::size_t>(start) + length > PAGE_BYTES)
-            unsound("a row outside its page");
+        const Slot slot{start & (Slot::MOVED | Slot::NEW_PLACE), start & Slot::START, length};
+        if (static_cast<std::size_t>(slot.start) + length > PAGE_BYTES) unsound("a row outside its page");
+        return slot;
+    }
 
-        const int count = mdb_crack_row(definition_.get(), start, length, fields_.data());
+    /// Turns to the page that a moved row's slot points at. Each place is some row's once, so that no
+    /// pointers lead in a circle.
+    Slot new_place_of(const Slot& slot) {
+        if (slot.length < sizeof(std::uint32_t)) unsound("a moved row without its new place");
+        const auto pointer = static_cast<std::uint32_t>(mdb_get_int32(file_->pg_buf, slot.start));
+        if (!new_places_.insert(pointer).second) unsound("two rows in one place");
+        turn_to(pointer >> 8);
+        const int number = static_cast<int>(pointer & 0xFF);
+        if (file_->pg_buf[0] != MDB_PAGE_DATA ||
+            static_cast<std::uint32_t>(mdb_get_int32(file_->pg_buf, OWNER)) != definition_->entry->table_pg ||
+            number >= slots_on_page()) {
+            unsound("a row moved out of its table");
+        }
+        const Slot place = slot_of(number);
+        if ((place.marks & Slot::NEW_PLACE) == 0) unsound("a row moved to another row's place");
+        return place;
+    }
+
+    void read_row(const Slot& slot) {
+        if (slot.length == 0) unsound("a row outside its page");
+        const int count = mdb_crack_row(definition_.get(), slot.start, slot.length, fields_.data());
         if (count < 0) unsound("a row without sense");
         for (const MdbField& field : fields_) {
             const auto column = static_cast<std::size_t>(field.colnum);
@@ -133,16 +177,15 @@ class RowReader {
         for (std::size_t i = 0; i < columns_.size(); ++i) {
             const MdbField* field = field_of_column_[positions_[i].column];
             if (field == nullptr) unsound("a row without a column");
-            row_[i] = positions_[i].is_read ? cell_of(*field, columns_[i].kind, start, length) : Cell();
+            row_[i] = positions_[i].is_read ? cell_of(*field, columns_[i].kind, slot) : Cell();
         }
-        return true;
     }
 
-    Cell cell_of(const MdbField& field, Kind kind, int row_start, std::size_t row_length) {
+    Cell cell_of(const MdbField& field, Kind kind, const Slot& slot) {
         if (field.is_null) return {};
-        if (field.siz < 0 || field.start < row_start ||
-            static_cast<std::size_t>(field.start - row_start) + static_cast<std::size_t>(field.siz) >
-                row_length) {
+        if (field.siz < 0 || field.start < slot.start ||
+            static_cast<std::size_t>(field.start - slot.start) + static_cast<std::size_t>(field.siz) >
+                slot.length) {
             unsound("a field outside its row");
         }
         const std::string_view bytes(reinterpret_cast<const char*>(file_->pg_buf) + field.start,
@@ -159,6 +202,8 @@ class RowReader {
     std::vector<Position> positions_;
     std::vector<MdbField> fields_;
     std::vector<const MdbField*> field_of_column_;
+    /// The pointers that were followed, each a page and in its lowest byte a slot.
+    std::set<std::uint32_t> new_places_;
     std::deque<platform::Text> texts_;
     Row row_;
 };
