@@ -45,7 +45,7 @@ CategoryContent read_category(const Platform& platform, TextView category,
         try {
             const Text title = file.name.substr(0, file.name.size() - core::SAVED_TEXT_EXTENSION.size());
             const Text body = platform::decode_cp949(platform.files.read(folder + file.name));
-            content.texts.push_back({title, with_whole_line_ends(body), file.modified});
+            content.texts.push_back({file.name, title, with_whole_line_ends(body), file.modified});
         } catch (const RuntimeError& error) {
             // One that has been removed meanwhile is simply gone.
             if (error.number() != static_cast<int>(ErrorNumber::file_not_found) && !content.failure)

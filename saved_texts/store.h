@@ -13,6 +13,8 @@ namespace saved_texts {
 
 /// A saved text as it lies on the disk.
 struct SavedText {
+    /// The name of its file in the category.
+    platform::Text file;
     platform::Text title;
     platform::Text body;
     platform::LocalTime saved;

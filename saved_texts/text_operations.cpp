@@ -36,6 +36,7 @@ bool frmMyMsgBox::is_saved(const Text& category, const Text& title) const {
 void frmMyMsgBox::empty_fields() {
     Text1.set_text(u"");
     txtText.set_text(u"");
+    source_.reset();
 }
 
 void frmMyMsgBox::save_new_text() {
@@ -59,7 +60,8 @@ void frmMyMsgBox::save_edited_text() {
     const auto category = selected_category();
     if (ListView2.row_count() == 0 || !category || !lists(*category)) return;
     const auto row = ListView2.selected_item();
-    if (!row) {
+    // The program selects rows too, and the fields keep what they held before.
+    if (!row || !source_ || source_of(*row) != source_) {
         core::warn(platform_.desktop, u"수정할 자료를 먼저 선택하세요!");
         return;
     }
@@ -74,13 +76,15 @@ void frmMyMsgBox::save_edited_text() {
     }
     show_failures_of([&] {
         core::check_saved_text_name(platform_, *category, title);
-        ListView2.set_item_text(*row, title);
-        ListView2.set_sub_item(*row, TEXT_LINE, in_one_line(body));
-        ListView2.set_sub_item(*row, TEXT_BODY, body);
         // Deliberately the old file goes before the new one comes: a copy under the old title never stays
         // behind. When the program ends between the two, this one text is lost; when the write fails, it is
         // still in the row and in the fields, and the next press of the button saves it.
         core::DELETE_FILE(platform_, core::saved_text_path(platform_, *category, old_title));
+        ListView2.set_item_text(*row, title);
+        ListView2.set_sub_item(*row, TEXT_LINE, in_one_line(body));
+        ListView2.set_sub_item(*row, TEXT_BODY, body);
+        ListView2.set_sub_item(*row, TEXT_FILE, title + Text(core::SAVED_TEXT_EXTENSION));
+        source_ = source_of(*row);
         core::write_saved_text(platform_, *category, title, body);
         platform_.desktop.message_box({.text = u"수정 되었습니다.", .icon = BoxIcon::information});
     });

@@ -184,6 +184,40 @@ TEST_F(MyMsgBox, SavesAnEditInPlaceOfTheOldMessage) {
     EXPECT_EQ(saved(FIRST, u"나") + ", " + saved(FIRST, u"나 "), "other, with a blank");
 }
 
+TEST_F(MyMsgBox, OnlyTheTextThatTheFieldsCameFromIsEdited) {
+    put(FIRST, u"가", "first");
+    put(FIRST, u"나", "second");
+    put(u"거래처", u"다", "theirs");
+    open();
+    const auto before = files.files;
+    const auto refuse = [&](const char* when) {
+        desktop.expect_box(u"수정할 자료를 먼저 선택하세요!");
+        box().Command2.Click.raise();
+        const platform::MessageBox& shown = desktop.boxes.back();
+        EXPECT_EQ(utf8(shown.text + shown.title), "수정할 자료를 먼저 선택하세요!") << when;
+        EXPECT_EQ(shown.icon, BoxIcon::exclamation);
+        EXPECT_EQ(shown.buttons, platform::BoxButtons::ok);
+        EXPECT_EQ(files.files, before) << when;
+    };
+    const auto select = [&](std::size_t row) {
+        box().ListView2.deselect_item();
+        box().ListView2.select_item(row);
+    };
+    write_fields(u"새 제목", u"새 글");
+    refuse("a new text has been typed");
+    choose(box().ListView2, 0);
+    box().txtText.set_text(u"고친 글");
+    choose(box().ListView1, 1);
+    refuse("another category is listed");
+    choose(box().ListView1, 0);
+    select(1);
+    refuse("another text is selected");
+    select(0);
+    desktop.expect_box(u"수정 되었습니다.");
+    box().Command2.Click.raise();
+    EXPECT_EQ(saved(FIRST, u"가") + ", " + saved(FIRST, u"나"), "고친 글, second");
+}
+
 TEST_F(MyMsgBox, RowsLeftOverFromACategoryThatCannotBeListedAreNotTouched) {
     put(FIRST, u"가", "theirs");
     put(u"거래처", u"가", "ours");
@@ -213,6 +247,13 @@ TEST_F(MyMsgBox, AnEditThatCannotBeWrittenStaysInTheRowAndInTheFields) {
     EXPECT_EQ(saved(FIRST, u"가"), "old") << "a name that no file can have costs nothing";
 
     write_fields(u"나", u"새 글");
+    files.changes_until_failure = {0, platform::ErrorNumber::permission_denied};
+    desktop.expect_box(u"오류번호:70");
+    box().Command2.Click.raise();
+    EXPECT_EQ(column(box().ListView2), Strings{"가"}) << "the list shows what the disk has";
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_BODY)), "old");
+    EXPECT_EQ(saved(FIRST, u"가"), "old");
+
     // The disk becomes full between the removal and the write.
     files.changes_until_failure = {1, platform::ErrorNumber::disk_full};
     desktop.expect_box(u"오류번호:61");
@@ -224,7 +265,7 @@ TEST_F(MyMsgBox, AnEditThatCannotBeWrittenStaysInTheRowAndInTheFields) {
     files.changes_until_failure.reset();
     desktop.expect_box(u"수정 되었습니다.");
     box().Command2.Click.raise();
-    EXPECT_EQ(saved(FIRST, u"나"), "새 글");
+    EXPECT_EQ(saved(FIRST, u"가") + ", " + saved(FIRST, u"나"), "none, 새 글");
 }
 
 TEST_F(MyMsgBox, RemovesAMessageAfterAYes) {
