@@ -83,9 +83,11 @@ void frmMyMsgBox::MESSAGE_LIST_LOAD(const Text& category) {
     if (failure) throw *failure;
 }
 
+/// Takes the selected text into the fields. What has been typed over the same text stays.
 void frmMyMsgBox::show_selected_text() {
-    empty_fields();
     const auto row = ListView2.selected_item();
+    if (row && source_ && source_of(*row) == source_) return;
+    empty_fields();
     if (!row) return;
     source_ = source_of(*row);
     Command5.set_enabled(true);

@@ -121,6 +121,27 @@ TEST_F(MyMsgBox, ShowsTheSelectedMessageAndFiltersTheKeysOfTheTitle) {
     EXPECT_TRUE(box().txtText.has_focus());
 }
 
+TEST_F(MyMsgBox, AClickThatChoosesNoOtherTextKeepsWhatWasTyped) {
+    put(FIRST, u"가", "first");
+    put(FIRST, u"나", "second");
+    open();
+    const auto fields = [&] { return utf8(box().Text1.text() + u": " + box().txtText.text()); };
+    write_fields(u"새 제목", u"새 글");
+    box().ListView2.MouseUp.raise(platform::MouseButton::right);
+    EXPECT_EQ(fields(), "새 제목: 새 글");
+    choose(box().ListView2, 0);
+    EXPECT_EQ(fields(), "가: first");
+    write_fields(u"다", u"고친 글");
+    for (const auto button : {platform::MouseButton::right, platform::MouseButton::left}) {
+        box().ListView2.MouseUp.raise(button);
+        EXPECT_EQ(fields(), "다: 고친 글");
+    }
+    box().ListView2.deselect_item();
+    box().ListView2.select_item(1);
+    box().ListView2.MouseUp.raise(platform::MouseButton::right);
+    EXPECT_EQ(fields(), "나: second") << "a right click can choose another one";
+}
+
 TEST_F(MyMsgBox, SavesANewMessageUnderItsCleanedTitleOrSaysWhyNot) {
     put(FIRST, u"있음", "old");
     open();
