@@ -3,6 +3,7 @@
 #include "core/boxes.h"
 #include "core/paths.h"
 #include "core/saved_texts_folder.h"
+#include "platform/text/cp949.h"
 #include "saved_texts/frmMyMsgBox.h"
 #include "saved_texts/store.h"
 
@@ -76,16 +77,18 @@ void frmMyMsgBox::save_edited_text() {
     }
     show_failures_of([&] {
         core::check_saved_text_name(platform_, *category, title);
-        // Deliberately the old file goes before the new one comes: a copy under the old title never stays
-        // behind. When the program ends between the two, this one text is lost; when the write fails, it is
-        // still in the row and in the fields, and the next press of the button saves it.
-        core::DELETE_FILE(platform_, core::saved_text_path(platform_, *category, old_title));
-        ListView2.set_item_text(*row, title);
+        // Written under the old title and then renamed: whenever the program ends, there is one file, with
+        // the old text or the new one.
+        const Text old_path = core::saved_text_path(platform_, *category, old_title);
+        platform_.files.write(old_path, platform::encode_cp949(body));
         ListView2.set_sub_item(*row, TEXT_LINE, in_one_line(body));
         ListView2.set_sub_item(*row, TEXT_BODY, body);
-        ListView2.set_sub_item(*row, TEXT_FILE, title + Text(core::SAVED_TEXT_EXTENSION));
-        source_ = source_of(*row);
-        core::write_saved_text(platform_, *category, title, body);
+        if (old_title != title) {
+            platform_.files.rename(old_path, core::saved_text_path(platform_, *category, title));
+            ListView2.set_item_text(*row, title);
+            ListView2.set_sub_item(*row, TEXT_FILE, title + Text(core::SAVED_TEXT_EXTENSION));
+            source_ = source_of(*row);
+        }
         platform_.desktop.message_box({.text = u"수정 되었습니다.", .icon = BoxIcon::information});
     });
 }

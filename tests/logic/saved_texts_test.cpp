@@ -275,12 +275,14 @@ TEST_F(MyMsgBox, AnEditThatCannotBeWrittenStaysInTheRowAndInTheFields) {
     EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_BODY)), "old");
     EXPECT_EQ(saved(FIRST, u"가"), "old");
 
-    // The disk becomes full between the removal and the write.
-    files.changes_until_failure = {1, platform::ErrorNumber::disk_full};
-    desktop.expect_box(u"오류번호:61");
+    // The text is written, its new title is refused.
+    files.changes_until_failure = {1, platform::ErrorNumber::path_access};
+    desktop.expect_box(u"오류번호:75");
     box().Command2.Click.raise();
     EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::critical);
+    EXPECT_EQ(column(box().ListView2), Strings{"가"});
     EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_BODY)), "새 글");
+    EXPECT_EQ(saved(FIRST, u"가"), "새 글");
     EXPECT_EQ(utf8(box().Text1.text() + box().txtText.text()), "나새 글");
 
     files.changes_until_failure.reset();
@@ -461,14 +463,39 @@ TEST_F(MyMsgBox, EveryTextComesBackUnchanged) {
     }
 }
 
+TEST_F(MyMsgBox, AKillDuringAnEditLeavesTheOldTextOrTheNewOneUnderOneTitle) {
+    desktop.any_box = BoxAnswer::ok;
+    for (const Text& title : {Text(u"가"), Text(u"나")}) {
+        bool finished = false;
+        for (int kill = 0; !finished; ++kill) {
+            SCOPED_TRACE(testing::Message() << utf8(title) << ", killed at change " << kill);
+            files.files = {{path(FIRST, u"가"), "old"}};
+            open();
+            choose(box().ListView2, 0);
+            write_fields(title, u"new");
+            files.changes_until_kill = kill;
+            try {
+                box().Command2.Click.raise();
+                finished = true;
+            } catch (const tests::MemoryFiles::Killed&) {
+                // Then the program starts again and finds what is left.
+            }
+            files.changes_until_kill.reset();
+            ASSERT_EQ(files.files.size(), 1U);
+            const std::string& left = files.files.begin()->second;
+            EXPECT_TRUE(left == "new" || (left == "old" && !finished)) << left;
+        }
+    }
+}
+
 /// Kills the program at each change of the disk in turn, in each operation.
-TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited) {
+TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoOtherText) {
     const tests::MemoryFiles::Contents all = {
         {path(FIRST, u"가"), "1"}, {path(u"분류", u"나"), "2"}, {path(u"분류", u"다"), "3"}};
     const struct {
         const char* what;
         std::function<void()> act;
-        /// Texts that the user removes, or that the order of the steps endangers.
+        /// Texts that the user removes or replaces.
         std::vector<Text> at_risk;
     } operations[] = {
         {"new",
@@ -477,7 +504,6 @@ TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited)
              box().Command1.Click.raise();
          },
          {}},
-        // The old file is removed before the new one is written: in between this text is nowhere on the disk.
         {"edit",
          [&] {
              write_fields(u"라", u"글");
