@@ -76,10 +76,11 @@ void frmMyMsgBox::save_edited_text() {
         return;
     }
     show_failures_of([&] {
-        core::check_saved_text_name(platform_, *category, title);
+        core::check_category(platform_, *category);
+        if (old_title != title) core::check_saved_text_name(platform_, *category, title);
         // Written under the old title and then renamed: whenever the program ends, there is one file, with
         // the old text or the new one.
-        const Text old_path = core::saved_text_path(platform_, *category, old_title);
+        const Text old_path = core::category_folder(platform_, *category) + source_->file;
         platform_.files.write(old_path, platform::encode_cp949(body));
         ListView2.set_sub_item(*row, TEXT_LINE, in_one_line(body));
         ListView2.set_sub_item(*row, TEXT_BODY, body);
@@ -102,12 +103,13 @@ void frmMyMsgBox::remove_text() {
         return;
     }
     const Text title = ListView2.row(*row).text();
+    const Text file = ListView2.row(*row).sub_item(TEXT_FILE);
     if (!core::ask(platform_.desktop, u"제목:" + title + u"\r\n\r\n선택한 자료를 삭제하시겠습니까?",
                    u"삭제 확인", BoxIcon::exclamation, BoxAnswer::no))
         return;
     show_failures_of([&] {
         core::check_category(platform_, *category);
-        core::DELETE_FILE(platform_, core::saved_text_path(platform_, *category, title));
+        core::DELETE_FILE(platform_, core::category_folder(platform_, *category) + file);
         ListView2.remove_selected_rows();
         empty_fields();
     });

@@ -13,6 +13,7 @@ namespace platform {
 
 /// A file as a folder's list shows it.
 struct FileEntry {
+    /// Leads to this very file in a path. What of it no text can show stands in it as lone surrogates.
     Text name;
     /// When it was written last.
     LocalTime modified;
