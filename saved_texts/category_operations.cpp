@@ -57,6 +57,7 @@ void frmMyMsgBox::rename_category() {
                                       core::category_folder(platform_, name));
         if (const auto row = ListView1.selected_item()) ListView1.set_item_text(*row, name);
         if (listed_category_ == old_name) listed_category_ = name;
+        if (source_ && source_->category == *old_name) source_->category = name;
     });
 }
 

@@ -37,7 +37,10 @@ void frmMyMsgBox::connect_lists() {
     ListView1.KeyDown.connect([this](const KeyPressed& key) {
         if (key.code == platform::KEY_DELETE) remove_category();
     });
-    ListView2.MouseUp.connect([this](platform::MouseButton) { show_selected_text(); });
+    ListView2.MouseUp.connect([this](platform::MouseButton button) {
+        // A right click on the list is no wish to give up a new text.
+        if (button == platform::MouseButton::left || source_) show_selected_text();
+    });
     ListView2.KeyUp.connect([this](KeyPressed&) { show_selected_text(); });
     ListView2.KeyDown.connect([this](const KeyPressed& key) {
         if (key.code == platform::KEY_DELETE) remove_text();

@@ -18,6 +18,8 @@ namespace saved_texts {
 inline constexpr int TEXT_LINE = 1;
 inline constexpr int TEXT_SAVED = 2;
 inline constexpr int TEXT_BODY = 3;
+/// The name of its file, which no column shows.
+inline constexpr int TEXT_FILE = 4;
 
 /// The box of saved texts: categories, the texts of the selected one, and fields for a new text or for the
 /// edit of the selected one.
@@ -58,6 +60,14 @@ class frmMyMsgBox : public platform::Form {
     void Form_Escape() override { unload(); }
 
   private:
+    /// A text's file.
+    struct Source {
+        platform::Text category;
+        platform::Text file;
+
+        bool operator==(const Source&) const = default;
+    };
+
     void connect_lists();
     void connect_fields();
 
@@ -66,6 +76,7 @@ class frmMyMsgBox : public platform::Form {
     void MESSAGE_LIST_LOAD(const platform::Text& category);
     void list_selected_category();
     void show_selected_text();
+    std::optional<Source> source_of(std::size_t row) const;
     std::optional<platform::Text> selected_category() const;
     void select_category(std::size_t row);
     bool lists(const platform::Text& category);
@@ -103,6 +114,8 @@ class frmMyMsgBox : public platform::Form {
     Apply apply_;
     /// Whose texts ListView2 shows; nothing when the last listing failed.
     std::optional<platform::Text> listed_category_;
+    /// Where the text in the fields came from; nothing for a new one. The selected row may be another one.
+    std::optional<Source> source_;
 };
 
 }  // namespace saved_texts

@@ -71,7 +71,7 @@ void frmMyMsgBox::MESSAGE_LIST_LOAD(const Text& category) {
         for (SavedText& text : content.texts) {
             ListView2.add_row(std::move(text.title),
                               {in_one_line(text.body), platform::format_date(text.saved, SAVED_PATTERN),
-                               std::move(text.body)});
+                               std::move(text.body), std::move(text.file)});
             platform_.desktop.paint();
         }
         // Deliberately by the text of the date: within a day 오전 and 오후 sort as words, and 12 o'clock
@@ -83,13 +83,21 @@ void frmMyMsgBox::MESSAGE_LIST_LOAD(const Text& category) {
     if (failure) throw *failure;
 }
 
+/// Takes the selected text into the fields. What has been typed over the same text stays.
 void frmMyMsgBox::show_selected_text() {
-    empty_fields();
     const auto row = ListView2.selected_item();
+    if (row && source_ && source_of(*row) == source_) return;
+    empty_fields();
     if (!row) return;
+    source_ = source_of(*row);
     Command5.set_enabled(true);
     Text1.set_text(ListView2.row(*row).text());
     txtText.set_text(ListView2.row(*row).sub_item(TEXT_BODY));
+}
+
+std::optional<frmMyMsgBox::Source> frmMyMsgBox::source_of(std::size_t row) const {
+    if (!listed_category_) return std::nullopt;
+    return Source{*listed_category_, ListView2.row(row).sub_item(TEXT_FILE)};
 }
 
 }  // namespace saved_texts

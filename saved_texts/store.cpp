@@ -20,6 +20,9 @@ Text with_whole_line_ends(TextView text) {
     return platform::replace_all(platform::with_line_feeds(text), u"\n", platform::CRLF);
 }
 
+/// The file's name with marks in the place of what no text can show.
+Text shown_name(const FileEntry& file) { return platform::from_utf8(platform::to_utf8(file.name)); }
+
 Text without(TextView text, TextView characters) {
     Text left(text);
     std::erase_if(left, [&](char16_t unit) { return characters.find(unit) != TextView::npos; });
@@ -43,14 +46,15 @@ CategoryContent read_category(const Platform& platform, TextView category,
     CategoryContent content;
     for (const FileEntry& file : platform.files.list_files(folder, u"*" + Text(core::SAVED_TEXT_EXTENSION))) {
         try {
-            const Text title = file.name.substr(0, file.name.size() - core::SAVED_TEXT_EXTENSION.size());
+            Text title = shown_name(file);
+            title.resize(title.size() - core::SAVED_TEXT_EXTENSION.size());
             const Text body = platform::decode_cp949(platform.files.read(folder + file.name));
-            content.texts.push_back({title, with_whole_line_ends(body), file.modified});
+            content.texts.push_back({file.name, title, with_whole_line_ends(body), file.modified});
         } catch (const RuntimeError& error) {
             // One that has been removed meanwhile is simply gone.
             if (error.number() != static_cast<int>(ErrorNumber::file_not_found) && !content.failure)
                 content.failure.emplace(static_cast<ErrorNumber>(error.number()),
-                                        u"'" + file.name + u"': " + error.description());
+                                        u"'" + shown_name(file) + u"': " + error.description());
         }
         between();
     }

@@ -13,6 +13,9 @@ namespace saved_texts {
 
 /// A saved text as it lies on the disk.
 struct SavedText {
+    /// The name of its file in the category. The title alone does not tell: names can differ by case, or by
+    /// what the title shows as marks.
+    platform::Text file;
     platform::Text title;
     platform::Text body;
     platform::LocalTime saved;

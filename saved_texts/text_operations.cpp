@@ -3,6 +3,7 @@
 #include "core/boxes.h"
 #include "core/paths.h"
 #include "core/saved_texts_folder.h"
+#include "platform/text/cp949.h"
 #include "saved_texts/frmMyMsgBox.h"
 #include "saved_texts/store.h"
 
@@ -36,6 +37,7 @@ bool frmMyMsgBox::is_saved(const Text& category, const Text& title) const {
 void frmMyMsgBox::empty_fields() {
     Text1.set_text(u"");
     txtText.set_text(u"");
+    source_.reset();
 }
 
 void frmMyMsgBox::save_new_text() {
@@ -59,7 +61,8 @@ void frmMyMsgBox::save_edited_text() {
     const auto category = selected_category();
     if (ListView2.row_count() == 0 || !category || !lists(*category)) return;
     const auto row = ListView2.selected_item();
-    if (!row) {
+    // The program selects rows too, and the fields keep what they held before.
+    if (!row || !source_ || source_of(*row) != source_) {
         core::warn(platform_.desktop, u"수정할 자료를 먼저 선택하세요!");
         return;
     }
@@ -73,15 +76,20 @@ void frmMyMsgBox::save_edited_text() {
         return;
     }
     show_failures_of([&] {
-        core::check_saved_text_name(platform_, *category, title);
-        ListView2.set_item_text(*row, title);
+        core::check_category(platform_, *category);
+        if (old_title != title) core::check_saved_text_name(platform_, *category, title);
+        // Written under the old title and then renamed: whenever the program ends, there is one file, with
+        // the old text or the new one.
+        const Text old_path = core::category_folder(platform_, *category) + source_->file;
+        platform_.files.write(old_path, platform::encode_cp949(body));
         ListView2.set_sub_item(*row, TEXT_LINE, in_one_line(body));
         ListView2.set_sub_item(*row, TEXT_BODY, body);
-        // Deliberately the old file goes before the new one comes: a copy under the old title never stays
-        // behind. When the program ends between the two, this one text is lost; when the write fails, it is
-        // still in the row and in the fields, and the next press of the button saves it.
-        core::DELETE_FILE(platform_, core::saved_text_path(platform_, *category, old_title));
-        core::write_saved_text(platform_, *category, title, body);
+        if (old_title != title) {
+            platform_.files.rename(old_path, core::saved_text_path(platform_, *category, title));
+            ListView2.set_item_text(*row, title);
+            ListView2.set_sub_item(*row, TEXT_FILE, title + Text(core::SAVED_TEXT_EXTENSION));
+            source_ = source_of(*row);
+        }
         platform_.desktop.message_box({.text = u"수정 되었습니다.", .icon = BoxIcon::information});
     });
 }
@@ -95,12 +103,13 @@ void frmMyMsgBox::remove_text() {
         return;
     }
     const Text title = ListView2.row(*row).text();
+    const Text file = ListView2.row(*row).sub_item(TEXT_FILE);
     if (!core::ask(platform_.desktop, u"제목:" + title + u"\r\n\r\n선택한 자료를 삭제하시겠습니까?",
                    u"삭제 확인", BoxIcon::exclamation, BoxAnswer::no))
         return;
     show_failures_of([&] {
         core::check_category(platform_, *category);
-        core::DELETE_FILE(platform_, core::saved_text_path(platform_, *category, title));
+        core::DELETE_FILE(platform_, core::category_folder(platform_, *category) + file);
         ListView2.remove_selected_rows();
         empty_fields();
     });

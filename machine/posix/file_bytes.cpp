@@ -138,6 +138,14 @@ void replace_file(const std::string& path, const std::string& bytes, Readers rea
     remove_remains(folder);
 }
 
+void rename_file(const std::string& from, const std::string& to) {
+    struct stat status {};
+    if (::lstat(from.c_str(), &status) != 0) throw file_error(errno, from);
+    if (!S_ISREG(status.st_mode)) throw RuntimeError(ErrorNumber::path_access);
+    if (::rename(from.c_str(), to.c_str()) != 0) throw file_error(errno, to);
+    sync_folder(fs::path(to).parent_path());
+}
+
 void remove_remains(const std::string& folder) {
     // They may hold a password that the user has removed since.
     std::error_code error;

@@ -22,6 +22,9 @@ enum class Readers { user_alone, as_usual };
 /// file.
 void replace_file(const std::string& path, const std::string& bytes, Readers readers);
 
+/// Gives a normal file another path in its folder, in a single step, and makes the disk keep it.
+void rename_file(const std::string& from, const std::string& to);
+
 /// Removes the unfinished new files that a killed program has left in the folder.
 void remove_remains(const std::string& folder);
 

@@ -1,5 +1,6 @@
 #include "machine/posix/folder_list.h"
 
+#include "machine/posix/entry_name.h"
 #include "machine/posix/file_error.h"
 #include "platform/file_name.h"
 #include "platform/text/hangul.h"
@@ -46,7 +47,7 @@ void for_each_entry(const std::string& path, Take take) {
 /// a path would take for a folder.
 std::optional<Text> listed_name(const std::string& name) {
     if (name.starts_with('.') || name.find('\\') != std::string::npos) return std::nullopt;
-    return platform::from_utf8(name);
+    return name_of_entry(name);
 }
 
 LocalTime local_time(std::time_t seconds) {

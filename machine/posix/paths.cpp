@@ -1,5 +1,6 @@
 #include "machine/posix/paths.h"
 
+#include "machine/posix/entry_name.h"
 #include "platform/error.h"
 #include "platform/text/hangul.h"
 
@@ -48,7 +49,7 @@ std::optional<std::string> entry_of(const std::string& folder, TextView componen
     // Files from some systems have decomposed Hangul in their names, which nobody can type.
     const Text composed = platform::compose_hangul(component);
     for (const Text& spelling : {Text(component), composed, platform::decompose_hangul(component)}) {
-        if (std::string name = platform::to_utf8(spelling); is_there(folder + "/" + name)) return name;
+        if (std::string name = bytes_of_name(spelling); is_there(folder + "/" + name)) return name;
     }
     std::error_code error;
     std::optional<std::string> found;
@@ -100,7 +101,7 @@ std::string Paths::to_posix(TextView path) const {
     for (const TextView component : parts.components) {
         const auto entry = there ? entry_of(posix, component) : std::nullopt;
         there = entry.has_value();
-        posix += "/" + entry.value_or(platform::to_utf8(platform::compose_hangul(component)));
+        posix += "/" + entry.value_or(bytes_of_name(platform::compose_hangul(component)));
     }
     return posix.empty() ? "/" : posix;
 }
@@ -108,7 +109,7 @@ std::string Paths::to_posix(TextView path) const {
 std::string Paths::as_it_stands(TextView path) const {
     const Parts parts = parts_of(path);
     std::string posix = parts.drive;
-    for (const TextView component : parts.components) posix.append("/").append(platform::to_utf8(component));
+    for (const TextView component : parts.components) posix.append("/").append(bytes_of_name(component));
     return posix.empty() ? "/" : posix;
 }
 

@@ -139,8 +139,8 @@ std::string PosixFiles::read(const Text& path) const {
 }
 
 void PosixFiles::write(const Text& path, const std::string& bytes) {
-    platform::check_file_name(name_in(path));
     const std::string file = paths_.to_posix(path);
+    if (!is_normal_file(file)) platform::check_file_name(name_in(path));
     make_standing_folder_of(file);
     replace_file(file, bytes, readers_of(file));
 }
@@ -154,6 +154,11 @@ std::unique_ptr<platform::OpenFile> PosixFiles::open_for_writing(const Text& pat
 void PosixFiles::remove(const Text& path) {
     const std::string file = paths_.to_posix(path);
     if (::unlink(file.c_str()) != 0) throw file_error(errno, file);
+}
+
+void PosixFiles::rename(const Text& from, const Text& to) {
+    platform::check_file_name(name_in(to));
+    rename_file(paths_.to_posix(from), paths_.to_posix(to));
 }
 
 void PosixFiles::remove_files(const Text& folder, TextView pattern) {

@@ -32,6 +32,7 @@ class PosixFiles : public platform::Files {
     void write(const platform::Text& path, const std::string& bytes) override;
     std::unique_ptr<platform::OpenFile> open_for_writing(const platform::Text& path) override;
     void remove(const platform::Text& path) override;
+    void rename(const platform::Text& from, const platform::Text& to) override;
     void remove_files(const platform::Text& folder, platform::TextView pattern) override;
     void make_folder(const platform::Text& path) override;
     void rename_folder(const platform::Text& from, const platform::Text& to) override;

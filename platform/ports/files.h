@@ -13,6 +13,7 @@ namespace platform {
 
 /// A file as a folder's list shows it.
 struct FileEntry {
+    /// Leads to this very file in a path. What of it no text can show stands in it as lone surrogates.
     Text name;
     /// When it was written last.
     LocalTime modified;
@@ -65,6 +66,8 @@ class Files {
     /// is missing. It is not truncated: bytes after the last one written stay.
     virtual std::unique_ptr<OpenFile> open_for_writing(const Text& path) = 0;
     virtual void remove(const Text& path) = 0;
+    /// Gives the file another path beside the old one, in a single step. A file that has it is replaced.
+    virtual void rename(const Text& from, const Text& to) = 0;
     /// Removes the files of the folder that match the pattern, hidden ones too. Of a link the link itself is
     /// removed; folders stay.
     virtual void remove_files(const Text& folder, TextView pattern) = 0;

@@ -121,6 +121,27 @@ TEST_F(MyMsgBox, ShowsTheSelectedMessageAndFiltersTheKeysOfTheTitle) {
     EXPECT_TRUE(box().txtText.has_focus());
 }
 
+TEST_F(MyMsgBox, AClickThatChoosesNoOtherTextKeepsWhatWasTyped) {
+    put(FIRST, u"가", "first");
+    put(FIRST, u"나", "second");
+    open();
+    const auto fields = [&] { return utf8(box().Text1.text() + u": " + box().txtText.text()); };
+    write_fields(u"새 제목", u"새 글");
+    box().ListView2.MouseUp.raise(platform::MouseButton::right);
+    EXPECT_EQ(fields(), "새 제목: 새 글");
+    choose(box().ListView2, 0);
+    EXPECT_EQ(fields(), "가: first");
+    write_fields(u"다", u"고친 글");
+    for (const auto button : {platform::MouseButton::right, platform::MouseButton::left}) {
+        box().ListView2.MouseUp.raise(button);
+        EXPECT_EQ(fields(), "다: 고친 글");
+    }
+    box().ListView2.deselect_item();
+    box().ListView2.select_item(1);
+    box().ListView2.MouseUp.raise(platform::MouseButton::right);
+    EXPECT_EQ(fields(), "나: second") << "a right click can choose another one";
+}
+
 TEST_F(MyMsgBox, SavesANewMessageUnderItsCleanedTitleOrSaysWhyNot) {
     put(FIRST, u"있음", "old");
     open();
@@ -184,6 +205,40 @@ TEST_F(MyMsgBox, SavesAnEditInPlaceOfTheOldMessage) {
     EXPECT_EQ(saved(FIRST, u"나") + ", " + saved(FIRST, u"나 "), "other, with a blank");
 }
 
+TEST_F(MyMsgBox, OnlyTheTextThatTheFieldsCameFromIsEdited) {
+    put(FIRST, u"가", "first");
+    put(FIRST, u"나", "second");
+    put(u"거래처", u"다", "theirs");
+    open();
+    const auto before = files.files;
+    const auto refuse = [&](const char* when) {
+        desktop.expect_box(u"수정할 자료를 먼저 선택하세요!");
+        box().Command2.Click.raise();
+        const platform::MessageBox& shown = desktop.boxes.back();
+        EXPECT_EQ(utf8(shown.text + shown.title), "수정할 자료를 먼저 선택하세요!") << when;
+        EXPECT_EQ(shown.icon, BoxIcon::exclamation);
+        EXPECT_EQ(shown.buttons, platform::BoxButtons::ok);
+        EXPECT_EQ(files.files, before) << when;
+    };
+    const auto select = [&](std::size_t row) {
+        box().ListView2.deselect_item();
+        box().ListView2.select_item(row);
+    };
+    write_fields(u"새 제목", u"새 글");
+    refuse("a new text has been typed");
+    choose(box().ListView2, 0);
+    box().txtText.set_text(u"고친 글");
+    choose(box().ListView1, 1);
+    refuse("another category is listed");
+    choose(box().ListView1, 0);
+    select(1);
+    refuse("another text is selected");
+    select(0);
+    desktop.expect_box(u"수정 되었습니다.");
+    box().Command2.Click.raise();
+    EXPECT_EQ(saved(FIRST, u"가") + ", " + saved(FIRST, u"나"), "고친 글, second");
+}
+
 TEST_F(MyMsgBox, RowsLeftOverFromACategoryThatCannotBeListedAreNotTouched) {
     put(FIRST, u"가", "theirs");
     put(u"거래처", u"가", "ours");
@@ -213,18 +268,27 @@ TEST_F(MyMsgBox, AnEditThatCannotBeWrittenStaysInTheRowAndInTheFields) {
     EXPECT_EQ(saved(FIRST, u"가"), "old") << "a name that no file can have costs nothing";
 
     write_fields(u"나", u"새 글");
-    // The disk becomes full between the removal and the write.
-    files.changes_until_failure = {1, platform::ErrorNumber::disk_full};
-    desktop.expect_box(u"오류번호:61");
+    files.changes_until_failure = {0, platform::ErrorNumber::permission_denied};
+    desktop.expect_box(u"오류번호:70");
+    box().Command2.Click.raise();
+    EXPECT_EQ(column(box().ListView2), Strings{"가"}) << "the list shows what the disk has";
+    EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_BODY)), "old");
+    EXPECT_EQ(saved(FIRST, u"가"), "old");
+
+    // The text is written, its new title is refused.
+    files.changes_until_failure = {1, platform::ErrorNumber::path_access};
+    desktop.expect_box(u"오류번호:75");
     box().Command2.Click.raise();
     EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::critical);
+    EXPECT_EQ(column(box().ListView2), Strings{"가"});
     EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_BODY)), "새 글");
+    EXPECT_EQ(saved(FIRST, u"가"), "새 글");
     EXPECT_EQ(utf8(box().Text1.text() + box().txtText.text()), "나새 글");
 
     files.changes_until_failure.reset();
     desktop.expect_box(u"수정 되었습니다.");
     box().Command2.Click.raise();
-    EXPECT_EQ(saved(FIRST, u"나"), "새 글");
+    EXPECT_EQ(saved(FIRST, u"가") + ", " + saved(FIRST, u"나"), "none, 새 글");
 }
 
 TEST_F(MyMsgBox, RemovesAMessageAfterAYes) {
@@ -399,14 +463,39 @@ TEST_F(MyMsgBox, EveryTextComesBackUnchanged) {
     }
 }
 
+TEST_F(MyMsgBox, AKillDuringAnEditLeavesTheOldTextOrTheNewOneUnderOneTitle) {
+    desktop.any_box = BoxAnswer::ok;
+    for (const Text& title : {Text(u"가"), Text(u"나")}) {
+        bool finished = false;
+        for (int kill = 0; !finished; ++kill) {
+            SCOPED_TRACE(testing::Message() << utf8(title) << ", killed at change " << kill);
+            files.files = {{path(FIRST, u"가"), "old"}};
+            open();
+            choose(box().ListView2, 0);
+            write_fields(title, u"new");
+            files.changes_until_kill = kill;
+            try {
+                box().Command2.Click.raise();
+                finished = true;
+            } catch (const tests::MemoryFiles::Killed&) {
+                // Then the program starts again and finds what is left.
+            }
+            files.changes_until_kill.reset();
+            ASSERT_EQ(files.files.size(), 1U);
+            const std::string& left = files.files.begin()->second;
+            EXPECT_TRUE(left == "new" || (left == "old" && !finished)) << left;
+        }
+    }
+}
+
 /// Kills the program at each change of the disk in turn, in each operation.
-TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited) {
+TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoOtherText) {
     const tests::MemoryFiles::Contents all = {
         {path(FIRST, u"가"), "1"}, {path(u"분류", u"나"), "2"}, {path(u"분류", u"다"), "3"}};
     const struct {
         const char* what;
         std::function<void()> act;
-        /// Texts that the user removes, or that the order of the steps endangers.
+        /// Texts that the user removes or replaces.
         std::vector<Text> at_risk;
     } operations[] = {
         {"new",
@@ -415,7 +504,6 @@ TEST_F(MyMsgBox, AKillAtAnyChangeOfTheDiskLosesNoTextButTheOneThatIsBeingEdited)
              box().Command1.Click.raise();
          },
          {}},
-        // The old file is removed before the new one is written: in between this text is nowhere on the disk.
         {"edit",
          [&] {
              write_fields(u"라", u"글");

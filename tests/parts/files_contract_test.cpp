@@ -133,6 +133,16 @@ TEST_P(FilesContract, AFileThatIsWrittenInPiecesKeepsItsTail) {
     EXPECT_EQ(files.read(in(u"new")), "");
 }
 
+TEST_P(FilesContract, AFileIsRenamedOverAnother) {
+    files.make_folder(in(u"box"));
+    files.write(in(u"box\\a.txt"), "a");
+    files.write(in(u"box\\b.txt"), "b");
+    files.rename(in(u"box\\A.txt"), in(u"box\\b.txt"));
+    files.rename(in(u"box\\b.txt"), in(u"box\\다.txt"));
+    EXPECT_EQ(files_in(u"box"), Strings{"다.txt"});
+    EXPECT_EQ(files.read(in(u"box\\다.txt")), "a");
+}
+
 TEST_P(FilesContract, FoldersAreRenamedAndRemovedWithAllThatIsInThem) {
     files.make_folder(in(u"box"));
     files.make_folder(in(u"box\\sub"));
@@ -177,6 +187,10 @@ TEST_P(FilesContract, FailuresHaveTheirClassicNumbers) {
         {"remove a missing file", 53, [&] { files.remove(in(u"none")); }},
         {"remove below a missing folder", 76, [&] { files.remove(in(u"none\\none")); }},
         {"remove a folder as a file", 75, [&] { files.remove(in(u"box")); }},
+        {"rename a missing file", 53, [&] { files.rename(in(u"none"), in(u"some")); }},
+        {"rename a file over a folder", 75, [&] { files.rename(in(u"file"), in(u"box")); }},
+        {"rename a folder as a file", 75, [&] { files.rename(in(u"box"), in(u"some")); }},
+        {"give a file a name that some system refuses", 52, [&] { files.rename(in(u"file"), in(u"a*b")); }},
         {"make a folder that is there", 0, [&] { files.make_folder(in(u"box")); }},
         {"make a folder over a file", 75, [&] { files.make_folder(in(u"file")); }},
         {"make a folder below none", 76, [&] { files.make_folder(in(u"none\\none")); }},

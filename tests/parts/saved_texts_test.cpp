@@ -10,7 +10,9 @@
 #include "tests/support/test_platform.h"
 #include "tests/support/utf8.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace {
 
@@ -51,8 +53,57 @@ TEST_F(SavedTextsOnDisk, NamesInConjoiningLettersAreListedOpenedAndFoundByTyping
     desktop.expect_box(u"수정 되었습니다.");
     box.txtText.set_text(u"나");
     box.Command2.Click.raise();
-    EXPECT_EQ(names_in(root / apart), std::set<std::string>{"각서.txt"});
-    EXPECT_EQ(bytes_of(root / apart / "각서.txt"), "\xB3\xAA");
+    EXPECT_EQ(names_in(root / apart), std::set<std::string>{apart + ".txt"}) << "it is still the same file";
+    EXPECT_EQ(bytes_of(root / apart / (apart + ".txt")), "\xB3\xAA");
+}
+
+TEST_F(SavedTextsOnDisk, ARowIsItsOwnFileWhateverElseHasNearlyItsName) {
+    // Names in code page 949 come from the disks of old systems.
+    const Strings names = {"m.TXT", "m.txt", "bad\xFE.txt", "bad\xFF.txt", "\xB0\xA1.txt"};
+    using Contents = std::map<std::string, std::string>;
+    const auto contents = [&] {
+        Contents found;
+        for (const std::string& name : names_in(first)) found[name] = bytes_of(first / name);
+        return found;
+    };
+    box.load();
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        SCOPED_TRACE(names[i]);
+        const auto lay_out_and_choose = [&] {
+            fs::remove(first / "새.txt");
+            for (std::size_t file = 0; file < names.size(); ++file)
+                put(first / names[file], std::to_string(file));
+            box.Command10.Click.raise();
+            const Strings bodies = column(box.ListView2, saved_texts::TEXT_BODY);
+            const auto row = std::ranges::find(bodies, std::to_string(i)) - bodies.begin();
+            if (static_cast<std::size_t>(row) < bodies.size())
+                choose(box.ListView2, static_cast<std::size_t>(row));
+            return contents();
+        };
+        Contents expected = lay_out_and_choose();
+        Strings titles = column(box.ListView2);
+        std::ranges::sort(titles);
+        EXPECT_EQ(titles, (Strings{"bad\uFFFD", "bad\uFFFD", "m", "m", "\uFFFD\uFFFD"}));
+        expected[names[i]] = "new";
+        box.txtText.set_text(u"new");
+        desktop.expect_box(u"수정 되었습니다.");
+        box.Command2.Click.raise();
+        EXPECT_EQ(contents(), expected);
+
+        expected = lay_out_and_choose();
+        expected.erase(names[i]);
+        desktop.expect_box(u"선택한 자료를 삭제하시겠습니까?", platform::BoxAnswer::yes);
+        box.Command3.Click.raise();
+        EXPECT_EQ(contents(), expected);
+
+        lay_out_and_choose();
+        expected["새.txt"] = "new";
+        box.Text1.set_text(u"새");
+        box.txtText.set_text(u"new");
+        desktop.expect_box(u"수정 되었습니다.");
+        box.Command2.Click.raise();
+        EXPECT_EQ(contents(), expected);
+    }
 }
 
 TEST_F(SavedTextsOnDisk, NoPathLeavesTheBox) {

@@ -91,7 +91,7 @@ std::string MemoryFiles::read(const Text& path) const {
 }
 
 void MemoryFiles::write(const Text& path, const std::string& bytes) {
-    platform::check_file_name(name_of(path));
+    if (!files.contains(key(path))) platform::check_file_name(name_of(path));
     expect_place_for_file(path);
     before_change();
     touched.push_back(path);
@@ -123,6 +123,16 @@ void MemoryFiles::remove(const Text& path) {
     expect_file(path);
     before_change();
     files.erase(key(path));
+}
+
+void MemoryFiles::rename(const Text& from, const Text& to) {
+    platform::check_file_name(name_of(to));
+    expect_file(from);
+    expect_place_for_file(to);
+    before_change();
+    std::string bytes = std::move(files.at(key(from)));
+    files.erase(key(from));
+    files[key(to)] = std::move(bytes);
 }
 
 void MemoryFiles::remove_files(const Text& folder, TextView pattern) {
