@@ -23,7 +23,8 @@ HandOver::HandOver(platform::Platform& platform, core::AppState& state, compose:
     : platform_(platform), state_(state), form_(main_form) {}
 
 void HandOver::NEW_SENDMAN_LOAD() {
-    if (state_.forms.gSendFormOpen) return;
+    // The answer to a question is about what the user saw when it was asked.
+    if (state_.forms.gSendFormOpen || platform_.desktop.question_stands()) return;
     if (!core::FILE_EXISTS(platform_, core::isend_text(platform_))) return left_over_.reset();
     form_.Timer1.set_enabled(false);
     // Files that could not be deleted are taken in only once: choosing the tab every half second would empty

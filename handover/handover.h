@@ -15,7 +15,8 @@ class HandOver {
     HandOver(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form);
 
     /// Takes in a hand-over if there is one: recipients and the kind to send to them, or a page of the
-    /// service to open. The main window's polling is stopped meanwhile.
+    /// service to open. The main window's polling is stopped meanwhile. During a job and while a question
+    /// stands the files wait.
     void NEW_SENDMAN_LOAD();
 
   private:
