@@ -26,13 +26,15 @@ class HandOver {
         bool operator==(const Files&) const = default;
     };
 
-    void take_in();
+    void take_in(const Files& handed);
+    void discard(const Files& handed);
     void open_page(int page);
-    void take_in_recipients(int tab);
+    void take_in_recipients(const std::string& handed, int tab);
     Files files() const;
     /// Empty when the file cannot be read.
     std::string bytes_of(const platform::Text& path) const;
-    void delete_quietly(const platform::Text& path);
+    /// Returns false when the file is still there.
+    bool delete_quietly(const platform::Text& path);
 
     platform::Platform& platform_;
     core::AppState& state_;

@@ -206,6 +206,20 @@ TEST_F(HandOver, WhileItIsTakenInNoOtherOneStartsAndTheWindowIsPainted) {
     EXPECT_EQ(progress, (std::vector<int>{0, 50, 100}));
 }
 
+TEST_F(HandOver, WhatTheCardManagerWritesMeanwhileIsTakenInNext) {
+    form.Timer1.Tick.connect([this] { take_in(); });
+    int written = 1;
+    // The next hand-over is written as soon as the signal of the one before is gone.
+    desktop.during_paint = [&] {
+        if (written < 40 && !files.files.contains(SIGNAL))
+            hand("1", u"x\tA\t0101" + platform::decimal(1000 + ++written) + u"\r\n");
+    };
+    hand("1", u"x\tA\t01011001\r\n");
+    clock.run_for(40 * 500);
+    EXPECT_EQ(rows().size(), 40u);
+    EXPECT_TRUE(files.files.empty());
+}
+
 TEST_F(HandOver, WaitsForTheAnswerOfAQuestionSoThatTheAnswerIsAboutWhatWasSeen) {
     form.Timer1.Tick.connect([this] { take_in(); });
     desktop.during_box = [this] {
