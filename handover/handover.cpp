@@ -13,6 +13,11 @@ using platform::TextView;
 
 namespace {
 
+/// The signal holds one number, the list a line for each recipient: room for two million of them. A larger
+/// file counts as unreadable.
+constexpr std::uint64_t SIGNAL_LIMIT = 64 << 10;
+constexpr std::uint64_t RECIPIENTS_LIMIT = 64 << 20;
+
 bool is_page(int value) {
     return value >= service::CARD_MANAGER_RESULTS && value <= service::CARD_MANAGER_MEMBER_DATA;
 }
@@ -91,12 +96,13 @@ void HandOver::take_in_recipients(const std::string& handed, int tab) {
 }
 
 HandOver::Files HandOver::files() const {
-    return {bytes_of(core::isend_text(platform_)), bytes_of(core::tmpman_txt(platform_))};
+    return {bytes_of(core::isend_text(platform_), SIGNAL_LIMIT),
+            bytes_of(core::tmpman_txt(platform_), RECIPIENTS_LIMIT)};
 }
 
-std::string HandOver::bytes_of(const Text& path) const {
+std::string HandOver::bytes_of(const Text& path, std::uint64_t limit) const {
     std::string bytes;
-    platform::ignore_errors([&] { bytes = platform_.files.read(path); });
+    platform::ignore_errors([&] { bytes = platform_.files.read(path, limit); });
     return bytes;
 }
 

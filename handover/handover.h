@@ -32,7 +32,7 @@ class HandOver {
     void take_in_recipients(const std::string& handed, int tab);
     Files files() const;
     /// Empty when the file cannot be read.
-    std::string bytes_of(const platform::Text& path) const;
+    std::string bytes_of(const platform::Text& path, std::uint64_t limit) const;
     /// Returns false when the file is still there.
     bool delete_quietly(const platform::Text& path);
 
