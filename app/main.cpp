@@ -24,6 +24,7 @@ int main(int argc, char** argv) {
     QApplication::installTranslator(&korean);
 
     const machine::posix::Paths paths;
+    machine::posix::enter_application_directory(paths);
     machine::qt::QtClock clock;
     app::DesktopMachine machine(paths, machine::posix::PosixFiles(paths), clock);
     qt.show_errors_with([&machine](const platform::RuntimeError& error) {

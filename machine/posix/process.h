@@ -1,6 +1,12 @@
 #pragma once
 
+#include "machine/posix/paths.h"
+
 namespace machine::posix {
+
+/// Makes the application directory the current one, from wherever the program was started: the carrier's
+/// library is loaded from the current directory.
+void enter_application_directory(const Paths& paths);
 
 /// Lets a write beyond the user's limit for files fail like one on a full disk, instead of ending the
 /// program.
