@@ -39,7 +39,16 @@ void IniSettings::write(const Text& path, const std::string& section, const std:
                         const std::string& value) {
     const std::string before = read_to_change(files_, path);
     const std::string after = ini::write(before, section, key, value);
-    if (after != before) files_.write(path, after);
+    if (after == before) return;
+    try {
+        files_.write(path, after);
+    } catch (const RuntimeError&) {
+        if (!value.empty() || after.size() > before.size()) throw;
+        // A password that has to go is blanked where it stands; all other bytes stay the same.
+        const auto file = files_.open_for_writing(path);
+        file->write(ini::write(before, section, key, std::string(before.size() - after.size(), ' ')));
+        file->flush();
+    }
 }
 
 }  // namespace platform

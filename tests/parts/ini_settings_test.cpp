@@ -102,6 +102,22 @@ TEST_F(IniSettingsTest, AFileOfAnAbsurdSizeCountsAsUnreadable) {
     EXPECT_EQ(fs::file_size(on_disk), ABSURD);
 }
 
+TEST_F(IniSettingsTest, AValueIsBlankedWhereItStandsWhenTheFileCannotBeReplaced) {
+    const std::string before = "[LOGIN]\r\nLOGINID=demo\r\nLOGINPW=demo1234\r\nX=1\r\n";
+    put(on_disk, before);
+    fs::permissions(on_disk, fs::perms(0666));
+    fs::permissions(application, fs::perms(0555));
+    fs::permissions(folder.path(), fs::perms(0755));
+    tests::ChildProcess stranger([&] {
+        if (::getuid() == 0 && ::setuid(65534) != 0) return 1;
+        if (error_number([&] { settings.write(zent_ini, "LOGIN", "LOGINPW", ""); }) != 0) return 2;
+        return error_number([&] { settings.write(zent_ini, "LOGIN", "LOGINID", "x"); });
+    });
+    EXPECT_EQ(stranger.wait(), 70) << "any other value is written whole or not at all";
+    fs::permissions(application, fs::perms(0755));
+    EXPECT_EQ(bytes_of(on_disk), "[LOGIN]\r\nLOGINID=demo\r\nLOGINPW=        \r\nX=1\r\n");
+}
+
 TEST_F(IniSettingsTest, AnUnchangedValueIsNotWrittenAgain) {
     settings.write(zent_ini, "SET", "P_TIME", "60");
     fs::last_write_time(on_disk, fs::file_time_type());
