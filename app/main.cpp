@@ -1,6 +1,7 @@
 #include "app/application.h"
 #include "app/desktop_machine.h"
 #include "core/boxes.h"
+#include "machine/posix/process.h"
 #include "machine/qt/desktop/qt_application.h"
 #include "machine/qt/desktop/qt_clock.h"
 #include "machine/qt/look/desk_style.h"
@@ -11,6 +12,7 @@
 #include <QLocale>
 
 int main(int argc, char** argv) {
+    machine::posix::take_file_size_limit_as_full_disk();
     machine::qt::QtApplication qt(argc, argv);
     QApplication::setStyle(new machine::qt::DeskStyle);
     machine::qt::use_font_with_hangul();
@@ -22,6 +24,7 @@ int main(int argc, char** argv) {
     QApplication::installTranslator(&korean);
 
     const machine::posix::Paths paths;
+    machine::posix::enter_application_directory(paths);
     machine::qt::QtClock clock;
     app::DesktopMachine machine(paths, machine::posix::PosixFiles(paths), clock);
     qt.show_errors_with([&machine](const platform::RuntimeError& error) {

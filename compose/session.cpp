@@ -11,6 +11,8 @@
 #include "service/frmPondiraReg.h"
 #include "service/service_pages.h"
 
+#include <algorithm>
+
 namespace compose {
 
 using platform::Text;
@@ -48,12 +50,19 @@ void Session::connect() {
 void Session::load() {
     STBar1.set_panel_text(4, u"버전:" + core::deployment::version());
     read_auto_login_mark();
+    // A run that was killed has left the password behind.
+    if (!core::setting_is_on(platform_, core::settings::AUTO_LOGIN)) blank_saved_password();
 }
 
 void Session::save() {
     const bool automatic = mnuAutoLogin.checked();
     core::write_setting(platform_, core::settings::AUTO_LOGIN, automatic ? u"1" : u"0");
-    if (!automatic) core::write_setting(platform_, core::settings::LOGIN_PASSWORD, u"");
+    if (!automatic) blank_saved_password();
+}
+
+void Session::blank_saved_password() {
+    if (core::read_setting(platform_, core::settings::LOGIN_PASSWORD).empty()) return;
+    core::write_setting(platform_, core::settings::LOGIN_PASSWORD, u"");
 }
 
 void Session::cmdLogin_Click() {
@@ -136,6 +145,9 @@ void Session::cmdLogOut_Click() {
     state_.session.gServiceState = core::SERVICE_STATE_NONE;
     state_.session.gLoggedIn = false;
     state_.session.gLoginResult = false;
+    std::ranges::fill(state_.session.gLoginPassword, u' ');
+    state_.session.gLoginPassword.clear();
+    if (!mnuAutoLogin.checked()) blank_saved_password();
     SET_LOGIN_BUTTONS(false);
     show_logged_out();
     STBar1.set_panel_picture(1, PICTURE_LOGGED_OUT);

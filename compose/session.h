@@ -46,6 +46,7 @@ class Session : Room {
   private:
     void connect();
     void read_auto_login_mark();
+    void blank_saved_password();
     void go_on_after_login();
     void show_logged_out();
     void panel_clicked(int panel);

@@ -19,6 +19,7 @@ void warn(Desktop& desktop, Text text, Text title) {
 }
 
 bool ask(Desktop& desktop, Text text, Text title, BoxIcon icon, BoxAnswer default_answer) {
+    const platform::StandingQuestion question(desktop);
     return desktop.message_box({.text = std::move(text),
                                 .icon = icon,
                                 .title = std::move(title),

@@ -13,6 +13,11 @@ using platform::TextView;
 
 namespace {
 
+/// The signal holds one number, the list a line for each recipient: room for two million of them. A larger
+/// file counts as unreadable.
+constexpr std::uint64_t SIGNAL_LIMIT = 64 << 10;
+constexpr std::uint64_t RECIPIENTS_LIMIT = 64 << 20;
+
 bool is_page(int value) {
     return value >= service::CARD_MANAGER_RESULTS && value <= service::CARD_MANAGER_MEMBER_DATA;
 }
@@ -23,26 +28,36 @@ HandOver::HandOver(platform::Platform& platform, core::AppState& state, compose:
     : platform_(platform), state_(state), form_(main_form) {}
 
 void HandOver::NEW_SENDMAN_LOAD() {
-    if (state_.forms.gSendFormOpen) return;
+    // The answer to a question is about what the user saw when it was asked.
+    if (state_.forms.gSendFormOpen || platform_.desktop.question_stands()) return;
     if (!core::FILE_EXISTS(platform_, core::isend_text(platform_))) return left_over_.reset();
     form_.Timer1.set_enabled(false);
+    const Files handed = files();
     // Files that could not be deleted are taken in only once: choosing the tab every half second would empty
     // the draft each time, and the user could not leave a page.
-    if (!left_over_ || *left_over_ != files()) take_in();
-    delete_quietly(core::isend_text(platform_));
-    delete_quietly(core::tmpman_txt(platform_));
-    left_over_.reset();
-    if (core::FILE_EXISTS(platform_, core::isend_text(platform_))) left_over_ = files();
+    left_over_ == handed ? discard(handed) : take_in(handed);
     form_.Timer1.set_enabled(true);
 }
 
-void HandOver::take_in() {
-    const int value = value_of_signal(handed_over_text(bytes_of(core::isend_text(platform_))));
-    if (is_page(value)) return open_page(value);
-    delete_quietly(core::isend_text(platform_));
-    // Deliberately thrown away while a page is open: the user has turned to something else.
-    if (!state_.forms.gWebFormOpen && core::FILE_EXISTS(platform_, core::tmpman_txt(platform_)))
-        take_in_recipients(value);
+void HandOver::take_in(const Files& handed) {
+    const int value = value_of_signal(handed_over_text(handed.signal));
+    if (is_page(value)) {
+        open_page(value);
+        // Deliberately with what has come meanwhile: the user has turned to something else.
+        return discard(handed);
+    }
+    // Before the recipients are listed, which takes a while: the card manager may write the next hand-over as
+    // soon as the signal is gone, and that is not to be deleted unread.
+    discard(handed);
+    // Deliberately thrown away while a page is open, for the same reason as above.
+    if (!state_.forms.gWebFormOpen) take_in_recipients(handed.recipients, value);
+}
+
+/// Deletes the files of a hand-over, the signal last: until it goes, the card manager writes no new list.
+void HandOver::discard(const Files& handed) {
+    delete_quietly(core::tmpman_txt(platform_));
+    const bool signal_gone = delete_quietly(core::isend_text(platform_));
+    left_over_ = signal_gone ? std::nullopt : std::optional(handed);
 }
 
 void HandOver::open_page(int page) {
@@ -60,8 +75,8 @@ void HandOver::open_page(int page) {
     service::show_service_page(platform_, state_, page);
 }
 
-void HandOver::take_in_recipients(int tab) {
-    const Text text = handed_over_text(bytes_of(core::tmpman_txt(platform_)));
+void HandOver::take_in_recipients(const std::string& handed, int tab) {
+    const Text text = handed_over_text(handed);
     if (text.empty()) return;
     const std::vector<TextView> lines = platform::split(text, u'\n');
     compose::RecipientList& recipients = form_.recipients;
@@ -81,17 +96,18 @@ void HandOver::take_in_recipients(int tab) {
 }
 
 HandOver::Files HandOver::files() const {
-    return {bytes_of(core::isend_text(platform_)), bytes_of(core::tmpman_txt(platform_))};
+    return {bytes_of(core::isend_text(platform_), SIGNAL_LIMIT),
+            bytes_of(core::tmpman_txt(platform_), RECIPIENTS_LIMIT)};
 }
 
-std::string HandOver::bytes_of(const Text& path) const {
+std::string HandOver::bytes_of(const Text& path, std::uint64_t limit) const {
     std::string bytes;
-    platform::ignore_errors([&] { bytes = platform_.files.read(path); });
+    platform::ignore_errors([&] { bytes = platform_.files.read(path, limit); });
     return bytes;
 }
 
-void HandOver::delete_quietly(const Text& path) {
-    platform::ignore_errors([&] { core::DELETE_FILE(platform_, path); });
+bool HandOver::delete_quietly(const Text& path) {
+    return platform::ignore_errors([&] { core::DELETE_FILE(platform_, path); });
 }
 
 }  // namespace handover

@@ -1,5 +1,7 @@
 #include "platform/error.h"
 
+#include <new>
+#include <stdexcept>
 #include <utility>
 
 namespace platform {
@@ -73,5 +75,12 @@ RuntimeError::RuntimeError(ErrorNumber number, Text description)
     : number_(number),
       description_(std::move(description)),
       what_(std::to_string(static_cast<int>(number)) + ": " + to_utf8(description_)) {}
+
+RuntimeError error_of(const std::exception& failure) {
+    if (const auto* error = dynamic_cast<const RuntimeError*>(&failure)) return *error;
+    const bool no_memory = dynamic_cast<const std::bad_alloc*>(&failure) != nullptr ||
+                           dynamic_cast<const std::length_error*>(&failure) != nullptr;
+    return RuntimeError(no_memory ? ErrorNumber::out_of_memory : ErrorNumber::invalid_call);
+}
 
 }  // namespace platform

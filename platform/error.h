@@ -54,6 +54,9 @@ class RuntimeError : public std::exception {
     std::string what_;
 };
 
+/// The error that a box shows for a failure of any kind: itself when it is a RuntimeError.
+RuntimeError error_of(const std::exception& failure);
+
 /// Runs one step of a handler that goes on even if the step fails: swallows a RuntimeError, and no other
 /// exception. Returns whether the step ran to its end.
 template <class Step>

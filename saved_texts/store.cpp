@@ -15,6 +15,9 @@ using platform::TextView;
 
 namespace {
 
+/// The most bytes of a saved text; a message has far fewer.
+constexpr std::uint64_t SAVED_TEXT_LIMIT = 1 << 20;
+
 /// Editors of other systems end a line with one character, which the program's own fields do not know.
 Text with_whole_line_ends(TextView text) {
     return platform::replace_all(platform::with_line_feeds(text), u"\n", platform::CRLF);
@@ -48,7 +51,8 @@ CategoryContent read_category(const Platform& platform, TextView category,
         try {
             Text title = shown_name(file);
             title.resize(title.size() - core::SAVED_TEXT_EXTENSION.size());
-            const Text body = platform::decode_cp949(platform.files.read(folder + file.name));
+            const Text body =
+                platform::decode_cp949(platform.files.read(folder + file.name, SAVED_TEXT_LIMIT));
             content.texts.push_back({file.name, title, with_whole_line_ends(body), file.modified});
         } catch (const RuntimeError& error) {
             // One that has been removed meanwhile is simply gone.

@@ -19,6 +19,8 @@ frmZentSend::frmZentSend(platform::Platform& platform, core::AppState& state, co
       gateway_(platform, state) {
     set_caption(u"폰디라 서버에 메시지 등록...");
     Command1.set_tool_tip(u"메시지 등록을 중지합니다.");
+    // Until the job begins there is nothing to stop, and a second Enter on the confirmation lands here.
+    Command1.set_enabled(false);
     Command1.Click.connect([this] { stop_or_close(); });
     Timer1.Tick.connect([this] { run_routine_of_draft(); });
 }

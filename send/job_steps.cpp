@@ -48,6 +48,7 @@ void frmZentSend::run_job(const CarrierKind* kind, Pauses pauses,
 
 SendJob frmZentSend::prepare(const CarrierKind* kind, Pauses pauses) {
     StopRequested = false;
+    Command1.set_enabled(true);
     main_form_.sender.fill_empty_callback();
     const platform::LocalTime now = platform_.clock.now();
     SendJob job{.kind = kind,

@@ -91,12 +91,12 @@ class PosixOpenFile : public OpenFile {
 
 }  // namespace
 
-std::string read_whole_file(const std::string& path) {
-    if (auto bytes = read_if_there(path)) return std::move(*bytes);
+std::string read_whole_file(const std::string& path, std::uint64_t limit) {
+    if (auto bytes = read_if_there(path, limit)) return std::move(*bytes);
     throw file_error(ENOENT, path);
 }
 
-std::optional<std::string> read_if_there(const std::string& path) {
+std::optional<std::string> read_if_there(const std::string& path, std::uint64_t limit) {
     // Checked before opening: some devices act when they are opened.
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0) {
@@ -104,16 +104,20 @@ std::optional<std::string> read_if_there(const std::string& path) {
         throw file_error(errno, path);
     }
     if (!S_ISREG(status.st_mode)) throw RuntimeError(ErrorNumber::path_access);
+    const auto size = static_cast<std::uint64_t>(status.st_size);
+    if (size > limit) throw RuntimeError(ErrorNumber::out_of_memory);
 
     const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (!file.is_open()) throw file_error(errno, path);
     std::string bytes;
-    bytes.reserve(static_cast<std::size_t>(status.st_size));
+    bytes.reserve(size);
     std::array<char, 65536> chunk;
     for (;;) {
         const ssize_t got = ::read(file.number(), chunk.data(), chunk.size());
         if (got < 0 && errno != EINTR) throw file_error(errno, path);
         if (got > 0) bytes.append(chunk.data(), static_cast<std::size_t>(got));
+        // It has grown meanwhile, and may go on growing.
+        if (bytes.size() > limit) throw RuntimeError(ErrorNumber::out_of_memory);
         // Only at its end does a normal file give less than was asked for.
         if (got >= 0 && static_cast<std::size_t>(got) < chunk.size()) return bytes;
     }

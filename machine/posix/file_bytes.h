@@ -8,10 +8,11 @@
 
 namespace machine::posix {
 
-/// The bytes of a normal file. A folder, a device or a pipe raises RuntimeError 75, so this never waits.
-std::string read_whole_file(const std::string& path);
+/// The bytes of a normal file. A folder, a device or a pipe raises RuntimeError 75, so this never waits; a
+/// file beyond the limit raises RuntimeError 7, so it never ends the memory either.
+std::string read_whole_file(const std::string& path, std::uint64_t limit = platform::FILE_LIMIT);
 /// The same, or nothing when the file does not exist.
-std::optional<std::string> read_if_there(const std::string& path);
+std::optional<std::string> read_if_there(const std::string& path, std::uint64_t limit);
 
 /// Who may read a new file: the user alone, or as usual, those who may read the old file. Without an old file
 /// those who may read what the user's other programs write.

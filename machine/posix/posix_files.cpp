@@ -132,10 +132,10 @@ std::vector<Text> PosixFiles::list_folders(const Text& folder) const {
     return folders_of(paths_.to_posix(folder));
 }
 
-std::string PosixFiles::read(const Text& path) const {
+std::string PosixFiles::read(const Text& path, std::uint64_t limit) const {
     // Thousands of files are read one by one, so try the exact name before searching the folder.
-    if (auto bytes = read_if_there(paths_.as_it_stands(path))) return std::move(*bytes);
-    return read_whole_file(paths_.to_posix(path));
+    if (auto bytes = read_if_there(paths_.as_it_stands(path), limit)) return std::move(*bytes);
+    return read_whole_file(paths_.to_posix(path), limit);
 }
 
 void PosixFiles::write(const Text& path, const std::string& bytes) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -26,6 +27,7 @@ void start(const std::string& program, const std::optional<std::string>& argumen
     if (parent == 0) {
         ::setsid();
         const char* first = argument ? argument->c_str() : nullptr;
+        std::signal(SIGXFSZ, SIG_DFL);
         if (::fork() == 0) ::execlp(program.c_str(), program.c_str(), first, nullptr);
         ::_exit(0);
     }

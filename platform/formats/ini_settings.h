@@ -16,7 +16,7 @@ class IniSettings : public Settings {
     std::string read(const Text& path, const std::string& section, const std::string& key,
                      std::size_t limit) const override;
     /// Raises RuntimeError and writes nothing when the file exists but cannot be read: writing would lose its
-    /// other lines.
+    /// other lines. Where the file cannot be replaced, an empty value still blanks the one before.
     void write(const Text& path, const std::string& section, const std::string& key,
                const std::string& value) override;
 

@@ -104,6 +104,25 @@ class Desktop {
     /// only as often as an eye can notice.
     virtual void paint() = 0;
     virtual std::unique_ptr<InputWatch> watch_input() = 0;
+
+    /// Whether a question waits for the user's answer. Until then nothing may change what it is about.
+    bool question_stands() const { return questions_ > 0; }
+
+  private:
+    friend class StandingQuestion;
+    int questions_ = 0;
+};
+
+/// A question that waits for its answer, for as long as this object lives.
+class StandingQuestion {
+  public:
+    explicit StandingQuestion(Desktop& desktop) : desktop_(desktop) { ++desktop_.questions_; }
+    StandingQuestion(const StandingQuestion&) = delete;
+    StandingQuestion& operator=(const StandingQuestion&) = delete;
+    ~StandingQuestion() { --desktop_.questions_; }
+
+  private:
+    Desktop& desktop_;
 };
 
 }  // namespace platform

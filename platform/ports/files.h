@@ -29,6 +29,9 @@ class OpenFile {
     virtual void flush() = 0;
 };
 
+/// The most bytes of a file that is read whole where its use sets no closer limit.
+inline constexpr std::uint64_t FILE_LIMIT = std::uint64_t{64} << 20;
+
 /// The file system, by paths with backslashes: below the application directory, on drive `c:` or, for what
 /// the user picks, elsewhere. Contents are bytes. Failures are RuntimeErrors with the classic file numbers.
 class Files {
@@ -57,7 +60,8 @@ class Files {
     /// The folders in the folder likewise.
     virtual std::vector<Text> list_folders(const Text& folder) const = 0;
 
-    virtual std::string read(const Text& path) const = 0;
+    /// The whole file. Raises RuntimeError 7 for one of more bytes than the limit, without reading further.
+    virtual std::string read(const Text& path, std::uint64_t limit = FILE_LIMIT) const = 0;
     /// Writes the whole file or leaves the old one as it was, also when the program is killed meanwhile. In
     /// the program's own folders only the user can read the file. A new name, of a folder too, must pass
     /// `check_file_name`.

@@ -206,6 +206,48 @@ TEST_F(HandOver, WhileItIsTakenInNoOtherOneStartsAndTheWindowIsPainted) {
     EXPECT_EQ(progress, (std::vector<int>{0, 50, 100}));
 }
 
+TEST_F(HandOver, WhatTheCardManagerWritesMeanwhileIsTakenInNext) {
+    form.Timer1.Tick.connect([this] { take_in(); });
+    int written = 1;
+    // The next hand-over is written as soon as the signal of the one before is gone.
+    desktop.during_paint = [&] {
+        if (written < 40 && !files.files.contains(SIGNAL))
+            hand("1", u"x\tA\t0101" + platform::decimal(1000 + ++written) + u"\r\n");
+    };
+    hand("1", u"x\tA\t01011001\r\n");
+    clock.run_for(40 * 500);
+    EXPECT_EQ(rows().size(), 40u);
+    EXPECT_TRUE(files.files.empty());
+}
+
+TEST_F(HandOver, WaitsForTheAnswerOfAQuestionSoThatTheAnswerIsAboutWhatWasSeen) {
+    form.Timer1.Tick.connect([this] { take_in(); });
+    desktop.during_box = [this] {
+        hand("4", u"x\t새사람\t0109999\r\n");
+        clock.run_for(1000);
+    };
+
+    hand("1", u"x\tA\t0101111\r\nx\tB\t0102222\r\n");
+    take_in();
+    desktop.expect_box(u"선택한 목록을 삭제하시겠습니까?", platform::BoxAnswer::yes);
+    form.recipients.HBttn2.Click.raise();
+    EXPECT_EQ(rows(), Rows{"A|0101111|"}) << "the row that was selected when the user was asked";
+    clock.run_for(600);
+    EXPECT_EQ(rows(), (Rows{"A|0101111|", "새사람|0109999|"}));
+
+    desktop.expect_box(u"모든 내용을 삭제하고 새로 작성하시겠습니까?", platform::BoxAnswer::yes);
+    form.Command3.Click.raise();
+    EXPECT_EQ(rows(), Rows{});
+    clock.run_for(600);
+    EXPECT_EQ(rows(), Rows{"새사람|0109999|"}) << "who came after the question was not meant by it";
+
+    form.choose(compose::MessageKind::text);
+    desktop.expect_box(u"80Byte이상 입력하시겠습니까?", platform::BoxAnswer::yes);
+    form.text.mText1.set_text(Text(81, u'a'));
+    EXPECT_EQ(utf8(form.text.mText1.text()), std::string(81, 'a'));
+    EXPECT_EQ(utf8(form.text.mText1.tag()), "LONG");
+}
+
 TEST_F(HandOver, APageOpensForAUserWhoIsLoggedIn) {
     state.session.gLoggedIn = true;
     state.session.gLoginResult = true;

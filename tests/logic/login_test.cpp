@@ -364,6 +364,9 @@ TEST_F(LogOut, AsksAndThenForgetsTheLogin) {
     form.session.cmdLogOut.Click.raise();
     expect_logged_out();
     EXPECT_TRUE(carrier.calls.empty()) << "nothing is bound";
+    EXPECT_EQ(saved_login(u"LOGINPW"), "");
+    EXPECT_EQ(saved_login(u"LOGINID"), "hong");
+    EXPECT_TRUE(state.session.gLoginPassword.empty());
 
     log_in(u"hong", u"secret");
     form.session.cmdLogin.Click.raise();

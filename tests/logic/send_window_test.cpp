@@ -73,6 +73,22 @@ TEST(SendWindow, ClosingItStopsTheJobAndDisablesTheButton) {
     }
 }
 
+TEST(SendWindow, TheStopButtonWaitsForTheJobAndIsHeardFromItsBeginOn) {
+    Sending s;
+    s.add_many(120);
+    const auto press = [](send::frmZentSend& job) {
+        if (job.Command1.enabled()) job.Command1.Click.raise();
+    };
+    s.desktop.in_form<send::frmZentSend>(u"frmZentSend", [&](send::frmZentSend& job) {
+        press(job);
+        EXPECT_FALSE(job.Command1.enabled()) << "there is nothing to stop yet";
+        s.clock.during_pause = [&] { press(job); };
+    });
+    s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+    s.send();
+    EXPECT_EQ(s.marks(), std::string(100, '-') + std::string(20, 'x'));
+}
+
 TEST(SendWindow, AStopDuringTheLastBatchGoesUnnoticed) {
     Sending s;
     s.add_many(120);

@@ -113,6 +113,21 @@ TEST(MainWindowLoad, TheAutoLoginMarkIsOnOnlyForOne) {
     }
 }
 
+TEST(MainWindowLoad, APasswordThatAKilledRunLeftIsBlankedUnlessTheLoginIsAutomatic) {
+    for (const char16_t* value : {u"0", u"", u"1", u"1abc"}) {
+        tests::MainWindow window;
+        window.save_setting(u"LOGIN", u"AUTOLOGIN", value);
+        window.save_login(u"LOGINID", u"hong");
+        window.save_login(u"LOGINPW", u"secret");
+        window.form.load();
+        EXPECT_EQ(window.saved_login(u"LOGINPW"), Text(value).starts_with(u'1') ? "secret" : "");
+        EXPECT_EQ(window.saved_login(u"LOGINID"), "hong");
+    }
+    tests::MainWindow window;
+    window.form.load();
+    EXPECT_FALSE(window.files.files.contains(window.login_ini)) << "there is nothing to blank";
+}
+
 TEST(FirstTick, LogsInByItselfOnlyWithAutoLoginAndASavedIdAndPassword) {
     const struct {
         const char16_t *auto_login, *user_id, *password;
@@ -205,7 +220,9 @@ TEST(Stop, AutoLoginOffBlanksThePasswordAndKeepsTheId) {
         tests::MainWindow window;
         window.save_login(u"LOGINID", u"hong");
         window.save_login(u"LOGINPW", u"secret");
+        window.save_setting(u"LOGIN", u"AUTOLOGIN", u"1");
         window.form.load();
+        EXPECT_EQ(window.saved_login(u"LOGINPW"), "secret");
         window.form.session.mnuAutoLogin.set_checked(auto_login);
         window.form.mnuStartUpdate.set_checked(!auto_login);
         window.form.unload();

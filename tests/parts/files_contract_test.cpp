@@ -166,6 +166,7 @@ TEST_P(FilesContract, FailuresHaveTheirClassicNumbers) {
     files.make_folder(in(u"full"));
     files.make_folder(in(u"full\\sub"));
     files.write(in(u"file"), "");
+    files.write(in(u"five"), "12345");
     const Text long_name(300, u'a');
     const struct {
         const char* what;
@@ -176,6 +177,8 @@ TEST_P(FilesContract, FailuresHaveTheirClassicNumbers) {
         {"read below a missing folder", 76, [&] { files.read(in(u"none\\none")); }},
         {"read below a file", 75, [&] { files.read(in(u"file\\none")); }},
         {"read a folder", 75, [&] { files.read(in(u"box")); }},
+        {"read a file up to its limit", 0, [&] { files.read(in(u"five"), 5); }},
+        {"read a file beyond its limit", 7, [&] { files.read(in(u"five"), 4); }},
         {"ask for a missing file's length", 53, [&] { files.length(in(u"none")); }},
         {"write over a folder", 75, [&] { files.write(in(u"box"), "x"); }},
         {"write below a file", 75, [&] { files.write(in(u"file\\x"), "x"); }},
@@ -209,7 +212,7 @@ TEST_P(FilesContract, FailuresHaveTheirClassicNumbers) {
         {"remove an empty folder", 0, [&] { files.remove_empty_folder(in(u"full\\sub")); }},
     };
     for (const auto& row : rows) EXPECT_EQ(error_number(row.step), row.number) << row.what;
-    EXPECT_EQ(files_in(u""), Strings{"file"});
+    EXPECT_EQ(files_in(u""), (Strings{"file", "five"}));
     EXPECT_EQ(folders_in(u""), (Strings{"box", "full"}));
 }
 

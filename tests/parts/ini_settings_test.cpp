@@ -54,11 +54,11 @@ TEST_F(IniSettingsTest, TheFirstWriteMakesTheWindowsDirectory) {
 TEST_F(IniSettingsTest, AWriteLosesNothingElseInTheFile) {
     const std::string section = "[SET]\r\nP_TIME=30\r\n";
     std::string large;
-    while (large.size() < 10'000'000) large += "[S" + std::to_string(large.size()) + "]\r\nkey=value\r\n";
+    while (large.size() < 1'000'000) large += "[S" + std::to_string(large.size()) + "]\r\nkey=value\r\n";
     const std::vector<std::pair<const char*, std::string>> cases = {
-        {"10 MB", large},
+        {"1 MB", large},
         {"binary rubbish", rubbish(1'000'000) + "\r\n"},
-        {"an endless line", std::string(10'000'000, '[') + "\r\n"},
+        {"an endless line", std::string(1'000'000, '[') + "\r\n"},
         {"NULs", std::string(1000, '\0') + "\r\n"},
     };
     for (const auto& [what, before] : cases) {
@@ -91,6 +91,31 @@ TEST_F(IniSettingsTest, AFileThatCannotBeReadIsNotWritten) {
     EXPECT_EQ(stranger.wait(), 70) << "it may replace the file, but not read what it would lose";
     fs::permissions(on_disk, fs::perms(0600));
     EXPECT_EQ(bytes_of(on_disk), "[LOGIN]\r\nAUTOLOGIN=1\r\n");
+}
+
+TEST_F(IniSettingsTest, AFileOfAnAbsurdSizeCountsAsUnreadable) {
+    put(on_disk, "[SET]\r\nP_TIME=60\r\n");
+    constexpr std::uintmax_t ABSURD = std::uintmax_t{1} << 40;
+    fs::resize_file(on_disk, ABSURD);
+    EXPECT_EQ(settings.read(zent_ini, "SET", "P_TIME", LIMIT), "");
+    EXPECT_EQ(error_number([&] { settings.write(zent_ini, "SET", "P_TIME", "30"); }), 7);
+    EXPECT_EQ(fs::file_size(on_disk), ABSURD);
+}
+
+TEST_F(IniSettingsTest, AValueIsBlankedWhereItStandsWhenTheFileCannotBeReplaced) {
+    const std::string before = "[LOGIN]\r\nLOGINID=demo\r\nLOGINPW=demo1234\r\nX=1\r\n";
+    put(on_disk, before);
+    fs::permissions(on_disk, fs::perms(0666));
+    fs::permissions(application, fs::perms(0555));
+    fs::permissions(folder.path(), fs::perms(0755));
+    tests::ChildProcess stranger([&] {
+        if (::getuid() == 0 && ::setuid(65534) != 0) return 1;
+        if (error_number([&] { settings.write(zent_ini, "LOGIN", "LOGINPW", ""); }) != 0) return 2;
+        return error_number([&] { settings.write(zent_ini, "LOGIN", "LOGINID", "x"); });
+    });
+    EXPECT_EQ(stranger.wait(), 70) << "any other value is written whole or not at all";
+    fs::permissions(application, fs::perms(0755));
+    EXPECT_EQ(bytes_of(on_disk), "[LOGIN]\r\nLOGINID=demo\r\nLOGINPW=        \r\nX=1\r\n");
 }
 
 TEST_F(IniSettingsTest, AnUnchangedValueIsNotWrittenAgain) {

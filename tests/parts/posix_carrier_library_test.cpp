@@ -1,5 +1,6 @@
 #include "machine/posix/posix_carrier_library.h"
 
+#include "machine/posix/process.h"
 #include "platform/error.h"
 #include "tests/parts/carrier_client.h"
 
@@ -73,6 +74,14 @@ class PosixCarrierLibraryTest : public tests::CarrierTest {
     std::string info_sender = std::string(40, ' ');
     std::string info_callback = std::string(20, ' ');
 };
+
+TEST_F(PosixCarrierLibraryTest, IsFoundFromWhereverTheProgramWasStarted) {
+    fs::copy_file(CARRIER_LIBRARY, folder.path() / LIBRARY, fs::copy_options::overwrite_existing);
+    fs::current_path("/");
+    machine::posix::enter_application_directory(machine::posix::Paths(folder.path()));
+    EXPECT_EQ(fs::current_path(), fs::canonical(folder.path()));
+    EXPECT_NO_THROW(bind());
+}
 
 TEST_F(PosixCarrierLibraryTest, EveryArgumentArrivesInItsPlace) {
     fs::copy_file(CARRIER_LIBRARY, LIBRARY);

@@ -1,5 +1,6 @@
 #include "machine/posix/posix_files.h"
 
+#include "machine/posix/process.h"
 #include "platform/text/hangul.h"
 #include "tests/support/child_process.h"
 #include "tests/support/files_on_disk.h"
@@ -199,6 +200,22 @@ TEST_F(PosixFilesTest, EndlessFilesAreNotRead) {
     ::mkfifo((application / "pipe").c_str(), 0600);
     for (const char16_t* path : {u"pipe", u"z:\\dev\\zero"})
         EXPECT_EQ(error_number([&] { files.read(path); }), 75) << to_utf8(path);
+}
+
+TEST_F(PosixFilesTest, AFileOfAnAbsurdSizeIsNotRead) {
+    put(application / "note.txt", "");
+    fs::resize_file(application / "note.txt", std::uintmax_t{1} << 40);
+    EXPECT_EQ(error_number([&] { files.read(u"note.txt"); }), 7);
+}
+
+TEST_F(PosixFilesTest, AUsersLimitForFilesIsAFullDisk) {
+    files.write(u"zent.ini", "old");
+    tests::ChildProcess child([&] {
+        tests::limit_file_size(5000, true);
+        take_file_size_limit_as_full_disk();
+        return error_number([&] { files.write(u"zent.ini", std::string(100000, 'n')); });
+    });
+    EXPECT_EQ(child.wait(), 61);
 }
 
 TEST_F(PosixFilesTest, WithoutPermissionNothingChanges) {

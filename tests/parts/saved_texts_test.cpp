@@ -138,6 +138,15 @@ TEST_F(SavedTextsOnDisk, NoPathLeavesTheBox) {
     EXPECT_EQ(bytes_of(folder.path() / "outside/남.txt"), "theirs");
 }
 
+TEST_F(SavedTextsOnDisk, ATextOfAnAbsurdSizeIsReportedAndHidesNoOther) {
+    put(first / "가.txt", "1");
+    fs::resize_file(first / "가.txt", std::uintmax_t{1} << 40);
+    put(first / "나.txt", "2");
+    desktop.expect_box(u"오류번호:7\r\n\r\n'가.txt': 메모리가 부족합니다.");
+    box.load();
+    EXPECT_EQ(column(box.ListView2), Strings{"나"});
+}
+
 TEST_F(SavedTextsOnDisk, ATextWithoutPermissionIsReportedAndHidesNoOther) {
     put(first / "가.txt", "1");
     put(first / "나.txt", "2");

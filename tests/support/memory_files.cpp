@@ -84,10 +84,12 @@ std::vector<Text> MemoryFiles::list_folders(const Text& folder) const {
     return found;
 }
 
-std::string MemoryFiles::read(const Text& path) const {
+std::string MemoryFiles::read(const Text& path, std::uint64_t limit) const {
     touched.push_back(path);
     expect_file(path);
-    return files.at(key(path));
+    const std::string& bytes = files.at(key(path));
+    if (bytes.size() > limit) throw RuntimeError(ErrorNumber::out_of_memory);
+    return bytes;
 }
 
 void MemoryFiles::write(const Text& path, const std::string& bytes) {

@@ -32,7 +32,7 @@ class MemoryFiles : public platform::Files {
     std::vector<platform::FileEntry> list_files(const platform::Text& folder,
                                                 platform::TextView pattern) const override;
     std::vector<platform::Text> list_folders(const platform::Text& folder) const override;
-    std::string read(const platform::Text& path) const override;
+    std::string read(const platform::Text& path, std::uint64_t limit = platform::FILE_LIMIT) const override;
     void write(const platform::Text& path, const std::string& bytes) override;
     std::unique_ptr<platform::OpenFile> open_for_writing(const platform::Text& path) override;
     void remove(const platform::Text& path) override;

@@ -79,6 +79,7 @@ void ScriptedDesktop::popup_menu_below(platform::Form& form, platform::Menu& men
 
 BoxAnswer ScriptedDesktop::message_box(const platform::MessageBox& box) {
     boxes.push_back(box);
+    during_box();
     if (expected_boxes_.empty() && any_box) return *any_box;
     const bool expected =
         !expected_boxes_.empty() && platform::contains(box.text, expected_boxes_.front().part);

@@ -54,6 +54,8 @@ class ScriptedDesktop : public platform::Desktop {
     /// Runs whenever a long loop lets the windows paint.
     std::function<void()> during_paint = [] {};
     std::function<void()> during_yield = [] {};
+    /// Runs while a box stands.
+    std::function<void()> during_box = [] {};
     /// Whether the user presses a key while a handler runs.
     std::function<bool()> input_waits = [] { return false; };
 

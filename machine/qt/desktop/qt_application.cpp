@@ -5,9 +5,9 @@ namespace machine::qt {
 bool QtApplication::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
-    } catch (const platform::RuntimeError& error) {
+    } catch (const std::exception& failure) {
         if (!show_) throw;
-        show_(error);
+        show_(platform::error_of(failure));
         return true;
     }
 }

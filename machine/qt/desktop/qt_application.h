@@ -7,13 +7,13 @@
 
 namespace machine::qt {
 
-/// A QApplication that shows an uncaught RuntimeError instead of ending, so that the user's draft survives.
+/// A QApplication that shows what a handler failed with instead of ending, so that the user's draft survives.
 class QtApplication : public QApplication {
   public:
     using QApplication::QApplication;
 
-    /// Calls `show` for every RuntimeError that the handlers let through. Without it the error ends the
-    /// program.
+    /// Calls `show` for every failure that the handlers let through, memory that is not there included.
+    /// Without it the failure ends the program.
     void show_errors_with(std::function<void(const platform::RuntimeError&)> show) {
         show_ = std::move(show);
     }
