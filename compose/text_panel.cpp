@@ -103,6 +103,7 @@ void TextPanel::insert(const Text& text) {
 }
 
 void TextPanel::mText1_Change() {
+    applied_long_ = false;
     subject_.follow(mText1.text(), Subject::LENGTH);
     if (mText1.tag().empty() && !Check1.checked() && core::BYTE_LEN(mText1.text()) > TEXT_LIMIT) {
         if (ask_for_long_text(platform_.desktop, u"[예]를 선택하시면")) {
@@ -130,9 +131,10 @@ void TextPanel::refuse_excess() {
     Picture2.set_focus();
 }
 
-/// Only enforces the limit; the Change handler asks about a long message.
+/// Only enforces the limit; the Change handler asks about a long message. The user has said yes to an applied
+/// one: it stays whole until an edit makes it another text.
 void TextPanel::mText1_KeyPress(KeyPressed& key) {
-    if (key.code == platform::KEY_BACKSPACE) return;
+    if (key.code == platform::KEY_BACKSPACE || applied_long_) return;
     if (mText1.tag().empty() && !Check1.checked() && core::BYTE_LEN(mText1.text()) > TEXT_LIMIT)
         refuse_excess();
 }
@@ -147,8 +149,10 @@ void TextPanel::switch_personal() {
 }
 
 void TextPanel::apply(Text text) {
+    bool agreed = false;
     if (core::BYTE_LEN(text) > TEXT_LIMIT) {
-        if (ask_for_long_text(platform_.desktop, u"[확인]을 하시면")) {
+        agreed = ask_for_long_text(platform_.desktop, u"[확인]을 하시면");
+        if (agreed) {
             mText1.set_tag(u"LONG");
         } else {
             show_text_is_cut(platform_.desktop);
@@ -158,6 +162,7 @@ void TextPanel::apply(Text text) {
     mText1.set_text(text);
     // The answer was for this text only: the user is asked again at the next edit.
     mText1.set_tag(u"");
+    applied_long_ = agreed;
 }
 
 /// Saves the text into the box of saved texts, under the subject or, where that is taken, the subject and a

@@ -62,6 +62,8 @@ class TextPanel : Room {
     platform::Platform& platform_;
     Subject& subject_;
     Sender& sender_;
+    /// Whether the text is a long saved one, applied after a yes and not edited since.
+    bool applied_long_ = false;
 };
 
 }  // namespace compose

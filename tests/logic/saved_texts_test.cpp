@@ -417,6 +417,35 @@ TEST_F(MyMsgBox, TheApplyQuestionCountsTheSendersNameAndTheTagEndsWithIt) {
     }
 }
 
+TEST_F(MyMsgBox, AnAppliedLongTextIsWholeUntilItsFirstEditIsAskedAbout) {
+    put(FIRST, u"인사", std::string(150, 'a'));
+    form.sender.txtUserName.set_text(u"");
+    open();
+    choose(box().ListView2, 0);
+    desktop.expect_box(u"80Byte이상 입력하시겠습니까?", BoxAnswer::yes);
+    box().Command5.Click.raise();
+    platform::TextBox& field = form.text.mText1;
+    constexpr int KEY_CTRL_C = 3;
+    for (const int key : {platform::KEY_CTRL_A, KEY_CTRL_C}) {
+        platform::KeyPressed pressed{key};
+        field.KeyPress.raise(pressed);
+        EXPECT_EQ(field.text().size(), 150U) << key;
+    }
+    field.set_caret_to_end();
+    desktop.expect_box(u"80Byte이상 입력하시겠습니까?", BoxAnswer::yes);
+    tests::press(field, u'b');
+    const platform::MessageBox& shown = desktop.boxes.back();
+    EXPECT_EQ(
+        utf8(shown.title + u"/" + shown.text),
+        "장문메시지 확인/[장문메시지 알림] 80Byte이상 입력하시겠습니까?\r\n\r\n[예]를 선택하시면 입력된 "
+        "전체 메시지를 80Byte씩 나누어서 전송하게 됩니다.");
+    EXPECT_EQ(shown.icon, BoxIcon::question);
+    EXPECT_EQ(shown.buttons, platform::BoxButtons::yes_no);
+    EXPECT_EQ(utf8(field.text()), std::string(150, 'a') + "b");
+    tests::press(field, u'c');
+    EXPECT_EQ(desktop.boxes.size(), 2U) << "the second yes is remembered";
+}
+
 TEST_F(MyMsgBox, OtherKindsTakeTheTitleAlone) {
     put(FIRST, u"인사", "text");
     put(FIRST, u"빈글", "\r\n  \r\n");
