@@ -18,10 +18,6 @@ constexpr std::size_t LONG_LIST = 500;
 
 }  // namespace
 
-Text without_separators(platform::TextView name) {
-    return platform::remove_all(platform::remove_all(name, u":"), u";");
-}
-
 RecipientList::RecipientList(platform::Form& form, platform::Platform& platform, core::AppState& state,
                              std::function<void()> pick)
     : Room(form),
@@ -103,7 +99,7 @@ void RecipientList::add_typed() {
     if (const platform::TextView fault = fault_of_number(*kind_, number); !fault.empty())
         return refuse_number(wrong_number(number_caption, number, fault));
 
-    add(platform::remove_all(without_separators(HText1[0].text()), u" "), number, {});
+    add(platform::remove_all(core::without_separators(HText1[0].text()), u" "), number, {});
     HText1[0].set_text(u"");
     HText1[1].set_text(u"");
     RECIPIENT_COUNT_CAPTION();

@@ -24,10 +24,6 @@ inline constexpr int RECIPIENT_TITLE = 4;
 /// Stands for a recipient without a name.
 inline constexpr platform::TextView NO_NAME = u"이름없음";
 
-/// The name without ":" and ";", with which the carrier tells a name from its number and one recipient from
-/// the next.
-platform::Text without_separators(platform::TextView name);
-
 /// The recipients: typed, picked from the cards, or handed over by the card manager.
 class RecipientList : Room {
   public:

@@ -52,4 +52,8 @@ bool FAX_NUMBER_OK(TextView number) {
     return !digits.starts_with(u"03030") && !digits.starts_with(u"0502") && !digits.starts_with(u"0505");
 }
 
+Text without_separators(TextView name) {
+    return platform::remove_all(platform::remove_all(name, u":"), u";");
+}
+
 }  // namespace core

@@ -13,4 +13,8 @@ bool TEXT_NUMBER_OK(platform::TextView number);
 /// Whether the number may receive fax messages: neither a mobile one nor one of the unified numbers.
 bool FAX_NUMBER_OK(platform::TextView number);
 
+/// The name without ":" and ";", with which the carrier tells a name from its number and one recipient from
+/// the next.
+platform::Text without_separators(platform::TextView name);
+
 }  // namespace core

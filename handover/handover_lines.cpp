@@ -37,7 +37,7 @@ int value_of_signal(TextView signal) {
 bool HandedOverRecipient::read(TextView line) {
     if (line.size() <= SHORT_LINE) return false;
     const std::vector<TextView> fields = platform::split(line, u'\t');
-    if (fields.size() > NAME) name = platform::trim(compose::without_separators(fields[NAME]));
+    if (fields.size() > NAME) name = platform::trim(core::without_separators(fields[NAME]));
     if (name.empty()) name = compose::NO_NAME;
     if (fields.size() > NUMBER) number = platform::trim(core::DIGITS_ONLY(fields[NUMBER]));
     // Deliberately the rule for numbers: a title that holds digits has always kept only these.

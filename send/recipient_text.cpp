@@ -33,7 +33,7 @@ std::optional<Text> fill_placeholders(Text text, const Text& name, const Text& t
 std::optional<Text> address_of(const platform::ListItem& recipient) {
     const Text number = core::DIGITS_ONLY(recipient.sub_item(compose::RECIPIENT_NUMBER));
     if (platform::leading_number(number) == 0) return std::nullopt;
-    Text name = platform::trim(compose::without_separators(recipient.sub_item(compose::RECIPIENT_NAME)));
+    Text name = platform::trim(core::without_separators(recipient.sub_item(compose::RECIPIENT_NAME)));
     if (name.empty()) name = compose::NO_NAME;
     return name + u":" + number + u";";
 }
