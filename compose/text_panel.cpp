@@ -200,7 +200,8 @@ void TextPanel::save() {
                                    .icon = platform::BoxIcon::information});
 }
 
-/// A name that cannot be is the subject, which the user may not have typed: he is told, and led there.
+/// A name that cannot be is the subject, which the user may not have typed: the box says so, and the focus
+/// goes there.
 void TextPanel::show_not_saved(const platform::RuntimeError& error) {
     if (error.number() != static_cast<int>(platform::ErrorNumber::bad_file_name))
         return core::show_error(platform_.desktop, error, platform::BoxIcon::critical);

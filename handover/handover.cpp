@@ -55,9 +55,10 @@ void HandOver::take_in(const Files& handed) {
 
 /// Deletes the files of a hand-over, the signal last: until it goes, the card manager writes no new list.
 void HandOver::discard(const Files& handed) {
-    delete_quietly(core::tmpman_txt(platform_));
-    const bool signal_gone = delete_quietly(core::isend_text(platform_));
-    left_over_ = signal_gone ? std::nullopt : std::optional(handed);
+    const bool list_gone = delete_quietly(core::tmpman_txt(platform_));
+    if (delete_quietly(core::isend_text(platform_))) return left_over_.reset();
+    // As the next look finds it: a page would open twice if the list that has gone counted.
+    left_over_ = Files{handed.signal, list_gone ? std::string() : handed.recipients};
 }
 
 void HandOver::open_page(int page) {

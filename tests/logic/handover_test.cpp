@@ -182,15 +182,26 @@ TEST_F(HandOver, APageWhoseSignalCannotBeDeletedOpensOnce) {
     state.session.gLoggedIn = true;
     state.session.gLoginResult = true;
     int opened = 0;
-    desktop.in_form(u"frmWeb", [&](platform::Form& page) {
-        ++opened;
-        page.unload();
-    });
-    hand("50", u"");
-    files.failure = platform::ErrorNumber::permission_denied;
+    const auto open_once = [&] {
+        desktop.in_form(u"frmWeb", [&](platform::Form& page) {
+            ++opened;
+            page.unload();
+        });
+    };
     form.Timer1.Tick.connect([this] { take_in(); });
+    open_once();
+    hand("50", u"x\tA\t0101111\r\n");
+    // The list goes, the signal only at the next try.
+    files.changes_until_failure = {1, platform::ErrorNumber::permission_denied};
     clock.run_for(1600);
     EXPECT_EQ(opened, 1);
+    EXPECT_FALSE(files.files.contains(SIGNAL));
+
+    open_once();
+    hand("50", u"");
+    files.failure = platform::ErrorNumber::permission_denied;
+    clock.run_for(1600);
+    EXPECT_EQ(opened, 2);
     EXPECT_TRUE(form.Timer1.enabled());
 }
 
