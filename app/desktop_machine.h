@@ -20,7 +20,7 @@ struct DesktopMachine {
     DesktopMachine(const machine::posix::Paths& paths, machine::posix::PosixFiles machine_files,
                    platform::Clock& clock)
         : files(std::move(machine_files)),
-          shell(paths),
+          shell(paths, files.machine_path(files.windows_directory())),
           cards(paths, machine::qt::keep_painted),
           platform{.desktop = desktop,
                    .clock = clock,

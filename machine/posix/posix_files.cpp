@@ -3,6 +3,7 @@
 #include "machine/posix/file_bytes.h"
 #include "machine/posix/file_error.h"
 #include "machine/posix/folder_list.h"
+#include "machine/posix/private_folder.h"
 #include "platform/file_name.h"
 #include "platform/text/hangul.h"
 
@@ -41,15 +42,6 @@ std::string home_folder() {
 std::string default_windows_directory(const Paths& paths) {
     const std::string home = home_folder();
     return home.empty() ? paths.drive_c() + "/windows" : home + "/.config/cardvale";
-}
-
-/// Makes the folder and those above it. Errors are ignored here; they surface when something is written
-/// there.
-void make_folders(const fs::path& folder) {
-    std::error_code ignored;
-    if (fs::is_directory(folder, ignored)) return;
-    if (folder.has_relative_path()) make_folders(folder.parent_path());
-    ::mkdir(folder.c_str(), USER_ALONE);
 }
 
 /// The path's last component; a backslash at the end does not count.
@@ -215,7 +207,7 @@ Readers PosixFiles::readers_of(const std::string& path) const {
 /// there.
 void PosixFiles::make_standing_folder_of(const std::string& path) {
     const std::string folder = fs::path(path).parent_path();
-    if (folder == windows_directory_ || folder == paths_.drive_c()) make_folders(folder);
+    if (folder == windows_directory_ || folder == paths_.drive_c()) make_private_folder(folder);
 }
 
 }  // namespace machine::posix
