@@ -1,5 +1,6 @@
 #pragma once
 
+#include "machine/drafts/sqlite_draft_store.h"
 #include "machine/jet/jet_card_source.h"
 #include "machine/posix/posix_carrier_library.h"
 #include "machine/posix/posix_files.h"
@@ -22,6 +23,7 @@ struct DesktopMachine {
         : files(std::move(machine_files)),
           shell(paths, files.machine_path(files.windows_directory())),
           cards(paths, machine::qt::keep_painted),
+          drafts(files.machine_path(files.windows_directory()), paths.application_directory()),
           platform{.desktop = desktop,
                    .clock = clock,
                    .files = files,
@@ -30,13 +32,15 @@ struct DesktopMachine {
                    .carrier = carrier,
                    .cards = cards,
                    .recorder = recorder,
-                   .internet = internet} {}
+                   .internet = internet,
+                   .drafts = drafts} {}
 
     machine::posix::PosixFiles files;
     platform::IniSettings settings{files};
     machine::posix::PosixShell shell;
     machine::posix::PosixCarrierLibrary carrier;
     machine::jet::JetCardSource cards;
+    machine::drafts::SqliteDraftStore drafts;
     machine::qt::LateRecorder recorder;
     machine::qt::LateInternet internet;
     machine::qt::Screens screens = machine::qt::program_screens();

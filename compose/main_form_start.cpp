@@ -103,6 +103,7 @@ void frmZent::start_work() {
     const bool server_reached = update_check_at_start();
     if (doors_.NEW_SENDMAN_LOAD) doors_.NEW_SENDMAN_LOAD();
     DRAFT_RESET_IF_NO_KIND();
+    if (doors_.keep_draft) doors_.keep_draft();
     // Without a network an automatic login would fail: the user logs in by hand.
     if (!server_reached) return session.cmdLogin_Click();
     if (!Timer2.tag().empty() || state_.session.gLoggedIn) return;
@@ -124,6 +125,7 @@ bool frmZent::update_check_at_start() {
 
 void frmZent::Form_Unload() {
     voice.RFK1.stop();
+    if (doors_.draft_ends) doors_.draft_ends();
     sender.save();
     // Settings files have always had this key, though the program never reads it.
     core::write_setting(platform_, core::settings::UPDATE_CHECK_AT_START,

@@ -3,6 +3,7 @@
 
 #include "platform/controls/list_columns.h"
 #include "send/frmZentSend.h"
+#include "send/pieces.h"
 #include "send/recipient_text.h"
 
 namespace send {
@@ -53,13 +54,15 @@ void frmZentSend::send_personal_row(SendJob& job, std::size_t row) {
     begin_pieces(job, *text);
     while (!mText1.text().empty()) {
         next_piece(job);
+        if (has_piece(RecipientRows.row(row).sub_item(compose::RECIPIENT_PIECES), job.pieces)) continue;
         open_session(job);
         PBar1.set_progress(row + 1, RecipientRows.row_count());
-        result = submit(job);
+        result = submit(job, {row}, mText1.text().empty());
         // Deliberately only the last piece decides: a recipient who got the end of a text is not sent all of
         // it again.
         if (mText1.text().empty()) count(job, result, 1);
         close_session(job);
+        if (result == compose::UNCONFIRMED) return;
     }
     write_status(row, row + 1, result);
 }

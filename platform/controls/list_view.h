@@ -5,6 +5,7 @@
 #include "platform/controls/prefix_index.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -90,6 +91,8 @@ class ListView : public Control {
     int width() const { return width_; }
 
     std::size_t row_count() const { return rows_.size(); }
+    /// Grows with every change of the rows' texts, marks and places.
+    std::uint64_t revision() const { return revision_; }
     const ListItem& row(std::size_t index) const { return *rows_[index]; }
 
     /// Adds a row at the end, even if the list was sorted, and returns its index.
@@ -156,6 +159,7 @@ class ListView : public Control {
     mutable std::optional<PrefixIndex> index_;
     const ListItem* selected_item_ = nullptr;
     std::size_t checked_count_ = 0;
+    std::uint64_t revision_ = 0;
     int sort_key_ = 0;
     SortOrder sort_order_ = SortOrder::ascending;
     bool sorted_ = false;

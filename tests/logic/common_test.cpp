@@ -141,9 +141,7 @@ TEST_F(Paths, AnErrorOfTheDiskMeansThatTheFileIsNotThere) {
             throw platform::RuntimeError(platform::ErrorNumber::bad_file_name);
         }
     } broken;
-    const platform::Platform machine{desktop, clock, broken,   settings, shell,
-                                     carrier, cards, recorder, internet};
-    EXPECT_FALSE(FILE_EXISTS(machine, u"a<b"));
+    EXPECT_FALSE(FILE_EXISTS(with(platform, {.files = &broken}), u"a<b"));
 }
 
 TEST_F(Paths, ATypedFileOpensOrIsNamedInABox) {

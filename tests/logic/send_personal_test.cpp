@@ -123,7 +123,7 @@ TEST(SendPersonal, AStopIsShownAfterTheRowBeingSentEvenTheLast) {
 /// The routine that no button runs.
 void send_singles(Sending& s, const Text& kind) {
     s.expect_report();
-    send::frmZentSend job(s.platform, s.state, s.form);
+    send::frmZentSend job(s.platform, s.state, s.form, s.keeper);
     job.load();
     job.MSGSendCount = static_cast<int>(s.form.recipients.ListView1.checked_count());
     job.SEND_SINGLES(kind);
