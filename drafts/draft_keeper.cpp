@@ -1,6 +1,7 @@
 #include "drafts/draft_keeper.h"
 
 #include "core/boxes.h"
+#include "gateway/gateway.h"
 #include "platform/error.h"
 
 #include <functional>
@@ -163,7 +164,7 @@ void DraftKeeper::before_submit(const std::vector<std::size_t>& rows) {
     if (!notes_job_) return;
     for (const std::size_t row : rows) {
         KeptRecipient recipient = recipient_of(list_.row(row));
-        recipient.status = compose::UNCONFIRMED;
+        recipient.status = gateway::NO_ANSWER;
         recipient.checked = false;
         put_row(row, recipient);
     }

@@ -1,6 +1,7 @@
 #include "drafts/offer.h"
 
 #include "compose/message_kinds.h"
+#include "gateway/gateway.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
 
@@ -43,7 +44,7 @@ Text count(std::size_t people) { return platform::format_number(static_cast<doub
 void RecipientCounts::add(const platform::KeptRecipient& recipient) {
     ++all;
     if (recipient.checked) ++to_send;
-    if (recipient.status == compose::UNCONFIRMED) ++unconfirmed;
+    if (recipient.status == gateway::NO_ANSWER) ++unconfirmed;
 }
 
 Text summary(const KeptDraft& draft, const RecipientCounts& recipients) {
@@ -61,7 +62,7 @@ Text question(const KeptDraft& draft, const RecipientCounts& recipients) {
                 count(recipients.all - recipients.to_send);
     if (recipients.unconfirmed > 0)
         text += u"\r\n\r\n확인필요 " + count(recipients.unconfirmed) + Text(CRLF) +
-                Text(compose::UNCONFIRMED_MEANS);
+                Text(gateway::NO_ANSWER_MEANS);
     return text;
 }
 

@@ -97,7 +97,7 @@ Text frmZentSend::submit(SendJob& job, const std::vector<std::size_t>& rows, boo
 void frmZentSend::take_answer(const SendJob& job, const std::vector<std::size_t>& rows, bool decides,
                               const Text& result) {
     const bool registered = result == gateway::REGISTERED;
-    const bool unconfirmed = result == compose::UNCONFIRMED;
+    const bool unconfirmed = result == gateway::NO_ANSWER;
     for (const std::size_t row : rows) {
         const Text& pieces = RecipientRows.row(row).sub_item(compose::RECIPIENT_PIECES);
         if (registered && job.all_pieces > 1)
@@ -125,7 +125,7 @@ void frmZentSend::close_session(const SendJob& job) {
 }
 
 void frmZentSend::count(SendJob& job, const Text& result, int recipients) {
-    if (result == compose::UNCONFIRMED) return;
+    if (result == gateway::NO_ANSWER) return;
     (result == gateway::REGISTERED ? job.success : job.failure) += recipients;
 }
 
@@ -135,7 +135,7 @@ void frmZentSend::write_status(std::size_t first_row, std::size_t end_row, const
     for (std::size_t row = first_row; row < end_row; ++row) {
         if (!RecipientRows.row(row).checked()) continue;
         RecipientRows.set_sub_item(row, compose::RECIPIENT_STATUS, status);
-        if (status == gateway::REGISTERED || status == compose::UNCONFIRMED)
+        if (status == gateway::REGISTERED || status == gateway::NO_ANSWER)
             RecipientRows.set_checked(row, false);
     }
 }

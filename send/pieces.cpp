@@ -1,6 +1,7 @@
 #include "send/pieces.h"
 
 #include "core/byte_length.h"
+#include "gateway/gateway.h"
 #include "platform/text/number.h"
 
 #include <algorithm>
@@ -80,10 +81,10 @@ Text open_ends(const platform::ListView& recipients) {
     if (!text.empty()) text = Text(CRLF) + text + u"\r\n 다시 보내면 등록되지 않은 나머지만 이어서 보낼 수 있습니다.";
     int unconfirmed = 0;
     for (std::size_t row = 0; row < recipients.row_count(); ++row)
-        unconfirmed += recipients.row(row).sub_item(compose::RECIPIENT_STATUS) == compose::UNCONFIRMED;
+        unconfirmed += recipients.row(row).sub_item(compose::RECIPIENT_STATUS) == gateway::NO_ANSWER;
     if (unconfirmed > 0)
         text += u"\r\n\r\n 확인필요: " + platform::decimal(unconfirmed) + u"건\r\n " +
-                Text(compose::UNCONFIRMED_MEANS);
+                Text(gateway::NO_ANSWER_MEANS);
     return text;
 }
 

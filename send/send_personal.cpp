@@ -62,7 +62,7 @@ void frmZentSend::send_personal_row(SendJob& job, std::size_t row) {
         // it again.
         if (mText1.text().empty()) count(job, result, 1);
         close_session(job);
-        if (result == compose::UNCONFIRMED) return;
+        if (result == gateway::NO_ANSWER) return;
     }
     write_status(row, row + 1, result);
 }
