@@ -5,33 +5,34 @@
 #include "platform/error.h"
 #include "platform/text/cp949.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 
 namespace gateway {
 
-using platform::CarrierCallback;
 using platform::Text;
 
 namespace {
 
 using Int = std::int32_t;
 
-// The library may call these while it works. They only let it go on: nothing that it reports is of use here.
-Int GATEWAY_NOTIFY_6(Int, Int, Int, Int, Int, Int) { return 1; }
-Int GATEWAY_NOTIFY_8(Int, Int, Int, Int, Int, Int, Int, Int) { return 1; }
-Int GATEWAY_NOTIFY_11(Int, Int, Int, Int, Int, Int, Int, Int, Int, Int, Int) { return 1; }
-
-template <class Function>
-CarrierCallback callback(Function* function) {
-    return reinterpret_cast<CarrierCallback>(function);
-}
+/// The bytes of texts, one of which may be the password: overwritten before their memory is another's.
+template <std::size_t N>
+struct PassingBytes : std::array<std::string, N> {
+    ~PassingBytes() {
+        for (std::string& text : *this) {
+            volatile char* bytes = text.data();
+            std::fill_n(bytes, text.size(), '\0');
+        }
+    }
+};
 
 /// Passes the variables as bytes of cp949 and reads back what the library left in them. It rewrites inputs
 /// too.
 template <std::size_t N, class Call>
 Int with_texts(const std::array<Text*, N>& texts, Call call) {
-    std::array<std::string, N> bytes;
+    PassingBytes<N> bytes;
     for (std::size_t i = 0; i < N; ++i) bytes[i] = platform::encode_cp949(*texts[i]);
     const Int result = call(bytes);
     for (std::size_t i = 0; i < N; ++i) *texts[i] = platform::decode_cp949(bytes[i]);
@@ -92,13 +93,12 @@ bool Gateway::exchange(Call call) {
 
 bool Gateway::GATEWAY_BIND(int mode) {
     return exchange([&] {
-        const CarrierCallback notify = mode == 1 ? callback(GATEWAY_NOTIFY_8) : callback(GATEWAY_NOTIFY_6);
-        return with_texts(std::array{&state_.session.gLoginUserId, &state_.session.gLoginPassword,
-                                     &state_.session.gServiceDomain},
-                          [&](auto& t) {
-                              return platform_.carrier.fn_x_bind(1, t[0], t[1], t[2], 1, notify, 0,
-                                                                 callback(GATEWAY_NOTIFY_11));
-                          });
+        using Notify = platform::CarrierLibrary::Notify;
+        const Notify notify = mode == 1 ? Notify::eight : Notify::six;
+        return with_texts(
+            std::array{&state_.session.gLoginUserId, &state_.session.gLoginPassword,
+                       &state_.session.gServiceDomain},
+            [&](auto& t) { return platform_.carrier.fn_x_bind(1, t[0], t[1], t[2], 1, notify, 0); });
     });
 }
 
@@ -148,7 +148,7 @@ bool Gateway::GATEWAY_USER_INFO() {
 
 Text Gateway::UMS_SEND_START(const UmsMessage& message) {
     using platform::encode_cp949;
-    platform::CarrierLibrary::Submit submit{
+    const platform::CarrierLibrary::Submit submit{
         .s_data_type = message.s_data_type,
         .s_data_sub_type = message.s_data_sub_type,
         .user_id = encode_cp949(state_.session.gLoginUserId),
@@ -171,6 +171,8 @@ Text Gateway::UMS_SEND_START(const UmsMessage& message) {
         const core::BusyPointer busy(platform_.desktop);
         return GATEWAY_RESULT_TEXT(message.SMSIndex == 1 ? platform_.carrier.fn_x_submit_2(submit)
                                                          : platform_.carrier.fn_x_submit(submit));
+    } catch (const platform::NoAnswer&) {
+        return Text(NO_ANSWER);
     } catch (const platform::RuntimeError& error) {
         return u"등록실패-" + platform::decimal(error.number());
     }

@@ -10,6 +10,10 @@ namespace gateway {
 /// What a row shows for a recipient that has been registered. The send job counts successes by it.
 inline constexpr platform::TextView REGISTERED = u"등록성공";
 
+/// What a row shows for a recipient whose registration was asked for and never answered: it may have been
+/// made or not, so it counts as neither.
+inline constexpr platform::TextView NO_ANSWER = u"확인필요";
+
 /// The carrier's result code for the user: the word of success for 1, otherwise the code with its meaning.
 platform::Text GATEWAY_RESULT_TEXT(std::int32_t code);
 
@@ -54,8 +58,8 @@ class Gateway {
     /// Fills the four `gInfo` variables; what the library does not fill is blank afterwards.
     bool GATEWAY_USER_INFO();
 
-    /// Registers a message. Returns "등록성공", the text of the carrier's refusal, or for an error on the way
-    /// "등록실패-" with its number: no box, the job goes on.
+    /// Registers a message. Returns "등록성공", the text of the carrier's refusal, NO_ANSWER, or for another
+    /// error on the way "등록실패-" with its number: no box, the job goes on.
     platform::Text UMS_SEND_START(const UmsMessage& message);
 
   private:

@@ -43,6 +43,8 @@ Text description_of(ErrorNumber number) {
             return u"속성 값이 잘못되었습니다.";
         case ErrorNumber::no_such_export:
             return u"지정한 DLL 함수를 찾을 수 없습니다.";
+        case ErrorNumber::server_unavailable:
+            return u"원격 서버가 없거나 사용할 수 없습니다.";
         case ErrorNumber::dialog_cancelled:
             return u"취소를 선택했습니다.";
         case ErrorNumber::no_current_record:

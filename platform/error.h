@@ -24,6 +24,7 @@ enum class ErrorNumber {
     path_not_found = 76,
     invalid_property_value = 380,
     no_such_export = 453,
+    server_unavailable = 462,
     library_not_loaded = 48,
     dialog_cancelled = 32755,
     // Errors of the card database, as its provider numbers them.

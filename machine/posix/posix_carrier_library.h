@@ -13,9 +13,8 @@ namespace machine::posix {
 class PosixCarrierLibrary : public platform::CarrierLibrary {
   public:
     std::int32_t fn_x_bind(std::int32_t argument1, std::string& user_id, std::string& password,
-                           std::string& service_domain, std::int32_t argument5,
-                           platform::CarrierCallback argument6, std::int32_t argument7,
-                           platform::CarrierCallback argument8) override;
+                           std::string& service_domain, std::int32_t argument5, Notify argument6,
+                           std::int32_t argument7) override;
     std::int32_t fn_x_unbind(std::string& user_id, std::string& password) override;
     std::int32_t fn_x_money_status(std::string& user_id, std::string& service_domain,
                                    std::string& service_number, std::string& client_address,
@@ -24,8 +23,8 @@ class PosixCarrierLibrary : public platform::CarrierLibrary {
                                 std::string& service_number, std::string& client_address,
                                 std::string& info_service_number, std::string& info_user_name,
                                 std::string& info_sender_name, std::string& info_callback) override;
-    std::int32_t fn_x_submit(Submit& submit) override;
-    std::int32_t fn_x_submit_2(Submit& submit) override;
+    std::int32_t fn_x_submit(const Submit& submit) override;
+    std::int32_t fn_x_submit_2(const Submit& submit) override;
 
   private:
     struct Unload {

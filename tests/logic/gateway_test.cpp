@@ -11,7 +11,6 @@
 namespace {
 
 using namespace gateway;
-using platform::CarrierCallback;
 using platform::Text;
 using tests::utf8;
 using Texts = std::vector<std::string>;
@@ -70,14 +69,12 @@ TEST_F(Wrappers, PassTheSessionInCp949AndKeepWhatTheLibraryWrote) {
         (std::vector<int>{24, 1, 11, 44, 55}));
 }
 
-TEST_F(Wrappers, TheModeOfABindChoosesTheFirstCallbackAndEveryCallbackAnswersOne) {
-    carrier_gateway.GATEWAY_BIND(0);
-    const CarrierCallback six = carrier.notify;
-    EXPECT_EQ(reinterpret_cast<int (*)(int, int, int, int, int, int)>(six)(1, 2, 3, 4, 5, 6), 1);
-    carrier_gateway.GATEWAY_BIND(2);
-    EXPECT_EQ(carrier.notify, six) << "only 1 is the other mode";
-    carrier_gateway.GATEWAY_BIND(1);
-    EXPECT_NE(carrier.notify, six);
+TEST_F(Wrappers, TheModeOfABindChoosesItsCallback) {
+    using Notify = platform::CarrierLibrary::Notify;
+    for (const int mode : {0, 1, 2}) {
+        carrier_gateway.GATEWAY_BIND(mode);
+        EXPECT_EQ(carrier.notify, mode == 1 ? Notify::eight : Notify::six) << mode;
+    }
 }
 
 TEST_F(Wrappers, TheProfileArrivesInPaddedBuffersOfFixedLengths) {
@@ -131,6 +128,15 @@ TEST_F(Wrappers, AMissingExportIsShownInABoxWithThePointerRestored) {
     }
 }
 
+TEST_F(Wrappers, ACallThatIsNeverAnsweredIsShownLikeAMissingExport) {
+    for (const Wrapper& wrapper : wrappers()) {
+        carrier.silent = {wrapper.operation};
+        desktop.expect_box(u"오류번호:462\r\n\r\nx_msggate_d.so에서 응답이 없어 처리 결과를 알 수 없습니다.");
+        EXPECT_FALSE(wrapper.call()) << wrapper.operation;
+        EXPECT_EQ(desktop.boxes.back().icon, platform::BoxIcon::critical);
+    }
+}
+
 struct Registrations : Wrappers {
     UmsMessage message{.s_data_type = 4,
                        .s_data_sub_type = 2,
@@ -173,6 +179,10 @@ TEST_F(Registrations, ARefusalAndAnErrorAreTextsForTheRowsWithoutABox) {
     EXPECT_EQ(utf8(carrier_gateway.UMS_SEND_START(message)), "등록실패X8(착신자수초과)");
     carrier.missing = {"submit"};
     EXPECT_EQ(utf8(carrier_gateway.UMS_SEND_START(message)), "등록실패-453");
+    carrier.silent = {"submit_2"};
+    message.SMSIndex = 1;
+    EXPECT_EQ(utf8(carrier_gateway.UMS_SEND_START(message)), "확인필요");
+    EXPECT_EQ(carrier.waited, platform::CarrierLibrary::LONGEST_WAIT);
     EXPECT_EQ(desktop.pointer, platform::Pointer::normal);
 }
 

@@ -26,6 +26,11 @@ int RecordingCarrier::count(const std::string& operation) const {
 std::int32_t RecordingCarrier::result(const std::string& operation) {
     if (missing.contains(operation)) throw platform::RuntimeError(platform::ErrorNumber::no_such_export);
     calls.push_back(operation);
+    if (silent.contains(operation)) {
+        constexpr std::chrono::milliseconds SLICE{500};
+        for (waited = SLICE; waits_on(waited);) waited += SLICE;
+        throw platform::NoAnswer();
+    }
     const auto ordered = results.find({operation, count(operation)});
     return ordered == results.end() ? 1 : ordered->second;
 }
@@ -39,9 +44,8 @@ void RecordingCarrier::take(std::initializer_list<std::string*> texts) {
 }
 
 std::int32_t RecordingCarrier::fn_x_bind(std::int32_t one, std::string& user_id, std::string& password,
-                                         std::string& domain, std::int32_t five,
-                                         platform::CarrierCallback six, std::int32_t seven,
-                                         platform::CarrierCallback) {
+                                         std::string& domain, std::int32_t five, Notify six,
+                                         std::int32_t seven) {
     bound_user = decode_cp949(user_id);
     bound_password = decode_cp949(password);
     bind_numbers = {one, five, seven};
@@ -87,12 +91,12 @@ std::int32_t RecordingCarrier::fn_x_user_info(std::string& user_id, std::string&
     return code;
 }
 
-std::int32_t RecordingCarrier::fn_x_submit(Submit& submit) {
+std::int32_t RecordingCarrier::fn_x_submit(const Submit& submit) {
     record(submit, false);
     return result("submit");
 }
 
-std::int32_t RecordingCarrier::fn_x_submit_2(Submit& submit) {
+std::int32_t RecordingCarrier::fn_x_submit_2(const Submit& submit) {
     record(submit, true);
     return result("submit_2");
 }

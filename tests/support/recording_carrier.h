@@ -42,6 +42,9 @@ class RecordingCarrier : public platform::CarrierLibrary {
     std::map<std::pair<std::string, int>, std::int32_t> results;
     /// Operations that the library lacks.
     std::set<std::string> missing;
+    /// Operations that never answer, and how long the last of them was waited for.
+    std::set<std::string> silent;
+    std::chrono::milliseconds waited{};
     /// Run at every submit, before its answer, and at every other call.
     std::function<void()> at_submit;
     std::function<void()> at_call;
@@ -52,24 +55,23 @@ class RecordingCarrier : public platform::CarrierLibrary {
     std::vector<std::string> calls;
     std::vector<Registration> registrations;
     platform::Text bound_user, bound_password;
-    /// The texts of all calls except submits, as bytes; the numbers and the first callback of the last bind.
+    /// The texts of all calls except submits, as bytes; the numbers and the callback of the last bind.
     std::vector<std::string> arguments;
     std::vector<std::int32_t> bind_numbers;
-    platform::CarrierCallback notify = nullptr;
+    Notify notify = Notify::six;
 
     int count(const std::string& operation) const;
 
     std::int32_t fn_x_bind(std::int32_t one, std::string& user_id, std::string& password, std::string& domain,
-                           std::int32_t five, platform::CarrierCallback six, std::int32_t seven,
-                           platform::CarrierCallback eight) override;
+                           std::int32_t five, Notify six, std::int32_t seven) override;
     std::int32_t fn_x_unbind(std::string& user_id, std::string& password) override;
     std::int32_t fn_x_money_status(std::string& user_id, std::string& domain, std::string& number,
                                    std::string& address, MoneyStatus& status) override;
     std::int32_t fn_x_user_info(std::string& user_id, std::string& domain, std::string& number,
                                 std::string& address, std::string& service_number, std::string& user_name,
                                 std::string& sender_name, std::string& callback) override;
-    std::int32_t fn_x_submit(Submit& submit) override;
-    std::int32_t fn_x_submit_2(Submit& submit) override;
+    std::int32_t fn_x_submit(const Submit& submit) override;
+    std::int32_t fn_x_submit_2(const Submit& submit) override;
 
   private:
     void take(std::initializer_list<std::string*> texts);
