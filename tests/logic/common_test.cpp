@@ -150,7 +150,7 @@ TEST_F(Paths, ATypedFileOpensOrIsNamedInABox) {
     SHELL_OPEN_CHECKED(platform, u"");
     SHELL_OPEN_CHECKED(platform, u"c:\\a.wav");
     EXPECT_EQ(shell.opened, std::vector<Text>{u"c:\\a.wav"});
-    desktop.expect_box(u"c:\\b.wav\r\n\r\n파일을 찾을 수 없습니다!");
+    desktop.expect_box(tests::critical(u"c:\\b.wav\r\n\r\n파일을 찾을 수 없습니다!"));
     SHELL_OPEN_CHECKED(platform, u"c:\\b.wav");
     EXPECT_EQ(shell.opened.size(), 1u);
 }

@@ -16,23 +16,26 @@ using tests::press;
 using tests::utf8;
 using Calls = std::vector<std::string>;
 
-constexpr platform::TextView FAILURE =
+const platform::MessageBox FAILURE = tests::refusal(
     u"아이디에 해당하는 비밀번호와 입력하신 비밀번호가 일치하지 않습니다.\r\n"
     u"아래내용을 체크해 보시기 바랍니다.\r\n\r\n"
     u"! 인터넷 연결이 안된 경우\r\n"
     u"! 아이디를 잘못 알고 계신 경우\r\n"
     u"! 비밀번호를 잘못 알고 계신 경우\r\n"
     u"! 대소문자 구별없이 비밀번호를 입력하신 경우\r\n"
-    u"(비밀번호가 대소문자로 이루어졌다면, 다르게 인식되오니 구별하여 입력하시기 바랍니다.\r\n";
-constexpr platform::TextView POP =
+    u"(비밀번호가 대소문자로 이루어졌다면, 다르게 인식되오니 구별하여 입력하시기 바랍니다.\r\n",
+    u"로그인 실패");
+const platform::MessageBox POP = tests::refusal(
     u"폰디라 팝에 가입한 경우에는 폰디라 팝을 해지하고 폰디라 프로 또는 폰디라 파트너로 "
-    u"서비스를 전환하셔야 합니다.";
-constexpr platform::TextView CHANGE_SERVICE =
+    u"서비스를 전환하셔야 합니다.");
+const platform::MessageBox CHANGE_SERVICE = tests::question(
     u"Cardvale 폰디라 통합메시징 서비스 연동기능(UMS)을 사용하시려면 폰디라 프로 또는 폰디라 파트너로 "
-    u"서비스를 전환하셔야 합니다. 지금 신청서를 다운받으시겠습니까?";
-constexpr platform::TextView REGISTER =
+    u"서비스를 전환하셔야 합니다. 지금 신청서를 다운받으시겠습니까?",
+    u"KT 폰디라 신규등록 및 서비스 전환 안내", BoxIcon::exclamation);
+const platform::MessageBox REGISTER = tests::question(
     u"KT 폰디라 통합 메시징 서비스(UMS) 연동 기능을 이용하기 위해서는 KT 폰디라 회원등록 및 결제방법을 "
-    u"'전화요금합산청구'로 신청을 하셔야 합니다.\r\n\r\n지금 KT 폰디라에 등록하시겠습니까?";
+    u"'전화요금합산청구'로 신청을 하셔야 합니다.\r\n\r\n지금 KT 폰디라에 등록하시겠습니까?",
+    u"KT 폰디라 등록 안내", BoxIcon::exclamation);
 
 const std::string SIGN_UP_PAGE = "KT 폰디라 신규 가입|" + utf8(core::deployment::service_site()) +
                                  "/kelmora/htm/register/default.jsp?code=07190533026|";
@@ -45,12 +48,6 @@ struct Session : testing::Test, tests::MainWindow {
         form.load();
     }
 
-    void expect_shown(platform::TextView text, BoxIcon icon, const char* title) const {
-        ASSERT_EQ(desktop.boxes.size(), 1u);
-        EXPECT_EQ(utf8(desktop.boxes[0].text), utf8(text));
-        EXPECT_EQ(desktop.boxes[0].icon, icon);
-        EXPECT_EQ(utf8(desktop.boxes[0].title), title);
-    }
     void expect_logged_out() const {
         EXPECT_FALSE(state.session.gLoggedIn);
         EXPECT_FALSE(state.session.gLoginResult);
@@ -165,8 +162,8 @@ TEST_F(ManualLogin, TakesTheProfilesNamesIfNoneAreSavedAndLeavesTypedTexts) {
 }
 
 TEST_F(ManualLogin, AsksForAMissingIdOrPassword) {
-    desktop.expect_box(u"KT 폰디라 아이디를 입력하여 주십시오.");
-    desktop.expect_box(u"비밀번호를 입력하여 주십시오.");
+    desktop.expect_box(tests::refusal(u"KT 폰디라 아이디를 입력하여 주십시오.", u"로그인 실패"));
+    desktop.expect_box(tests::refusal(u"비밀번호를 입력하여 주십시오.", u"로그인 실패"));
     in_login([&](gateway::frmZentLogin& login) {
         enter(login, u"   ", u"secret");
         EXPECT_TRUE(login.Text1.has_focus());
@@ -200,7 +197,7 @@ TEST_F(ManualLogin, EnterMovesToThePasswordAndThenLogsIn) {
 
 TEST_F(ManualLogin, AFailedBindIsExplainedAndTheFormStaysForAnotherTry) {
     carrier.results[{"bind", 1}] = 2;
-    desktop.expect_box(Text(FAILURE));
+    desktop.expect_box(FAILURE);
     in_login([&](gateway::frmZentLogin& login) {
         enter(login, u"hong", u"wrong");
         clock.run_for(10);
@@ -212,33 +209,30 @@ TEST_F(ManualLogin, AFailedBindIsExplainedAndTheFormStaysForAnotherTry) {
         enter(login, u"hong", u"right");
     });
     form.session.cmdLogin.Click.raise();
-    expect_shown(FAILURE, BoxIcon::exclamation, "로그인 실패");
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINPW"), "right");
 }
 
 TEST_F(ManualLogin, ChecksTheTypeOfServiceButNotItsState) {
-    constexpr const char* CHANGE_TITLE = "KT 폰디라 신규등록 및 서비스 전환 안내";
     const struct {
         int type, state;
-        platform::TextView box;
-        const char* title;
+        const platform::MessageBox* box = nullptr;
         BoxAnswer answer = BoxAnswer::ok;
     } rows[] = {
-        {23, 2, {}, ""},
-        {24, 9, {}, ""},
-        {25, 0, POP, ""},
-        {22, 0, CHANGE_SERVICE, CHANGE_TITLE, BoxAnswer::no},
-        {26, 0, CHANGE_SERVICE, CHANGE_TITLE, BoxAnswer::yes},
+        {23, 2},
+        {24, 9},
+        {25, 0, &POP},
+        {22, 0, &CHANGE_SERVICE, BoxAnswer::no},
+        {26, 0, &CHANGE_SERVICE, BoxAnswer::yes},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.type);
-        const bool accepted = row.box.empty();
-        desktop.boxes.clear(), carrier.calls.clear();
+        const bool accepted = !row.box;
+        carrier.calls.clear();
         save_account(u"", u"");
         carrier.service_type = row.type;
         carrier.service_state = row.state;
-        if (!accepted) desktop.expect_box(Text(row.box), row.answer);
+        if (!accepted) desktop.expect_box(*row.box, row.answer);
         if (row.answer == BoxAnswer::yes) close_guidance();
         desktop.forms.clear();
         in_login([&](gateway::frmZentLogin& login) {
@@ -258,7 +252,6 @@ TEST_F(ManualLogin, ChecksTheTypeOfServiceButNotItsState) {
             EXPECT_EQ(state.session.gServiceState, row.state);
         } else {
             expect_logged_out();
-            expect_shown(row.box, BoxIcon::exclamation, row.title);
         }
     }
 }
@@ -274,7 +267,7 @@ TEST_F(ManualLogin, SucceedsWithoutAProfileAndAsksForNoneWithoutAMoneyStatus) {
     state.session.gServiceType = 22;
     carrier.calls.clear();
     carrier.results[{"money_status", 1}] = 7;
-    desktop.expect_box(Text(CHANGE_SERVICE), BoxAnswer::no);
+    desktop.expect_box(CHANGE_SERVICE, BoxAnswer::no);
     in_login([&](gateway::frmZentLogin& login) {
         enter(login, u"hong", u"secret");
         clock.run_for(10);
@@ -296,12 +289,12 @@ TEST_F(AutomaticLogin, ChecksTheStateOfTheServiceButNotItsType) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.state);
         const bool accepted = row.state < 2, usable = row.type != 22;
-        desktop.boxes.clear(), carrier.calls.clear();
+        carrier.calls.clear();
         carrier.service_type = row.type;
         carrier.service_state = row.state;
         Calls pages;
         if (!accepted) {
-            desktop.expect_box(Text(REGISTER), row.answer);
+            desktop.expect_box(REGISTER, row.answer);
             cancel_login();
         }
         if (row.answer == BoxAnswer::yes) tests::read_next_page(desktop, pages);
@@ -314,7 +307,6 @@ TEST_F(AutomaticLogin, ChecksTheStateOfTheServiceButNotItsType) {
                 << "the buttons alone say that it is of no use";
         } else {
             expect_logged_out();
-            expect_shown(REGISTER, BoxIcon::exclamation, "KT 폰디라 등록 안내");
         }
     }
 }
@@ -338,7 +330,7 @@ TEST_F(AutomaticLogin, WritesNothingAndDoesNotStopThePolling) {
 TEST_F(AutomaticLogin, AFailedBindIsExplainedAndTheManualFormMayStillSucceed) {
     save_account(u"hong", u"old");
     carrier.results[{"bind", 1}] = 2;
-    desktop.expect_box(Text(FAILURE));
+    desktop.expect_box(FAILURE);
     log_in(u"hong", u"new");
     form.session.AUTO_LOGIN_START();
     EXPECT_EQ(desktop.forms, (std::vector<Text>{u"frmAutoLogin", u"frmZentLogin"}));
@@ -349,18 +341,16 @@ TEST_F(AutomaticLogin, AFailedBindIsExplainedAndTheManualFormMayStillSucceed) {
 // Log-out.
 
 TEST_F(LogOut, AsksAndThenForgetsTheLogin) {
-    form.session.cmdLogOut.Click.raise();
-    EXPECT_TRUE(desktop.boxes.empty()) << "nobody is logged in";
+    form.session.cmdLogOut.Click.raise();  // nobody is logged in, nobody is asked
 
     log_in(u"hong", u"secret");
     form.session.cmdLogin.Click.raise();
     carrier.calls.clear();
-    desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::no);
+    desktop.expect_box(tests::LOG_OUT, BoxAnswer::no);
     form.session.cmdLogOut.Click.raise();
     EXPECT_TRUE(state.session.gLoggedIn);
-    expect_shown(u"Cardvale 폰디라 통합메시징 서비스 로그아웃 하시겠습니까?", BoxIcon::question, "");
 
-    desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::yes);
+    desktop.expect_box(tests::LOG_OUT, BoxAnswer::yes);
     form.session.cmdLogOut.Click.raise();
     expect_logged_out();
     EXPECT_TRUE(carrier.calls.empty()) << "nothing is bound";

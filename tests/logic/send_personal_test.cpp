@@ -114,7 +114,7 @@ TEST(SendPersonal, AStopIsShownAfterTheRowBeingSentEvenTheLast) {
         Personal s(u"{이름}님");
         s.add_many(3);
         s.stop_at_pause(pause);
-        s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+        s.desktop.expect_box(tests::JOB_IS_STOPPED);
         s.send();
         EXPECT_EQ(s.marks(), pause == 1 ? "-xx" : "---");
     }

@@ -147,7 +147,7 @@ TEST_F(ServicePages, SaveOnlyHarmlessFilesWhereTheUserWantsThem) {
         }
         files.files[place] = "old";
         desktop.expect_file_dialog(u"파일 저장", place);
-        desktop.expect_box(u"덮어쓰시겠습니까", platform::BoxAnswer::cancel);
+        desktop.expect_box(tests::overwrite_question(place), platform::BoxAnswer::cancel);
         platform::PageFile file{.name = u"a.wav", .path = {}};
         web.WebBrowser.FileOffered.raise(file);
         EXPECT_TRUE(file.path.empty());

@@ -11,29 +11,33 @@ using platform::Text;
 
 ScriptedDesktop::~ScriptedDesktop() {
     for (const Expected& box : expected_boxes_) {
-        ADD_FAILURE() << "a box never came: " << platform::to_utf8(box.part);
+        ADD_FAILURE() << "a box never came: " << described(box.box) << platform::to_utf8(box.part);
     }
     for (const ExpectedDialog& dialog : expected_dialogs_) {
         ADD_FAILURE() << "a file dialog never came: " << platform::to_utf8(dialog.title);
     }
     for (const ExpectedInput& input : expected_inputs_) {
-        ADD_FAILURE() << "an input box never came: " << platform::to_utf8(input.part);
+        ADD_FAILURE() << "an input box never came: " << described(input.box);
     }
     for (const auto& [name, acts] : acts_) {
         if (!acts.empty()) ADD_FAILURE() << "a form never opened: " << platform::to_utf8(name);
     }
 }
 
+void ScriptedDesktop::expect_box(platform::MessageBox box, BoxAnswer answer) {
+    expected_boxes_.push_back({std::move(box), {}, answer});
+}
+
 void ScriptedDesktop::expect_box(Text part, BoxAnswer answer) {
-    expected_boxes_.push_back({std::move(part), answer});
+    expected_boxes_.push_back({{}, std::move(part), answer});
 }
 
 void ScriptedDesktop::expect_file_dialog(Text title, std::optional<Text> chosen) {
     expected_dialogs_.push_back({std::move(title), std::move(chosen)});
 }
 
-void ScriptedDesktop::expect_input(Text part, Text answer) {
-    expected_inputs_.push_back({std::move(part), std::move(answer)});
+void ScriptedDesktop::expect_input(platform::InputBox box, Text answer) {
+    expected_inputs_.push_back({std::move(box), std::move(answer)});
 }
 
 void ScriptedDesktop::in_form(Text name, std::function<void(platform::Form&)> act) {
@@ -81,18 +85,19 @@ BoxAnswer ScriptedDesktop::message_box(const platform::MessageBox& box) {
     boxes.push_back(box);
     during_box();
     if (expected_boxes_.empty() && any_box) return *any_box;
-    const bool expected =
-        !expected_boxes_.empty() && platform::contains(box.text, expected_boxes_.front().part);
-    if (!expected) {
-        ADD_FAILURE() << "unexpected box: " << platform::to_utf8(box.text)
-                      << (expected_boxes_.empty()
-                              ? std::string()
-                              : "\nexpected: " + platform::to_utf8(expected_boxes_.front().part));
+    if (expected_boxes_.empty()) {
+        ADD_FAILURE() << "unexpected box: " << described(box);
         return box.buttons == platform::BoxButtons::ok ? BoxAnswer::ok : BoxAnswer::no;
     }
-    const BoxAnswer answer = expected_boxes_.front().answer;
+    const Expected expected = std::move(expected_boxes_.front());
     expected_boxes_.pop_front();
-    return answer;
+    const bool same = expected.part.empty() ? described(box) == described(expected.box)
+                                            : platform::contains(box.text, expected.part);
+    if (!same) {
+        ADD_FAILURE() << "another box: " << described(box) << "\nexpected: " << described(expected.box)
+                      << platform::to_utf8(expected.part);
+    }
+    return expected.answer;
 }
 
 std::optional<Text> ScriptedDesktop::ask_for_file(const platform::FileQuestion& question) {
@@ -107,15 +112,15 @@ std::optional<Text> ScriptedDesktop::ask_for_file(const platform::FileQuestion& 
 }
 
 Text ScriptedDesktop::input_box(const platform::InputBox& box) {
-    input_boxes.push_back(box);
     if (expected_inputs_.empty() && any_input) return *any_input;
-    if (expected_inputs_.empty() || !platform::contains(box.prompt, expected_inputs_.front().part)) {
-        ADD_FAILURE() << "unexpected input box: " << platform::to_utf8(box.prompt);
+    if (expected_inputs_.empty()) {
+        ADD_FAILURE() << "unexpected input box: " << described(box);
         return {};
     }
-    const Text answer = expected_inputs_.front().answer;
+    const ExpectedInput expected = std::move(expected_inputs_.front());
     expected_inputs_.pop_front();
-    return answer;
+    EXPECT_EQ(described(box), described(expected.box));
+    return expected.answer;
 }
 
 }  // namespace tests
