@@ -76,8 +76,10 @@ void frmZent::restore_placement() {
         set_window_state(WindowState::maximised);
         return;
     }
-    move({.left = std::max(std::min(twips(state_.window.gWinLeft), screen.width - 1000), 0),
-          .top = std::min(std::max(twips(state_.window.gWinTop), 0), screen.height - 600),
+    const int last_left = screen.left + screen.width - 1000;
+    const int last_top = screen.top + screen.height - 600;
+    move({.left = std::max(std::min(twips(state_.window.gWinLeft), last_left), screen.left),
+          .top = std::min(std::max(twips(state_.window.gWinTop), screen.top), last_top),
           .width = std::min(twips(state_.window.gWinWidth), screen.width),
           .height = std::min(twips(state_.window.gWinHeight), screen.height)});
     if (placement().width <= 0 || placement().height <= 0) move(centre);

@@ -48,8 +48,10 @@ struct InputBox {
 
 enum class Pointer { normal, hourglass };
 
-/// The monitor's size in twips, and how many twips a pixel has.
+/// The part of the monitor that panels leave to windows, in twips, and how many twips a pixel has.
 struct Screen {
+    int left = 0;
+    int top = 0;
     int width = 0;
     int height = 0;
     int twips_per_pixel_x = 15;

@@ -338,6 +338,16 @@ TEST_F(AutomaticLogin, AFailedBindIsExplainedAndTheManualFormMayStillSucceed) {
     EXPECT_EQ(saved_login(u"LOGINPW"), "new");
 }
 
+TEST_F(AutomaticLogin, SendsAPasswordInQuotationMarksAsItWasTyped) {
+    for (const char16_t* password : {u"\"ab\"", u"'ab'", u"\"\"", u"\"", u"\"ab'", u"a\"b"}) {
+        log_in(u"hong", password);
+        form.session.cmdLogin.Click.raise();
+        carrier.bound_password.clear();
+        form.session.AUTO_LOGIN_START();
+        EXPECT_EQ(utf8(carrier.bound_password), utf8(password));
+    }
+}
+
 // Log-out.
 
 TEST_F(LogOut, AsksAndThenForgetsTheLogin) {

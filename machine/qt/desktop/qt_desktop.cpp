@@ -141,8 +141,13 @@ void QtDesktop::set_pointer(Pointer pointer) {
 void QtDesktop::set_clipboard(const Text& text) { QGuiApplication::clipboard()->setText(to_qstring(text)); }
 
 platform::Screen QtDesktop::screen() const {
-    const QSize size = QGuiApplication::primaryScreen()->availableSize();
-    return {to_twips(size.width()), to_twips(size.height()), TWIPS_PER_PIXEL, TWIPS_PER_PIXEL};
+    const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
+    return {.left = to_twips(free.left()),
+            .top = to_twips(free.top()),
+            .width = to_twips(free.width()),
+            .height = to_twips(free.height()),
+            .twips_per_pixel_x = TWIPS_PER_PIXEL,
+            .twips_per_pixel_y = TWIPS_PER_PIXEL};
 }
 
 void QtDesktop::set_application_title(const Text& title) { title_ = to_qstring(title); }
