@@ -12,6 +12,7 @@
 #include <QLocale>
 
 int main(int argc, char** argv) {
+    machine::posix::forbid_core();
     machine::posix::take_file_size_limit_as_full_disk();
     machine::qt::QtApplication qt(argc, argv);
     QApplication::setStyle(new machine::qt::DeskStyle);
