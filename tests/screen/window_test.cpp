@@ -20,6 +20,8 @@ using WindowTest = ScreenTest;
 TEST_F(WindowTest, FormAndWindowKeepEachOtherUpToDate) {
     auto& window = find("_centre");
     QWidget& frame = *window.window();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return form.activations > 0; }));
+    settle();
     EXPECT_EQ(form.activations, 1) << "once for the first showing, whenever the desktop activates it";
     form.set_caption(u"폰디라[문자메시지]");
     EXPECT_EQ(frame.windowTitle(), "폰디라[문자메시지]");
