@@ -2,6 +2,7 @@
 #include "app/desktop_machine.h"
 #include "core/boxes.h"
 #include "machine/posix/process.h"
+#include "machine/qt/desktop/end_requests.h"
 #include "machine/qt/desktop/qt_application.h"
 #include "machine/qt/desktop/qt_clock.h"
 #include "machine/qt/look/desk_style.h"
@@ -33,6 +34,7 @@ int main(int argc, char** argv) {
     });
 
     app::Application application(machine.platform);
+    const machine::qt::EndRequests requests([&machine] { machine.desktop.close_all(); });
     if (application.start()) machine.desktop.run_until_closed(application.main_form());
     return 0;
 }

@@ -122,6 +122,7 @@ bool frmZent::update_check_at_start() {
     return doors_.update_check_at_start();
 }
 
+/// Every end but a crash comes through here: the exit, the desktop's log-out, a signal.
 void frmZent::Form_Unload() {
     voice.RFK1.stop();
     sender.save();
