@@ -125,6 +125,7 @@ bool frmZent::update_check_at_start() {
     return doors_.update_check_at_start();
 }
 
+/// Every end but a crash comes through here: the exit, the desktop's log-out, a signal.
 void frmZent::Form_Unload() {
     voice.RFK1.stop();
     if (doors_.draft_ends) doors_.draft_ends();

@@ -32,7 +32,8 @@ class Desk:
 
     def start(self):
         korean = {"HOME": str(self.home), "LC_TIME": "ko_KR.UTF-8", "LC_NUMERIC": "ko_KR.UTF-8"}
-        self.program = subprocess.Popen(["./zent"], cwd=self.app, env={**os.environ, **korean})
+        # A menu entry starts it from any folder.
+        self.program = subprocess.Popen([self.app / "zent"], cwd="/", env={**os.environ, **korean})
 
     def close_program(self):
         self._wait_for_focus()

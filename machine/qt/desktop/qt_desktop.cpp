@@ -12,7 +12,6 @@
 #include <QEventLoop>
 #include <QMenu>
 #include <QScreen>
-#include <QTimer>
 
 /// Makes the linker keep the pictures, which are in a static library.
 static void load_pictures() { Q_INIT_RESOURCE(resource); }
@@ -46,6 +45,7 @@ void give_back_focus(QWidget* window) {
 QtDesktop::QtDesktop(const Screens& screens, platform::Files& files)
     : screens_(screens), files_(files), file_dialog_(files) {
     load_pictures();
+    QObject::connect(&closing_, &QTimer::timeout, [this] { close_front_window(); });
 }
 
 QtDesktop::~QtDesktop() {
@@ -58,6 +58,13 @@ void QtDesktop::run_until_closed(const Form& form) {
     wait_for_close(form);
     // No code of a closed window is running any more, so it can be deleted.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void QtDesktop::close_all() {
+    // A window closes when the event loop that it runs has ended, and what opened it may ask a question then.
+    constexpr int BETWEEN_WINDOWS = 50;
+    close_front_window();
+    closing_.start(BETWEEN_WINDOWS);
 }
 
 void QtDesktop::prepare(Form& form) {
@@ -178,6 +185,14 @@ QWidget* QtDesktop::front_window() const {
         if (window != nullptr && window->window().isVisible()) return &window->window();
     }
     return nullptr;
+}
+
+void QtDesktop::close_front_window() const {
+    // Work that only lets the windows paint is in the middle of something.
+    if (is_keeping_painted()) return;
+    QWidget* popup = QApplication::activePopupWidget();
+    QWidget* front = popup != nullptr ? popup : front_window();
+    if (front != nullptr) front->close();
 }
 
 void QtDesktop::wait_for_close(const Form& form) const {
