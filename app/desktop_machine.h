@@ -1,8 +1,8 @@
 #pragma once
 
+#include "machine/carrier/hosted_carrier_library.h"
 #include "machine/drafts/sqlite_draft_store.h"
 #include "machine/jet/jet_card_source.h"
-#include "machine/posix/posix_carrier_library.h"
 #include "machine/posix/posix_files.h"
 #include "machine/posix/posix_shell.h"
 #include "machine/qt/desktop/long_work.h"
@@ -15,13 +15,14 @@
 
 namespace app {
 
-/// The desktop machine: files and the carrier's library by POSIX, windows, sound and the network by Qt, cards
-/// out of the card manager's Jet file. The clock has to outlive it.
+/// The desktop machine: files by POSIX, the carrier's library in a process of its own, windows, sound and the
+/// network by Qt, cards out of the card manager's Jet file. The clock has to outlive it.
 struct DesktopMachine {
     DesktopMachine(const machine::posix::Paths& paths, machine::posix::PosixFiles machine_files,
                    platform::Clock& clock)
         : files(std::move(machine_files)),
           shell(paths, files.machine_path(files.windows_directory())),
+          carrier(paths.application_directory() + "/carrier-host", machine::qt::keep_painted),
           cards(paths, machine::qt::keep_painted),
           drafts(files.machine_path(files.windows_directory()), paths.application_directory()),
           platform{.desktop = desktop,
@@ -38,7 +39,7 @@ struct DesktopMachine {
     machine::posix::PosixFiles files;
     platform::IniSettings settings{files};
     machine::posix::PosixShell shell;
-    machine::posix::PosixCarrierLibrary carrier;
+    machine::carrier::HostedCarrierLibrary carrier;
     machine::jet::JetCardSource cards;
     machine::drafts::SqliteDraftStore drafts;
     machine::qt::LateRecorder recorder;

@@ -16,9 +16,7 @@ namespace {
 
 using compose::MessageKind;
 using platform::BoxAnswer;
-using platform::BoxButtons;
 using platform::BoxIcon;
-using platform::MessageBox;
 using platform::Text;
 using tests::utf8;
 
@@ -43,7 +41,9 @@ struct Run : tests::TestPlatform {
     std::string report;
 
     void expect_question(const Text& details, BoxAnswer answer) {
-        desktop.expect_box(u"지난번에 작성하던 메시지를 되살리시겠습니까?\r\n\r\n" + details, answer);
+        desktop.expect_box(tests::question(u"지난번에 작성하던 메시지를 되살리시겠습니까?\r\n\r\n" + details,
+                                           u"메시지 되살리기", BoxIcon::question),
+                           answer);
     }
     void add(const Text& name, const Text& number) { form.recipients.add(name, number, u"과장"); }
     void add_many(int count) {
@@ -51,7 +51,7 @@ struct Run : tests::TestPlatform {
             add(u"a" + platform::decimal(i), u"010" + platform::decimal(10'000'000 + i));
     }
     void write_long_text(std::size_t pieces) {
-        desktop.expect_box(u"80Byte이상 입력하시겠습니까?", BoxAnswer::yes);
+        desktop.expect_box(tests::long_text_question(), BoxAnswer::yes);
         form.text.mText1.set_text(Text(80 * pieces, u'x'));
     }
     void press_send() {

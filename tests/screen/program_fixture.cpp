@@ -55,6 +55,7 @@ void WindowPlayer::look() {
 
 ProgramTest::ProgramTest() {
     namespace fs = std::filesystem;
+    fs::copy_file(CARRIER_HOST, folder.path() / "carrier-host");
     fs::copy_file(CARRIER_LIBRARY, folder.path() / "x_msggate_d.so");
     fs::copy_file(CARRIER_INI, folder.path() / "carrier.ini");
 }

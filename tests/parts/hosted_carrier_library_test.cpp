@@ -1,4 +1,4 @@
-#include "machine/posix/posix_carrier_library.h"
+#include "machine/carrier/hosted_carrier_library.h"
 
 #include "machine/posix/process.h"
 #include "platform/error.h"
@@ -12,16 +12,16 @@
 namespace {
 
 using namespace platform;
-using machine::posix::PosixCarrierLibrary;
+using machine::carrier::HostedCarrierLibrary;
 namespace fs = std::filesystem;
 
 constexpr const char* LIBRARY = "x_msggate_d.so";
 
 /// The product's side of the library, with the stand-in's library in the current directory.
-class PosixCarrierLibraryTest : public tests::CarrierTest {
+class HostedCarrierLibraryTest : public tests::CarrierTest {
   protected:
     std::int32_t bind() {
-        return library.fn_x_bind(1, user_id, password, domain, 1, PosixCarrierLibrary::Notify::six, 0);
+        return library.fn_x_bind(1, user_id, password, domain, 1, HostedCarrierLibrary::Notify::six, 0);
     }
     std::int32_t user_info() {
         return library.fn_x_user_info(user_id, domain, number, address, info_number, info_user, info_sender,
@@ -29,8 +29,8 @@ class PosixCarrierLibraryTest : public tests::CarrierTest {
     }
     /// The error that a call of each export raises.
     std::vector<RuntimeError> errors_of_all() {
-        PosixCarrierLibrary::MoneyStatus status;
-        PosixCarrierLibrary::Submit submit;
+        HostedCarrierLibrary::MoneyStatus status;
+        HostedCarrierLibrary::Submit submit;
         const std::vector<std::function<void()>> calls = {
             [&] { bind(); },
             [&] { library.fn_x_unbind(user_id, password); },
@@ -55,7 +55,7 @@ class PosixCarrierLibraryTest : public tests::CarrierTest {
         return numbers;
     }
 
-    PosixCarrierLibrary library;
+    HostedCarrierLibrary library{CARRIER_HOST};
     std::string user_id = "demo";
     std::string password = "demo1234";
     std::string domain = "pondira.example";
@@ -67,7 +67,7 @@ class PosixCarrierLibraryTest : public tests::CarrierTest {
     std::string info_callback = std::string(20, ' ');
 };
 
-TEST_F(PosixCarrierLibraryTest, IsFoundFromWhereverTheProgramWasStarted) {
+TEST_F(HostedCarrierLibraryTest, IsFoundFromWhereverTheProgramWasStarted) {
     fs::copy_file(CARRIER_LIBRARY, folder.path() / LIBRARY, fs::copy_options::overwrite_existing);
     fs::current_path("/");
     machine::posix::enter_application_directory(machine::posix::Paths(folder.path()));
@@ -75,18 +75,18 @@ TEST_F(PosixCarrierLibraryTest, IsFoundFromWhereverTheProgramWasStarted) {
     EXPECT_NO_THROW(bind());
 }
 
-TEST_F(PosixCarrierLibraryTest, EveryArgumentArrivesInItsPlace) {
+TEST_F(HostedCarrierLibraryTest, EveryArgumentArrivesInItsPlace) {
     fs::copy_file(CARRIER_LIBRARY, LIBRARY);
     configure();
     std::ofstream("a.wav");
     ASSERT_EQ(bind(), 1);
 
-    PosixCarrierLibrary::MoneyStatus status;
+    HostedCarrierLibrary::MoneyStatus status;
     EXPECT_EQ(library.fn_x_money_status(user_id, domain, number, address, status), 1);
     EXPECT_EQ(status.service_type, 24);
     EXPECT_EQ(status.service_state, 1);
 
-    PosixCarrierLibrary::Submit submit;
+    HostedCarrierLibrary::Submit submit;
     submit.s_data_type = 11;
     submit.s_data_sub_type = 12;
     submit.user_id = "demo";
@@ -137,7 +137,7 @@ TEST_F(PosixCarrierLibraryTest, EveryArgumentArrivesInItsPlace) {
                     "tts|2|a.wav;A.WAV;"}));
 }
 
-TEST_F(PosixCarrierLibraryTest, BuffersKeepTheirLengthWhateverTheLibraryWrites) {
+TEST_F(HostedCarrierLibraryTest, BuffersKeepTheirLengthWhateverTheLibraryWrites) {
     fs::copy_file(CARRIER_LIBRARY, LIBRARY);
     for (const char* faults :
          {"", "[failures]\nno_nul=1\n", "[failures]\noverrun=200\n", "[failures]\nno_nul=1\noverrun=200\n"}) {
@@ -157,7 +157,7 @@ TEST_F(PosixCarrierLibraryTest, BuffersKeepTheirLengthWhateverTheLibraryWrites) 
     }
 }
 
-TEST_F(PosixCarrierLibraryTest, AFileThatIsNoLibraryGivesTheSameErrorAtEveryCall) {
+TEST_F(HostedCarrierLibraryTest, AFileThatIsNoLibraryGivesTheSameErrorAtEveryCall) {
     EXPECT_EQ(numbers_of(errors_of_all()), std::vector<int>(6, 48)) << "a missing file";
     std::ofstream(LIBRARY) << "no library\n";
     EXPECT_EQ(numbers_of(errors_of_all()), std::vector<int>(6, 48)) << "a text file";
@@ -176,7 +176,7 @@ TEST_F(PosixCarrierLibraryTest, AFileThatIsNoLibraryGivesTheSameErrorAtEveryCall
     EXPECT_EQ(bind(), 1) << "the next call finds a library that has come since";
 }
 
-TEST_F(PosixCarrierLibraryTest, AMissingExportIsNamed) {
+TEST_F(HostedCarrierLibraryTest, AMissingExportIsNamed) {
     fs::copy_file(EMPTY_LIBRARY, LIBRARY);
     const std::vector<RuntimeError> errors = errors_of_all();
     EXPECT_EQ(numbers_of(errors), std::vector<int>(6, 453));

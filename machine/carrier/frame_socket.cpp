@@ -1,0 +1,60 @@
+#include "machine/carrier/frame_socket.h"
+
+#include "machine/carrier/protocol.h"
+
+#include <cerrno>
+#include <optional>
+#include <sys/socket.h>
+
+namespace machine::carrier {
+
+namespace {
+
+/// Most frames fit.
+constexpr std::size_t CHUNK_BYTES = 4096;
+
+/// Whether a call on the socket that failed is to be tried again.
+bool tries_again(const GoesOn& goes_on) {
+    if (errno == EINTR) return true;
+    return (errno == EAGAIN || errno == EWOULDBLOCK) && goes_on();
+}
+
+}  // namespace
+
+bool send_frame(int socket, const WipedBytes& frame, const GoesOn& goes_on) {
+    std::string_view rest(frame.data(), frame.size());
+    while (!rest.empty()) {
+        const ssize_t sent = ::send(socket, rest.data(), rest.size(), MSG_NOSIGNAL);
+        if (sent >= 0) {
+            rest.remove_prefix(static_cast<std::size_t>(sent));
+        } else if (!tries_again(goes_on)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool receive_frame(int socket, WipedBytes& frame, const GoesOn& goes_on) {
+    wipe(frame);
+    frame.resize(CHUNK_BYTES);
+    std::size_t received = 0;
+    std::optional<std::size_t> whole;
+    while (!whole || received < *whole) {
+        const ssize_t got = ::recv(socket, frame.data() + received, frame.size() - received, 0);
+        if (got == 0 || (got < 0 && !tries_again(goes_on))) return false;
+        if (got > 0) received += static_cast<std::size_t>(got);
+        if (whole || received < FRAME_HEAD) continue;
+        const auto length = payload_length({frame.data(), received});
+        if (!length) return false;
+        whole = FRAME_HEAD + *length;
+        if (*whole > frame.size()) frame.resize(*whole);
+    }
+    frame.resize(received);
+    return received == *whole;
+}
+
+std::string_view payload_of(const WipedBytes& frame) {
+    return std::string_view(frame.data(), frame.size()).substr(FRAME_HEAD);
+}
+
+}  // namespace machine::carrier

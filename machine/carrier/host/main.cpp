@@ -1,0 +1,94 @@
+// Calls the carrier's library for the program at the other end of the socket. It is a separate program
+// because nobody knows what the library does: crash, hang, end the process, change its state or its memory.
+
+#include "machine/carrier/frame_socket.h"
+#include "machine/carrier/host/loaded_library.h"
+#include "machine/carrier/protocol.h"
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace machine::carrier;
+
+/// Much more than a library for messages can need.
+[[maybe_unused]] constexpr rlim_t MOST_MEMORY = rlim_t{2} << 30;
+/// No core file: it would hold the password. With 1 the kernel does not even start a program that collects
+/// cores.
+constexpr rlim_t NO_CORE = 1;
+
+/// Lowers a limit; one that is lower already stays.
+void limit(decltype(RLIMIT_CORE) resource, rlim_t most) {
+    rlimit limit{};
+    ::getrlimit(resource, &limit);
+    limit.rlim_max = std::min(limit.rlim_max, most);
+    limit.rlim_cur = std::min(limit.rlim_cur, limit.rlim_max);
+    if (::setrlimit(resource, &limit) != 0) std::_Exit(EXIT_FAILURE);
+}
+
+void limit_myself() {
+    limit(RLIMIT_CORE, NO_CORE);
+#ifdef LIMIT_MEMORY
+    limit(RLIMIT_AS, MOST_MEMORY);
+#endif
+    // Not to be looked into, nothing gained by starting other programs, and ended with the program.
+    const bool done = ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0) == 0 &&
+                      ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+                      ::prctl(PR_SET_PDEATHSIG, SIGKILL, 0, 0, 0) == 0;
+    if (!done) std::_Exit(EXIT_FAILURE);
+}
+
+/// Leaves the library the socket, which it does not know, and standard files, all of them open: what it
+/// prints is for the program's error output.
+void settle_files() {
+    ::close_range(HOST_SOCKET + 1, ~0U, 0);
+    if (::fcntl(STDERR_FILENO, F_GETFD) < 0) ::dup2(STDIN_FILENO, STDERR_FILENO);
+    ::dup2(STDERR_FILENO, STDOUT_FILENO);
+}
+
+/// Who this is and which file the socket is, to notice that a library has changed it.
+struct Identity {
+    pid_t process = ::getpid();
+    struct stat socket {};
+
+    Identity() { ::fstat(HOST_SOCKET, &socket); }
+    bool operator==(const Identity& other) const {
+        return process == other.process && socket.st_dev == other.socket.st_dev &&
+               socket.st_ino == other.socket.st_ino;
+    }
+};
+
+void serve() {
+    const Identity at_start;
+    const GoesOn for_ever = [] { return true; };
+    LoadedLibrary library;
+    WipedBytes frame;
+    WipedBytes copies;
+    while (receive_frame(HOST_SOCKET, frame, for_ever)) {
+        const auto call = parse_call(payload_of(frame));
+        if (!call) return;
+        const Answer answer = library.run(*call, copies);
+        // A copy of this process that the library has made must not answer, nor may another file be written
+        // to.
+        if (!(Identity() == at_start)) std::_Exit(EXIT_FAILURE);
+        write_answer(answer, frame);
+        wipe(copies);
+        if (!send_frame(HOST_SOCKET, frame, for_ever)) return;
+        wipe(frame);
+    }
+}
+
+}  // namespace
+
+int main() {
+    limit_myself();
+    settle_files();
+    serve();
+}
