@@ -141,7 +141,7 @@ TEST_F(Paths, AnErrorOfTheDiskMeansThatTheFileIsNotThere) {
             throw platform::RuntimeError(platform::ErrorNumber::bad_file_name);
         }
     } broken;
-    EXPECT_FALSE(FILE_EXISTS(with(platform, {.files = &broken}), u"a<b"));
+    EXPECT_FALSE(FILE_EXISTS(tests::with(platform, {.files = &broken}), u"a<b"));
 }
 
 TEST_F(Paths, ATypedFileOpensOrIsNamedInABox) {

@@ -24,8 +24,8 @@ using tests::utf8;
 struct Killed {};
 
 /// One run of the program. Nothing is kept when it goes unless the test says so.
-struct Run : tests::TestPlatform {
-    explicit Run(const std::string& folder) : store(folder, "/opt/zent") {
+struct ProgramRun : tests::TestPlatform {
+    explicit ProgramRun(const std::string& folder) : store(folder, "/opt/zent") {
         form.load();
         state.session.gLoggedIn = true;
         state.session.gInfoCallback = u"021234567";
@@ -98,15 +98,15 @@ struct Run : tests::TestPlatform {
 class KeptDraft : public testing::Test {
   protected:
     tests::TemporaryFolder folder;
-    std::unique_ptr<Run> run;
+    std::unique_ptr<ProgramRun> run;
 
-    Run& start() {
+    ProgramRun& start() {
         run.reset();
-        run = std::make_unique<Run>(folder.path().string());
+        run = std::make_unique<ProgramRun>(folder.path().string());
         return *run;
     }
     /// The next run after a kill, in which the user wants the draft back.
-    Run& restore(const Text& details) {
+    ProgramRun& restore(const Text& details) {
         start().expect_question(details, BoxAnswer::yes);
         run->keeper.start();
         return *run;
