@@ -157,7 +157,7 @@ void ListView::sort(int sort_key, SortOrder order) {
 }
 
 void ListView::user_check(std::size_t row, bool checked) {
-    if (item(row).checked() == checked) return;
+    if (item(row).checked() == checked || !takes_input()) return;
     change_checked(row, checked);
     if (rows_view_ != nullptr) rows_view_->row_changed(row);
     ItemCheck.raise(row);

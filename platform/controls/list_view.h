@@ -134,12 +134,12 @@ class ListView : public Control {
     void user_resized(int width);
 
     Event<std::size_t> ItemCheck;
-    Event<int> ColumnClick;
-    Event<KeyPressed&> KeyDown;
-    Event<KeyPressed&> KeyPress;
-    Event<KeyPressed&> KeyUp;
-    Event<MouseButton> MouseUp;
-    Event<> DblClick;
+    UserEvent<int> ColumnClick{*this};
+    UserEvent<KeyPressed&> KeyDown{*this};
+    UserEvent<KeyPressed&> KeyPress{*this};
+    UserEvent<KeyPressed&> KeyUp{*this};
+    UserEvent<MouseButton> MouseUp{*this};
+    UserEvent<> DblClick{*this};
     /// The width available for the columns has changed.
     Event<> Resize;
 
