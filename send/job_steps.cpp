@@ -32,6 +32,7 @@ constexpr platform::TextView FAILURE_MESSAGE =
 void frmZentSend::run_job(const CarrierKind* kind, Pauses pauses,
                           const std::function<void(SendJob&)>& send_rows) {
     job_started_ = true;
+    const platform::HeldRows held(RecipientRows);
     try {
         SendJob job = prepare(kind, pauses);
         send_rows(job);

@@ -48,6 +48,7 @@ std::size_t ListView::add_row(Text text, std::vector<Text> sub_items, bool check
 }
 
 void ListView::remove_selected_rows() {
+    if (held_) return;
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     if (selected_item_ != nullptr && selected_item_->selected()) selected_item_ = nullptr;
     std::erase_if(rows_, [this](const std::unique_ptr<ListItem>& row) {
@@ -61,6 +62,7 @@ void ListView::remove_selected_rows() {
 }
 
 void ListView::clear() {
+    if (held_) return;
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     index_.reset();
     rows_.clear();
@@ -140,6 +142,7 @@ std::optional<std::size_t> ListView::find_in_sub_items(TextView beginning) const
 }
 
 void ListView::sort(int sort_key, SortOrder order) {
+    if (held_) return;
     sort_key_ = sort_key;
     sort_order_ = order;
     sorted_ = true;

@@ -94,6 +94,7 @@ class ListView : public Control {
 
     /// Adds a row at the end, even if the list was sorted, and returns its index.
     std::size_t add_row(Text text, std::vector<Text> sub_items, bool checked = false);
+    /// Does nothing while the rows are held; neither do `clear` and `sort`.
     void remove_selected_rows();
     void clear();
 
@@ -144,6 +145,8 @@ class ListView : public Control {
     Event<> Resize;
 
   private:
+    friend class HeldRows;
+
     ListItem& item(std::size_t row) { return *rows_[row]; }
     void change_checked(std::size_t row, bool checked);
     void number_rows();
@@ -160,6 +163,20 @@ class ListView : public Control {
     SortOrder sort_order_ = SortOrder::ascending;
     bool sorted_ = false;
     int width_ = 0;
+    bool held_ = false;
+};
+
+/// Holds a list's rows for as long as this object lives: none goes and none changes its place. For work over
+/// the rows in whose pauses the event loop runs.
+class HeldRows {
+  public:
+    explicit HeldRows(ListView& list) : list_(list) { list_.held_ = true; }
+    HeldRows(const HeldRows&) = delete;
+    HeldRows& operator=(const HeldRows&) = delete;
+    ~HeldRows() { list_.held_ = false; }
+
+  private:
+    ListView& list_;
 };
 
 }  // namespace platform

@@ -88,4 +88,25 @@ TEST(OneJob, TheStopButtonIsHeardButNotUnderTheReport) {
     EXPECT_EQ(s.carrier.registrations.size(), 1u);
 }
 
+TEST(OneJob, RowsStayWhereTheyAreWhileTheJobGoesOverThem) {
+    Sending s;
+    s.add_many(250);
+    s.at_pause(1, [&](send::frmZentSend&) {
+        ListView& recipients = s.form.recipients.ListView1;
+        recipients.sort(2, ListView::SortOrder::descending);
+        recipients.select_all();
+        recipients.remove_selected_rows();
+        recipients.clear();
+    });
+    s.send();
+    Text registered;
+    for (const auto& registration : s.carrier.registrations) registered += registration.s_dest_addr;
+    Text expected;
+    for (int i = 1; i <= 250; ++i) expected += u"a" + decimal(i) + u":010" + decimal(10'000'000 + i) + u";";
+    EXPECT_EQ(registered, expected);
+    EXPECT_EQ(s.marks(), std::string(250, '-'));
+    s.form.recipients.ListView1.clear();
+    EXPECT_EQ(s.form.recipients.ListView1.row_count(), 0u);
+}
+
 }  // namespace
