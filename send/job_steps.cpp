@@ -33,6 +33,7 @@ constexpr platform::TextView FAILURE_MESSAGE =
 void frmZentSend::run_job(const CarrierKind* kind, Pauses pauses,
                           const std::function<void(SendJob&)>& send_rows) {
     job_started_ = true;
+    const platform::HeldRows held(RecipientRows);
     const drafts::NotedJob noted(drafts_);
     try {
         SendJob job = prepare(kind, pauses);

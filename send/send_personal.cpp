@@ -20,7 +20,8 @@ void frmZentSend::SEND_PERSONAL() {
 /// The checked rows, one after the other, until the user stops the job; here the box about the
 /// stop also comes behind the last row.
 void frmZentSend::for_each_recipient(const std::function<void(std::size_t row)>& send_row) {
-    for (std::size_t row = 0; row < RecipientRows.row_count(); ++row) {
+    const std::size_t rows = RecipientRows.row_count();
+    for (std::size_t row = 0; row < rows; ++row) {
         RecipientRows.make_visible(row);
         if (RecipientRows.row(row).checked()) send_row(row);
         if (StopRequested) {

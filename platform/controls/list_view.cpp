@@ -49,6 +49,7 @@ std::size_t ListView::add_row(Text text, std::vector<Text> sub_items, bool check
 }
 
 void ListView::remove_selected_rows() {
+    if (held_) return;
     ++revision_;
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     if (selected_item_ != nullptr && selected_item_->selected()) selected_item_ = nullptr;
@@ -63,6 +64,7 @@ void ListView::remove_selected_rows() {
 }
 
 void ListView::clear() {
+    if (held_) return;
     ++revision_;
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     index_.reset();
@@ -146,6 +148,7 @@ std::optional<std::size_t> ListView::find_in_sub_items(TextView beginning) const
 }
 
 void ListView::sort(int sort_key, SortOrder order) {
+    if (held_) return;
     sort_key_ = sort_key;
     sort_order_ = order;
     sorted_ = true;
@@ -164,7 +167,7 @@ void ListView::sort(int sort_key, SortOrder order) {
 }
 
 void ListView::user_check(std::size_t row, bool checked) {
-    if (item(row).checked() == checked) return;
+    if (item(row).checked() == checked || !takes_input()) return;
     change_checked(row, checked);
     if (rows_view_ != nullptr) rows_view_->row_changed(row);
     ItemCheck.raise(row);

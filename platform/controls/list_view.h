@@ -97,6 +97,7 @@ class ListView : public Control {
 
     /// Adds a row at the end, even if the list was sorted, and returns its index.
     std::size_t add_row(Text text, std::vector<Text> sub_items, bool checked = false);
+    /// Does nothing while the rows are held; neither do `clear` and `sort`.
     void remove_selected_rows();
     void clear();
 
@@ -137,16 +138,18 @@ class ListView : public Control {
     void user_resized(int width);
 
     Event<std::size_t> ItemCheck;
-    Event<int> ColumnClick;
-    Event<KeyPressed&> KeyDown;
-    Event<KeyPressed&> KeyPress;
-    Event<KeyPressed&> KeyUp;
-    Event<MouseButton> MouseUp;
-    Event<> DblClick;
+    UserEvent<int> ColumnClick{*this};
+    UserEvent<KeyPressed&> KeyDown{*this};
+    UserEvent<KeyPressed&> KeyPress{*this};
+    UserEvent<KeyPressed&> KeyUp{*this};
+    UserEvent<MouseButton> MouseUp{*this};
+    UserEvent<> DblClick{*this};
     /// The width available for the columns has changed.
     Event<> Resize;
 
   private:
+    friend class HeldRows;
+
     ListItem& item(std::size_t row) { return *rows_[row]; }
     void change_checked(std::size_t row, bool checked);
     void number_rows();
@@ -164,6 +167,20 @@ class ListView : public Control {
     SortOrder sort_order_ = SortOrder::ascending;
     bool sorted_ = false;
     int width_ = 0;
+    bool held_ = false;
+};
+
+/// Holds a list's rows for as long as this object lives: none goes and none changes its place. For work over
+/// the rows in whose pauses the event loop runs.
+class HeldRows {
+  public:
+    explicit HeldRows(ListView& list) : list_(list) { list_.held_ = true; }
+    HeldRows(const HeldRows&) = delete;
+    HeldRows& operator=(const HeldRows&) = delete;
+    ~HeldRows() { list_.held_ = false; }
+
+  private:
+    ListView& list_;
 };
 
 }  // namespace platform

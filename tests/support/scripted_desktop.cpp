@@ -52,6 +52,7 @@ void ScriptedDesktop::show(platform::Form& form) {
 }
 
 void ScriptedDesktop::show_modal(platform::Form& form) {
+    const platform::StandingInFront standing(*this, &form);
     show(form);
     auto& acts = acts_[form.name()];
     if (!acts.empty() && form.loaded()) {
@@ -82,6 +83,7 @@ void ScriptedDesktop::popup_menu_below(platform::Form& form, platform::Menu& men
 }
 
 BoxAnswer ScriptedDesktop::message_box(const platform::MessageBox& box) {
+    const platform::StandingInFront standing(*this);
     boxes.push_back(box);
     during_box();
     if (expected_boxes_.empty() && any_box) return *any_box;

@@ -81,6 +81,7 @@ void QtDesktop::show_modal(Form& form) {
     FormWindow* window = window_of(form);
     if (window == nullptr) return;
     const QPointer<QWidget> front = front_window();
+    const platform::StandingInFront standing(*this, &form);
     window->show_in_front_of(front);
     wait_for_close(form);
     give_back_focus(front);
@@ -112,6 +113,7 @@ void QtDesktop::popup_menu_below(Form& form, Menu& menu, const platform::Control
 BoxAnswer QtDesktop::message_box(const platform::MessageBox& box) {
     commit_composition();
     const QPointer<QWidget> front = front_window();
+    const platform::StandingInFront standing(*this);
     const BoxAnswer answer = ask(box, title_, front);
     give_back_focus(front);
     return answer;
@@ -120,6 +122,7 @@ BoxAnswer QtDesktop::message_box(const platform::MessageBox& box) {
 std::optional<Text> QtDesktop::ask_for_file(const platform::FileQuestion& question) {
     commit_composition();
     const QPointer<QWidget> front = front_window();
+    const platform::StandingInFront standing(*this);
     std::optional<Text> chosen = file_dialog_.ask(question, front);
     give_back_focus(front);
     return chosen;
@@ -128,6 +131,7 @@ std::optional<Text> QtDesktop::ask_for_file(const platform::FileQuestion& questi
 Text QtDesktop::input_box(const platform::InputBox& box) {
     commit_composition();
     const QPointer<QWidget> front = front_window();
+    const platform::StandingInFront standing(*this);
     Text answer = ask_for_text(box, front);
     give_back_focus(front);
     return answer;
