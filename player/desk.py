@@ -69,8 +69,11 @@ class Desk:
 
     def _wait_for_focus(self):
         """Waits until a window of the program has the focus: clicks and keys before that are lost."""
-        active = lambda window: window.getState().contains(pyatspi.STATE_ACTIVE)
-        self.wait("the focus in a window", lambda: any(active(window) for window in self.windows()))
+        self.wait("the focus in a window", lambda: any(self._has_focus(window) for window in self.windows()))
+
+    @staticmethod
+    def _has_focus(window):
+        return window.getState().contains(pyatspi.STATE_ACTIVE)
 
     @staticmethod
     def text_of(field):
@@ -226,9 +229,11 @@ class Desk:
 
     def read_report(self, picture=None):
         """Waits for the report and closes it; returns how many recipients were registered, failed and were stopped."""
-        report = self.text_of(self.find("등록 결과", "text", self.window("등록완료")))
+        window = self.window("등록완료")
+        report = self.text_of(self.find("등록 결과", "text", window))
         if picture:
             self.picture(picture)
+        self.wait("the focus in the report", lambda: self._has_focus(window))
         self.keys("Return")
         self.gone("등록완료")
         return [int(number) for number in re.findall(r"(?:성공|실패|중지): ([0-9]+)건", report)]
