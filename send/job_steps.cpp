@@ -32,6 +32,8 @@ constexpr platform::TextView FAILURE_MESSAGE =
 void frmZentSend::run_job(const CarrierKind* kind, Pauses pauses,
                           const std::function<void(SendJob&)>& send_rows) {
     job_started_ = true;
+    const platform::PatienceScope patience(
+        platform_.carrier, [this](std::chrono::milliseconds waited) { return waits_for_answer(waited); });
     try {
         SendJob job = prepare(kind, pauses);
         send_rows(job);
