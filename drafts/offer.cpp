@@ -28,10 +28,16 @@ const compose::KindOfMessage* kind_of(const KeptDraft& draft) {
     return found == kinds.end() ? nullptr : &*found;
 }
 
+/// The text without the sender's name, with which every text begins.
+Text without_sender(const Text& text) {
+    return text.starts_with(u'[') ? text.substr(std::min(text.find(u']'), text.size() - 1) + 1) : text;
+}
+
 /// The subject, or else the beginning of the text.
 Text excerpt(const KeptDraft& draft) {
     for (const auto name : {fields::SUBJECT, fields::TEXT, fields::SPEECH, fields::PLUS_TEXT}) {
-        const Text text = platform::trim(platform::replace_all(field(draft.fields, name), CRLF, u" "));
+        const Text whole = without_sender(field(draft.fields, name));
+        const Text text = platform::trim(platform::replace_all(whole, CRLF, u" "));
         if (!text.empty()) return text.size() > EXCERPT ? text.substr(0, EXCERPT) + u"…" : text;
     }
     return {};

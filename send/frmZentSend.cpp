@@ -9,6 +9,13 @@ namespace send {
 
 using platform::Text;
 
+namespace {
+
+/// The carrier usually answers sooner, and a registration that is given up leaves recipients to be looked up.
+constexpr std::chrono::seconds STOP_IS_HEARD_AFTER{10};
+
+}  // namespace
+
 frmZentSend::frmZentSend(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form,
                          drafts::DraftKeeper& drafts)
     : Form(platform.desktop, u"frmZentSend"),
@@ -64,6 +71,13 @@ void frmZentSend::stop_or_close() {
     }
     StopRequested = true;
     Command1.set_enabled(false);
+}
+
+/// Whether the job waits on for the carrier.
+bool frmZentSend::waits_for_answer(std::chrono::milliseconds waited) {
+    if (waited < STOP_IS_HEARD_AFTER) return true;
+    platform_.desktop.yield();
+    return !StopRequested;
 }
 
 bool frmZentSend::is_personal() const {

@@ -14,6 +14,7 @@
 #include "platform/ports/platform.h"
 #include "send/send_job.h"
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -89,6 +90,7 @@ class frmZentSend : public platform::Form {
     };
 
     void stop_or_close();
+    bool waits_for_answer(std::chrono::milliseconds waited);
     void run_routine_of_draft();
     void wait_cursor() { platform_.desktop.set_pointer(platform::Pointer::hourglass); }
     void normal_cursor() { platform_.desktop.set_pointer(platform::Pointer::normal); }

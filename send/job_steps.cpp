@@ -35,6 +35,8 @@ void frmZentSend::run_job(const CarrierKind* kind, Pauses pauses,
     job_started_ = true;
     const platform::HeldRows held(RecipientRows);
     const drafts::NotedJob noted(drafts_);
+    const platform::PatienceScope patience(
+        platform_.carrier, [this](std::chrono::milliseconds waited) { return waits_for_answer(waited); });
     try {
         SendJob job = prepare(kind, pauses);
         send_rows(job);
@@ -45,6 +47,7 @@ void frmZentSend::run_job(const CarrierKind* kind, Pauses pauses,
         core::warn(platform_.desktop, Text(FAILURE_MESSAGE) + open_ends(RecipientRows));
     } catch (const platform::RuntimeError& error) {
         normal_cursor();
+        show_pieces();
         core::show_error(platform_.desktop, error, platform::BoxIcon::critical);
     }
     unload();

@@ -155,8 +155,7 @@ template <class Act>
 bool in_child(int deadly_moment, Act act) {
     const pid_t child = ::fork();
     if (child == 0) {
-        killer = {.moments = 0, .deadly = deadly_moment};
-        act();
+        act(deadly_moment);
         std::ofstream("moments") << killer.moments;
         std::_Exit(0);
     }
@@ -165,12 +164,12 @@ bool in_child(int deadly_moment, Act act) {
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-void first_run(const std::string& folder, const Job& job) {
+void first_run(const std::string& folder, const Job& job, int deadly_moment) {
     Program program(folder);
     program.keeper.start();
     program.write(job);
     program.clock.run_for(3000);
-    killer.moments = 0;
+    killer = {.moments = 0, .deadly = deadly_moment};
     program.send_all();
 }
 
@@ -241,7 +240,7 @@ void configure() {
 int moments_of(const Job& job) {
     const tests::TemporaryFolder folder;
     configure();
-    if (!in_child(0, [&] { first_run(folder.path(), job); })) std::abort();
+    if (!in_child(0, [&](int moment) { first_run(folder.path(), job, moment); })) std::abort();
     int moments = 0;
     std::ifstream("moments") >> moments;
     return moments;
@@ -254,8 +253,8 @@ Tally try_job(const Job& job, int most_points) {
     for (int moment = 1; moment <= moments; moment += step) {
         const tests::TemporaryFolder folder;
         configure();
-        const bool ended = in_child(moment, [&] { first_run(folder.path(), job); });
-        if (ended || !in_child(0, [&] { second_run(folder.path()); }))
+        const bool ended = in_child(moment, [&](int deadly) { first_run(folder.path(), job, deadly); });
+        if (ended || !in_child(0, [&](int) { second_run(folder.path()); }))
             std::printf("  moment %d of %d: the run %s\n", moment, moments, ended ? "was not killed" : "failed");
         const Tally before = tally;
         judge(job, job.personal ? 1 : 100, tally);

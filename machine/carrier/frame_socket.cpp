@@ -22,7 +22,7 @@ bool tries_again(const GoesOn& goes_on) {
 }  // namespace
 
 bool send_frame(int socket, const WipedBytes& frame, const GoesOn& goes_on) {
-    std::string_view rest(frame.data(), frame.size());
+    std::string_view rest = frame.view();
     while (!rest.empty()) {
         const ssize_t sent = ::send(socket, rest.data(), rest.size(), MSG_NOSIGNAL);
         if (sent >= 0) {
@@ -35,7 +35,7 @@ bool send_frame(int socket, const WipedBytes& frame, const GoesOn& goes_on) {
 }
 
 bool receive_frame(int socket, WipedBytes& frame, const GoesOn& goes_on) {
-    wipe(frame);
+    frame.wipe();
     frame.resize(CHUNK_BYTES);
     std::size_t received = 0;
     std::optional<std::size_t> whole;
@@ -44,7 +44,7 @@ bool receive_frame(int socket, WipedBytes& frame, const GoesOn& goes_on) {
         if (got == 0 || (got < 0 && !tries_again(goes_on))) return false;
         if (got > 0) received += static_cast<std::size_t>(got);
         if (whole || received < FRAME_HEAD) continue;
-        const auto length = payload_length({frame.data(), received});
+        const auto length = payload_length(frame.view().substr(0, received));
         if (!length) return false;
         whole = FRAME_HEAD + *length;
         if (*whole > frame.size()) frame.resize(*whole);
@@ -53,8 +53,6 @@ bool receive_frame(int socket, WipedBytes& frame, const GoesOn& goes_on) {
     return received == *whole;
 }
 
-std::string_view payload_of(const WipedBytes& frame) {
-    return std::string_view(frame.data(), frame.size()).substr(FRAME_HEAD);
-}
+std::string_view payload_of(const WipedBytes& frame) { return frame.view().substr(FRAME_HEAD); }
 
 }  // namespace machine::carrier

@@ -75,8 +75,8 @@ HostProcess::~HostProcess() {
     const auto end = std::chrono::steady_clock::now() + CLOSING_TIME;
     while (!has_ended() && std::chrono::steady_clock::now() < end) std::this_thread::sleep_for(CLOSING_NAP);
     kill();
-    while (::waitpid(id_, nullptr, 0) < 0 && errno == EINTR) {
-    }
+    // Not waited for: a process that hangs in the kernel would take the program along.
+    ::waitpid(id_, nullptr, WNOHANG);
 }
 
 bool HostProcess::is_ready() const {

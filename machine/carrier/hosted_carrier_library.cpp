@@ -24,7 +24,7 @@ class CallScope {
     CallScope& operator=(const CallScope&) = delete;
     ~CallScope() {
         calling_ = false;
-        wipe(frame_);
+        frame_.wipe();
     }
 
   private:

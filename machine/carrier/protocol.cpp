@@ -1,5 +1,6 @@
 #include "machine/carrier/protocol.h"
 
+#include <algorithm>
 #include <array>
 
 namespace machine::carrier {
@@ -13,8 +14,14 @@ constexpr std::array<Shape, 6> SHAPES{{{"fn_x_bind", 4, 3, true},
                                        {"fn_x_submit", 4, 10, false},
                                        {"fn_x_submit_2", 6, 11, false}}};
 
+std::array<char, 4> bytes_of(std::uint32_t number) {
+    return {static_cast<char>(number), static_cast<char>(number >> 8), static_cast<char>(number >> 16),
+            static_cast<char>(number >> 24)};
+}
+
 void append(WipedBytes& out, std::uint32_t number) {
-    for (int bit = 0; bit < 32; bit += 8) out.push_back(static_cast<char>(number >> bit));
+    const std::array<char, 4> bytes = bytes_of(number);
+    out.append({bytes.data(), bytes.size()});
 }
 
 void append(WipedBytes& out, const std::vector<std::int32_t>& numbers,
@@ -22,21 +29,19 @@ void append(WipedBytes& out, const std::vector<std::int32_t>& numbers,
     for (const std::int32_t number : numbers) append(out, static_cast<std::uint32_t>(number));
     for (const std::string_view text : texts) {
         append(out, static_cast<std::uint32_t>(text.size()));
-        out.insert(out.end(), text.begin(), text.end());
+        out.append(text);
     }
 }
 
 /// Starts a frame whose head is written by end_frame().
 void begin_frame(WipedBytes& frame, std::uint8_t first) {
-    wipe(frame);
-    frame.resize(FRAME_HEAD);
-    frame.push_back(static_cast<char>(first));
+    frame.wipe();
+    frame.resize(FRAME_HEAD + 1);
+    frame.data()[FRAME_HEAD] = static_cast<char>(first);
 }
 
 void end_frame(WipedBytes& frame) {
-    WipedBytes head;
-    append(head, static_cast<std::uint32_t>(frame.size() - FRAME_HEAD));
-    std::copy(head.begin(), head.end(), frame.begin());
+    std::ranges::copy(bytes_of(static_cast<std::uint32_t>(frame.size() - FRAME_HEAD)), frame.data());
 }
 
 /// Takes values from the front of foreign bytes. Beyond their end values are 0 and empty, and the whole is

@@ -1,38 +1,34 @@
 #pragma once
 
 #include <cstddef>
-#include <cstring>
 #include <memory>
-#include <sys/mman.h>
-#include <vector>
+#include <string_view>
 
 namespace machine::carrier {
 
-/// Memory for bytes among which the password may be: kept out of the swap where the user's limit allows it,
-/// overwritten before it is given back.
-template <class T>
-struct WipingAllocator {
-    using value_type = T;
+/// Bytes among which the password may be: kept out of the swap where the user's limit allows it, and
+/// overwritten when they go. The memory is kept for the next use.
+class WipedBytes {
+  public:
+    WipedBytes() = default;
+    WipedBytes(const WipedBytes&) = delete;
+    WipedBytes& operator=(const WipedBytes&) = delete;
+    ~WipedBytes() { wipe(); }
 
-    T* allocate(std::size_t count) {
-        T* memory = std::allocator<T>().allocate(count);
-        ::mlock(memory, count * sizeof(T));
-        return memory;
-    }
-    void deallocate(T* memory, std::size_t count) {
-        ::explicit_bzero(memory, count * sizeof(T));
-        std::allocator<T>().deallocate(memory, count);
-    }
+    char* data() { return memory_.get(); }
+    std::size_t size() const { return size_; }
+    std::string_view view() const { return {memory_.get(), size_}; }
 
-    bool operator==(const WipingAllocator&) const = default;
+    /// New bytes are 0.
+    void resize(std::size_t size);
+    void append(std::string_view bytes);
+    void wipe() { resize(0); }
+
+  private:
+    /// Behind the size everything is 0.
+    std::unique_ptr<char[]> memory_;
+    std::size_t size_ = 0;
+    std::size_t capacity_ = 0;
 };
-
-using WipedBytes = std::vector<char, WipingAllocator<char>>;
-
-/// Overwrites the bytes and empties the vector, which keeps its memory for the next call.
-inline void wipe(WipedBytes& bytes) {
-    if (!bytes.empty()) ::explicit_bzero(bytes.data(), bytes.size());
-    bytes.clear();
-}
 
 }  // namespace machine::carrier

@@ -96,4 +96,18 @@ class CarrierLibrary {
     Patience patience_;
 };
 
+/// Gives the library's calls this patience for as long as the object lives.
+class PatienceScope {
+  public:
+    PatienceScope(CarrierLibrary& carrier, CarrierLibrary::Patience patience) : carrier_(carrier) {
+        carrier_.set_patience(std::move(patience));
+    }
+    PatienceScope(const PatienceScope&) = delete;
+    PatienceScope& operator=(const PatienceScope&) = delete;
+    ~PatienceScope() { carrier_.set_patience({}); }
+
+  private:
+    CarrierLibrary& carrier_;
+};
+
 }  // namespace platform

@@ -88,6 +88,21 @@ TEST(SendWindow, TheStopButtonWaitsForTheJobAndIsHeardFromItsBeginOn) {
     EXPECT_EQ(s.marks(), std::string(100, '-') + std::string(20, 'x'));
 }
 
+TEST(SendWindow, AStopEndsACallThatIsNotAnsweredButNotBeforeTenSeconds) {
+    Sending s;
+    s.add_many(120);
+    s.carrier.silent = {"submit"};
+    s.desktop.in_form<send::frmZentSend>(u"frmZentSend", [&](send::frmZentSend& job) {
+        s.desktop.during_yield = [&] { job.Command1.Click.raise(); };
+    });
+    s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+    s.send();
+    EXPECT_EQ(s.carrier.waited, std::chrono::seconds(10));
+    EXPECT_EQ(s.status(0), "확인필요");
+    EXPECT_EQ(s.carrier.count("submit"), 1);
+    EXPECT_THROW(s.carrier.fn_x_submit({}), platform::NoAnswer) << "the job's window is no longer asked";
+}
+
 TEST(SendWindow, AStopDuringTheLastBatchGoesUnnoticed) {
     Sending s;
     s.add_many(120);

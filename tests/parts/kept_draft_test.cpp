@@ -172,8 +172,8 @@ TEST_F(KeptDraft, AChangeOfManyRowsIsKeptWholeOrNotAtAll) {
     run->form.recipients.ListView1.remove_selected_rows();
     const Text first = run->form.recipients.ListView1.row(0).sub_item(compose::RECIPIENT_NAME);
     run->clock.run_for(2000);
-    restore(u"문자메시지, 받는 사람 4,999명, 11월 23일 오전 10:00");
-    EXPECT_EQ(run->rows(), "* x4999\n");
+    restore(u"문자메시지, 받는 사람 4,998명, 11월 23일 오전 10:00");
+    EXPECT_EQ(run->rows(), "* x4998\n");
     EXPECT_EQ(run->form.recipients.ListView1.row(0).sub_item(compose::RECIPIENT_NAME), first);
 }
 
@@ -305,7 +305,8 @@ TEST_F(KeptDraft, ATextInPiecesGoesOnWithTheRestAfterAKill) {
     run->add_many(150);
     run->killed_at_submit(4);  // the second batch of the second piece
 
-    restore(u"문자메시지");
+    start().desktop.expect_box(u"지난번에 작성하던 메시지를 되살리시겠습니까?", BoxAnswer::yes);
+    run->keeper.start();
     EXPECT_EQ(run->rows(), "*2/3 등록 x100\n확인필요 x50\n");
     run->desktop.expect_box(u"이 메시지는 앞서 일부만 등록되었습니다.\r\n 나누어 보낸 메시지 1/3만 등록된 받는 사람: "
                             u"50명\r\n 나누어 보낸 메시지 2/3만 등록된 받는 사람: 100명",
@@ -324,7 +325,8 @@ TEST_F(KeptDraft, APersonalTextGoesOnWithTheRestAfterAKill) {
     run->add_many(3);
     run->killed_at_submit(4);  // the second piece of the second recipient
 
-    restore(u"문자메시지");
+    start().desktop.expect_box(u"지난번에 작성하던 메시지를 되살리시겠습니까?", BoxAnswer::yes);
+    run->keeper.start();
     EXPECT_EQ(run->rows(), "등록성공 x1\n확인필요 x1\n* x1\n");
 }
 

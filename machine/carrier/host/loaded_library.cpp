@@ -55,7 +55,8 @@ class Copies {
     Copies(const std::vector<std::string_view>& texts, WipedBytes& bytes) {
         std::size_t size = 0;
         for (const std::string_view text : texts) size += text.size() + 1 + ROOM;
-        bytes.assign(size, '\0');
+        bytes.wipe();
+        bytes.resize(size);
         char* copy = bytes.data();
         for (const std::string_view text : texts) {
             std::ranges::copy(text, copy);

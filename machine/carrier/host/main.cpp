@@ -79,9 +79,9 @@ void serve() {
         // to.
         if (!(Identity() == at_start)) std::_Exit(EXIT_FAILURE);
         write_answer(answer, frame);
-        wipe(copies);
+        copies.wipe();
         if (!send_frame(HOST_SOCKET, frame, for_ever)) return;
-        wipe(frame);
+        frame.wipe();
     }
 }
 
