@@ -15,13 +15,6 @@ using platform::Text;
 
 namespace {
 
-using Int = std::int32_t;
-
-// The library may call these while it works. They only let it go on: nothing that it reports is of use here.
-Int GATEWAY_NOTIFY_6(Int, Int, Int, Int, Int, Int) { return 1; }
-Int GATEWAY_NOTIFY_8(Int, Int, Int, Int, Int, Int, Int, Int) { return 1; }
-Int GATEWAY_NOTIFY_11(Int, Int, Int, Int, Int, Int, Int, Int, Int, Int, Int) { return 1; }
-
 template <class Function>
 CarrierCallback callback(Function* function) {
     return reinterpret_cast<CarrierCallback>(function);
@@ -68,6 +61,10 @@ platform::TextView meaning_of(std::int32_t code) {
 }
 
 }  // namespace
+
+Int GATEWAY_NOTIFY_6(Int, Int, Int, Int, Int, Int) { return 1; }
+Int GATEWAY_NOTIFY_8(Int, Int, Int, Int, Int, Int, Int, Int) { return 1; }
+Int GATEWAY_NOTIFY_11(Int, Int, Int, Int, Int, Int, Int, Int, Int, Int, Int) { return 1; }
 
 Text GATEWAY_RESULT_TEXT(Int code) {
     Text text(meaning_of(code));

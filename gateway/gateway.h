@@ -16,6 +16,12 @@ platform::Text GATEWAY_RESULT_TEXT(std::int32_t code);
 /// A text out of one of the carrier's padded buffers: NULs become blanks, blanks at the end go.
 platform::Text CLEAN_FIXED_TEXT(platform::TextView text);
 
+// The library may call these while it works. They only let it go on: nothing that it reports is of use here.
+using Int = std::int32_t;
+Int GATEWAY_NOTIFY_6(Int, Int, Int, Int, Int, Int);
+Int GATEWAY_NOTIFY_8(Int, Int, Int, Int, Int, Int, Int, Int);
+Int GATEWAY_NOTIFY_11(Int, Int, Int, Int, Int, Int, Int, Int, Int, Int, Int);
+
 /// One registration as the send job prepares it; the fields are the carrier's.
 struct UmsMessage {
     /// 1 is sent by fn_x_submit_2, everything else by fn_x_submit, which takes no sub-type, reply flag

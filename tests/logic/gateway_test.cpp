@@ -23,7 +23,7 @@ struct Wrappers : testing::Test, tests::TestPlatform {
         state.session.gLoginUserId = u"홍hong";
         state.session.gLoginPassword = u"secret";
         state.session.gServiceDomain = u"pondira.example";
-        state.session.gServiceNumber = u"03030xxxxxxx";
+        state.session.gServiceNumber = u"030387654321";
         state.session.gClientAddress = u"127.0.0.1";
     }
 
@@ -61,8 +61,8 @@ TEST_F(Wrappers, PassTheSessionInCp949AndKeepWhatTheLibraryWrote) {
     carrier.service_type = 24;
     carrier.service_state = 1;
     EXPECT_TRUE(carrier_gateway.GATEWAY_MONEY_STATUS());
-    EXPECT_EQ(carrier.arguments, (Texts{"#ong", "#ondira.example", "03030xxxxxxx", "127.0.0.1"}));
-    EXPECT_EQ(utf8(state.session.gServiceNumber), "#3030xxxxxxx");
+    EXPECT_EQ(carrier.arguments, (Texts{"#ong", "#ondira.example", "030387654321", "127.0.0.1"}));
+    EXPECT_EQ(utf8(state.session.gServiceNumber), "#30387654321");
     EXPECT_EQ(utf8(state.session.gClientAddress), "#27.0.0.1");
     EXPECT_EQ(
         (std::vector<int>{state.session.gServiceType, state.session.gServiceState, state.session.gMoneyField1,
@@ -71,13 +71,15 @@ TEST_F(Wrappers, PassTheSessionInCp949AndKeepWhatTheLibraryWrote) {
 }
 
 TEST_F(Wrappers, TheModeOfABindChoosesTheFirstCallbackAndEveryCallbackAnswersOne) {
-    carrier_gateway.GATEWAY_BIND(0);
-    const CarrierCallback six = carrier.notify;
-    EXPECT_EQ(reinterpret_cast<int (*)(int, int, int, int, int, int)>(six)(1, 2, 3, 4, 5, 6), 1);
-    carrier_gateway.GATEWAY_BIND(2);
-    EXPECT_EQ(carrier.notify, six) << "only 1 is the other mode";
-    carrier_gateway.GATEWAY_BIND(1);
-    EXPECT_NE(carrier.notify, six);
+    const auto address = [](auto* function) { return reinterpret_cast<CarrierCallback>(function); };
+    for (const int mode : {0, 1, 2}) {
+        carrier_gateway.GATEWAY_BIND(mode);
+        const CarrierCallback first = mode == 1 ? address(GATEWAY_NOTIFY_8) : address(GATEWAY_NOTIFY_6);
+        EXPECT_EQ(carrier.callbacks, (std::vector{first, address(GATEWAY_NOTIFY_11)})) << mode;
+    }
+    EXPECT_EQ(GATEWAY_NOTIFY_6(1, 2, 3, 4, 5, 6), 1);
+    EXPECT_EQ(GATEWAY_NOTIFY_8(1, 2, 3, 4, 5, 6, 7, 8), 1);
+    EXPECT_EQ(GATEWAY_NOTIFY_11(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11), 1);
 }
 
 TEST_F(Wrappers, TheProfileArrivesInPaddedBuffersOfFixedLengths) {
@@ -85,7 +87,7 @@ TEST_F(Wrappers, TheProfileArrivesInPaddedBuffersOfFixedLengths) {
     EXPECT_TRUE(carrier_gateway.GATEWAY_USER_INFO());
     EXPECT_EQ(carrier.arguments, (Texts{"\xC8\xAB"
                                         "hong",
-                                        "pondira.example", "03030xxxxxxx", "127.0.0.1", std::string(20, ' '),
+                                        "pondira.example", "030387654321", "127.0.0.1", std::string(20, ' '),
                                         std::string(40, ' '), std::string(40, ' '), std::string(20, ' ')}));
     EXPECT_EQ(utf8(state.session.gInfoUserName), "홍길동" + std::string(1, '\0') + std::string(33, ' '));
     EXPECT_EQ(utf8(state.session.gInfoServiceNumber),
@@ -162,8 +164,9 @@ TEST_F(Registrations, OnlyKindsWithIndexOneUseTheSecondSubmit) {
               (std::vector<Text>{u"제목", u"20261123100000", u"0212345678", u"홍길동:01012345678;", u"본문",
                                  u"음성", u"c:\\temp\\문서 a.wav;"}));
     const auto& second = carrier.registrations[1];
-    EXPECT_EQ((std::vector<Text>{second.user_id, second.service_domain, second.client_address}),
-              (std::vector<Text>{u"홍hong", u"pondira.example", u"127.0.0.1"}));
+    EXPECT_EQ((std::vector<Text>{second.user_id, second.service_domain, second.service_number,
+                                 second.client_address}),
+              (std::vector<Text>{u"홍hong", u"pondira.example", u"030387654321", u"127.0.0.1"}));
 }
 
 TEST_F(Registrations, ARefusalAndAnErrorAreTextsForTheRowsWithoutABox) {
@@ -181,17 +184,8 @@ TEST(ResultText, NamesTheCodeAndWhatItMeans) {
     } rows[] = {
         {1, "등록성공"},
         {2, "등록실패X2(Pondira에 인증실패)"},
-        {3, "등록실패X3(폰디라 데이터 전송에러)"},
-        {4, "등록실패X4(아직 지원되지 않는 함수)"},
-        {5, "등록실패X5(Pondira 접속에러)"},
-        {6, "등록실패X6(Pondira 응답 없음)"},
-        {7, "등록실패X7(FTP/HTTP 전송에러)"},
-        {8, "등록실패X8(착신자수초과)"},
-        {9, "등록실패X9(첨부파일갯수초과)"},
         {10, "등록실패X10(알수없는에러)"},
-        {16, "등록실패X16(첨부파일없음)"},
         {153, "등록실패X153(기타에러)"},
-        {0, "등록실패X0(알수없는에러)"},
         {-1, "등록실패X-1(알수없는에러)"},
     };
     for (const auto& row : rows) EXPECT_EQ(utf8(GATEWAY_RESULT_TEXT(row.code)), row.text);

@@ -41,11 +41,11 @@ void RecordingCarrier::take(std::initializer_list<std::string*> texts) {
 std::int32_t RecordingCarrier::fn_x_bind(std::int32_t one, std::string& user_id, std::string& password,
                                          std::string& domain, std::int32_t five,
                                          platform::CarrierCallback six, std::int32_t seven,
-                                         platform::CarrierCallback) {
+                                         platform::CarrierCallback eight) {
     bound_user = decode_cp949(user_id);
     bound_password = decode_cp949(password);
     bind_numbers = {one, five, seven};
-    notify = six;
+    callbacks = {six, eight};
     take({&user_id, &password, &domain});
     return result("bind");
 }

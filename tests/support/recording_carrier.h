@@ -52,10 +52,10 @@ class RecordingCarrier : public platform::CarrierLibrary {
     std::vector<std::string> calls;
     std::vector<Registration> registrations;
     platform::Text bound_user, bound_password;
-    /// The texts of all calls except submits, as bytes; the numbers and the first callback of the last bind.
+    /// The texts of all calls except submits, as bytes; the numbers and the callbacks of the last bind.
     std::vector<std::string> arguments;
     std::vector<std::int32_t> bind_numbers;
-    platform::CarrierCallback notify = nullptr;
+    std::vector<platform::CarrierCallback> callbacks;
 
     int count(const std::string& operation) const;
 
