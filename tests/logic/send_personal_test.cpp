@@ -146,21 +146,4 @@ TEST(SendSingles, FailATextThatIsTooLongInsteadOfCuttingIt) {
     EXPECT_NE(s.report.find("등록성공: 1건\r\n 등록실패: 3건\r\n 등록중지: 1건"), std::string::npos);
 }
 
-TEST(SendSingles, SendAnyKindUncutWithOneRecipientInEachSubmit) {
-    Sending s;
-    s.type(Text(81, u'a'));
-    s.form.sender.txtCallback.set_text(u"");
-    s.add_many(120);
-    send_singles(s, u"문자메시지");
-    EXPECT_EQ(s.carrier.registrations.size(), 120u);
-    EXPECT_EQ(s.carrier.registrations[119].s_sms_content.size(), 81u);
-    EXPECT_EQ(s.carrier.registrations[119].s_dest_addr_count, 1);
-    EXPECT_EQ(utf8(s.carrier.registrations[119].s_callback), "029990000");
-
-    Sending letter;
-    letter.add_many(1);
-    send_singles(letter, u"편지");
-    EXPECT_EQ(letter.status(0), "실패");
-}
-
 }  // namespace
