@@ -160,6 +160,12 @@ struct Columns : testing::Test, tests::TestPlatform {
     ListView list{window, u"list", {{u"선택", {}}, {u"Name", {}}, {u"번호", {}}}};
 };
 
+TEST_F(Columns, AreFoundByTheirCaptionsInAnyCase) {
+    EXPECT_EQ(platform::FIND_COLUMN(u"선택", list), 1);
+    EXPECT_EQ(platform::FIND_COLUMN(u"NAME", list), 2);
+    EXPECT_EQ(platform::FIND_COLUMN(u"", list), -1);
+}
+
 TEST_F(Columns, EveryClickReversesTheOrderAndMovesTheArrow) {
     for (const char16_t* number : {u"2", u"1", u"3"}) list.add_row(u"", {u"같은이름", number});
     const struct {

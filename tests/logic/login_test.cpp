@@ -99,6 +99,7 @@ TEST_F(ManualLogin, ShowsTheSavedIdAndThePasswordOnlyWithAutoLogin) {
         save_setting(u"LOGIN", u"AUTOLOGIN", row.auto_login);
         save_account(row.user_id, row.password);
         in_login([&](gateway::frmZentLogin& login) {
+            EXPECT_EQ(utf8(login.caption()), "Cardvale 폰디라 통합메시징 서비스 로그인");
             EXPECT_EQ(utf8(login.Text1.text()), utf8(row.user_id));
             EXPECT_EQ(utf8(login.Text2.text()), row.shown_password);
             EXPECT_EQ(login.Check1.checked(), row.checked);
@@ -330,6 +331,7 @@ TEST_F(AutomaticLogin, WritesNothingAndDoesNotStopThePolling) {
     const auto before = files.files;
     desktop.in_form<gateway::frmAutoLogin>(u"frmAutoLogin", [&](gateway::frmAutoLogin& login) {
         EXPECT_TRUE(form.Timer1.enabled());
+        EXPECT_EQ(utf8(login.caption()), "자동로그인...");
         login.close_requested();
         login.escape_pressed();
         EXPECT_TRUE(login.loaded()) << "it closes by itself";
@@ -390,6 +392,7 @@ TEST_F(LogOut, AsksAndThenForgetsTheLogin) {
     desktop.expect_box(tests::LOG_OUT, BoxAnswer::yes);
     form.session.cmdLogOut.Click.raise();
     expect_logged_out();
+    EXPECT_EQ(form.session.STBar1.panel(1).picture, 1);
     EXPECT_TRUE(carrier.calls.empty()) << "nothing is bound";
     EXPECT_EQ(saved_login(u"LOGINPW"), "");
     EXPECT_EQ(saved_login(u"LOGINID"), "hong");
@@ -398,6 +401,7 @@ TEST_F(LogOut, AsksAndThenForgetsTheLogin) {
     log_in(u"hong", u"secret");
     form.session.cmdLogin.Click.raise();
     EXPECT_EQ(utf8(state.session.gServiceNumber), "030312345678") << "the last known number goes along";
+    EXPECT_EQ(form.session.STBar1.panel(1).picture, 2);
     EXPECT_EQ(form.sender.txtUserName.rows().size() + form.sender.txtCallback.rows().size(), 4u);
 }
 
