@@ -121,14 +121,6 @@ TEST(SendPersonal, AStopIsShownAfterTheRowBeingSentEvenTheLast) {
 }
 
 /// The routine that no button runs.
-void send_singles(Sending& s, const Text& kind) {
-    s.expect_report();
-    send::frmZentSend job(s.platform, s.state, s.form);
-    job.load();
-    job.MSGSendCount = static_cast<int>(s.form.recipients.ListView1.checked_count());
-    job.SEND_SINGLES(kind);
-}
-
 TEST(SendSingles, FailATextThatIsTooLongInsteadOfCuttingIt) {
     Personal s(u"{이름}" + Text(70, u'a'));
     s.add(Text(11, u'n'), u"01011112222");
@@ -137,7 +129,11 @@ TEST(SendSingles, FailATextThatIsTooLongInsteadOfCuttingIt) {
     s.add(u"b", u" ");
     s.add(u"c", u"01055556666");
     s.carrier.results[{"submit", 2}] = 5;
-    send_singles(s, u"문자메시지");
+    s.expect_report();
+    send::frmZentSend job(s.platform, s.state, s.form);
+    job.load();
+    job.MSGSendCount = static_cast<int>(s.form.recipients.ListView1.checked_count());
+    job.SEND_SINGLES(u"문자메시지");
     const Lines statuses = {s.status(0), s.status(1), s.status(2), s.status(3), s.status(4)};
     EXPECT_EQ(statuses, (Lines{"등록실패(문자초과)", "등록성공", "등록실패(이름없음)", "",
                                "등록실패X5(Pondira 접속에러)"}));
