@@ -28,10 +28,11 @@ struct HandOver : testing::Test, tests::MainWindow {
 
     handover::HandOver hand_over{platform, state, form};
 
-    Rows rows() const {
+    Rows rows() const { return rows(form.recipients.ListView1); }
+    static Rows rows(const platform::ListView& list) {
         Rows all;
-        for (std::size_t row = 0; row < form.recipients.ListView1.row_count(); ++row) {
-            const platform::ListItem& item = form.recipients.ListView1.row(row);
+        for (std::size_t row = 0; row < list.row_count(); ++row) {
+            const platform::ListItem& item = list.row(row);
             all.push_back(utf8(item.sub_item(1) + u"|" + item.sub_item(2) + u"|" + item.sub_item(4)));
         }
         return all;
@@ -87,12 +88,7 @@ TEST_F(HandOver, LinesAreReadAsFarAsTheyMakeSense) {
         window.files.files[SIGNAL] = "1";
         window.files.files[RECIPIENTS] = platform::encode_cp949(file.file);
         handover::HandOver(window.platform, window.state, window.form).NEW_SENDMAN_LOAD();
-        Rows rows;
-        for (std::size_t row = 0; row < window.form.recipients.ListView1.row_count(); ++row) {
-            const platform::ListItem& item = window.form.recipients.ListView1.row(row);
-            rows.push_back(utf8(item.sub_item(1) + u"|" + item.sub_item(2) + u"|" + item.sub_item(4)));
-        }
-        EXPECT_EQ(rows, file.rows) << file.what;
+        EXPECT_EQ(rows(window.form.recipients.ListView1), file.rows) << file.what;
         EXPECT_FALSE(window.form.recipients.PBar1.visible()) << file.what;
     }
 }

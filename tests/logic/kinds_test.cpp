@@ -207,6 +207,13 @@ TEST_F(Bars, ButtonsAndMenusOpenTheirDoors) {
     form.text.MyMsgBttn.Click.raise();
     form.mnuUpDate.Click.raise();
     EXPECT_EQ(opened, (Doors{"send", "saved_texts", "update_check"}));
+    platform::MessageBox caution = tests::notice(
+        u"폰디라 메시지 발송 등록 시 여러사용자의 발송부하를 방지하기위해 100건씩 나누어 등록되므로 발송이 "
+        u"지연될 수 있습니다.\r\n"
+        u"너무 많은 메시지를 보내실 경우 1,000~2,000건씩 나누어 등록하시기 바랍니다.");
+    caution.title = u"주의사항";
+    desktop.expect_box(caution);
+    form.Command5.Click.raise();
 }
 
 TEST_F(StartingAnew, NoKeepsTheDraftAndYesEmptiesAllButItsKindAndSchedule) {

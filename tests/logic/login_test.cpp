@@ -1,3 +1,4 @@
+#include "app/entry_routine.h"
 #include "core/deployment.h"
 #include "gateway/frmAutoLogin.h"
 #include "tests/support/main_window.h"
@@ -42,10 +43,7 @@ const std::string SIGN_UP_PAGE = "KT 폰디라 신규 가입|" + utf8(core::depl
 
 struct Session : testing::Test, tests::MainWindow {
     void SetUp() override {
-        state.session.gPartnerPath = u"kelmora";
-        state.session.gPartnerCode = u"07190533";
-        state.session.gPartnerSubCode = u"026";
-        form.load();
+        app::entry_routine(platform, state, [this] { form.load(); });
     }
 
     void expect_logged_out() const {
@@ -54,11 +52,12 @@ struct Session : testing::Test, tests::MainWindow {
         EXPECT_EQ(state.session.gServiceState, 3);
         EXPECT_TRUE(form.session.cmdLogin.enabled());
         EXPECT_FALSE(form.session.cmdLogOut.enabled());
-        EXPECT_EQ(panels(), (Calls{"로그아웃상태", "가입자", "폰디라번호"}));
+        EXPECT_EQ(panels(), (Calls{"로그아웃상태", "가입자", "폰디라번호", "로그인하기"}));
     }
     Calls panels() const {
         Calls texts;
         for (int panel = 1; panel <= 3; ++panel) texts.push_back(utf8(form.session.STBar1.panel(panel).text));
+        texts.push_back(utf8(form.session.STBar1.panel(1).tool_tip));
         return texts;
     }
     void save_account(platform::TextView user_id, platform::TextView password) {
@@ -100,6 +99,7 @@ TEST_F(ManualLogin, ShowsTheSavedIdAndThePasswordOnlyWithAutoLogin) {
         save_setting(u"LOGIN", u"AUTOLOGIN", row.auto_login);
         save_account(row.user_id, row.password);
         in_login([&](gateway::frmZentLogin& login) {
+            EXPECT_EQ(utf8(login.caption()), "Cardvale 폰디라 통합메시징 서비스 로그인");
             EXPECT_EQ(utf8(login.Text1.text()), utf8(row.user_id));
             EXPECT_EQ(utf8(login.Text2.text()), row.shown_password);
             EXPECT_EQ(login.Check1.checked(), row.checked);
@@ -112,13 +112,17 @@ TEST_F(ManualLogin, ShowsTheSavedIdAndThePasswordOnlyWithAutoLogin) {
         form.session.cmdLogin.Click.raise();
         EXPECT_EQ(setting(u"LOGIN", u"AUTOLOGIN"), row.checked ? "1" : "0");
         EXPECT_EQ(form.session.mnuAutoLogin.checked(), row.checked);
+        form.session.mnuAutoLogin.Click.raise();
+        EXPECT_EQ(form.session.mnuAutoLogin.checked(), !row.checked);
     }
 }
 
 TEST_F(ManualLogin, IsCheckedAppliedAndSavedWhilePollingWaits) {
     save_setting(u"SET", u"ZentUserNickName", u" 홍길동 ");
     save_setting(u"SET", u"ZentUserPhoneID", u"0311234567");
-    state.session.gInfoServiceNumber = u"030399999999";
+    // Padded, as the login before has left it.
+    state.session.gInfoServiceNumber = u"030399999999" + Text(1, u'\0') + Text(7, u' ');
+    carrier.scribbles = true;
     form.Timer1.set_enabled(true);
     in_login([&](gateway::frmZentLogin& login) {
         EXPECT_FALSE(form.Timer1.enabled());
@@ -129,9 +133,16 @@ TEST_F(ManualLogin, IsCheckedAppliedAndSavedWhilePollingWaits) {
     form.session.cmdLogin.Click.raise();
     EXPECT_TRUE(form.Timer1.enabled());
     EXPECT_EQ(carrier.calls, (Calls{"bind", "money_status", "user_info", "unbind"}));
-    EXPECT_EQ(utf8(carrier.bound_user), "hong");
-    EXPECT_EQ(utf8(carrier.bound_password), "secret");
-    EXPECT_EQ(utf8(state.session.gServiceNumber), "030399999999") << "the number known before this login";
+    const std::string domain = utf8(core::deployment::service_domain()), changed = "#" + domain.substr(1);
+    EXPECT_EQ(carrier.arguments,
+              (Calls{"hong", "secret", domain,                      // bind
+                     "#ong", changed, "030399999999", "127.0.0.1",  // the state of the account
+                     "#ong", changed, "#30399999999", "#27.0.0.1",  // the profile, in four buffers
+                     std::string(20, ' '), std::string(40, ' '), std::string(40, ' '), std::string(20, ' '),
+                     "#ong", "#ecret"}))  // unbind
+        << "the number is the one that was known before this login";
+    EXPECT_EQ(carrier.callbacks.at(0),
+              reinterpret_cast<platform::CarrierCallback>(gateway::GATEWAY_NOTIFY_6));
     EXPECT_EQ(state.session.gSubmitSequence, 1);
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINID"), "hong");
@@ -140,7 +151,8 @@ TEST_F(ManualLogin, IsCheckedAppliedAndSavedWhilePollingWaits) {
 
     EXPECT_FALSE(form.session.cmdLogin.enabled());
     EXPECT_TRUE(form.session.cmdLogOut.enabled());
-    EXPECT_EQ(panels(), (Calls{"로그인상태", "가입자 hong[Hong]  ", "폰디라번호 0303-1234-5678  "}));
+    EXPECT_EQ(panels(),
+              (Calls{"로그인상태", "가입자 hong[Hong]  ", "폰디라번호 0303-1234-5678  ", "로그아웃하기"}));
     EXPECT_EQ(form.sender.txtUserName.rows(), (std::vector<Text>{u"Hong", u"Hong Office"}));
     EXPECT_EQ(utf8(form.sender.txtUserName.text()), "홍길동");
     EXPECT_EQ(form.sender.txtCallback.rows(), (std::vector<Text>{u"0212345678", u"030312345678"}));
@@ -198,6 +210,7 @@ TEST_F(ManualLogin, EnterMovesToThePasswordAndThenLogsIn) {
 TEST_F(ManualLogin, AFailedBindIsExplainedAndTheFormStaysForAnotherTry) {
     carrier.results[{"bind", 1}] = 2;
     desktop.expect_box(FAILURE);
+    desktop.during_box = [&] { clock.run_for(20); };
     in_login([&](gateway::frmZentLogin& login) {
         enter(login, u"hong", u"wrong");
         clock.run_for(10);
@@ -261,7 +274,7 @@ TEST_F(ManualLogin, SucceedsWithoutAProfileAndAsksForNoneWithoutAMoneyStatus) {
     log_in(u"hong", u"secret");
     form.session.cmdLogin.Click.raise();
     EXPECT_TRUE(state.session.gLoggedIn);
-    EXPECT_EQ(panels(), (Calls{"로그인상태", "가입자 hong[]  ", "폰디라번호   "}));
+    EXPECT_EQ(panels(), (Calls{"로그인상태", "가입자 hong[]  ", "폰디라번호   ", "로그아웃하기"}));
 
     // Then the type of service that was known before counts.
     state.session.gServiceType = 22;
@@ -313,10 +326,12 @@ TEST_F(AutomaticLogin, ChecksTheStateOfTheServiceButNotItsType) {
 
 TEST_F(AutomaticLogin, WritesNothingAndDoesNotStopThePolling) {
     save_account(u"hong", u"secret");
+    carrier.scribbles = true;
     form.Timer1.set_enabled(true);
     const auto before = files.files;
     desktop.in_form<gateway::frmAutoLogin>(u"frmAutoLogin", [&](gateway::frmAutoLogin& login) {
         EXPECT_TRUE(form.Timer1.enabled());
+        EXPECT_EQ(utf8(login.caption()), "자동로그인...");
         login.close_requested();
         login.escape_pressed();
         EXPECT_TRUE(login.loaded()) << "it closes by itself";
@@ -324,16 +339,29 @@ TEST_F(AutomaticLogin, WritesNothingAndDoesNotStopThePolling) {
     form.session.AUTO_LOGIN_START();
     EXPECT_EQ(files.files, before);
     EXPECT_EQ(panels()[0], "로그인상태");
-    EXPECT_EQ(utf8(carrier.bound_user), "hong");
+    EXPECT_EQ(utf8(state.session.gLoginUserId + u" " + state.session.gLoginPassword), "hong secret");
 }
 
-TEST_F(AutomaticLogin, AFailedBindIsExplainedAndTheManualFormMayStillSucceed) {
+TEST_F(AutomaticLogin, AFailedBindIsExplainedOnceAndOnlyTheManualFormMayStillLogIn) {
     save_account(u"hong", u"old");
     carrier.results[{"bind", 1}] = 2;
-    desktop.expect_box(FAILURE);
-    log_in(u"hong", u"new");
-    form.session.AUTO_LOGIN_START();
-    EXPECT_EQ(desktop.forms, (std::vector<Text>{u"frmAutoLogin", u"frmZentLogin"}));
+    for (const bool cancelled : {true, false}) {
+        carrier.calls.clear(), desktop.forms.clear();
+        // Whatever stood there before, a failed login leaves nobody logged in.
+        state.session.gLoggedIn = state.session.gLoginResult = cancelled;
+        desktop.expect_box(FAILURE);
+        desktop.in_form(u"frmAutoLogin", [&](platform::Form& login) {
+            desktop.during_box = [&] {
+                login.window_activated();
+                clock.run_for(20);
+            };
+        });
+        cancelled ? cancel_login() : log_in(u"hong", u"new");
+        form.session.AUTO_LOGIN_START();
+        EXPECT_EQ(desktop.forms, (std::vector<Text>{u"frmAutoLogin", u"frmZentLogin"}));
+        EXPECT_EQ(carrier.count("bind"), cancelled ? 1 : 2);
+        if (cancelled) expect_logged_out();
+    }
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINPW"), "new");
 }
@@ -348,9 +376,20 @@ TEST_F(AutomaticLogin, SendsAPasswordInQuotationMarksAsItWasTyped) {
     }
 }
 
+TEST_F(AutomaticLogin, AsksForWhatIsMissingInTheManualForm) {
+    for (const auto& [user_id, password] : {std::pair{u"hong", u""}, {u"", u"secret"}}) {
+        save_account(user_id, password);
+        cancel_login();
+        form.session.AUTO_LOGIN_START();
+        EXPECT_TRUE(carrier.calls.empty());
+    }
+    expect_logged_out();
+}
+
 // Log-out.
 
 TEST_F(LogOut, AsksAndThenForgetsTheLogin) {
+    EXPECT_FALSE(form.session.cmdLogOut.enabled());
     form.session.cmdLogOut.Click.raise();  // nobody is logged in, nobody is asked
 
     log_in(u"hong", u"secret");
@@ -363,6 +402,7 @@ TEST_F(LogOut, AsksAndThenForgetsTheLogin) {
     desktop.expect_box(tests::LOG_OUT, BoxAnswer::yes);
     form.session.cmdLogOut.Click.raise();
     expect_logged_out();
+    EXPECT_EQ(form.session.STBar1.panel(1).picture, 1);
     EXPECT_TRUE(carrier.calls.empty()) << "nothing is bound";
     EXPECT_EQ(saved_login(u"LOGINPW"), "");
     EXPECT_EQ(saved_login(u"LOGINID"), "hong");
@@ -371,6 +411,8 @@ TEST_F(LogOut, AsksAndThenForgetsTheLogin) {
     log_in(u"hong", u"secret");
     form.session.cmdLogin.Click.raise();
     EXPECT_EQ(utf8(state.session.gServiceNumber), "030312345678") << "the last known number goes along";
+    EXPECT_EQ(form.session.STBar1.panel(1).picture, 2);
+    EXPECT_EQ(form.sender.txtUserName.rows().size() + form.sender.txtCallback.rows().size(), 4u);
 }
 
 }  // namespace

@@ -292,6 +292,9 @@ TEST_F(MyMsgBox, AnEditThatCannotBeWrittenStaysInTheRowAndInTheFields) {
 TEST_F(MyMsgBox, RemovesAMessageAfterAYes) {
     put(FIRST, u"가", "x");
     open();
+    box().ListView2.deselect_item();
+    desktop.expect_box(tests::refusal(u"삭제할 자료를 먼저 선택하세요!"));
+    box().Command3.Click.raise();
     choose(box().ListView2, 0);
     for (const BoxAnswer answer : {BoxAnswer::no, BoxAnswer::yes}) {
         EXPECT_EQ(saved(FIRST, u"가"), "x");

@@ -95,7 +95,7 @@ TEST(SendWindow, AStopEndsACallThatIsNotAnsweredButNotBeforeTenSeconds) {
     s.desktop.in_form<send::frmZentSend>(u"frmZentSend", [&](send::frmZentSend& job) {
         s.desktop.during_yield = [&] { job.Command1.Click.raise(); };
     });
-    s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+    s.desktop.expect_box(tests::JOB_IS_STOPPED);
     s.send();
     EXPECT_EQ(s.carrier.waited, std::chrono::seconds(10));
     EXPECT_EQ(s.status(0), "확인필요");

@@ -20,6 +20,27 @@ using platform::BoxIcon;
 using platform::Text;
 using tests::utf8;
 
+const Text MEANING =
+    u"'확인필요'는 등록 요청을 보냈으나 응답을 받지 못한 받는 사람입니다. 발송결과에서 확인하신 후, 등록되지 않았으면 "
+    u"다시 선택하여 보내십시오.";
+
+/// The lines of the question about a draft whose job was cut off.
+Text unconfirmed(int to_send, int others, int open) {
+    return u"\r\n보낼 사람 " + platform::decimal(to_send) + u"명, 나머지 " + platform::decimal(others) +
+           u"명\r\n\r\n확인필요 " + platform::decimal(open) + u"명\r\n" + MEANING;
+}
+
+/// The question before a text goes on that is registered in part.
+platform::MessageBox rest_question(const Text& lines) {
+    return {.text = u"이 메시지는 앞서 일부만 등록되었습니다." + lines +
+                    u"\r\n\r\n등록되지 않은 나머지만 이어서 보내시겠습니까?\r\n\r\n[아니오]를 선택하시면 처음부터 모두 "
+                    u"다시 보냅니다.",
+            .icon = BoxIcon::question,
+            .title = u"이어서 보내기",
+            .buttons = platform::BoxButtons::yes_no_cancel,
+            .default_answer = BoxAnswer::yes};
+}
+
 /// Ends a run where it is, as a kill does.
 struct Killed {};
 
@@ -207,7 +228,11 @@ TEST_F(KeptDraft, OneThatTheUserDeclinesStaysBesideTheNext) {
     EXPECT_TRUE(run->form.kept_draft.KeptDraft.visible());
     run->add(u"이", u"01000000002");
     run->clock.run_for(2000);
-    run->desktop.expect_box(u"지금 작성한 내용을 지난번에 작성하던 메시지로 바꾸시겠습니까?", BoxAnswer::yes);
+    run->desktop.expect_box(
+        tests::question(u"지금 작성한 내용을 지난번에 작성하던 메시지로 바꾸시겠습니까?\r\n\r\n지금 목록에 있는 "
+                        u"받는 사람은 되살린 목록에 함께 남습니다.",
+                        u"메시지 되살리기", BoxIcon::question, BoxAnswer::no),
+        BoxAnswer::yes);
     run->form.kept_draft.KeptDraftTakeUp.Click.raise();
     EXPECT_EQ(run->rows(), "* x2\n");
 }
@@ -230,7 +255,11 @@ TEST_F(KeptDraft, ADamagedFileIsSetAsideWithAWord) {
     run.reset();
     const std::string kept = file();
     std::ofstream(kept, std::ios::in).write(std::string(200, 'x').data(), 200);
-    start().desktop.expect_box(u"보관한 파일이 손상되어");
+    const auto name = platform::from_utf8(kept + ".damaged-1");
+    start().desktop.expect_box(tests::refusal(
+        u"지난번에 작성하던 메시지를 보관한 파일이 손상되어 모두 되살릴 수 없습니다. 파일은 지우지 않고 다음 이름으로 "
+        u"남겨 두었습니다.\r\n\r\nz:" +
+        platform::replace_all(name, u"/", u"\\")));
     run->keeper.start();
     EXPECT_TRUE(std::filesystem::exists(kept + ".damaged-1"));
     run->add(u"이", u"01000000002");
@@ -288,9 +317,7 @@ TEST_F(KeptDraft, AJobCutOffLeavesTheOpenSubmitUnconfirmed) {
     run->killed_at_submit(2);
 
     restore(
-        u"문자메시지, '안녕', 받는 사람 250명, 11월 23일 오전 10:00\r\n보낼 사람 50명, 나머지 200명\r\n\r\n확인필요 "
-        u"100명\r\n'확인필요'는 등록 요청을 보냈으나 응답을 받지 못한 받는 사람입니다. 발송결과에서 확인하신 후, "
-        u"등록되지 않았으면 다시 선택하여 보내십시오.");
+        u"문자메시지, '안녕', 받는 사람 250명, 11월 23일 오전 10:00" + unconfirmed(50, 200, 100));
     EXPECT_EQ(run->rows(), "등록성공 x100\n확인필요 x100\n* x50\n");
     run->expect_report();
     run->press_send();
@@ -305,11 +332,10 @@ TEST_F(KeptDraft, ATextInPiecesGoesOnWithTheRestAfterAKill) {
     run->add_many(150);
     run->killed_at_submit(4);  // the second batch of the second piece
 
-    start().desktop.expect_box(u"지난번에 작성하던 메시지를 되살리시겠습니까?", BoxAnswer::yes);
-    run->keeper.start();
+    restore(u"문자메시지, '" + Text(15, u'x') + u"', 받는 사람 150명, 11월 23일 오전 10:00" + unconfirmed(100, 50, 50));
     EXPECT_EQ(run->rows(), "*2/3 등록 x100\n확인필요 x50\n");
-    run->desktop.expect_box(u"이 메시지는 앞서 일부만 등록되었습니다.\r\n 나누어 보낸 메시지 1/3만 등록된 받는 사람: "
-                            u"50명\r\n 나누어 보낸 메시지 2/3만 등록된 받는 사람: 100명",
+    run->desktop.expect_box(rest_question(u"\r\n 나누어 보낸 메시지 1/3만 등록된 받는 사람: 50명\r\n 나누어 보낸 "
+                                          u"메시지 2/3만 등록된 받는 사람: 100명"),
                             BoxAnswer::yes);
     run->expect_report();
     run->press_send();
@@ -325,8 +351,7 @@ TEST_F(KeptDraft, APersonalTextGoesOnWithTheRestAfterAKill) {
     run->add_many(3);
     run->killed_at_submit(4);  // the second piece of the second recipient
 
-    start().desktop.expect_box(u"지난번에 작성하던 메시지를 되살리시겠습니까?", BoxAnswer::yes);
-    run->keeper.start();
+    restore(u"문자메시지, '{이름}" + Text(11, u'x') + u"', 받는 사람 3명, 11월 23일 오전 10:00" + unconfirmed(1, 2, 1));
     EXPECT_EQ(run->rows(), "등록성공 x1\n확인필요 x1\n* x1\n");
 }
 
@@ -334,12 +359,16 @@ TEST_F(KeptDraft, ASessionRefusedBetweenThePiecesSendsNothingTwice) {
     start().keeper.start();
     run->write_long_text(2);
     run->add_many(120);
-    run->carrier.results[{"fn_x_bind", 3}] = 0;
-    run->desktop.expect_box(u"메시지 등록을 실패하였습니다.");
+    run->carrier.results[{"bind", 3}] = 5;
+    run->desktop.expect_box(tests::refusal(
+        u"메시지 등록을 실패하였습니다. 원인은 다음과 같습니다.\r\n\r\n원인 1) 인터넷 연결이 안된 경우.\r\n원인 2) "
+        u"폰디라 서버가 응닶이 없는 경우.\r\n원인 3) 폰디라 가입을 해지한 경우.\r\n원인 4) 폰디라 사용이 일시 정지된 "
+        u"경우.\r\n\r\n인터넷 연결상태를 확인하시고 잠시 후 다시 시작하여 주십시오.\r\n\r\n 나누어 보낸 메시지 "
+        u"1/2만 등록된 받는 사람: 120명\r\n 다시 보내면 등록되지 않은 나머지만 이어서 보낼 수 있습니다."));
     run->press_send();
     EXPECT_EQ(run->rows(), "*1/2 등록 x120\n");
 
-    run->desktop.expect_box(u"이 메시지는 앞서 일부만 등록되었습니다.", BoxAnswer::yes);
+    run->desktop.expect_box(rest_question(u"\r\n 나누어 보낸 메시지 1/2만 등록된 받는 사람: 120명"), BoxAnswer::yes);
     run->expect_report();
     run->press_send();
     ASSERT_EQ(run->carrier.registrations.size(), 4U);

@@ -23,8 +23,6 @@ class ScriptedDesktop : public platform::Desktop {
 
     /// The next box must be this one; the user gives this answer.
     void expect_box(platform::MessageBox box, platform::BoxAnswer answer = platform::BoxAnswer::ok);
-    /// The next box must contain the text.
-    void expect_box(platform::Text part, platform::BoxAnswer answer = platform::BoxAnswer::ok);
     /// The next file dialog must have this title; the user picks the path, or cancels without one.
     void expect_file_dialog(platform::Text title, std::optional<platform::Text> chosen);
     /// The next input box must be this one; the user enters the answer, or cancels when it is empty.
@@ -42,7 +40,6 @@ class ScriptedDesktop : public platform::Desktop {
     std::optional<platform::Text> any_input;
 
     // The calls of the desktop.
-    std::vector<platform::MessageBox> boxes;
     std::vector<platform::FileQuestion> file_questions;
     std::vector<platform::Text> forms;
     platform::Text clipboard;
@@ -84,7 +81,6 @@ class ScriptedDesktop : public platform::Desktop {
   private:
     struct Expected {
         platform::MessageBox box;
-        platform::Text part;
         platform::BoxAnswer answer;
     };
     struct ExpectedInput {
