@@ -248,6 +248,13 @@ class Desk:
         x, y = box.x + box.width // 2, box.y + box.height // 2
         subprocess.run(["xdotool", "mousemove", str(x), str(y), "sleep", "0.1", "click", "1"], check=True)
 
+    @staticmethod
+    def press(thing):
+        """Presses a button or a tab as a screen reader does, also behind a modal window."""
+        action = thing.queryAction()
+        names = [action.getName(number) for number in range(action.nActions)]
+        action.doAction(names.index("Press"))
+
     def say(self, text):
         """Speaks into the microphone to the end; returns the sound file that was played."""
         spoken = self.results / "spoken.wav"

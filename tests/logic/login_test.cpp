@@ -141,8 +141,7 @@ TEST_F(ManualLogin, IsCheckedAppliedAndSavedWhilePollingWaits) {
                      std::string(20, ' '), std::string(40, ' '), std::string(40, ' '), std::string(20, ' '),
                      "#ong", "#ecret"}))  // unbind
         << "the number is the one that was known before this login";
-    EXPECT_EQ(carrier.callbacks.at(0),
-              reinterpret_cast<platform::CarrierCallback>(gateway::GATEWAY_NOTIFY_6));
+    EXPECT_EQ(carrier.notify, platform::CarrierLibrary::Notify::six);
     EXPECT_EQ(state.session.gSubmitSequence, 1);
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINID"), "hong");
