@@ -60,7 +60,6 @@ std::int32_t HostedCarrierLibrary::fn_x_bind(std::int32_t argument1, std::string
 }
 
 std::int32_t HostedCarrierLibrary::fn_x_unbind(std::string& user_id, std::string& password) {
-    if (!host_ || !host_->is_ready()) return 0;
     Call call{.which = Export::unbind, .numbers = {}, .texts = {user_id, password}};
     return run(call, {&user_id, &password});
 }
@@ -117,10 +116,12 @@ std::int32_t HostedCarrierLibrary::run(Call& call, std::initializer_list<std::st
     if (calling_) throw RuntimeError(ErrorNumber::invalid_call);
     const CallScope scope(calling_, frame_);
     if (!write_call(call, frame_)) throw RuntimeError(ErrorNumber::overflow);
-    HostProcess& host = ready_host();
-    const auto answer = exchange_frames(host) ? parse_answer(payload_of(frame_), call) : std::nullopt;
+    if (host_ && !host_->is_ready()) host_.reset();
+    if (!host_ && call.which == Export::unbind) return 0;
+    if (!host_) host_.emplace(program_);
+    const auto answer = exchange_frames() ? parse_answer(payload_of(frame_), call) : std::nullopt;
     if (!answer) {
-        host.kill();
+        host_->kill();
         host_.reset();
         throw NoAnswer();
     }
@@ -131,21 +132,14 @@ std::int32_t HostedCarrierLibrary::run(Call& call, std::initializer_list<std::st
     return answer->result;
 }
 
-HostProcess& HostedCarrierLibrary::ready_host() {
-    if (host_ && !host_->is_ready()) host_.reset();
-    if (!host_) host_.emplace(program_);
-    return *host_;
+bool HostedCarrierLibrary::exchange_frames() {
+    const GoesOn goes_on = [this, started = steady_clock::now()] { return this->goes_on(started); };
+    return send_frame(host_->socket(), frame_, goes_on) && receive_frame(host_->socket(), frame_, goes_on);
 }
 
-bool HostedCarrierLibrary::exchange_frames(const HostProcess& host) {
-    const auto started = steady_clock::now();
-    const GoesOn goes_on = [&] { return this->goes_on(host, started); };
-    return send_frame(host.socket(), frame_, goes_on) && receive_frame(host.socket(), frame_, goes_on);
-}
-
-bool HostedCarrierLibrary::goes_on(const HostProcess& host, steady_clock::time_point started) const {
+bool HostedCarrierLibrary::goes_on(steady_clock::time_point started) const {
     // A child that the library left behind keeps the connection open behind a host that has ended.
-    if (host.has_ended()) return false;
+    if (host_->has_ended()) return false;
     if (keep_alive_) keep_alive_();
     return waits_on(std::chrono::duration_cast<std::chrono::milliseconds>(steady_clock::now() - started));
 }

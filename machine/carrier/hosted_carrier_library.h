@@ -4,6 +4,7 @@
 #include "machine/carrier/protocol.h"
 #include "platform/ports/carrier_library.h"
 
+#include <chrono>
 #include <functional>
 #include <initializer_list>
 #include <optional>
@@ -39,10 +40,9 @@ class HostedCarrierLibrary : public platform::CarrierLibrary {
     /// Makes the call. Its numbers, and these texts, become what the library has left of them.
     std::int32_t run(Call& call, std::initializer_list<std::string*> texts);
     std::int32_t submit(Call call) { return run(call, {}); }
-    HostProcess& ready_host();
     /// Whether the host has answered; the answer is in the frame then.
-    bool exchange_frames(const HostProcess& host);
-    bool goes_on(const HostProcess& host, std::chrono::steady_clock::time_point started) const;
+    bool exchange_frames();
+    bool goes_on(std::chrono::steady_clock::time_point started) const;
 
     std::string program_;
     std::function<void()> keep_alive_;

@@ -46,6 +46,7 @@ void RecordingCarrier::take(std::initializer_list<std::string*> texts) {
 std::int32_t RecordingCarrier::fn_x_bind(std::int32_t one, std::string& user_id, std::string& password,
                                          std::string& domain, std::int32_t five, Notify six,
                                          std::int32_t seven) {
+    if (real != nullptr) return real->fn_x_bind(one, user_id, password, domain, five, six, seven);
     bound_user = decode_cp949(user_id);
     bound_password = decode_cp949(password);
     bind_numbers = {one, five, seven};
@@ -55,6 +56,7 @@ std::int32_t RecordingCarrier::fn_x_bind(std::int32_t one, std::string& user_id,
 }
 
 std::int32_t RecordingCarrier::fn_x_unbind(std::string& user_id, std::string& password) {
+    if (real != nullptr) return real->fn_x_unbind(user_id, password);
     take({&user_id, &password});
     return result("unbind");
 }
@@ -62,6 +64,7 @@ std::int32_t RecordingCarrier::fn_x_unbind(std::string& user_id, std::string& pa
 std::int32_t RecordingCarrier::fn_x_money_status(std::string& user_id, std::string& domain,
                                                  std::string& number, std::string& address,
                                                  MoneyStatus& status) {
+    if (real != nullptr) return real->fn_x_money_status(user_id, domain, number, address, status);
     take({&user_id, &domain, &number, &address});
     const std::int32_t code = result("money_status");
     if (code == 1) {
@@ -92,11 +95,13 @@ std::int32_t RecordingCarrier::fn_x_user_info(std::string& user_id, std::string&
 }
 
 std::int32_t RecordingCarrier::fn_x_submit(const Submit& submit) {
+    if (real != nullptr) return real->fn_x_submit(submit);
     record(submit, false);
     return result("submit");
 }
 
 std::int32_t RecordingCarrier::fn_x_submit_2(const Submit& submit) {
+    if (real != nullptr) return real->fn_x_submit_2(submit);
     record(submit, true);
     return result("submit_2");
 }

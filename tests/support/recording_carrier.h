@@ -45,6 +45,8 @@ class RecordingCarrier : public platform::CarrierLibrary {
     /// Operations that never answer, and how long the last of them was waited for.
     std::set<std::string> silent;
     std::chrono::milliseconds waited{};
+    /// If set, it answers in this one's place, and nothing is recorded.
+    platform::CarrierLibrary* real = nullptr;
     /// Run at every submit, before its answer, and at every other call.
     std::function<void()> at_submit;
     std::function<void()> at_call;
