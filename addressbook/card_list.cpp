@@ -86,7 +86,6 @@ void frmSendMan::CARD_LIST_FILL(platform::CardRecordset& recordset) {
         PBar1.set_progress(ListView2.row_count(), static_cast<std::size_t>(records));
         platform_.desktop.paint();
     }
-    if (ListView2.sorted()) ListView2.sort(ListView2.sort_key(), ListView2.sort_order());
     LISTVIEW2HDR_RESET();
     PICK_STATUS_SHOW();
     hide_progress();

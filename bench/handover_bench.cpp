@@ -1,5 +1,7 @@
 // A hand-over of 100,000 recipients with the duplicate search that each of them asks for; the alternative
-// reads the same lines and adds the same rows, but never searches, so its list keeps no index.
+// reads the same lines and adds the same rows, but never searches, so its list keeps no index. The same into
+// a list that is sorted by the numbers; the alternative hands over into an unsorted one and sorts it
+// afterwards.
 
 #include "bench/ratio.h"
 #include "handover/handover.h"
@@ -30,17 +32,24 @@ std::unique_ptr<tests::MainWindow> window() {
     return window;
 }
 
-void hand_over(benchmark::State& state, const std::string& file) {
+enum class Sorting { none, before, afterwards };
+
+void hand_over(benchmark::State& state, const std::string& file, Sorting sorting) {
     std::unique_ptr<tests::MainWindow> main;
     for (auto _ : state) {
         state.PauseTiming();
         main = window();
         main->files.files[u"z:\\app\\temp\\isend.text"] = "1";
         main->files.files[u"z:\\app\\temp\\tmpman.txt"] = file;
+        platform::ListView& list = main->form.recipients.ListView1;
+        const auto sort = [&] {
+            list.sort(compose::RECIPIENT_NUMBER, platform::ListView::SortOrder::ascending);
+        };
+        if (sorting == Sorting::before) sort();
         state.ResumeTiming();
         handover::HandOver(main->platform, main->state, main->form).NEW_SENDMAN_LOAD();
-        if (main->form.recipients.ListView1.row_count() != LINES)
-            state.SkipWithError("not everybody came in");
+        if (sorting == Sorting::afterwards) sort();
+        if (list.row_count() != LINES) state.SkipWithError("not everybody came in");
     }
 }
 
@@ -66,11 +75,20 @@ void without_search(benchmark::State& state, const std::string& file) {
 
 int main(int argc, char** argv) {
     const std::string file = lines();
-    benchmark::RegisterBenchmark("hand_over", hand_over, file)->Iterations(2)->Repetitions(5);
-    benchmark::RegisterBenchmark("without_search", without_search, file)->Iterations(2)->Repetitions(5);
+    const auto add = [](const char* name, auto... measured) {
+        benchmark::RegisterBenchmark(name, measured...)->Iterations(2)->Repetitions(5);
+    };
+    add("hand_over", hand_over, file, Sorting::none);
+    add("without_search", without_search, file);
+    add("into_sorted", hand_over, file, Sorting::before);
+    add("sorted_afterwards", hand_over, file, Sorting::afterwards);
     benchmark::Initialize(&argc, argv);
     bench::TimeKeeper times;
     benchmark::RunSpecifiedBenchmarks(&times);
-    const double ratio = times.time("hand_over") / times.time("without_search");
-    return bench::print_ratio_at_most("hand_over", ratio, "with search / without", 2) ? 0 : 1;
+    const bool searches = bench::print_ratio_at_most(
+        "hand_over", times.time("hand_over") / times.time("without_search"), "with search / without", 2);
+    const bool sorts = bench::print_ratio_at_most("sorted_hand_over",
+                                                  times.time("into_sorted") / times.time("sorted_afterwards"),
+                                                  "into a sorted list / sorted afterwards", 2);
+    return searches && sorts ? 0 : 1;
 }

@@ -61,8 +61,9 @@ class RecipientList : Room {
     /// Sets the kind of message whose numbers are typed from now on.
     void set_kind(const KindOfMessage& kind);
 
-    /// Adds a checked row at the end, selected and in view. Returns false and adds nothing when a listed
-    /// number begins with this one: it counts as a duplicate. An empty name becomes NO_NAME.
+    /// Adds a checked row, selected and in view: at the end or, in a sorted list, in its place. Returns false
+    /// and adds nothing when a listed number begins with this one: it counts as a duplicate. An empty name
+    /// becomes NO_NAME.
     bool add(platform::Text name, const platform::Text& number, platform::Text title);
 
     /// Shows how many rows there are and how many are checked.

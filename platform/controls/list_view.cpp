@@ -4,12 +4,6 @@
 
 namespace platform {
 
-const Text& ListItem::sub_item(int index) const {
-    static const Text none;
-    if (index == 0) return text_;
-    return index <= sub_item_count() ? sub_items_[static_cast<std::size_t>(index - 1)] : none;
-}
-
 void ListView::set_columns(std::vector<Column> columns) {
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     columns_ = std::move(columns);
@@ -37,15 +31,22 @@ void ListView::set_column_width(int number, int twips) {
 
 std::size_t ListView::add_row(Text text, std::vector<Text> sub_items, bool checked) {
     ++revision_;
-    const std::size_t row = rows_.size();
-    rows_.push_back(std::make_unique<ListItem>(std::move(text), std::move(sub_items)));
-    ListItem& added = item(row);
-    added.position_ = row;
-    added.checked_ = checked;
+    auto added = std::make_unique<ListItem>(std::move(text), std::move(sub_items));
+    added->checked_ = checked;
     if (checked) ++checked_count_;
-    if (index_) index_->add(added);
-    if (rows_view_ != nullptr) rows_view_->rows_added();
-    return row;
+    if (index_) index_->add(*added);
+    if (sorted_) added->sort_text_ = lower_case(added->sub_item(sort_key_));
+    const std::size_t place = sorted_ && !held_ ? place_of(added->sort_text_) : rows_.size();
+    insert(place, std::move(added));
+    return place;
+}
+
+void ListView::insert(std::size_t place, Row row) {
+    const bool at_end = place == rows_.size();
+    if (rows_view_ != nullptr && !at_end) rows_view_->row_about_to_be_inserted(place);
+    rows_.insert(place, std::move(row));
+    if (rows_view_ == nullptr) return;
+    at_end ? rows_view_->row_added() : rows_view_->row_inserted();
 }
 
 void ListView::remove_selected_rows() {
@@ -53,13 +54,14 @@ void ListView::remove_selected_rows() {
     ++revision_;
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     if (selected_item_ != nullptr && selected_item_->selected()) selected_item_ = nullptr;
-    std::erase_if(rows_, [this](const std::unique_ptr<ListItem>& row) {
-        if (!row->selected()) return false;
+    for (Row& row : rows_.take_all()) {
+        if (!row->selected()) {
+            rows_.insert(rows_.size(), std::move(row));
+            continue;
+        }
         if (row->checked()) --checked_count_;
         if (index_) index_->remove(*row);
-        return true;
-    });
-    number_rows();
+    }
     if (rows_view_ != nullptr) rows_view_->rows_rearranged();
 }
 
@@ -68,7 +70,7 @@ void ListView::clear() {
     ++revision_;
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     index_.reset();
-    rows_.clear();
+    rows_.take_all();
     selected_item_ = nullptr;
     checked_count_ = 0;
     if (rows_view_ != nullptr) rows_view_->rows_rearranged();
@@ -116,20 +118,19 @@ std::optional<std::size_t> ListView::selected_item() const {
 void ListView::select_item(std::size_t row) {
     item(row).selected_ = true;
     selected_item_ = &item(row);
-    if (rows_view_ != nullptr) rows_view_->row_selection_changed(row);
+    if (rows_view_ != nullptr) rows_view_->selection_changed();
 }
 
 void ListView::deselect_item() {
     if (selected_item_ == nullptr) return;
-    const std::size_t row = selected_item_->position();
+    selected_item_->selected_ = false;
     selected_item_ = nullptr;
-    item(row).selected_ = false;
-    if (rows_view_ != nullptr) rows_view_->row_selection_changed(row);
+    if (rows_view_ != nullptr) rows_view_->selection_changed();
 }
 
 void ListView::select_all() {
-    for (const auto& row : rows_) row->selected_ = true;
-    if (selected_item_ == nullptr && !rows_.empty()) selected_item_ = rows_.front().get();
+    for (std::size_t row = 0; row < rows_.size(); ++row) item(row).selected_ = true;
+    if (selected_item_ == nullptr && rows_.size() > 0) selected_item_ = &item(0);
     if (rows_view_ != nullptr) rows_view_->selection_changed();
 }
 
@@ -140,7 +141,7 @@ void ListView::make_visible(std::size_t row) const {
 std::optional<std::size_t> ListView::find_in_sub_items(TextView beginning) const {
     if (!index_) {
         index_.emplace();
-        for (const auto& row : rows_) index_->add(*row);
+        for (std::size_t row = 0; row < rows_.size(); ++row) index_->add(rows_[row]);
     }
     const ListItem* found = index_->first_row(beginning);
     if (found == nullptr) return std::nullopt;
@@ -154,16 +155,36 @@ void ListView::sort(int sort_key, SortOrder order) {
     sorted_ = true;
     ++revision_;
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
-    std::vector<std::pair<Text, std::unique_ptr<ListItem>>> keyed;
+    std::vector<std::pair<Text, Row>> keyed;
     keyed.reserve(rows_.size());
-    for (auto& row : rows_) keyed.emplace_back(lower_case(row->sub_item(sort_key)), std::move(row));
-    std::stable_sort(keyed.begin(), keyed.end(), [order](const auto& a, const auto& b) {
-        return order == SortOrder::ascending ? a.first < b.first : b.first < a.first;
-    });
-    std::transform(keyed.begin(), keyed.end(), rows_.begin(),
-                   [](auto& row) { return std::move(row.second); });
-    number_rows();
+    for (Row& row : rows_.take_all()) keyed.emplace_back(lower_case(row->sub_item(sort_key)), std::move(row));
+    std::ranges::stable_sort(
+        keyed, [this](const Text& a, const Text& b) { return stands_before(a, b); },
+        &std::pair<Text, Row>::first);
+    for (auto& [sort_text, row] : keyed) {
+        row->sort_text_ = std::move(sort_text);
+        rows_.insert(rows_.size(), std::move(row));
+    }
     if (rows_view_ != nullptr) rows_view_->rows_rearranged();
+}
+
+bool ListView::stands_before(const Text& sort_text, const Text& other) const {
+    return sort_order_ == SortOrder::ascending ? sort_text < other : other < sort_text;
+}
+
+/// The position behind the last row that does not have to stand behind one with the text.
+std::size_t ListView::place_of(const Text& sort_text) const {
+    std::size_t first = 0;
+    std::size_t behind = rows_.size();
+    while (first < behind) {
+        const std::size_t middle = (first + behind) / 2;
+        if (stands_before(sort_text, rows_[middle].sort_text_)) {
+            behind = middle;
+        } else {
+            first = middle + 1;
+        }
+    }
+    return first;
 }
 
 void ListView::user_check(std::size_t row, bool checked) {
@@ -183,10 +204,6 @@ void ListView::user_resized(int width) {
     if (width == width_) return;
     width_ = width;
     Resize.raise();
-}
-
-void ListView::number_rows() {
-    for (std::size_t row = 0; row < rows_.size(); ++row) rows_[row]->position_ = row;
 }
 
 }  // namespace platform

@@ -3,56 +3,30 @@
 #include "platform/controls/control.h"
 #include "platform/controls/input.h"
 #include "platform/controls/prefix_index.h"
+#include "platform/controls/row_sequence.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <vector>
 
 namespace platform {
-
-/// A row of a list: its item text and its sub-items, counted from 1.
-class ListItem {
-  public:
-    ListItem(Text text, std::vector<Text> sub_items)
-        : text_(std::move(text)), sub_items_(std::move(sub_items)) {}
-
-    const Text& text() const { return text_; }
-    /// The item text for 0; empty beyond the last sub-item.
-    const Text& sub_item(int index) const;
-    int sub_item_count() const { return static_cast<int>(sub_items_.size()); }
-    /// Number of the row's picture in the screen's list of pictures, counted from 1; 0 for none.
-    int small_icon() const { return small_icon_; }
-    bool checked() const { return checked_; }
-    bool selected() const { return selected_; }
-    /// Position in the list, counted from 0.
-    std::size_t position() const { return position_; }
-
-  private:
-    friend class ListView;
-
-    Text text_;
-    std::vector<Text> sub_items_;
-    std::size_t position_ = 0;
-    int small_icon_ = 0;
-    bool checked_ = false;
-    bool selected_ = false;
-};
 
 /// The widget's side of a list's rows: it reads them in place, and the list calls it when they change.
 class RowsView {
   public:
     virtual ~RowsView() = default;
 
-    /// Rows have been added at the end.
-    virtual void rows_added() = 0;
+    /// A row has been added at the end.
+    virtual void row_added() = 0;
+    /// A row is about to be inserted before the one at the position.
+    virtual void row_about_to_be_inserted(std::size_t row) = 0;
+    virtual void row_inserted() = 0;
     /// Many rows are about to go or change places. The widget reads all of them anew afterwards.
     virtual void rows_about_to_be_rearranged() = 0;
     virtual void rows_rearranged() = 0;
     virtual void row_changed(std::size_t row) = 0;
-    virtual void row_selection_changed(std::size_t row) = 0;
-    /// The selection of any number of rows has changed.
+    /// Rows have been selected or deselected.
     virtual void selection_changed() = 0;
     virtual void columns_changed() = 0;
     virtual void make_visible(std::size_t row) = 0;
@@ -93,9 +67,10 @@ class ListView : public Control {
     std::size_t row_count() const { return rows_.size(); }
     /// Grows with every change of the rows' texts, marks and places.
     std::uint64_t revision() const { return revision_; }
-    const ListItem& row(std::size_t index) const { return *rows_[index]; }
+    const ListItem& row(std::size_t index) const { return rows_[index]; }
 
-    /// Adds a row at the end, even if the list was sorted, and returns its index.
+    /// Adds a row and returns its index: at the end or, once the list has been sorted, in its place, behind
+    /// the rows with equal texts.
     std::size_t add_row(Text text, std::vector<Text> sub_items, bool checked = false);
     /// Does nothing while the rows are held; neither do `clear` and `sort`.
     void remove_selected_rows();
@@ -123,9 +98,9 @@ class ListView : public Control {
     /// 0 is the item text.
     int sort_key() const { return sort_key_; }
     SortOrder sort_order() const { return sort_order_; }
-    /// Whether the rows have been sorted since the columns were set; rows added later stand after them.
-    bool sorted() const { return sorted_; }
-    /// Sorts the present rows without regard to case. Rows with equal texts keep their order.
+    /// Sorts the rows without regard to case, and those that are added until the columns are set anew. Rows
+    /// with equal texts keep their order. A row whose text changes stays where it is: nothing moves under the
+    /// user's hand while a job marks its rows.
     void sort(int sort_key, SortOrder order);
 
     /// The widget that shows the rows, beside the one that shows the control's other aspects.
@@ -150,17 +125,19 @@ class ListView : public Control {
   private:
     friend class HeldRows;
 
-    ListItem& item(std::size_t row) { return *rows_[row]; }
+    ListItem& item(std::size_t row) { return rows_[row]; }
     void change_checked(std::size_t row, bool checked);
-    void number_rows();
+    bool stands_before(const Text& sort_text, const Text& other) const;
+    std::size_t place_of(const Text& sort_text) const;
+    void insert(std::size_t place, Row row);
 
     RowsView* rows_view_ = nullptr;
     std::vector<Column> columns_;
     bool check_boxes_;
-    std::vector<std::unique_ptr<ListItem>> rows_;
+    RowSequence rows_;
     /// Made at the first search, because most lists are never searched.
     mutable std::optional<PrefixIndex> index_;
-    const ListItem* selected_item_ = nullptr;
+    ListItem* selected_item_ = nullptr;
     std::size_t checked_count_ = 0;
     std::uint64_t revision_ = 0;
     int sort_key_ = 0;
@@ -170,7 +147,8 @@ class ListView : public Control {
     bool held_ = false;
 };
 
-/// Holds a list's rows for as long as this object lives: none goes and none changes its place. For work over
+/// Holds a list's rows for as long as this object lives: none goes, none changes its place, and a new one stands
+/// at the end even if the list is sorted. For work over
 /// the rows in whose pauses the event loop runs.
 class HeldRows {
   public:

@@ -1,6 +1,6 @@
 #include "platform/controls/prefix_index.h"
 
-#include "platform/controls/list_view.h"
+#include "platform/controls/list_item.h"
 
 #include <algorithm>
 #include <functional>
@@ -98,6 +98,7 @@ const ListItem* PrefixIndex::Bucket::first_row(const Prefix& prefix) {
     if (chunk != chunks_.begin()) --chunk;
 
     const ListItem* first = nullptr;
+    std::size_t first_position = 0;
     auto entry = std::partition_point(chunk->entries.begin(), chunk->entries.end(), before);
     while (true) {
         if (entry == chunk->entries.end()) {
@@ -105,7 +106,11 @@ const ListItem* PrefixIndex::Bucket::first_row(const Prefix& prefix) {
             entry = chunk->entries.begin();
         }
         if (!entry->begins_with(prefix)) break;
-        if (first == nullptr || entry->row->position() < first->position()) first = entry->row;
+        const std::size_t position = entry->row->position();
+        if (first == nullptr || position < first_position) {
+            first = entry->row;
+            first_position = position;
+        }
         ++entry;
     }
     return first;

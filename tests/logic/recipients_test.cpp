@@ -191,12 +191,14 @@ TEST_F(Recipients, CtrlAAndTheMenuSelectEveryRowAndTheRightButtonOpensTheMenu) {
     EXPECT_EQ(desktop.popups, std::vector<const platform::Menu*>{&form.recipients.mnuSubPopup});
 }
 
-TEST_F(Sorting, AClickOnTheColumnOfTheCheckBoxesSortsByTheName) {
+TEST_F(Sorting, AClickOnTheColumnOfTheCheckBoxesSortsByTheNameFromThenOn) {
     add(u"가", u"1");
-    add(u"나", u"2");
+    add(u"다", u"2");
     form.recipients.ListView1.ColumnClick.raise(1);
-    EXPECT_EQ(rows(), (Rows{"*나 2", "*가 1"}));
+    EXPECT_EQ(rows(), (Rows{"*다 2", "*가 1"}));
     EXPECT_EQ(form.recipients.ListView1.sort_key(), 1);
+    ASSERT_TRUE(form.recipients.add(u"나", u"3", u""));
+    EXPECT_EQ(rows(), (Rows{"*다 2", "*!나 3", "*가 1"}));
 }
 
 TEST_F(Picking, CountsAgainAfterNewRowsOrAConfirmedDialog) {

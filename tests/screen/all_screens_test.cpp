@@ -48,7 +48,7 @@ struct System : tests::WindowsOnDoubles {
         forms.push_back(std::make_unique<compose::frmSet1>(platform));
         forms.push_back(std::make_unique<compose::frmXTip>(platform));
         forms.push_back(std::make_unique<send::frmSBox>(platform, state));
-        forms.push_back(std::make_unique<send::frmZentSend>(platform, state, main));
+        forms.push_back(std::make_unique<send::frmZentSend>(platform, state, main, keeper));
         forms.push_back(std::make_unique<send::frmSendEndBox>(platform, main));
         forms.push_back(
             std::make_unique<addressbook::frmSendMan>(platform, state, main.recipients, main.Timer1));

@@ -200,5 +200,27 @@ TEST_F(ListTest, RowsAddedOneByOneScrollTheListOnce) {
     EXPECT_EQ(selected_in_view(), Rows{20003});
 }
 
+TEST_F(ListTest, RowsThatTakeTheirPlacesInASortedListComeIntoViewThere) {
+    list.sort(1, platform::ListView::SortOrder::ascending);
+    list.set_checked(3, false);
+    for (int i = 0; i < 2000; ++i) {
+        list.deselect_item();
+        const std::size_t row = list.add_row(u"", {i % 2 == 0 ? u"마" : u"나", u"010"}, true);
+        list.make_visible(row);
+        list.select_item(row);
+    }
+    // A row that nobody asks to see comes before the one to show.
+    list.add_row(u"", {u"가"});
+    EXPECT_EQ(view().verticalScrollBar()->value(), 0) << "nothing is laid out while the handler runs";
+    settle();
+    constexpr std::size_t LAST_ADDED = 1002;
+    EXPECT_EQ(selected_in_view(), Rows{LAST_ADDED});
+    EXPECT_EQ(selected_in_model(), Rows{LAST_ADDED});
+    EXPECT_TRUE(view().viewport()->rect().intersects(
+        view().visualRect(view().model()->index(static_cast<int>(LAST_ADDED), 0))));
+    EXPECT_EQ(view().model()->rowCount(), 2005);
+    EXPECT_EQ(view().indexBelow(view().currentIndex()).siblingAtColumn(1).data().toString(), "다");
+}
+
 }  // namespace
 }  // namespace tests

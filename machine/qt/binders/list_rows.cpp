@@ -40,11 +40,20 @@ void ListRows::selection_changed() {
     gather();
 }
 
-void ListRows::rows_added() {
+void ListRows::row_added() {
     if (model_.rowCount() > 0) return gather();
     model_.tell_added_rows();
     keep_current(0);
 }
+
+void ListRows::row_about_to_be_inserted(std::size_t row) {
+    const int inserted = static_cast<int>(row);
+    model_.begin_inserting(inserted);
+    if (first_changed_ && inserted <= last_changed_) ++last_changed_;
+    if (to_show_ && inserted <= *to_show_) ++*to_show_;
+}
+
+void ListRows::row_inserted() { model_.end_inserting(); }
 
 void ListRows::rows_about_to_be_rearranged() {
     current_before_ = view_.currentIndex().row();
@@ -62,11 +71,6 @@ void ListRows::row_changed(std::size_t row) {
     const int changed = static_cast<int>(row);
     last_changed_ = first_changed_ ? std::max(last_changed_, changed) : changed;
     first_changed_ = first_changed_ ? std::min(*first_changed_, changed) : changed;
-    gather();
-}
-
-void ListRows::row_selection_changed(std::size_t) {
-    selection_changed_ = true;
     gather();
 }
 

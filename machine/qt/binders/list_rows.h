@@ -27,11 +27,12 @@ class ListRows : public QObject, public platform::RowsView {
     void bring_up_to_date();
     void let_go();
 
-    void rows_added() override;
+    void row_added() override;
+    void row_about_to_be_inserted(std::size_t row) override;
+    void row_inserted() override;
     void rows_about_to_be_rearranged() override;
     void rows_rearranged() override;
     void row_changed(std::size_t row) override;
-    void row_selection_changed(std::size_t row) override;
     void selection_changed() override;
     void columns_changed() override;
     void make_visible(std::size_t row) override;

@@ -64,6 +64,16 @@ void ListViewModel::tell_added_rows() {
     endInsertRows();
 }
 
+void ListViewModel::begin_inserting(int row) {
+    tell_added_rows();
+    beginInsertRows(QModelIndex(), row, row);
+}
+
+void ListViewModel::end_inserting() {
+    ++told_rows_;
+    endInsertRows();
+}
+
 void ListViewModel::end_rearranging() {
     told_rows_ = rows_of_list();
     endResetModel();

@@ -33,6 +33,9 @@ class ListViewModel : public QAbstractTableModel {
 
     /// Tells the views about all rows added since the last call.
     void tell_added_rows();
+    /// A row comes before another one. The views learn of it at once, for they read the rows in place.
+    void begin_inserting(int row);
+    void end_inserting();
     void begin_rearranging() { beginResetModel(); }
     void end_rearranging();
     void rows_changed(int first, int last);
