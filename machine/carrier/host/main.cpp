@@ -44,10 +44,11 @@ void limit_myself() {
     if (!done) std::_Exit(EXIT_FAILURE);
 }
 
-/// Leaves the library the socket, which it does not know, and standard files, all of them open: what it
-/// prints is for the program's error output.
+/// Leaves the library the socket, which it does not know and no program that it starts gets, and standard
+/// files, all of them open: what it prints is for the program's error output.
 void settle_files() {
     ::close_range(HOST_SOCKET + 1, ~0U, 0);
+    ::fcntl(HOST_SOCKET, F_SETFD, FD_CLOEXEC);
     if (::fcntl(STDERR_FILENO, F_GETFD) < 0) ::dup2(STDIN_FILENO, STDERR_FILENO);
     ::dup2(STDERR_FILENO, STDOUT_FILENO);
 }
