@@ -9,7 +9,7 @@
 namespace app {
 
 Application::Application(platform::Platform& platform)
-    : platform_(platform), main_(platform, state_, doors()), hand_over_(platform, state_, main_) {}
+    : platform_(platform), main_(platform, state_, doors()), hand_over_(platform, state_, main_), drafts_(platform, main_) {}
 
 bool Application::start() {
     return app::entry_routine(platform_, state_, [this] { main_.show(); });
@@ -17,7 +17,7 @@ bool Application::start() {
 
 compose::MainDoors Application::doors() {
     compose::MainDoors doors;
-    doors.send = [this] { send::check_and_send(platform_, state_, main_); };
+    doors.send = [this] { send::check_and_send(platform_, state_, main_, drafts_); };
     doors.pick_recipients = [this] {
         addressbook::frmSendMan picker(platform_, state_, main_.recipients, main_.Timer1);
         picker.ShowEnter(platform::Text(kind_of(main_).caption));
@@ -32,6 +32,8 @@ compose::MainDoors Application::doors() {
     };
     doors.update_check = [this] { update::check_from_menu(platform_, state_, main_); };
     doors.update_check_at_start = [this] { return update::check_at_start(platform_, state_, main_); };
+    doors.keep_draft = [this] { drafts_.start(); };
+    doors.draft_ends = [this] { drafts_.end(); };
     return doors;
 }
 

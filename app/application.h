@@ -2,6 +2,7 @@
 
 #include "compose/main_form.h"
 #include "core/app_state.h"
+#include "drafts/draft_keeper.h"
 #include "handover/handover.h"
 #include "platform/ports/platform.h"
 
@@ -25,6 +26,7 @@ class Application {
     core::AppState state_;
     compose::frmZent main_;
     handover::HandOver hand_over_;
+    drafts::DraftKeeper drafts_;
 };
 
 }  // namespace app

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "machine/carrier/hosted_carrier_library.h"
+#include "machine/drafts/sqlite_draft_store.h"
 #include "machine/jet/jet_card_source.h"
 #include "machine/posix/posix_files.h"
 #include "machine/posix/posix_shell.h"
@@ -20,9 +21,10 @@ struct DesktopMachine {
     DesktopMachine(const machine::posix::Paths& paths, machine::posix::PosixFiles machine_files,
                    platform::Clock& clock)
         : files(std::move(machine_files)),
-          shell(paths),
+          shell(paths, files.machine_path(files.windows_directory())),
           carrier(paths.application_directory() + "/carrier-host", machine::qt::keep_painted),
           cards(paths, machine::qt::keep_painted),
+          drafts(files.machine_path(files.windows_directory()), paths.application_directory()),
           platform{.desktop = desktop,
                    .clock = clock,
                    .files = files,
@@ -31,13 +33,15 @@ struct DesktopMachine {
                    .carrier = carrier,
                    .cards = cards,
                    .recorder = recorder,
-                   .internet = internet} {}
+                   .internet = internet,
+                   .drafts = drafts} {}
 
     machine::posix::PosixFiles files;
     platform::IniSettings settings{files};
     machine::posix::PosixShell shell;
     machine::carrier::HostedCarrierLibrary carrier;
     machine::jet::JetCardSource cards;
+    machine::drafts::SqliteDraftStore drafts;
     machine::qt::LateRecorder recorder;
     machine::qt::LateInternet internet;
     machine::qt::Screens screens = machine::qt::program_screens();

@@ -2,6 +2,7 @@
 #include "app/desktop_machine.h"
 #include "core/boxes.h"
 #include "machine/posix/process.h"
+#include "machine/qt/desktop/end_requests.h"
 #include "machine/qt/desktop/qt_application.h"
 #include "machine/qt/desktop/qt_clock.h"
 #include "machine/qt/look/desk_style.h"
@@ -12,6 +13,7 @@
 #include <QLocale>
 
 int main(int argc, char** argv) {
+    machine::posix::forbid_core();
     machine::posix::take_file_size_limit_as_full_disk();
     machine::qt::QtApplication qt(argc, argv);
     QApplication::setStyle(new machine::qt::DeskStyle);
@@ -32,6 +34,7 @@ int main(int argc, char** argv) {
     });
 
     app::Application application(machine.platform);
+    const machine::qt::EndRequests requests([&machine] { machine.desktop.close_all(); });
     if (application.start()) machine.desktop.run_until_closed(application.main_form());
     return 0;
 }

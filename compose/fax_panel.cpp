@@ -62,6 +62,10 @@ void FaxPanel::add_document() {
         core::warn(platform_.desktop, u"이미 동일한 파일이 존재합니다.");
         return;
     }
+    add(path);
+}
+
+void FaxPanel::add(const Text& path) {
     FAX1.set_small_icon(FAX1.add_row(path, {}), FAX_FILE_NUMBER(path));
     FAX_SIZE_CAPTION();
 }

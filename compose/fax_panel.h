@@ -24,6 +24,9 @@ class FaxPanel : Room {
     platform::Label FAXFileSize1{form_, u"FAXFileSize1"};
     platform::Label Label1_3;
 
+    /// Adds the document's row.
+    void add(const platform::Text& path);
+
     /// Shows the size of all documents together.
     void FAX_SIZE_CAPTION();
 

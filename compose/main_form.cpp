@@ -34,6 +34,7 @@ frmZent::frmZent(platform::Platform& platform, core::AppState& state, MainDoors 
       Cmd1(platform.desktop),
       Timer1(platform.clock, 500),
       Timer2(platform.clock, 1),
+      kept_draft(*this),
       subject(*this),
       sender(*this, platform, state),
       text(*this, platform, subject, sender),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "compose/fax_panel.h"
+#include "compose/kept_draft_bar.h"
 #include "compose/message_kinds.h"
 #include "compose/plus_panel.h"
 #include "compose/recipient_list.h"
@@ -47,6 +48,10 @@ struct MainDoors {
     std::function<void()> update_check = {};
     /// The same while the program starts; false when the server was not reached.
     std::function<bool()> update_check_at_start = {};
+    /// Offers the draft of the last run and begins to keep the present one.
+    std::function<void()> keep_draft = {};
+    /// Keeps the draft a last time.
+    std::function<void()> draft_ends = {};
 };
 
 /// The main window. There is one draft at a time, and it consists of these controls: sending reads them while
@@ -96,6 +101,7 @@ class frmZent : public platform::Form {
     /// Fires once after the first activation. A hand-over that logs in by itself sets its tag.
     platform::Timer Timer2;
 
+    KeptDraftBar kept_draft;
     Subject subject;
     Sender sender;
     TextPanel text;

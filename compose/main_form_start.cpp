@@ -76,8 +76,10 @@ void frmZent::restore_placement() {
         set_window_state(WindowState::maximised);
         return;
     }
-    move({.left = std::max(std::min(twips(state_.window.gWinLeft), screen.width - 1000), 0),
-          .top = std::min(std::max(twips(state_.window.gWinTop), 0), screen.height - 600),
+    const int last_left = screen.left + screen.width - 1000;
+    const int last_top = screen.top + screen.height - 600;
+    move({.left = std::max(std::min(twips(state_.window.gWinLeft), last_left), screen.left),
+          .top = std::min(std::max(twips(state_.window.gWinTop), screen.top), last_top),
           .width = std::min(twips(state_.window.gWinWidth), screen.width),
           .height = std::min(twips(state_.window.gWinHeight), screen.height)});
     if (placement().width <= 0 || placement().height <= 0) move(centre);
@@ -103,6 +105,7 @@ void frmZent::start_work() {
     const bool server_reached = update_check_at_start();
     if (doors_.NEW_SENDMAN_LOAD) doors_.NEW_SENDMAN_LOAD();
     DRAFT_RESET_IF_NO_KIND();
+    if (doors_.keep_draft) doors_.keep_draft();
     // Without a network an automatic login would fail: the user logs in by hand.
     if (!server_reached) return session.cmdLogin_Click();
     if (!Timer2.tag().empty() || state_.session.gLoggedIn) return;
@@ -122,8 +125,10 @@ bool frmZent::update_check_at_start() {
     return doors_.update_check_at_start();
 }
 
+/// Every end but a crash comes through here: the exit, the desktop's log-out, a signal.
 void frmZent::Form_Unload() {
     voice.RFK1.stop();
+    if (doors_.draft_ends) doors_.draft_ends();
     sender.save();
     // Settings files have always had this key, though the program never reads it.
     core::write_setting(platform_, core::settings::UPDATE_CHECK_AT_START,

@@ -8,6 +8,13 @@ namespace compose {
 
 using platform::Text;
 
+namespace {
+
+/// Ends every new text: what the recipient does to hear the voice.
+constexpr platform::TextView CALL_LINE = u"☎통화를눌러확인하세요";
+
+}  // namespace
+
 PlusPanel::PlusPanel(platform::Form& form, platform::Desktop& desktop, platform::Control& container,
                      Subject& subject, const Sender& sender)
     : Room(form), desktop_(desktop), subject_(subject), sender_(sender) {
@@ -21,13 +28,18 @@ PlusPanel::PlusPanel(platform::Form& form, platform::Desktop& desktop, platform:
 }
 
 void PlusPanel::start() {
-    mText2.set_text(sender_.sender_tag() + u"\r\n\r\n\r\n\r\n☎통화를눌러확인하세요");
+    mText2.set_text(sender_.sender_tag() + u"\r\n\r\n\r\n\r\n" + Text(CALL_LINE));
     mText2_Change();
 }
 
 void PlusPanel::start_if_empty() {
     const Text text = platform::trim(mText2.text());
     if (text.empty() || text == u"[]") start();
+}
+
+Text PlusPanel::body() const {
+    const Text text = platform::remove_all(mText2.text(), sender_.sender_tag());
+    return platform::trim(platform::remove_all(platform::remove_all(text, CALL_LINE), platform::CRLF));
 }
 
 void PlusPanel::mText2_Change() {

@@ -28,6 +28,9 @@ class PlusPanel : Room {
     /// The same, unless the user has written a text.
     void start_if_empty();
 
+    /// What the user has written: the text without what every text begins and ends with, trimmed.
+    platform::Text body() const;
+
   private:
     void refuse_excess();
 

@@ -165,6 +165,14 @@ void TextPanel::apply(Text text) {
     applied_long_ = agreed;
 }
 
+void TextPanel::show_kept(const Text& text, bool agreed) {
+    mText1.set_tag(u"LONG");
+    mText1.set_text(text);
+    if (agreed) return;
+    mText1.set_tag(u"");
+    applied_long_ = core::BYTE_LEN(text) > TEXT_LIMIT;
+}
+
 /// Saves the text into the box of saved texts, under the subject or, where that is taken, the subject and a
 /// number.
 void TextPanel::save() {

@@ -3,8 +3,8 @@
 namespace core {
 
 platform::Placement centred(const platform::Screen& screen, int width, int height) {
-    return {.left = (screen.width - width) / 2,
-            .top = (screen.height - height) / 2,
+    return {.left = screen.left + (screen.width - width) / 2,
+            .top = screen.top + (screen.height - height) / 2,
             .width = width,
             .height = height};
 }

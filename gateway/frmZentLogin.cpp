@@ -14,6 +14,17 @@ using platform::BoxIcon;
 using platform::KeyPressed;
 using platform::Text;
 
+namespace {
+
+/// How the password is written so that it reads back: reading takes away one pair of quotation marks.
+Text as_saved(const Text& password) {
+    const bool in_quotes = password.size() >= 2 && password.front() == password.back() &&
+                           (password.front() == u'"' || password.front() == u'\'');
+    return in_quotes ? password.front() + password + password.back() : password;
+}
+
+}  // namespace
+
 frmZentLogin::frmZentLogin(platform::Platform& platform, core::AppState& state, platform::Timer& polling)
     : Form(platform.desktop, u"frmZentLogin"),
       Timer1(platform.clock, 10),
@@ -136,7 +147,7 @@ void frmZentLogin::accept() {
     state_.session.gLoginPassword = Text2.text();
     // Written with auto login off, too: the main window's unload takes the password out again.
     core::write_setting(platform_, core::settings::LOGIN_ID, state_.session.gLoginUserId);
-    core::write_setting(platform_, core::settings::LOGIN_PASSWORD, state_.session.gLoginPassword);
+    core::write_setting(platform_, core::settings::LOGIN_PASSWORD, as_saved(state_.session.gLoginPassword));
     hide_busy_picture();
     unload();
 }

@@ -32,7 +32,8 @@ class Desk:
 
     def start(self):
         korean = {"HOME": str(self.home), "LC_TIME": "ko_KR.UTF-8", "LC_NUMERIC": "ko_KR.UTF-8"}
-        self.program = subprocess.Popen(["./zent"], cwd=self.app, env={**os.environ, **korean})
+        # A menu entry starts it from any folder.
+        self.program = subprocess.Popen([self.app / "zent"], cwd="/", env={**os.environ, **korean})
 
     def close_program(self):
         self._wait_for_focus()
@@ -68,8 +69,11 @@ class Desk:
 
     def _wait_for_focus(self):
         """Waits until a window of the program has the focus: clicks and keys before that are lost."""
-        active = lambda window: window.getState().contains(pyatspi.STATE_ACTIVE)
-        self.wait("the focus in a window", lambda: any(active(window) for window in self.windows()))
+        self.wait("the focus in a window", lambda: any(self._has_focus(window) for window in self.windows()))
+
+    @staticmethod
+    def _has_focus(window):
+        return window.getState().contains(pyatspi.STATE_ACTIVE)
 
     @staticmethod
     def text_of(field):
@@ -225,9 +229,11 @@ class Desk:
 
     def read_report(self, picture=None):
         """Waits for the report and closes it; returns how many recipients were registered, failed and were stopped."""
-        report = self.text_of(self.find("등록 결과", "text", self.window("등록완료")))
+        window = self.window("등록완료")
+        report = self.text_of(self.find("등록 결과", "text", window))
         if picture:
             self.picture(picture)
+        self.wait("the focus in the report", lambda: self._has_focus(window))
         self.keys("Return")
         self.gone("등록완료")
         return [int(number) for number in re.findall(r"(?:성공|실패|중지): ([0-9]+)건", report)]
@@ -241,6 +247,13 @@ class Desk:
         box = thing.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
         x, y = box.x + box.width // 2, box.y + box.height // 2
         subprocess.run(["xdotool", "mousemove", str(x), str(y), "sleep", "0.1", "click", "1"], check=True)
+
+    @staticmethod
+    def press(thing):
+        """Presses a button or a tab as a screen reader does, also behind a modal window."""
+        action = thing.queryAction()
+        names = [action.getName(number) for number in range(action.nActions)]
+        action.doAction(names.index("Press"))
 
     def say(self, text):
         """Speaks into the microphone to the end; returns the sound file that was played."""

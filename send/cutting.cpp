@@ -6,6 +6,7 @@
 #include "platform/text/format.h"
 #include "send/draft.h"
 #include "send/frmZentSend.h"
+#include "send/pieces.h"
 
 namespace send {
 
@@ -15,6 +16,7 @@ using platform::Text;
 void frmZentSend::begin_pieces(SendJob& job, const Text& text) {
     mText1.set_text(text);
     job.pieces = 0;
+    job.all_pieces = count_pieces(text);
     if (main_form_.schedule.Option1.chosen()) {
         compose::show_schedule({DTP1, Combo1, Combo2}, platform_.clock.now());
     } else {

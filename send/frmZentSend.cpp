@@ -16,13 +16,15 @@ constexpr std::chrono::seconds STOP_IS_HEARD_AFTER{10};
 
 }  // namespace
 
-frmZentSend::frmZentSend(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form)
+frmZentSend::frmZentSend(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form,
+                         drafts::DraftKeeper& drafts)
     : Form(platform.desktop, u"frmZentSend"),
       Timer1(platform.clock, 500),
       RecipientRows(main_form.recipients.ListView1),
       platform_(platform),
       state_(state),
       main_form_(main_form),
+      drafts_(drafts),
       gateway_(platform, state) {
     set_caption(u"폰디라 서버에 메시지 등록...");
     Command1.set_tool_tip(u"메시지 등록을 중지합니다.");

@@ -2,6 +2,7 @@
 
 #include "compose/main_form.h"
 #include "core/app_state.h"
+#include "drafts/draft_keeper.h"
 #include "gateway/gateway.h"
 #include "platform/boolean_word.h"
 #include "platform/controls/buttons.h"
@@ -16,6 +17,7 @@
 #include <chrono>
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace send {
 
@@ -33,7 +35,9 @@ namespace send {
 /// What they share is in job_steps.cpp; each has a file of its own.
 class frmZentSend : public platform::Form {
   public:
-    frmZentSend(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form);
+    /// `drafts` notes on the disk what the job does.
+    frmZentSend(platform::Platform& platform, core::AppState& state, compose::frmZent& main_form,
+                drafts::DraftKeeper& drafts);
 
     platform::Animation Animation1{*this, u"Animation1"};
     platform::Label Label1_0{*this, u"Label1_0", u"KT 폰디라 서버와 통신중입니다."};
@@ -96,17 +100,21 @@ class frmZentSend : public platform::Form {
                  const std::function<void(SendJob&)>& send_rows);
     SendJob prepare(const compose::CarrierKind* kind, compose::Pauses pauses);
     void open_session(SendJob& job);
-    platform::Text submit(SendJob& job, platform::TextView without_call = NOT_REGISTERED);
+    platform::Text submit(SendJob& job, const std::vector<std::size_t>& rows, bool decides,
+                          platform::TextView without_call = NOT_REGISTERED);
+    void take_answer(const SendJob& job, const std::vector<std::size_t>& rows, bool decides,
+                     const platform::Text& result);
     void close_session(const SendJob& job);
     static void count(SendJob& job, const platform::Text& result, int recipients);
     void write_status(std::size_t first_row, std::size_t end_row, const platform::Text& status);
+    void show_pieces();
     void show_stopped();
     void report(const SendJob& job);
     void SEND_FINISHED();
 
     // Recipients in batches: send_batches.cpp.
     void pass_over_rows(SendJob& job, Batch& batch, PassOptions options);
-    bool add_to_batch(Batch& batch, std::size_t& current) const;
+    bool add_to_batch(Batch& batch, std::size_t& current, int piece) const;
     void submit_batch(SendJob& job, Batch& batch, std::size_t current, bool leaves_trace);
 
     // Recipients one by one: send_personal.cpp, send_singles.cpp.
@@ -127,6 +135,7 @@ class frmZentSend : public platform::Form {
     platform::Platform& platform_;
     core::AppState& state_;
     compose::frmZent& main_form_;
+    drafts::DraftKeeper& drafts_;
     gateway::Gateway gateway_;
     bool job_started_ = false;
 };

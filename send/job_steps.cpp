@@ -7,6 +7,7 @@
 #include "platform/error.h"
 #include "send/draft.h"
 #include "send/frmZentSend.h"
+#include "send/pieces.h"
 #include "send/report.h"
 
 namespace send {
@@ -32,6 +33,8 @@ constexpr platform::TextView FAILURE_MESSAGE =
 void frmZentSend::run_job(const CarrierKind* kind, Pauses pauses,
                           const std::function<void(SendJob&)>& send_rows) {
     job_started_ = true;
+    const platform::HeldRows held(RecipientRows);
+    const drafts::NotedJob noted(drafts_);
     const platform::PatienceScope patience(
         platform_.carrier, [this](std::chrono::milliseconds waited) { return waits_for_answer(waited); });
     try {
@@ -40,9 +43,11 @@ void frmZentSend::run_job(const CarrierKind* kind, Pauses pauses,
         report(job);
     } catch (const SessionRefused&) {
         normal_cursor();
-        core::warn(platform_.desktop, Text(FAILURE_MESSAGE));
+        show_pieces();
+        core::warn(platform_.desktop, Text(FAILURE_MESSAGE) + open_ends(RecipientRows));
     } catch (const platform::RuntimeError& error) {
         normal_cursor();
+        show_pieces();
         core::show_error(platform_.desktop, error, platform::BoxIcon::critical);
     }
     unload();
@@ -75,16 +80,44 @@ void frmZentSend::open_session(SendJob& job) {
     throw SessionRefused();
 }
 
-/// Registers the job's message and, if the carrier accepts it, waits. Returns the status for the rows.
-Text frmZentSend::submit(SendJob& job, platform::TextView without_call) {
+/// Registers the job's message for the rows and, if the carrier accepts it, waits. Returns the status for the
+/// rows. `decides` says whether this is the last that the rows get, so that its status is theirs.
+Text frmZentSend::submit(SendJob& job, const std::vector<std::size_t>& rows, bool decides,
+                         platform::TextView without_call) {
     wait_cursor();
-    Text result = job.kind != nullptr ? gateway_.UMS_SEND_START(job.message) : Text(without_call);
+    if (job.kind == nullptr) return Text(without_call);
+    drafts_.before_submit(rows);
+    Text result = gateway_.UMS_SEND_START(job.message);
+    take_answer(job, rows, decides, result);
     wait_cursor();
     if (result == gateway::REGISTERED) {
         platform_.desktop.yield();
         platform_.clock.pause(job.pauses.after_success);
     }
     return result;
+}
+
+/// Notes at once what the answer means for the rows: the list shows it only after the pause.
+void frmZentSend::take_answer(const SendJob& job, const std::vector<std::size_t>& rows, bool decides,
+                              const Text& result) {
+    const bool registered = result == gateway::REGISTERED;
+    const bool unconfirmed = result == gateway::NO_ANSWER;
+    for (const std::size_t row : rows) {
+        const Text& pieces = RecipientRows.row(row).sub_item(compose::RECIPIENT_PIECES);
+        if (registered && job.all_pieces > 1)
+            RecipientRows.set_sub_item(row, compose::RECIPIENT_PIECES,
+                                       decides ? Text() : with_piece(pieces, job.pieces, job.all_pieces));
+    }
+    drafts_.after_submit(rows, [&](platform::KeptRecipient& recipient) {
+        if (decides || unconfirmed)
+            recipient.status = result;
+        else if (registered)
+            recipient.status = status_of_pieces(recipient.pieces);
+        if (unconfirmed || (decides && registered)) recipient.checked = false;
+    });
+    if (!unconfirmed) return;
+    // Also before the last piece: nobody is sent anything more until the user has looked.
+    for (const std::size_t row : rows) write_status(row, row + 1, result);
 }
 
 void frmZentSend::close_session(const SendJob& job) {
@@ -96,16 +129,30 @@ void frmZentSend::close_session(const SendJob& job) {
 }
 
 void frmZentSend::count(SendJob& job, const Text& result, int recipients) {
+    if (result == gateway::NO_ANSWER) return;
     (result == gateway::REGISTERED ? job.success : job.failure) += recipients;
 }
 
 /// Writes the status into the checked rows of the range. A row that failed stays checked, so that sending
-/// again tries just these.
+/// again tries just these; one whose registration is unconfirmed does not, or it could be sent to twice.
 void frmZentSend::write_status(std::size_t first_row, std::size_t end_row, const Text& status) {
     for (std::size_t row = first_row; row < end_row; ++row) {
         if (!RecipientRows.row(row).checked()) continue;
         RecipientRows.set_sub_item(row, compose::RECIPIENT_STATUS, status);
-        if (status == gateway::REGISTERED) RecipientRows.set_checked(row, false);
+        if (status == gateway::REGISTERED || status == gateway::NO_ANSWER)
+            RecipientRows.set_checked(row, false);
+    }
+}
+
+/// Shows of the recipients who wait for the rest of a text how much of it is registered, unless the carrier has
+/// said why the rest is not.
+void frmZentSend::show_pieces() {
+    for (std::size_t row = 0; row < RecipientRows.row_count(); ++row) {
+        const platform::ListItem& recipient = RecipientRows.row(row);
+        const Text status = status_of_pieces(recipient.sub_item(compose::RECIPIENT_PIECES));
+        const Text& shown = recipient.sub_item(compose::RECIPIENT_STATUS);
+        if (!status.empty() && (shown.empty() || shown.ends_with(PIECES_REGISTERED)))
+            RecipientRows.set_sub_item(row, compose::RECIPIENT_STATUS, status);
     }
 }
 
@@ -117,12 +164,13 @@ void frmZentSend::show_stopped() {
 void frmZentSend::report(const SendJob& job) {
     normal_cursor();
     const Text text = report_text(job, MSGSendCount, platform_.clock.now());
+    show_pieces();
     SEND_FINISHED();
     if (job.success > 0 && job.kind != nullptr && job.kind->content == compose::Content::recording)
         main_form_.voice.RFK1.set_kept();
     frmSendEndBox box(platform_, main_form_);
     box.load();
-    box.Text1.set_text(Text(platform::CRLF) + text);
+    box.Text1.set_text(Text(platform::CRLF) + text + open_ends(RecipientRows));
     if (job.success > 0) box.offer_results();
     box.show_modal();
 }

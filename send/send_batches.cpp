@@ -3,6 +3,7 @@
 #include "core/byte_length.h"
 #include "platform/text/format.h"
 #include "send/frmZentSend.h"
+#include "send/pieces.h"
 #include "send/recipient_text.h"
 
 namespace send {
@@ -39,7 +40,7 @@ void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options
     while (current != rows) {
         ++current;
         if (options.leaves_trace) RecipientRows.make_visible(current - 1);
-        if (add_to_batch(batch, current)) submit_batch(job, batch, current, options.leaves_trace);
+        if (add_to_batch(batch, current, job.pieces)) submit_batch(job, batch, current, options.leaves_trace);
         if (options.shows_progress) PBar1.set_progress(current, rows);
         if (current == rows) {
             // The last rows were left out, but the batch holds earlier ones.
@@ -53,12 +54,13 @@ void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options
     }
 }
 
-/// Adds the row to the batch when it is checked and has a number. Returns whether the batch is to be
+/// Adds the row to the batch when it is checked, has a number and has not got the piece yet (a text that goes
+/// whole is piece 0, which nobody has got). Returns whether the batch is to be
 /// submitted now. A row that does not fit is not consumed (`current` is decremented) and starts the next
 /// batch.
-bool frmZentSend::add_to_batch(Batch& batch, std::size_t& current) const {
+bool frmZentSend::add_to_batch(Batch& batch, std::size_t& current, int piece) const {
     const platform::ListItem& row = RecipientRows.row(current - 1);
-    if (!row.checked()) return false;
+    if (!row.checked() || has_piece(row.sub_item(compose::RECIPIENT_PIECES), piece)) return false;
     const std::optional<Text> address = address_of(row);
     if (!address) return false;
 
@@ -71,6 +73,7 @@ bool frmZentSend::add_to_batch(Batch& batch, std::size_t& current) const {
     }
     batch.s_dest_addr += *address;
     batch.bytes = bytes;
+    batch.rows.push_back(current - 1);
     ++batch.count;
     // Deliberately before the first row is noted: an address that fills a batch alone also marks rows that
     // failed in the batch before. Users and support know the status column so.
@@ -88,12 +91,13 @@ void frmZentSend::submit_batch(SendJob& job, Batch& batch, std::size_t current, 
     }
     job.message.s_dest_addr_count = batch.count;
     job.message.s_dest_addr = batch.s_dest_addr;
-    const Text result = submit(job);
+    const Text result = submit(job, batch.rows, leaves_trace);
     if (leaves_trace) {
         count(job, result, batch.count);
         write_status(batch.first_row, current, result);
     }
     close_session(job);
+    batch.rows.clear();
     batch.count = 0;
     batch.bytes = 0;
     batch.s_dest_addr.clear();

@@ -7,6 +7,7 @@
 #include "send/confirmation.h"
 #include "send/draft.h"
 #include "send/frmZentSend.h"
+#include "send/pieces.h"
 
 #include <optional>
 
@@ -154,7 +155,7 @@ bool confirmed(Platform& platform, AppState& state, const CarrierKind& kind, con
 
 }  // namespace
 
-void check_and_send(Platform& platform, AppState& state, frmZent& form) {
+void check_and_send(Platform& platform, AppState& state, frmZent& form, drafts::DraftKeeper& drafts) {
     if (!state.session.gLoggedIn) {
         core::warn(platform.desktop, u"KT 폰디라 Login과정을 거쳐야 합니다.");
         form.session.cmdLogin_Click();
@@ -174,8 +175,9 @@ void check_and_send(Platform& platform, AppState& state, frmZent& form) {
 
     // No hand-over of the card manager may change the list while the user reads the box.
     form.Timer1.set_enabled(false);
-    if (confirmed(platform, state, carrier, confirmation_text(form, carrier, *recipients))) {
-        frmZentSend job(platform, state, form);
+    if (confirmed(platform, state, carrier, confirmation_text(form, carrier, *recipients)) &&
+        settle_pieces(platform, form)) {
+        frmZentSend job(platform, state, form, drafts);
         job.load();
         job.set_caption(Text(carrier.name));
         job.Documents = documents;

@@ -6,6 +6,7 @@
 #include "platform/text/text.h"
 
 #include <cstddef>
+#include <vector>
 
 namespace send {
 
@@ -23,8 +24,9 @@ struct SendJob {
 
     bool account_checked = false;
     int batch_sequence = 0;
-    /// Pieces cut from the text so far.
+    /// Pieces cut from the text so far, and all that it has.
     int pieces = 0;
+    int all_pieces = 0;
 
     // Counted in recipients.
     int success = 0;
@@ -38,7 +40,9 @@ struct Batch {
     /// long list slow.
     std::size_t bytes = 0;
     int count = 0;
-    /// The row at which it begins, counted from 0.
+    /// The rows that are in it, counted from 0.
+    std::vector<std::size_t> rows;
+    /// The row at which it begins.
     std::size_t first_row = 0;
 };
 

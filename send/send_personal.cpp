@@ -3,6 +3,7 @@
 
 #include "platform/controls/list_columns.h"
 #include "send/frmZentSend.h"
+#include "send/pieces.h"
 #include "send/recipient_text.h"
 
 namespace send {
@@ -19,7 +20,8 @@ void frmZentSend::SEND_PERSONAL() {
 /// The checked rows, one after the other, until the user stops the job; here the box about the
 /// stop also comes behind the last row.
 void frmZentSend::for_each_recipient(const std::function<void(std::size_t row)>& send_row) {
-    for (std::size_t row = 0; row < RecipientRows.row_count(); ++row) {
+    const std::size_t rows = RecipientRows.row_count();
+    for (std::size_t row = 0; row < rows; ++row) {
         RecipientRows.make_visible(row);
         if (RecipientRows.row(row).checked()) send_row(row);
         if (StopRequested) {
@@ -53,13 +55,15 @@ void frmZentSend::send_personal_row(SendJob& job, std::size_t row) {
     begin_pieces(job, *text);
     while (!mText1.text().empty()) {
         next_piece(job);
+        if (has_piece(RecipientRows.row(row).sub_item(compose::RECIPIENT_PIECES), job.pieces)) continue;
         open_session(job);
         PBar1.set_progress(row + 1, RecipientRows.row_count());
-        result = submit(job);
+        result = submit(job, {row}, mText1.text().empty());
         // Deliberately only the last piece decides: a recipient who got the end of a text is not sent all of
         // it again.
         if (mText1.text().empty()) count(job, result, 1);
         close_session(job);
+        if (result == gateway::NO_ANSWER) return;
     }
     write_status(row, row + 1, result);
 }

@@ -42,7 +42,7 @@ void frmZentSend::send_single_row(SendJob& job, std::size_t row) {
 
     open_session(job);
     PBar1.set_progress(row + 1, RecipientRows.row_count());
-    const Text result = submit(job, FAILED);
+    const Text result = submit(job, {row}, true, FAILED);
     count(job, result, 1);
     close_session(job);
     write_status(row, row + 1, result);

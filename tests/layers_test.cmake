@@ -22,7 +22,7 @@ function(rooms house)
 endfunction()
 
 rooms(logic platform: core:platform service:core gateway:service compose:gateway
-  send:compose addressbook:compose handover:compose saved_texts:core update:compose)
+  drafts:compose send:drafts addressbook:compose handover:compose saved_texts:core update:compose)
 rooms(outside platform: machine:platform standin:)
 # The rooms inside the houses; files beside the rooms (error, file_name; the card source) are not looked at.
 rooms(platform text: ports:text formats:ports controls:formats)

@@ -2,6 +2,7 @@
 
 #include "machine/posix/file_descriptor.h"
 #include "machine/posix/file_error.h"
+#include "machine/posix/remains.h"
 
 #include <array>
 #include <cerrno>
@@ -23,8 +24,6 @@ using platform::RuntimeError;
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view NEW_FILE = ".zent-new-";
 
 /// Writes all the bytes. Returns 0, or the `errno` of the write that failed.
 int write_all(int file, std::string_view bytes) {
@@ -51,8 +50,8 @@ void sync_folder(const std::string& folder) {
 /// Makes a file with an unused name; -1 with `errno` on failure.
 int open_new_file(const std::string& folder, mode_t mode, std::string& path) {
     for (int number = 0;; ++number) {
-        path =
-            folder + "/" + std::string(NEW_FILE) + std::to_string(::getpid()) + "-" + std::to_string(number);
+        path = folder + "/" + std::string(UNFINISHED) + std::to_string(::getpid()) + "-" +
+               std::to_string(number);
         const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
         if (file >= 0 || errno != EEXIST) return file;
     }
@@ -132,6 +131,10 @@ void replace_file(const std::string& path, const std::string& bytes, Readers rea
     if (readers == Readers::as_usual && ::lstat(path.c_str(), &old) == 0 && S_ISREG(old.st_mode))
         ::fchmod(file.number(), old.st_mode & 0666);
     int failure = fill(file.number(), bytes);
+    // A kill from here on loses nothing. A name that is too long for this is given to the file at once.
+    if (const std::string waiting = waiting_path(path);
+        failure == 0 && ::rename(new_file.c_str(), waiting.c_str()) == 0)
+        new_file = waiting;
     // A link is replaced, not followed: it could lead into a folder where others could read a password.
     if (failure == 0 && ::rename(new_file.c_str(), path.c_str()) != 0) failure = errno;
     if (failure != 0) {
@@ -139,7 +142,7 @@ void replace_file(const std::string& path, const std::string& bytes, Readers rea
         throw file_error(failure, path);
     }
     sync_folder(folder);
-    remove_remains(folder);
+    settle_remains(folder);
 }
 
 void rename_file(const std::string& from, const std::string& to) {
@@ -148,14 +151,6 @@ void rename_file(const std::string& from, const std::string& to) {
     if (!S_ISREG(status.st_mode)) throw RuntimeError(ErrorNumber::path_access);
     if (::rename(from.c_str(), to.c_str()) != 0) throw file_error(errno, to);
     sync_folder(fs::path(to).parent_path());
-}
-
-void remove_remains(const std::string& folder) {
-    // They may hold a password that the user has removed since.
-    std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-        if (entry->path().filename().string().starts_with(NEW_FILE)) ::unlink(entry->path().c_str());
-    }
 }
 
 std::unique_ptr<OpenFile> open_file_for_writing(const std::string& path) {

@@ -26,9 +26,6 @@ void replace_file(const std::string& path, const std::string& bytes, Readers rea
 /// Gives a normal file another path in its folder, in a single step, and makes the disk keep it.
 void rename_file(const std::string& from, const std::string& to);
 
-/// Removes the unfinished new files that a killed program has left in the folder.
-void remove_remains(const std::string& folder);
-
 /// Opens a normal file for writing from its beginning. A new file may be read by the user alone. A link is
 /// not followed. Raises RuntimeError when the file cannot be opened.
 std::unique_ptr<platform::OpenFile> open_file_for_writing(const std::string& path);

@@ -3,6 +3,8 @@
 #include "machine/posix/file_bytes.h"
 #include "machine/posix/file_error.h"
 #include "machine/posix/folder_list.h"
+#include "machine/posix/private_folder.h"
+#include "machine/posix/remains.h"
 #include "platform/file_name.h"
 #include "platform/text/hangul.h"
 
@@ -43,15 +45,6 @@ std::string default_windows_directory(const Paths& paths) {
     return home.empty() ? paths.drive_c() + "/windows" : home + "/.config/cardvale";
 }
 
-/// Makes the folder and those above it. Errors are ignored here; they surface when something is written
-/// there.
-void make_folders(const fs::path& folder) {
-    std::error_code ignored;
-    if (fs::is_directory(folder, ignored)) return;
-    if (folder.has_relative_path()) make_folders(folder.parent_path());
-    ::mkdir(folder.c_str(), USER_ALONE);
-}
-
 /// The path's last component; a backslash at the end does not count.
 TextView name_in(TextView path) {
     while (path.ends_with(u'\\')) path.remove_suffix(1);
@@ -84,7 +77,9 @@ bool PosixFiles::file_exists(const Text& path) const {
     // An impossible path names nothing.
     platform::ignore_errors([&] {
         if (pattern.find_first_of(u"*?") == Text::npos) {
-            exists = is_normal_file(paths_.to_posix(path));
+            const std::string file = paths_.to_posix(path);
+            bring_in(file);
+            exists = is_normal_file(file);
             return;
         }
         std::error_code error;
@@ -125,7 +120,9 @@ bool PosixFiles::is_link(const Text& path) const {
 }
 
 std::vector<platform::FileEntry> PosixFiles::list_files(const Text& folder, TextView pattern) const {
-    return files_of(paths_.to_posix(folder), pattern);
+    const std::string posix = paths_.to_posix(folder);
+    settle_remains(posix);
+    return files_of(posix, pattern);
 }
 
 std::vector<Text> PosixFiles::list_folders(const Text& folder) const {
@@ -135,7 +132,9 @@ std::vector<Text> PosixFiles::list_folders(const Text& folder) const {
 std::string PosixFiles::read(const Text& path, std::uint64_t limit) const {
     // Thousands of files are read one by one, so try the exact name before searching the folder.
     if (auto bytes = read_if_there(paths_.as_it_stands(path), limit)) return std::move(*bytes);
-    return read_whole_file(paths_.to_posix(path), limit);
+    const std::string file = paths_.to_posix(path);
+    bring_in(file);
+    return read_whole_file(file, limit);
 }
 
 void PosixFiles::write(const Text& path, const std::string& bytes) {
@@ -154,6 +153,8 @@ std::unique_ptr<platform::OpenFile> PosixFiles::open_for_writing(const Text& pat
 void PosixFiles::remove(const Text& path) {
     const std::string file = paths_.to_posix(path);
     if (::unlink(file.c_str()) != 0) throw file_error(errno, file);
+    // Otherwise it would come back.
+    ::unlink(waiting_path(file).c_str());
 }
 
 void PosixFiles::rename(const Text& from, const Text& to) {
@@ -186,7 +187,7 @@ void PosixFiles::rename_folder(const Text& from, const Text& to) {
 
 void PosixFiles::remove_empty_folder(const Text& path) {
     const std::string folder = paths_.to_posix(path);
-    remove_remains(folder);
+    settle_remains(folder);
     if (::rmdir(folder.c_str()) != 0) throw folder_error(errno);
 }
 
@@ -215,7 +216,7 @@ Readers PosixFiles::readers_of(const std::string& path) const {
 /// there.
 void PosixFiles::make_standing_folder_of(const std::string& path) {
     const std::string folder = fs::path(path).parent_path();
-    if (folder == windows_directory_ || folder == paths_.drive_c()) make_folders(folder);
+    if (folder == windows_directory_ || folder == paths_.drive_c()) make_private_folder(folder);
 }
 
 }  // namespace machine::posix

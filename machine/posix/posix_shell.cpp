@@ -5,13 +5,10 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
-#include <cstddef>
 #include <optional>
 #include <string_view>
-#include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/un.h>
 #include <sys/wait.h>
+#include <unistd.h>
 #include <utility>
 
 namespace machine::posix {
@@ -55,18 +52,12 @@ std::optional<std::string> page_of(const std::string& address) {
     return "http://" + address;
 }
 
-/// A name that all instances of one user in one application directory share, whatever path leads there.
-std::string instance_name(const std::string& application_directory) {
-    struct stat folder {};
-    ::stat(application_directory.c_str(), &folder);
-    return "zent-" + std::to_string(::getuid()) + "-" + std::to_string(folder.st_dev) + "-" +
-           std::to_string(folder.st_ino);
-}
-
 }  // namespace
 
-PosixShell::PosixShell(Paths paths, std::string opener)
-    : paths_(std::move(paths)), opener_(std::move(opener)) {}
+PosixShell::PosixShell(Paths paths, std::string own_folder, std::string opener)
+    : paths_(std::move(paths)),
+      opener_(std::move(opener)),
+      instance_(std::move(own_folder), paths_.application_directory()) {}
 
 void PosixShell::open(const Text& path) {
     platform::ignore_errors([&] {
@@ -86,22 +77,6 @@ void PosixShell::open_page(const Text& address) {
 
 void PosixShell::end_process() { ::_exit(0); }
 
-bool PosixShell::another_instance_runs() {
-    if (instance_.is_open()) return false;
-
-    // A socket name that begins with a NUL is in no folder, and the kernel frees it however the process ends.
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    const std::string name = instance_name(paths_.application_directory());
-    std::copy(name.begin(), name.end(), address.sun_path + 1);
-    const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + name.size());
-
-    FileDescriptor instance(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
-    if (::bind(instance.number(), reinterpret_cast<const sockaddr*>(&address), length) != 0) {
-        return errno == EADDRINUSE;
-    }
-    instance_ = std::move(instance);
-    return false;
-}
+bool PosixShell::another_instance_runs() { return !instance_.take(); }
 
 }  // namespace machine::posix

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "machine/posix/file_descriptor.h"
+#include "machine/posix/instance_lock.h"
 #include "machine/posix/paths.h"
 #include "platform/ports/shell.h"
 
@@ -11,8 +11,8 @@ namespace machine::posix {
 /// Starts the user's desktop programs and knows other instances of this user in this application directory.
 class PosixShell : public platform::Shell {
   public:
-    /// `opener` is the program that opens a file with the right program.
-    explicit PosixShell(Paths paths, std::string opener = "xdg-open");
+    /// `own_folder` is the user's, `opener` the program that opens a file with the right program.
+    PosixShell(Paths paths, std::string own_folder, std::string opener = "xdg-open");
 
     void open(const platform::Text& path) override;
     void open_page(const platform::Text& address) override;
@@ -22,7 +22,7 @@ class PosixShell : public platform::Shell {
   private:
     Paths paths_;
     std::string opener_;
-    FileDescriptor instance_;
+    InstanceLock instance_;
 };
 
 }  // namespace machine::posix

@@ -12,4 +12,7 @@ void enter_application_directory(const Paths& paths);
 /// program.
 void take_file_size_limit_as_full_disk();
 
+/// Lets no crash write out the memory of this process or of those it starts: it may hold the user's password.
+void forbid_core();
+
 }  // namespace machine::posix

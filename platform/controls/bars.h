@@ -19,7 +19,7 @@ class Menu : public Control {
     /// Raises no event.
     void set_checked(bool checked) { assign(checked_, checked, Aspect::value); }
 
-    Event<> Click;
+    UserEvent<> Click{*this};
 
   private:
     Text caption_;
@@ -46,8 +46,8 @@ class StatusBar : public Control {
     void set_panel_tool_tip(int index, Text text);
     void set_panel_picture(int index, int picture);
 
-    Event<MouseButton> MouseDown;
-    Event<int> PanelClick;
+    UserEvent<MouseButton> MouseDown{*this};
+    UserEvent<int> PanelClick{*this};
 
   private:
     std::vector<Panel> panels_;
@@ -66,6 +66,9 @@ class TabStrip : public Control {
     /// Chooses a tab and raises Click, also when the tab was already chosen. Raises RuntimeError 9 for a tab
     /// that does not exist.
     void select(int index);
+    void user_select(int index) {
+        if (takes_input()) select(index);
+    }
 
     Event<> Click;
 
@@ -94,7 +97,7 @@ class ToolBar : public Control {
     /// Presses the button and releases the others of its group. Raises no event.
     void press(int index);
 
-    Event<int> ButtonClick;
+    UserEvent<int> ButtonClick{*this};
 
   private:
     std::vector<Button> buttons_;

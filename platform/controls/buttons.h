@@ -14,7 +14,7 @@ class CommandButton : public Control {
     const Text& caption() const { return caption_; }
     void set_caption(Text caption) { assign(caption_, std::move(caption), Aspect::caption); }
 
-    Event<> Click;
+    UserEvent<> Click{*this};
 
   private:
     Text caption_;
@@ -32,6 +32,9 @@ class CheckBox : public Control {
     /// Raises Click when the value changes, whether the user or code changes it.
     void set_checked(bool checked) {
         if (assign(checked_, checked, Aspect::value)) Click.raise();
+    }
+    void user_check(bool checked) {
+        if (takes_input()) set_checked(checked);
     }
 
     Event<> Click;
@@ -54,6 +57,9 @@ class OptionButton : public Control {
     /// Raises Click when the option becomes the chosen one, whether the user or code chooses it.
     void set_chosen(bool chosen) {
         if (assign(chosen_, chosen, Aspect::value) && chosen) Click.raise();
+    }
+    void user_choose() {
+        if (takes_input()) set_chosen(true);
     }
 
     Event<> Click;

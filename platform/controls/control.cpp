@@ -12,6 +12,8 @@ void Control::set_visible(bool on) {
 
 bool Control::on_screen() const { return visible_ && (container_ == nullptr || container_->on_screen()); }
 
+bool Control::takes_input() const { return form_ == nullptr || form_->takes_input(); }
+
 void Control::set_focus() {
     if (form_ == nullptr || !enabled_ || !on_screen()) return;
     form_->move_focus(this);

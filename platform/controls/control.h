@@ -62,6 +62,9 @@ class Control {
     void hide() { set_visible(false); }
     bool on_screen() const;
 
+    /// Whether the user's input is for the control's form. What the user does to one that takes none is lost.
+    bool takes_input() const;
+
     /// A small state word that the handlers keep with the control. It raises no event and is never shown.
     const Text& tag() const { return tag_; }
     void set_tag(Text tag) { tag_ = std::move(tag); }
@@ -107,6 +110,22 @@ class Control {
     Text tool_tip_;
     bool enabled_ = true;
     bool visible_ = true;
+};
+
+/// An event of a control that the user alone raises. While the control takes no input nothing happens.
+template <class... Args>
+class UserEvent : private Event<Args...> {
+  public:
+    explicit UserEvent(const Control& control) : control_(control) {}
+
+    using Event<Args...>::connect;
+
+    void raise(Args... args) const {
+        if (control_.takes_input()) Event<Args...>::raise(args...);
+    }
+
+  private:
+    const Control& control_;
 };
 
 }  // namespace platform

@@ -16,7 +16,7 @@ class Label : public Control {
     const Text& caption() const { return caption_; }
     void set_caption(Text caption) { assign(caption_, std::move(caption), Aspect::caption); }
 
-    Event<> Click;
+    UserEvent<> Click{*this};
 
   private:
     Text caption_;
@@ -33,7 +33,7 @@ class Image : public Control {
     /// Path of the file; empty while the screen's own picture shows.
     const Text& picture() const { return picture_; }
 
-    Event<> Click;
+    UserEvent<> Click{*this};
 
   private:
     Text picture_;

@@ -32,6 +32,7 @@ void TextBox::paste(const Text& text) {
 }
 
 void TextBox::user_edit(Text text, std::size_t caret) {
+    if (!takes_input()) return;
     const bool different = text != text_;
     text_ = std::move(text);
     user_selection(caret, 0);
@@ -79,7 +80,7 @@ void ComboBox::set_text(Text text) {
 }
 
 void ComboBox::user_edit(Text text) {
-    if (text == text_) return;
+    if (text == text_ || !takes_input()) return;
     list_index_ = -1;
     text_ = std::move(text);
     Change.raise();

@@ -44,7 +44,7 @@ class TextBox : public Control {
 
     Event<> Change;
     /// Raised before a key changes the text. An input method and a paste raise none.
-    Event<KeyPressed&> KeyPress;
+    UserEvent<KeyPressed&> KeyPress{*this};
 
   private:
     Text text_;
@@ -81,6 +81,9 @@ class ComboBox : public Control {
     void set_text(Text text);
 
     void user_edit(Text text);
+    void user_choose(int index) {
+        if (takes_input()) set_list_index(index);
+    }
 
     Event<> Click;
     Event<> Change;
@@ -103,6 +106,9 @@ class DatePicker : public Control {
 
     LocalTime value() const { return value_; }
     void set_value(LocalTime value) { assign(value_, value, Aspect::value); }
+    void user_choose(LocalTime value) {
+        if (takes_input()) set_value(value);
+    }
 
   private:
     LocalTime value_{};

@@ -40,6 +40,16 @@ void Form::unload() {
     desktop_.close(*this);
 }
 
+bool Form::takes_input() const { return desktop_.input_is_for(*this); }
+
+void Form::close_requested() {
+    if (takes_input()) Form_Close();
+}
+
+void Form::escape_pressed() {
+    if (takes_input()) Form_Escape();
+}
+
 void Form::set_window_state(WindowState state) {
     window_state_ = state;
     if (view_ != nullptr) view_->placement_changed();

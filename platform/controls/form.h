@@ -61,6 +61,8 @@ class Form {
     void show_modal();
     void unload();
     bool loaded() const { return loaded_; }
+    /// Whether the user's input is for this form.
+    bool takes_input() const;
 
     WindowState window_state() const { return window_state_; }
     void set_window_state(WindowState state);
@@ -78,8 +80,8 @@ class Form {
     // What the window reports.
     void window_activated() { Form_Activate(); }
     /// The user closed the window by its frame.
-    void close_requested() { Form_Close(); }
-    void escape_pressed() { Form_Escape(); }
+    void close_requested();
+    void escape_pressed();
     /// The user moved the window or changed its size or state.
     void window_placed(const Placement& placement, WindowState state);
     /// The user moved the focus; nothing happens when it stays where it was.

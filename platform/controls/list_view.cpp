@@ -36,6 +36,7 @@ void ListView::set_column_width(int number, int twips) {
 }
 
 std::size_t ListView::add_row(Text text, std::vector<Text> sub_items, bool checked) {
+    ++revision_;
     const std::size_t row = rows_.size();
     rows_.push_back(std::make_unique<ListItem>(std::move(text), std::move(sub_items)));
     ListItem& added = item(row);
@@ -48,6 +49,8 @@ std::size_t ListView::add_row(Text text, std::vector<Text> sub_items, bool check
 }
 
 void ListView::remove_selected_rows() {
+    if (held_) return;
+    ++revision_;
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     if (selected_item_ != nullptr && selected_item_->selected()) selected_item_ = nullptr;
     std::erase_if(rows_, [this](const std::unique_ptr<ListItem>& row) {
@@ -61,6 +64,8 @@ void ListView::remove_selected_rows() {
 }
 
 void ListView::clear() {
+    if (held_) return;
+    ++revision_;
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     index_.reset();
     rows_.clear();
@@ -70,6 +75,7 @@ void ListView::clear() {
 }
 
 void ListView::set_item_text(std::size_t row, Text text) {
+    ++revision_;
     item(row).text_ = std::move(text);
     if (rows_view_ != nullptr) rows_view_->row_changed(row);
 }
@@ -83,6 +89,7 @@ void ListView::set_sub_item(std::size_t row, int sub_item, Text text) {
     ListItem& changed = item(row);
     if (changed.sub_item(sub_item) == text) return;
     if (changed.sub_item_count() < sub_item) changed.sub_items_.resize(static_cast<std::size_t>(sub_item));
+    ++revision_;
     if (index_) index_->remove(changed, sub_item);
     changed.sub_items_[static_cast<std::size_t>(sub_item - 1)] = std::move(text);
     if (index_) index_->add(changed, sub_item);
@@ -96,6 +103,7 @@ void ListView::set_checked(std::size_t row, bool checked) {
 
 void ListView::change_checked(std::size_t row, bool checked) {
     if (item(row).checked_ == checked) return;
+    ++revision_;
     item(row).checked_ = checked;
     checked ? ++checked_count_ : --checked_count_;
 }
@@ -140,9 +148,11 @@ std::optional<std::size_t> ListView::find_in_sub_items(TextView beginning) const
 }
 
 void ListView::sort(int sort_key, SortOrder order) {
+    if (held_) return;
     sort_key_ = sort_key;
     sort_order_ = order;
     sorted_ = true;
+    ++revision_;
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
     std::vector<std::pair<Text, std::unique_ptr<ListItem>>> keyed;
     keyed.reserve(rows_.size());
@@ -157,7 +167,7 @@ void ListView::sort(int sort_key, SortOrder order) {
 }
 
 void ListView::user_check(std::size_t row, bool checked) {
-    if (item(row).checked() == checked) return;
+    if (item(row).checked() == checked || !takes_input()) return;
     change_checked(row, checked);
     if (rows_view_ != nullptr) rows_view_->row_changed(row);
     ItemCheck.raise(row);

@@ -5,6 +5,7 @@
 #include "platform/controls/prefix_index.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -90,10 +91,13 @@ class ListView : public Control {
     int width() const { return width_; }
 
     std::size_t row_count() const { return rows_.size(); }
+    /// Grows with every change of the rows' texts, marks and places.
+    std::uint64_t revision() const { return revision_; }
     const ListItem& row(std::size_t index) const { return *rows_[index]; }
 
     /// Adds a row at the end, even if the list was sorted, and returns its index.
     std::size_t add_row(Text text, std::vector<Text> sub_items, bool checked = false);
+    /// Does nothing while the rows are held; neither do `clear` and `sort`.
     void remove_selected_rows();
     void clear();
 
@@ -134,16 +138,18 @@ class ListView : public Control {
     void user_resized(int width);
 
     Event<std::size_t> ItemCheck;
-    Event<int> ColumnClick;
-    Event<KeyPressed&> KeyDown;
-    Event<KeyPressed&> KeyPress;
-    Event<KeyPressed&> KeyUp;
-    Event<MouseButton> MouseUp;
-    Event<> DblClick;
+    UserEvent<int> ColumnClick{*this};
+    UserEvent<KeyPressed&> KeyDown{*this};
+    UserEvent<KeyPressed&> KeyPress{*this};
+    UserEvent<KeyPressed&> KeyUp{*this};
+    UserEvent<MouseButton> MouseUp{*this};
+    UserEvent<> DblClick{*this};
     /// The width available for the columns has changed.
     Event<> Resize;
 
   private:
+    friend class HeldRows;
+
     ListItem& item(std::size_t row) { return *rows_[row]; }
     void change_checked(std::size_t row, bool checked);
     void number_rows();
@@ -156,10 +162,25 @@ class ListView : public Control {
     mutable std::optional<PrefixIndex> index_;
     const ListItem* selected_item_ = nullptr;
     std::size_t checked_count_ = 0;
+    std::uint64_t revision_ = 0;
     int sort_key_ = 0;
     SortOrder sort_order_ = SortOrder::ascending;
     bool sorted_ = false;
     int width_ = 0;
+    bool held_ = false;
+};
+
+/// Holds a list's rows for as long as this object lives: none goes and none changes its place. For work over
+/// the rows in whose pauses the event loop runs.
+class HeldRows {
+  public:
+    explicit HeldRows(ListView& list) : list_(list) { list_.held_ = true; }
+    HeldRows(const HeldRows&) = delete;
+    HeldRows& operator=(const HeldRows&) = delete;
+    ~HeldRows() { list_.held_ = false; }
+
+  private:
+    ListView& list_;
 };
 
 }  // namespace platform

@@ -26,7 +26,7 @@ class PictureBox : public Control {
     bool border() const { return border_; }
     void set_border(bool border) { assign(border_, border, Aspect::border); }
 
-    Event<> Click;
+    UserEvent<> Click{*this};
 
   private:
     bool border_ = true;

@@ -40,7 +40,7 @@ bool SoundRecorder::can_record() const {
 }
 
 void SoundRecorder::record() {
-    if (!can_record() || !may_replace() || !can_record()) return;
+    if (!takes_input() || !can_record() || !may_replace() || !can_record()) return;
     if (!ignore_errors([this] { recorder_.start_recording(); })) {
         return warn(u"마이크를 사용할 수 없습니다. 다른 프로그램이 쓰고 있는지 확인해 주십시오.");
     }
@@ -65,7 +65,7 @@ void SoundRecorder::stop() {
 }
 
 void SoundRecorder::play() {
-    if (!can_play()) return;
+    if (!takes_input() || !can_play()) return;
     if (!ignore_errors([this] { recorder_.start_playing(recording_); })) {
         return warn(u"스피커를 사용할 수 없습니다. 스피커나 이어폰을 연결해 주십시오.");
     }

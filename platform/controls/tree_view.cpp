@@ -90,6 +90,7 @@ void TreeView::set_expanded(TreeNode& node, bool expanded) {
 }
 
 void TreeView::user_click(TreeNode& node) {
+    if (!takes_input()) return;
     selected_node_ = &node;
     NodeClick.raise(node);
 }

@@ -93,7 +93,7 @@ class TreeView : public Control {
 
     Event<TreeNode&> NodeClick;
     Event<TreeNode&> Expand;
-    Event<MouseButton> MouseDown;
+    UserEvent<MouseButton> MouseDown{*this};
 
   private:
     TreeNode& insert(TreeNode* parent, Text key, Text text, int picture, Text tag);

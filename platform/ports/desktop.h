@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace platform {
 
@@ -48,8 +49,10 @@ struct InputBox {
 
 enum class Pointer { normal, hourglass };
 
-/// The monitor's size in twips, and how many twips a pixel has.
+/// The part of the monitor that panels leave to windows, in twips, and how many twips a pixel has.
 struct Screen {
+    int left = 0;
+    int top = 0;
     int width = 0;
     int height = 0;
     int twips_per_pixel_x = 15;
@@ -108,9 +111,30 @@ class Desktop {
     /// Whether a question waits for the user's answer. Until then nothing may change what it is about.
     bool question_stands() const { return questions_ > 0; }
 
+    /// Whether the user's input is for this form: not while a modal form or a box stands in front of it.
+    bool input_is_for(const Form& form) const { return in_front_.empty() || in_front_.back() == &form; }
+
   private:
     friend class StandingQuestion;
+    friend class StandingInFront;
     int questions_ = 0;
+    /// The modal forms and boxes, the last one in front; null for a box.
+    std::vector<const Form*> in_front_;
+};
+
+/// A modal form, or a box, in front of everything else for as long as this object lives. A desktop makes one
+/// for each: its toolkit keeps keys and clicks from what is behind, but not what a screen reader presses.
+class StandingInFront {
+  public:
+    explicit StandingInFront(Desktop& desktop, const Form* form = nullptr) : desktop_(desktop) {
+        desktop_.in_front_.push_back(form);
+    }
+    StandingInFront(const StandingInFront&) = delete;
+    StandingInFront& operator=(const StandingInFront&) = delete;
+    ~StandingInFront() { desktop_.in_front_.pop_back(); }
+
+  private:
+    Desktop& desktop_;
 };
 
 /// A question that waits for its answer, for as long as this object lives.

@@ -4,6 +4,7 @@
 #include "platform/ports/carrier_library.h"
 #include "platform/ports/clock.h"
 #include "platform/ports/desktop.h"
+#include "platform/ports/draft_store.h"
 #include "platform/ports/files.h"
 #include "platform/ports/internet.h"
 #include "platform/ports/recorder.h"
@@ -23,6 +24,7 @@ struct Platform {
     CardSource& cards;
     Recorder& recorder;
     Internet& internet;
+    DraftStore& drafts;
 };
 
 }  // namespace platform

@@ -193,7 +193,7 @@ TEST_F(Bars, StatusBarPanelsReactToTheLeftButtonAccordingToTheLogin) {
     EXPECT_EQ(click(2), Doors{"가입자 정보 변경||code=&userid=hong&domain=pondira.example"});
     tests::read_next_page(desktop, opened);
     EXPECT_EQ(click(3), Doors{"팩스수신||code=&userid=hong&domain=pondira.example"});
-    desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::yes);
+    desktop.expect_box(tests::LOG_OUT, BoxAnswer::yes);
     click(1);
     EXPECT_FALSE(state.session.gLoggedIn);
 
@@ -207,6 +207,13 @@ TEST_F(Bars, ButtonsAndMenusOpenTheirDoors) {
     form.text.MyMsgBttn.Click.raise();
     form.mnuUpDate.Click.raise();
     EXPECT_EQ(opened, (Doors{"send", "saved_texts", "update_check"}));
+    platform::MessageBox caution = tests::notice(
+        u"폰디라 메시지 발송 등록 시 여러사용자의 발송부하를 방지하기위해 100건씩 나누어 등록되므로 발송이 "
+        u"지연될 수 있습니다.\r\n"
+        u"너무 많은 메시지를 보내실 경우 1,000~2,000건씩 나누어 등록하시기 바랍니다.");
+    caution.title = u"주의사항";
+    desktop.expect_box(caution);
+    form.Command5.Click.raise();
 }
 
 TEST_F(StartingAnew, NoKeepsTheDraftAndYesEmptiesAllButItsKindAndSchedule) {
@@ -223,14 +230,12 @@ TEST_F(StartingAnew, NoKeepsTheDraftAndYesEmptiesAllButItsKindAndSchedule) {
     form.schedule.Option2.set_chosen(true);
     form.recipients.RECIPIENT_COUNT_CAPTION();
 
-    desktop.expect_box(u"모든 내용을 삭제하고 새로 작성하시겠습니까?", BoxAnswer::no);
+    desktop.expect_box(tests::START_ANEW, BoxAnswer::no);
     form.Command3.Click.raise();
-    EXPECT_EQ(desktop.boxes[0].icon, platform::BoxIcon::question);
-    EXPECT_EQ(desktop.boxes[0].default_answer, BoxAnswer::no);
     EXPECT_EQ(utf8(form.text.mText1.text()), "본문");
     EXPECT_EQ(form.recipients.ListView1.row_count(), 1u);
 
-    desktop.expect_box(u"모든 내용을 삭제하고 새로 작성하시겠습니까?", BoxAnswer::yes);
+    desktop.expect_box(tests::START_ANEW, BoxAnswer::yes);
     form.Command3.Click.raise();
     EXPECT_EQ(utf8(form.text.mText1.text()), "[홍길동]");
     EXPECT_EQ(utf8(form.plus.mText2.text()), PLUS_TEXT);

@@ -1,3 +1,4 @@
+#include "app/entry_routine.h"
 #include "core/deployment.h"
 #include "gateway/frmAutoLogin.h"
 #include "tests/support/main_window.h"
@@ -16,52 +17,47 @@ using tests::press;
 using tests::utf8;
 using Calls = std::vector<std::string>;
 
-constexpr platform::TextView FAILURE =
+const platform::MessageBox FAILURE = tests::refusal(
     u"아이디에 해당하는 비밀번호와 입력하신 비밀번호가 일치하지 않습니다.\r\n"
     u"아래내용을 체크해 보시기 바랍니다.\r\n\r\n"
     u"! 인터넷 연결이 안된 경우\r\n"
     u"! 아이디를 잘못 알고 계신 경우\r\n"
     u"! 비밀번호를 잘못 알고 계신 경우\r\n"
     u"! 대소문자 구별없이 비밀번호를 입력하신 경우\r\n"
-    u"(비밀번호가 대소문자로 이루어졌다면, 다르게 인식되오니 구별하여 입력하시기 바랍니다.\r\n";
-constexpr platform::TextView POP =
+    u"(비밀번호가 대소문자로 이루어졌다면, 다르게 인식되오니 구별하여 입력하시기 바랍니다.\r\n",
+    u"로그인 실패");
+const platform::MessageBox POP = tests::refusal(
     u"폰디라 팝에 가입한 경우에는 폰디라 팝을 해지하고 폰디라 프로 또는 폰디라 파트너로 "
-    u"서비스를 전환하셔야 합니다.";
-constexpr platform::TextView CHANGE_SERVICE =
+    u"서비스를 전환하셔야 합니다.");
+const platform::MessageBox CHANGE_SERVICE = tests::question(
     u"Cardvale 폰디라 통합메시징 서비스 연동기능(UMS)을 사용하시려면 폰디라 프로 또는 폰디라 파트너로 "
-    u"서비스를 전환하셔야 합니다. 지금 신청서를 다운받으시겠습니까?";
-constexpr platform::TextView REGISTER =
+    u"서비스를 전환하셔야 합니다. 지금 신청서를 다운받으시겠습니까?",
+    u"KT 폰디라 신규등록 및 서비스 전환 안내", BoxIcon::exclamation);
+const platform::MessageBox REGISTER = tests::question(
     u"KT 폰디라 통합 메시징 서비스(UMS) 연동 기능을 이용하기 위해서는 KT 폰디라 회원등록 및 결제방법을 "
-    u"'전화요금합산청구'로 신청을 하셔야 합니다.\r\n\r\n지금 KT 폰디라에 등록하시겠습니까?";
+    u"'전화요금합산청구'로 신청을 하셔야 합니다.\r\n\r\n지금 KT 폰디라에 등록하시겠습니까?",
+    u"KT 폰디라 등록 안내", BoxIcon::exclamation);
 
 const std::string SIGN_UP_PAGE = "KT 폰디라 신규 가입|" + utf8(core::deployment::service_site()) +
                                  "/kelmora/htm/register/default.jsp?code=07190533026|";
 
 struct Session : testing::Test, tests::MainWindow {
     void SetUp() override {
-        state.session.gPartnerPath = u"kelmora";
-        state.session.gPartnerCode = u"07190533";
-        state.session.gPartnerSubCode = u"026";
-        form.load();
+        app::entry_routine(platform, state, [this] { form.load(); });
     }
 
-    void expect_shown(platform::TextView text, BoxIcon icon, const char* title) const {
-        ASSERT_EQ(desktop.boxes.size(), 1u);
-        EXPECT_EQ(utf8(desktop.boxes[0].text), utf8(text));
-        EXPECT_EQ(desktop.boxes[0].icon, icon);
-        EXPECT_EQ(utf8(desktop.boxes[0].title), title);
-    }
     void expect_logged_out() const {
         EXPECT_FALSE(state.session.gLoggedIn);
         EXPECT_FALSE(state.session.gLoginResult);
         EXPECT_EQ(state.session.gServiceState, 3);
         EXPECT_TRUE(form.session.cmdLogin.enabled());
         EXPECT_FALSE(form.session.cmdLogOut.enabled());
-        EXPECT_EQ(panels(), (Calls{"로그아웃상태", "가입자", "폰디라번호"}));
+        EXPECT_EQ(panels(), (Calls{"로그아웃상태", "가입자", "폰디라번호", "로그인하기"}));
     }
     Calls panels() const {
         Calls texts;
         for (int panel = 1; panel <= 3; ++panel) texts.push_back(utf8(form.session.STBar1.panel(panel).text));
+        texts.push_back(utf8(form.session.STBar1.panel(1).tool_tip));
         return texts;
     }
     void save_account(platform::TextView user_id, platform::TextView password) {
@@ -103,6 +99,7 @@ TEST_F(ManualLogin, ShowsTheSavedIdAndThePasswordOnlyWithAutoLogin) {
         save_setting(u"LOGIN", u"AUTOLOGIN", row.auto_login);
         save_account(row.user_id, row.password);
         in_login([&](gateway::frmZentLogin& login) {
+            EXPECT_EQ(utf8(login.caption()), "Cardvale 폰디라 통합메시징 서비스 로그인");
             EXPECT_EQ(utf8(login.Text1.text()), utf8(row.user_id));
             EXPECT_EQ(utf8(login.Text2.text()), row.shown_password);
             EXPECT_EQ(login.Check1.checked(), row.checked);
@@ -115,13 +112,17 @@ TEST_F(ManualLogin, ShowsTheSavedIdAndThePasswordOnlyWithAutoLogin) {
         form.session.cmdLogin.Click.raise();
         EXPECT_EQ(setting(u"LOGIN", u"AUTOLOGIN"), row.checked ? "1" : "0");
         EXPECT_EQ(form.session.mnuAutoLogin.checked(), row.checked);
+        form.session.mnuAutoLogin.Click.raise();
+        EXPECT_EQ(form.session.mnuAutoLogin.checked(), !row.checked);
     }
 }
 
 TEST_F(ManualLogin, IsCheckedAppliedAndSavedWhilePollingWaits) {
     save_setting(u"SET", u"ZentUserNickName", u" 홍길동 ");
     save_setting(u"SET", u"ZentUserPhoneID", u"0311234567");
-    state.session.gInfoServiceNumber = u"030399999999";
+    // Padded, as the login before has left it.
+    state.session.gInfoServiceNumber = u"030399999999" + Text(1, u'\0') + Text(7, u' ');
+    carrier.scribbles = true;
     form.Timer1.set_enabled(true);
     in_login([&](gateway::frmZentLogin& login) {
         EXPECT_FALSE(form.Timer1.enabled());
@@ -132,9 +133,15 @@ TEST_F(ManualLogin, IsCheckedAppliedAndSavedWhilePollingWaits) {
     form.session.cmdLogin.Click.raise();
     EXPECT_TRUE(form.Timer1.enabled());
     EXPECT_EQ(carrier.calls, (Calls{"bind", "money_status", "user_info", "unbind"}));
-    EXPECT_EQ(utf8(carrier.bound_user), "hong");
-    EXPECT_EQ(utf8(carrier.bound_password), "secret");
-    EXPECT_EQ(utf8(state.session.gServiceNumber), "030399999999") << "the number known before this login";
+    const std::string domain = utf8(core::deployment::service_domain()), changed = "#" + domain.substr(1);
+    EXPECT_EQ(carrier.arguments,
+              (Calls{"hong", "secret", domain,                      // bind
+                     "#ong", changed, "030399999999", "127.0.0.1",  // the state of the account
+                     "#ong", changed, "#30399999999", "#27.0.0.1",  // the profile, in four buffers
+                     std::string(20, ' '), std::string(40, ' '), std::string(40, ' '), std::string(20, ' '),
+                     "#ong", "#ecret"}))  // unbind
+        << "the number is the one that was known before this login";
+    EXPECT_EQ(carrier.notify, platform::CarrierLibrary::Notify::six);
     EXPECT_EQ(state.session.gSubmitSequence, 1);
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINID"), "hong");
@@ -143,7 +150,8 @@ TEST_F(ManualLogin, IsCheckedAppliedAndSavedWhilePollingWaits) {
 
     EXPECT_FALSE(form.session.cmdLogin.enabled());
     EXPECT_TRUE(form.session.cmdLogOut.enabled());
-    EXPECT_EQ(panels(), (Calls{"로그인상태", "가입자 hong[Hong]  ", "폰디라번호 0303-1234-5678  "}));
+    EXPECT_EQ(panels(),
+              (Calls{"로그인상태", "가입자 hong[Hong]  ", "폰디라번호 0303-1234-5678  ", "로그아웃하기"}));
     EXPECT_EQ(form.sender.txtUserName.rows(), (std::vector<Text>{u"Hong", u"Hong Office"}));
     EXPECT_EQ(utf8(form.sender.txtUserName.text()), "홍길동");
     EXPECT_EQ(form.sender.txtCallback.rows(), (std::vector<Text>{u"0212345678", u"030312345678"}));
@@ -165,8 +173,8 @@ TEST_F(ManualLogin, TakesTheProfilesNamesIfNoneAreSavedAndLeavesTypedTexts) {
 }
 
 TEST_F(ManualLogin, AsksForAMissingIdOrPassword) {
-    desktop.expect_box(u"KT 폰디라 아이디를 입력하여 주십시오.");
-    desktop.expect_box(u"비밀번호를 입력하여 주십시오.");
+    desktop.expect_box(tests::refusal(u"KT 폰디라 아이디를 입력하여 주십시오.", u"로그인 실패"));
+    desktop.expect_box(tests::refusal(u"비밀번호를 입력하여 주십시오.", u"로그인 실패"));
     in_login([&](gateway::frmZentLogin& login) {
         enter(login, u"   ", u"secret");
         EXPECT_TRUE(login.Text1.has_focus());
@@ -200,7 +208,8 @@ TEST_F(ManualLogin, EnterMovesToThePasswordAndThenLogsIn) {
 
 TEST_F(ManualLogin, AFailedBindIsExplainedAndTheFormStaysForAnotherTry) {
     carrier.results[{"bind", 1}] = 2;
-    desktop.expect_box(Text(FAILURE));
+    desktop.expect_box(FAILURE);
+    desktop.during_box = [&] { clock.run_for(20); };
     in_login([&](gateway::frmZentLogin& login) {
         enter(login, u"hong", u"wrong");
         clock.run_for(10);
@@ -212,33 +221,30 @@ TEST_F(ManualLogin, AFailedBindIsExplainedAndTheFormStaysForAnotherTry) {
         enter(login, u"hong", u"right");
     });
     form.session.cmdLogin.Click.raise();
-    expect_shown(FAILURE, BoxIcon::exclamation, "로그인 실패");
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINPW"), "right");
 }
 
 TEST_F(ManualLogin, ChecksTheTypeOfServiceButNotItsState) {
-    constexpr const char* CHANGE_TITLE = "KT 폰디라 신규등록 및 서비스 전환 안내";
     const struct {
         int type, state;
-        platform::TextView box;
-        const char* title;
+        const platform::MessageBox* box = nullptr;
         BoxAnswer answer = BoxAnswer::ok;
     } rows[] = {
-        {23, 2, {}, ""},
-        {24, 9, {}, ""},
-        {25, 0, POP, ""},
-        {22, 0, CHANGE_SERVICE, CHANGE_TITLE, BoxAnswer::no},
-        {26, 0, CHANGE_SERVICE, CHANGE_TITLE, BoxAnswer::yes},
+        {23, 2},
+        {24, 9},
+        {25, 0, &POP},
+        {22, 0, &CHANGE_SERVICE, BoxAnswer::no},
+        {26, 0, &CHANGE_SERVICE, BoxAnswer::yes},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.type);
-        const bool accepted = row.box.empty();
-        desktop.boxes.clear(), carrier.calls.clear();
+        const bool accepted = !row.box;
+        carrier.calls.clear();
         save_account(u"", u"");
         carrier.service_type = row.type;
         carrier.service_state = row.state;
-        if (!accepted) desktop.expect_box(Text(row.box), row.answer);
+        if (!accepted) desktop.expect_box(*row.box, row.answer);
         if (row.answer == BoxAnswer::yes) close_guidance();
         desktop.forms.clear();
         in_login([&](gateway::frmZentLogin& login) {
@@ -258,7 +264,6 @@ TEST_F(ManualLogin, ChecksTheTypeOfServiceButNotItsState) {
             EXPECT_EQ(state.session.gServiceState, row.state);
         } else {
             expect_logged_out();
-            expect_shown(row.box, BoxIcon::exclamation, row.title);
         }
     }
 }
@@ -268,13 +273,13 @@ TEST_F(ManualLogin, SucceedsWithoutAProfileAndAsksForNoneWithoutAMoneyStatus) {
     log_in(u"hong", u"secret");
     form.session.cmdLogin.Click.raise();
     EXPECT_TRUE(state.session.gLoggedIn);
-    EXPECT_EQ(panels(), (Calls{"로그인상태", "가입자 hong[]  ", "폰디라번호   "}));
+    EXPECT_EQ(panels(), (Calls{"로그인상태", "가입자 hong[]  ", "폰디라번호   ", "로그아웃하기"}));
 
     // Then the type of service that was known before counts.
     state.session.gServiceType = 22;
     carrier.calls.clear();
     carrier.results[{"money_status", 1}] = 7;
-    desktop.expect_box(Text(CHANGE_SERVICE), BoxAnswer::no);
+    desktop.expect_box(CHANGE_SERVICE, BoxAnswer::no);
     in_login([&](gateway::frmZentLogin& login) {
         enter(login, u"hong", u"secret");
         clock.run_for(10);
@@ -296,12 +301,12 @@ TEST_F(AutomaticLogin, ChecksTheStateOfTheServiceButNotItsType) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.state);
         const bool accepted = row.state < 2, usable = row.type != 22;
-        desktop.boxes.clear(), carrier.calls.clear();
+        carrier.calls.clear();
         carrier.service_type = row.type;
         carrier.service_state = row.state;
         Calls pages;
         if (!accepted) {
-            desktop.expect_box(Text(REGISTER), row.answer);
+            desktop.expect_box(REGISTER, row.answer);
             cancel_login();
         }
         if (row.answer == BoxAnswer::yes) tests::read_next_page(desktop, pages);
@@ -314,17 +319,18 @@ TEST_F(AutomaticLogin, ChecksTheStateOfTheServiceButNotItsType) {
                 << "the buttons alone say that it is of no use";
         } else {
             expect_logged_out();
-            expect_shown(REGISTER, BoxIcon::exclamation, "KT 폰디라 등록 안내");
         }
     }
 }
 
 TEST_F(AutomaticLogin, WritesNothingAndDoesNotStopThePolling) {
     save_account(u"hong", u"secret");
+    carrier.scribbles = true;
     form.Timer1.set_enabled(true);
     const auto before = files.files;
     desktop.in_form<gateway::frmAutoLogin>(u"frmAutoLogin", [&](gateway::frmAutoLogin& login) {
         EXPECT_TRUE(form.Timer1.enabled());
+        EXPECT_EQ(utf8(login.caption()), "자동로그인...");
         login.close_requested();
         login.escape_pressed();
         EXPECT_TRUE(login.loaded()) << "it closes by itself";
@@ -332,37 +338,70 @@ TEST_F(AutomaticLogin, WritesNothingAndDoesNotStopThePolling) {
     form.session.AUTO_LOGIN_START();
     EXPECT_EQ(files.files, before);
     EXPECT_EQ(panels()[0], "로그인상태");
-    EXPECT_EQ(utf8(carrier.bound_user), "hong");
+    EXPECT_EQ(utf8(state.session.gLoginUserId + u" " + state.session.gLoginPassword), "hong secret");
 }
 
-TEST_F(AutomaticLogin, AFailedBindIsExplainedAndTheManualFormMayStillSucceed) {
+TEST_F(AutomaticLogin, AFailedBindIsExplainedOnceAndOnlyTheManualFormMayStillLogIn) {
     save_account(u"hong", u"old");
     carrier.results[{"bind", 1}] = 2;
-    desktop.expect_box(Text(FAILURE));
-    log_in(u"hong", u"new");
-    form.session.AUTO_LOGIN_START();
-    EXPECT_EQ(desktop.forms, (std::vector<Text>{u"frmAutoLogin", u"frmZentLogin"}));
+    for (const bool cancelled : {true, false}) {
+        carrier.calls.clear(), desktop.forms.clear();
+        // Whatever stood there before, a failed login leaves nobody logged in.
+        state.session.gLoggedIn = state.session.gLoginResult = cancelled;
+        desktop.expect_box(FAILURE);
+        desktop.in_form(u"frmAutoLogin", [&](platform::Form& login) {
+            desktop.during_box = [&] {
+                login.window_activated();
+                clock.run_for(20);
+            };
+        });
+        cancelled ? cancel_login() : log_in(u"hong", u"new");
+        form.session.AUTO_LOGIN_START();
+        EXPECT_EQ(desktop.forms, (std::vector<Text>{u"frmAutoLogin", u"frmZentLogin"}));
+        EXPECT_EQ(carrier.count("bind"), cancelled ? 1 : 2);
+        if (cancelled) expect_logged_out();
+    }
     EXPECT_TRUE(state.session.gLoggedIn);
     EXPECT_EQ(saved_login(u"LOGINPW"), "new");
+}
+
+TEST_F(AutomaticLogin, SendsAPasswordInQuotationMarksAsItWasTyped) {
+    for (const char16_t* password : {u"\"ab\"", u"'ab'", u"\"\"", u"\"", u"\"ab'", u"a\"b"}) {
+        log_in(u"hong", password);
+        form.session.cmdLogin.Click.raise();
+        carrier.bound_password.clear();
+        form.session.AUTO_LOGIN_START();
+        EXPECT_EQ(utf8(carrier.bound_password), utf8(password));
+    }
+}
+
+TEST_F(AutomaticLogin, AsksForWhatIsMissingInTheManualForm) {
+    for (const auto& [user_id, password] : {std::pair{u"hong", u""}, {u"", u"secret"}}) {
+        save_account(user_id, password);
+        cancel_login();
+        form.session.AUTO_LOGIN_START();
+        EXPECT_TRUE(carrier.calls.empty());
+    }
+    expect_logged_out();
 }
 
 // Log-out.
 
 TEST_F(LogOut, AsksAndThenForgetsTheLogin) {
-    form.session.cmdLogOut.Click.raise();
-    EXPECT_TRUE(desktop.boxes.empty()) << "nobody is logged in";
+    EXPECT_FALSE(form.session.cmdLogOut.enabled());
+    form.session.cmdLogOut.Click.raise();  // nobody is logged in, nobody is asked
 
     log_in(u"hong", u"secret");
     form.session.cmdLogin.Click.raise();
     carrier.calls.clear();
-    desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::no);
+    desktop.expect_box(tests::LOG_OUT, BoxAnswer::no);
     form.session.cmdLogOut.Click.raise();
     EXPECT_TRUE(state.session.gLoggedIn);
-    expect_shown(u"Cardvale 폰디라 통합메시징 서비스 로그아웃 하시겠습니까?", BoxIcon::question, "");
 
-    desktop.expect_box(u"로그아웃 하시겠습니까?", BoxAnswer::yes);
+    desktop.expect_box(tests::LOG_OUT, BoxAnswer::yes);
     form.session.cmdLogOut.Click.raise();
     expect_logged_out();
+    EXPECT_EQ(form.session.STBar1.panel(1).picture, 1);
     EXPECT_TRUE(carrier.calls.empty()) << "nothing is bound";
     EXPECT_EQ(saved_login(u"LOGINPW"), "");
     EXPECT_EQ(saved_login(u"LOGINID"), "hong");
@@ -371,6 +410,8 @@ TEST_F(LogOut, AsksAndThenForgetsTheLogin) {
     log_in(u"hong", u"secret");
     form.session.cmdLogin.Click.raise();
     EXPECT_EQ(utf8(state.session.gServiceNumber), "030312345678") << "the last known number goes along";
+    EXPECT_EQ(form.session.STBar1.panel(1).picture, 2);
+    EXPECT_EQ(form.sender.txtUserName.rows().size() + form.sender.txtCallback.rows().size(), 4u);
 }
 
 }  // namespace

@@ -20,6 +20,9 @@ using Strings = std::vector<std::string>;
 
 const Text ROOT = u"z:\\app\\내모음함";
 const Text FIRST = u"내모음함";
+const platform::MessageBox RESERVED_NAME =
+    tests::failure(52, u"시스템에서 사용하는 이름이므로 사용할 수 없습니다.");
+const platform::MessageBox PATH_ERROR = tests::failure(75, u"경로/파일 액세스 오류입니다.");
 
 class MyMsgBox : public testing::Test, protected tests::MainWindow {
   protected:
@@ -146,15 +149,16 @@ TEST_F(MyMsgBox, SavesANewMessageUnderItsCleanedTitleOrSaysWhyNot) {
     put(FIRST, u"있음", "old");
     open();
     const struct {
-        const char16_t *title, *body, *box;
+        const char16_t *title, *body;
+        platform::MessageBox box;
         const char* file;
     } rows[] = {
-        {u"제목", u"   ", u"메시지 내용을 입력하세요!", nullptr},
-        {u"   ", u"글", u"'제목'을 입력하여 주십시오.", nullptr},
-        {u" *.*/ ", u"글", u"'제목'을 입력하여 주십시오.", nullptr},
-        {u"있.음", u"글", u"'있음' 제목은 이미 존재하고 있습니다.", nullptr},
-        {u"con", u"글", u"오류번호:52\r\n\r\n시스템에서 사용하는 이름", nullptr},
-        {u"..\\..\\탈출", u" 글 \r\n ", u"저장 되었습니다.", " 글 \r\n"},
+        {u"제목", u"   ", tests::refusal(u"메시지 내용을 입력하세요!"), nullptr},
+        {u"   ", u"글", tests::refusal(u"'제목'을 입력하여 주십시오."), nullptr},
+        {u" *.*/ ", u"글", tests::refusal(u"'제목'을 입력하여 주십시오."), nullptr},
+        {u"있.음", u"글", tests::refusal(u"'있음' 제목은 이미 존재하고 있습니다."), nullptr},
+        {u"con", u"글", RESERVED_NAME, nullptr},
+        {u"..\\..\\탈출", u" 글 \r\n ", tests::notice(u"저장 되었습니다."), " 글 \r\n"},
     };
     for (const auto& row : rows) {
         const auto before = files.files;
@@ -178,19 +182,18 @@ TEST_F(MyMsgBox, SavesAnEditInPlaceOfTheOldMessage) {
     open();
     choose(box().ListView2, 0);
     box().txtText.set_text(u"새 글\r\n끝");
-    desktop.expect_box(u"수정 되었습니다.");
+    desktop.expect_box(tests::notice(u"수정 되었습니다."));
     box().Command2.Click.raise();
     EXPECT_EQ(saved(FIRST, u"가"), "새 글\r\n끝");
     EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_LINE)), "새 글 끝");
 
     box().Text1.set_text(u"나");
-    desktop.expect_box(u"'나' 제목은 이미 존재하고 있습니다.");
+    desktop.expect_box(tests::plain(u"'나' 제목은 이미 존재하고 있습니다."));
     box().Command2.Click.raise();
-    EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::none);
     EXPECT_EQ(saved(FIRST, u"나"), "other");
 
     box().Text1.set_text(u"다.라");
-    desktop.expect_box(u"수정 되었습니다.");
+    desktop.expect_box(tests::notice(u"수정 되었습니다."));
     box().Command2.Click.raise();
     EXPECT_EQ(saved(FIRST, u"가") + " " + saved(FIRST, u"다라"), "none 새 글\r\n끝");
     EXPECT_EQ(utf8(box().ListView2.row(0).text()), "다라");
@@ -200,7 +203,7 @@ TEST_F(MyMsgBox, SavesAnEditInPlaceOfTheOldMessage) {
     open();
     choose(box().ListView2, 0);
     ASSERT_EQ(utf8(box().Text1.text()), "나 ");
-    desktop.expect_box(u"'나' 제목은 이미 존재하고 있습니다.");
+    desktop.expect_box(tests::plain(u"'나' 제목은 이미 존재하고 있습니다."));
     box().Command2.Click.raise();
     EXPECT_EQ(saved(FIRST, u"나") + ", " + saved(FIRST, u"나 "), "other, with a blank");
 }
@@ -212,12 +215,8 @@ TEST_F(MyMsgBox, OnlyTheTextThatTheFieldsCameFromIsEdited) {
     open();
     const auto before = files.files;
     const auto refuse = [&](const char* when) {
-        desktop.expect_box(u"수정할 자료를 먼저 선택하세요!");
+        desktop.expect_box(tests::refusal(u"수정할 자료를 먼저 선택하세요!"));
         box().Command2.Click.raise();
-        const platform::MessageBox& shown = desktop.boxes.back();
-        EXPECT_EQ(utf8(shown.text + shown.title), "수정할 자료를 먼저 선택하세요!") << when;
-        EXPECT_EQ(shown.icon, BoxIcon::exclamation);
-        EXPECT_EQ(shown.buttons, platform::BoxButtons::ok);
         EXPECT_EQ(files.files, before) << when;
     };
     const auto select = [&](std::size_t row) {
@@ -234,7 +233,7 @@ TEST_F(MyMsgBox, OnlyTheTextThatTheFieldsCameFromIsEdited) {
     select(1);
     refuse("another text is selected");
     select(0);
-    desktop.expect_box(u"수정 되었습니다.");
+    desktop.expect_box(tests::notice(u"수정 되었습니다."));
     box().Command2.Click.raise();
     EXPECT_EQ(saved(FIRST, u"가") + ", " + saved(FIRST, u"나"), "고친 글, second");
 }
@@ -244,11 +243,11 @@ TEST_F(MyMsgBox, RowsLeftOverFromACategoryThatCannotBeListedAreNotTouched) {
     put(u"거래처", u"가", "ours");
     open();
     files.links.insert(ROOT + u"\\거래처");
-    desktop.expect_box(u"오류번호:75");
+    desktop.expect_box(tests::category_is_outside(u"거래처"));
     choose(box().ListView1, 1);
     choose(box().ListView2, 0);
     for (platform::CommandButton* button : {&box().Command2, &box().Command3}) {
-        desktop.expect_box(u"오류번호:75");
+        desktop.expect_box(tests::category_is_outside(u"거래처"));
         button->Click.raise();
         EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_BODY)), "theirs");
     }
@@ -263,13 +262,13 @@ TEST_F(MyMsgBox, AnEditThatCannotBeWrittenStaysInTheRowAndInTheFields) {
     open();
     choose(box().ListView2, 0);
     write_fields(Text(100, u'긴'), u"새 글");
-    desktop.expect_box(u"오류번호:52\r\n\r\n이름이 너무 깁니다.");
+    desktop.expect_box(tests::failure(52, u"이름이 너무 깁니다. 더 짧은 이름을 입력하세요."));
     box().Command2.Click.raise();
     EXPECT_EQ(saved(FIRST, u"가"), "old") << "a name that no file can have costs nothing";
 
     write_fields(u"나", u"새 글");
     files.changes_until_failure = {0, platform::ErrorNumber::permission_denied};
-    desktop.expect_box(u"오류번호:70");
+    desktop.expect_box(tests::failure(70, u"사용 권한이 없습니다."));
     box().Command2.Click.raise();
     EXPECT_EQ(column(box().ListView2), Strings{"가"}) << "the list shows what the disk has";
     EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_BODY)), "old");
@@ -277,16 +276,15 @@ TEST_F(MyMsgBox, AnEditThatCannotBeWrittenStaysInTheRowAndInTheFields) {
 
     // The text is written, its new title is refused.
     files.changes_until_failure = {1, platform::ErrorNumber::path_access};
-    desktop.expect_box(u"오류번호:75");
+    desktop.expect_box(PATH_ERROR);
     box().Command2.Click.raise();
-    EXPECT_EQ(desktop.boxes.back().icon, BoxIcon::critical);
     EXPECT_EQ(column(box().ListView2), Strings{"가"});
     EXPECT_EQ(utf8(box().ListView2.row(0).sub_item(saved_texts::TEXT_BODY)), "새 글");
     EXPECT_EQ(saved(FIRST, u"가"), "새 글");
     EXPECT_EQ(utf8(box().Text1.text() + box().txtText.text()), "나새 글");
 
     files.changes_until_failure.reset();
-    desktop.expect_box(u"수정 되었습니다.");
+    desktop.expect_box(tests::notice(u"수정 되었습니다."));
     box().Command2.Click.raise();
     EXPECT_EQ(saved(FIRST, u"가") + ", " + saved(FIRST, u"나"), "none, 새 글");
 }
@@ -294,13 +292,15 @@ TEST_F(MyMsgBox, AnEditThatCannotBeWrittenStaysInTheRowAndInTheFields) {
 TEST_F(MyMsgBox, RemovesAMessageAfterAYes) {
     put(FIRST, u"가", "x");
     open();
+    box().ListView2.deselect_item();
+    desktop.expect_box(tests::refusal(u"삭제할 자료를 먼저 선택하세요!"));
+    box().Command3.Click.raise();
     choose(box().ListView2, 0);
     for (const BoxAnswer answer : {BoxAnswer::no, BoxAnswer::yes}) {
         EXPECT_EQ(saved(FIRST, u"가"), "x");
-        desktop.expect_box(u"제목:가\r\n\r\n선택한 자료를 삭제하시겠습니까?", answer);
+        desktop.expect_box(tests::delete_text_question(u"가"), answer);
         platform::KeyPressed key{platform::KEY_DELETE};
         box().ListView2.KeyDown.raise(key);
-        EXPECT_EQ(desktop.boxes.back().default_answer, BoxAnswer::no);
     }
     EXPECT_TRUE(files.files.empty());
     EXPECT_EQ(box().ListView2.row_count(), 0U);
@@ -308,7 +308,6 @@ TEST_F(MyMsgBox, RemovesAMessageAfterAYes) {
     EXPECT_TRUE(box().Command5.enabled());
     box().Command3.Click.raise();
     box().Command2.Click.raise();
-    EXPECT_EQ(desktop.boxes.size(), 2U) << "nothing to remove or to edit, nothing happens";
 }
 
 TEST_F(MyMsgBox, AddsACategoryUnderANameThatIsFree) {
@@ -316,25 +315,22 @@ TEST_F(MyMsgBox, AddsACategoryUnderANameThatIsFree) {
     open();
     const struct {
         const char16_t* answer;
-        const char16_t* box;
+        std::optional<platform::MessageBox> box;
     } rows[] = {
-        {u"", nullptr},
-        {u" */ ", nullptr},
-        {u"거*래처", u"'거래처' 분류명은 이미 존재하고 있습니다."},
-        {u"LPT1", u"오류번호:52\r\n\r\n시스템에서 사용하는 이름"},
+        {u"", {}},
+        {u" */ ", {}},
+        {u"거*래처", tests::refusal(u"'거래처' 분류명은 이미 존재하고 있습니다.")},
+        {u"LPT1", RESERVED_NAME},
     };
     for (const auto& row : rows) {
-        desktop.expect_input(
-            u"등록할 분류명을 입력하십시오.\r\n\r\n분류명에 다음 문자는 사용할 수 "
-            u"없습니다.\r\n\\ / : * ? \" < > |",
-            row.answer);
-        if (row.box != nullptr) desktop.expect_box(row.box);
+        desktop.expect_input(tests::NEW_CATEGORY, row.answer);
+        if (row.box) desktop.expect_box(*row.box);
         // A name that is taken is asked for again.
-        if (Text(row.answer) == u"거*래처") desktop.expect_input(u"등록할 분류명을", u"");
+        if (Text(row.answer) == u"거*래처") desktop.expect_input(tests::NEW_CATEGORY, u"");
         box().Command8.Click.raise();
         EXPECT_EQ(box().ListView1.row_count(), 2U) << utf8(row.answer);
     }
-    desktop.expect_input(u"등록할 분류명을", u" 새 분류<> ");
+    desktop.expect_input(tests::NEW_CATEGORY, u" 새 분류<> ");
     box().Command8.Click.raise();
     EXPECT_TRUE(files.folders.contains(ROOT + u"\\새 분류"));
     EXPECT_EQ(column(box().ListView1), (Strings{"내모음함", "거래처", "새 분류"}));
@@ -346,15 +342,20 @@ TEST_F(MyMsgBox, RenamesACategoryWithItsMessages) {
     put(u"거래처", u"하나", "x");
     put(u"친구", u"둘", "y");
     open();
-    desktop.expect_box(u"'내 모음함'은 변경할 수 없습니다!");
+    const platform::InputBox rename{
+        .prompt =
+            u"수정할 분류명을 입력하십시오!\r\n\r\n분류명에 다음 문자는 사용할 수 "
+            u"없습니다.\r\n\\ / : * ? \" < > |",
+        .title = u"분류명 수정",
+        .default_text = u"거래처"};
+    desktop.expect_box(tests::refusal(u"'내 모음함'은 변경할 수 없습니다!"));
     box().Command7.Click.raise();
     choose(box().ListView1, 1);
-    desktop.expect_input(u"수정할 분류명을 입력하십시오!", u"친구");
-    desktop.expect_box(u"'친구' 분류명은 이미 존재하고 있습니다.");
-    desktop.expect_input(u"수정할 분류명을 입력하십시오!", u"거래처");
+    desktop.expect_input(rename, u"친구");
+    desktop.expect_box(tests::refusal(u"'친구' 분류명은 이미 존재하고 있습니다."));
+    desktop.expect_input(rename, u"거래처");
     box().Command7.Click.raise();
-    EXPECT_EQ(utf8(desktop.input_boxes.back().default_text), "거래처");
-    desktop.expect_input(u"수정할 분류명을 입력하십시오!", u"고객");
+    desktop.expect_input(rename, u"고객");
     box().Command7.Click.raise();
     EXPECT_EQ(saved(u"고객", u"하나") + saved(u"거래처", u"하나"), "xnone");
     EXPECT_EQ(column(box().ListView1), (Strings{"내모음함", "고객", "친구"}));
@@ -366,12 +367,14 @@ TEST_F(MyMsgBox, RemovesTheMessagesOfACategoryAndNoOtherFiles) {
     files.files.erase(path(u"그림", u"하나"));
     files.files[ROOT + u"\\그림\\해.bmp"] = "sun";
     open();
-    desktop.expect_box(u"'내 모음함'은 삭제할 수 없습니다!");
+    desktop.expect_box(tests::refusal(u"'내 모음함'은 삭제할 수 없습니다!"));
     box().Command9.Click.raise();
 
     const auto remove = [&](std::size_t row, const Text& name, BoxAnswer answer) {
         choose(box().ListView1, row);
-        desktop.expect_box(u"분류:" + name + u"\r\n\r\n선택한 분류를 삭제하시겠습니까?", answer);
+        desktop.expect_box(tests::question(u"분류:" + name + u"\r\n\r\n선택한 분류를 삭제하시겠습니까?",
+                                           u"삭제 확인", BoxIcon::exclamation, BoxAnswer::no),
+                           answer);
     };
     remove(1, u"거래처", BoxAnswer::no);
     box().Command9.Click.raise();
@@ -383,7 +386,7 @@ TEST_F(MyMsgBox, RemovesTheMessagesOfACategoryAndNoOtherFiles) {
     EXPECT_EQ(box().ListView1.selected_item(), 0U);
 
     remove(1, u"그림", BoxAnswer::yes);
-    desktop.expect_box(u"오류번호:75");
+    desktop.expect_box(PATH_ERROR);
     box().Command9.Click.raise();
     EXPECT_EQ(files.files.at(ROOT + u"\\그림\\해.bmp"), "sun");
 }
@@ -407,8 +410,8 @@ TEST_F(MyMsgBox, TheApplyQuestionCountsTheSendersNameAndTheTagEndsWithIt) {
         form.subject.subjectText.set_text(u"");
         open();
         choose(box().ListView2, 0);
-        if (row.answer) desktop.expect_box(u"[장문메시지 알림] 80Byte이상 입력하시겠습니까?", *row.answer);
-        if (row.answer == BoxAnswer::no) desktop.expect_box(u"입력하신 문자가 80Byte를 넘었습니다.");
+        if (row.answer) desktop.expect_box(tests::long_text_question(u"[확인]을 하시면"), *row.answer);
+        if (row.answer == BoxAnswer::no) desktop.expect_box(tests::TEXT_IS_CUT);
         box().Command5.Click.raise();
         EXPECT_EQ(utf8(form.text.mText1.text()), row.applied);
         EXPECT_EQ(utf8(form.text.mText1.tag()), "");
@@ -422,7 +425,7 @@ TEST_F(MyMsgBox, AnAppliedLongTextIsWholeUntilItsFirstEditIsAskedAbout) {
     form.sender.txtUserName.set_text(u"");
     open();
     choose(box().ListView2, 0);
-    desktop.expect_box(u"80Byte이상 입력하시겠습니까?", BoxAnswer::yes);
+    desktop.expect_box(tests::long_text_question(u"[확인]을 하시면"), BoxAnswer::yes);
     box().Command5.Click.raise();
     platform::TextBox& field = form.text.mText1;
     constexpr int KEY_CTRL_C = 3;
@@ -432,18 +435,10 @@ TEST_F(MyMsgBox, AnAppliedLongTextIsWholeUntilItsFirstEditIsAskedAbout) {
         EXPECT_EQ(field.text().size(), 150U) << key;
     }
     field.set_caret_to_end();
-    desktop.expect_box(u"80Byte이상 입력하시겠습니까?", BoxAnswer::yes);
+    desktop.expect_box(tests::long_text_question(), BoxAnswer::yes);
     tests::press(field, u'b');
-    const platform::MessageBox& shown = desktop.boxes.back();
-    EXPECT_EQ(
-        utf8(shown.title + u"/" + shown.text),
-        "장문메시지 확인/[장문메시지 알림] 80Byte이상 입력하시겠습니까?\r\n\r\n[예]를 선택하시면 입력된 "
-        "전체 메시지를 80Byte씩 나누어서 전송하게 됩니다.");
-    EXPECT_EQ(shown.icon, BoxIcon::question);
-    EXPECT_EQ(shown.buttons, platform::BoxButtons::yes_no);
     EXPECT_EQ(utf8(field.text()), std::string(150, 'a') + "b");
-    tests::press(field, u'c');
-    EXPECT_EQ(desktop.boxes.size(), 2U) << "the second yes is remembered";
+    tests::press(field, u'c');  // the second yes is remembered
 }
 
 TEST_F(MyMsgBox, OtherKindsTakeTheTitleAlone) {
@@ -472,7 +467,7 @@ TEST_F(MyMsgBox, EveryTextComesBackUnchanged) {
         put(FIRST, u"글", bytes);
         open();
         choose(box().ListView2, 0);
-        desktop.expect_box(u"수정 되었습니다.");
+        desktop.expect_box(tests::notice(u"수정 되었습니다."));
         box().Command2.Click.raise();
         EXPECT_EQ(files.files[path(FIRST, u"글")], bytes);
     }
@@ -484,7 +479,7 @@ TEST_F(MyMsgBox, EveryTextComesBackUnchanged) {
 
     box().txtText.set_text(u"가☃나");
     for (int times = 0; times < 2; ++times) {
-        desktop.expect_box(u"수정 되었습니다.");
+        desktop.expect_box(tests::notice(u"수정 되었습니다."));
         box().Command2.Click.raise();
         EXPECT_EQ(saved(FIRST, u"글"), "가?나");
         open();

@@ -189,7 +189,7 @@ TEST(SendKinds, ForAnUnknownKindNothingIsSubmittedAndTheRowsFail) {
     Sending s;
     s.add_many(2);
     s.expect_report();
-    send::frmZentSend job(s.platform, s.state, s.form);
+    send::frmZentSend job(s.platform, s.state, s.form, s.keeper);
     job.load();
     job.MSGSendCount = 2;
     job.SEND_BATCHES(u"편지");

@@ -71,12 +71,8 @@ TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsCorrected) {
         Sending s;
         s.add(u"a", u"01011112222");
         refusal.make(s);
-        s.desktop.boxes.clear();
-        s.desktop.expect_box(refusal.words);
+        s.desktop.expect_box(tests::refusal(refusal.words));
         s.click();
-        ASSERT_EQ(s.desktop.boxes.size(), 1u);
-        EXPECT_EQ(utf8(s.desktop.boxes[0].text), utf8(refusal.words));
-        EXPECT_EQ(s.desktop.boxes[0].icon, BoxIcon::exclamation);
         EXPECT_EQ(utf8(s.form.focused() ? s.form.focused()->name() : Text()), utf8(refusal.focus));
         EXPECT_FALSE(s.form.recipients.PBar1.visible());
         EXPECT_TRUE(s.desktop.forms.empty());
@@ -89,8 +85,8 @@ TEST(SendCheck, ShowsTheFirstOfSeveralFaults) {
     s.form.text.mText1.set_text(u"");
     s.form.schedule.Option2.set_chosen(true);
     s.form.schedule.Combo1.set_list_index(9);
-    const auto refused = [&](Text words) {
-        s.desktop.expect_box(std::move(words));
+    const auto refused = [&](Text words, Text title = {}) {
+        s.desktop.expect_box(tests::refusal(std::move(words), std::move(title)));
         s.click();
     };
     s.desktop.in_form(u"frmZentLogin", [](Form& login) { login.escape_pressed(); });
@@ -107,8 +103,7 @@ TEST(SendCheck, ShowsTheFirstOfSeveralFaults) {
     s.add(u"c", u"12345678");
     refused(NO_AREA_CODE);
     s.form.recipients.ListView1.set_checked(2, false);
-    refused(u"예약 전송은 현재 시간에서 30분 후부터 가능합니다!");
-    EXPECT_EQ(utf8(s.desktop.boxes.back().title), "시간 확인");
+    refused(u"예약 전송은 현재 시간에서 30분 후부터 가능합니다!", u"시간 확인");
     s.form.schedule.Option1.set_chosen(true);
     s.send();
     EXPECT_EQ(s.carrier.registrations.size(), 1u);
@@ -122,7 +117,6 @@ TEST(SendCheck, ARecordingIsSavedForTheCarrierAndWithoutOneTheClickEndsSilently)
         s.add(u"a", u"01011112222");
         s.form.voice.RFK1.open();
         s.click();
-        EXPECT_TRUE(s.desktop.boxes.empty());
         EXPECT_TRUE(s.files.files.empty());
         s.record(platform::Samples(10, 1));
         s.send();
@@ -275,8 +269,9 @@ TEST(ScheduleCheck, ComparesTheLeadWithTheDigitsOfDayHourMinuteAndSecond) {
         if (row.refused_below == nullptr) {
             s.send();
         } else {
-            s.desktop.expect_box(u"예약 전송은 현재 시간에서 " + from_ascii(row.refused_below) +
-                                 u"분 후부터 가능합니다!");
+            s.desktop.expect_box(tests::refusal(
+                u"예약 전송은 현재 시간에서 " + from_ascii(row.refused_below) + u"분 후부터 가능합니다!",
+                u"시간 확인"));
             s.click();
         }
         EXPECT_EQ(s.carrier.registrations.size(), row.refused_below == nullptr ? 1u : 0u);

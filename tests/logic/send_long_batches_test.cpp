@@ -99,8 +99,7 @@ TEST(SendLongBatches, MorePiecesThanTheProgressCanShowEndTheJobWithItsError) {
     s.form.text.Check1.set_checked(true);
     s.form.text.mText1.set_text(text + u"가");
     s.add_many(1);
-    s.send_in_vain(u"오류번호:380");
-    EXPECT_EQ(s.desktop.boxes.back().icon, BoxIcon::critical);
+    s.send_in_vain(tests::failure(380, u"속성 값이 잘못되었습니다."));
     EXPECT_EQ(s.carrier.registrations.size(), 43u);
     EXPECT_EQ(s.marks(), "x");
     EXPECT_FALSE(s.state.forms.gSendFormOpen);
@@ -112,7 +111,7 @@ TEST(SendLongBatches, AStopEndsThePassOfEachRemainingPiece) {
     s.type(Text(240, u'a'));
     s.add_many(120);
     s.stop_at_pause(1);
-    for (int piece = 0; piece < 3; ++piece) s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+    for (int piece = 0; piece < 3; ++piece) s.desktop.expect_box(tests::JOB_IS_STOPPED);
     s.send();
     EXPECT_EQ(s.carrier.registrations.size(), 1u);
     EXPECT_EQ(s.marks(), std::string(120, 'x'));
@@ -124,7 +123,7 @@ TEST(SendLongBatches, RecipientsLeftFromAStoppedPieceStillReachTheService) {
     s.type(Text(240, u'a'));
     for (int row = 0; row < 2; ++row) s.add(Text(1100, u'n'), u"01011112222");
     s.stop_at_pause(1);
-    for (int piece = 0; piece < 3; ++piece) s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+    for (int piece = 0; piece < 3; ++piece) s.desktop.expect_box(tests::JOB_IS_STOPPED);
     s.send();
     EXPECT_EQ(s.registered([](const Registration& r) {
         return decimal(r.s_dest_addr_count) + u" of " + decimal(std::ranges::count(r.s_dest_addr, u';'));

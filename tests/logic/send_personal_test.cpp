@@ -114,21 +114,13 @@ TEST(SendPersonal, AStopIsShownAfterTheRowBeingSentEvenTheLast) {
         Personal s(u"{이름}님");
         s.add_many(3);
         s.stop_at_pause(pause);
-        s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+        s.desktop.expect_box(tests::JOB_IS_STOPPED);
         s.send();
         EXPECT_EQ(s.marks(), pause == 1 ? "-xx" : "---");
     }
 }
 
 /// The routine that no button runs.
-void send_singles(Sending& s, const Text& kind) {
-    s.expect_report();
-    send::frmZentSend job(s.platform, s.state, s.form);
-    job.load();
-    job.MSGSendCount = static_cast<int>(s.form.recipients.ListView1.checked_count());
-    job.SEND_SINGLES(kind);
-}
-
 TEST(SendSingles, FailATextThatIsTooLongInsteadOfCuttingIt) {
     Personal s(u"{이름}" + Text(70, u'a'));
     s.add(Text(11, u'n'), u"01011112222");
@@ -137,30 +129,17 @@ TEST(SendSingles, FailATextThatIsTooLongInsteadOfCuttingIt) {
     s.add(u"b", u" ");
     s.add(u"c", u"01055556666");
     s.carrier.results[{"submit", 2}] = 5;
-    send_singles(s, u"문자메시지");
+    s.expect_report();
+    send::frmZentSend job(s.platform, s.state, s.form, s.keeper);
+    job.load();
+    job.MSGSendCount = static_cast<int>(s.form.recipients.ListView1.checked_count());
+    job.SEND_SINGLES(u"문자메시지");
     const Lines statuses = {s.status(0), s.status(1), s.status(2), s.status(3), s.status(4)};
     EXPECT_EQ(statuses, (Lines{"등록실패(문자초과)", "등록성공", "등록실패(이름없음)", "",
                                "등록실패X5(Pondira 접속에러)"}));
     EXPECT_EQ(s.marks(), "x-xxx");
     EXPECT_EQ(s.clock.pauses, (std::vector<int>{500, 500, 500}));
     EXPECT_NE(s.report.find("등록성공: 1건\r\n 등록실패: 3건\r\n 등록중지: 1건"), std::string::npos);
-}
-
-TEST(SendSingles, SendAnyKindUncutWithOneRecipientInEachSubmit) {
-    Sending s;
-    s.type(Text(81, u'a'));
-    s.form.sender.txtCallback.set_text(u"");
-    s.add_many(120);
-    send_singles(s, u"문자메시지");
-    EXPECT_EQ(s.carrier.registrations.size(), 120u);
-    EXPECT_EQ(s.carrier.registrations[119].s_sms_content.size(), 81u);
-    EXPECT_EQ(s.carrier.registrations[119].s_dest_addr_count, 1);
-    EXPECT_EQ(utf8(s.carrier.registrations[119].s_callback), "029990000");
-
-    Sending letter;
-    letter.add_many(1);
-    send_singles(letter, u"편지");
-    EXPECT_EQ(letter.status(0), "실패");
 }
 
 }  // namespace

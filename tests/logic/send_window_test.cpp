@@ -11,11 +11,11 @@ using tests::Sending;
 using tests::utf8;
 using Lines = std::vector<std::string>;
 
-constexpr const char* FAILURE =
-    "메시지 등록을 실패하였습니다. 원인은 다음과 같습니다.\r\n\r\n원인 1) 인터넷 연결이 안된 경우.\r\n"
-    "원인 2) 폰디라 서버가 응닶이 없는 경우.\r\n원인 3) 폰디라 가입을 해지한 경우.\r\n"
-    "원인 4) 폰디라 사용이 일시 정지된 경우.\r\n\r\n"
-    "인터넷 연결상태를 확인하시고 잠시 후 다시 시작하여 주십시오.";
+const MessageBox FAILURE = tests::refusal(
+    u"메시지 등록을 실패하였습니다. 원인은 다음과 같습니다.\r\n\r\n원인 1) 인터넷 연결이 안된 경우.\r\n"
+    u"원인 2) 폰디라 서버가 응닶이 없는 경우.\r\n원인 3) 폰디라 가입을 해지한 경우.\r\n"
+    u"원인 4) 폰디라 사용이 일시 정지된 경우.\r\n\r\n"
+    u"인터넷 연결상태를 확인하시고 잠시 후 다시 시작하여 주십시오.");
 
 TEST(SendWindow, StartsOneJobHalfASecondAfterItsActivation) {
     Sending s;
@@ -63,9 +63,8 @@ TEST(SendWindow, ClosingItStopsTheJobAndDisablesTheButton) {
             EXPECT_FALSE(job.Command1.enabled());
             EXPECT_TRUE(job.loaded());
         });
-        s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+        s.desktop.expect_box(tests::JOB_IS_STOPPED);
         s.send();
-        EXPECT_EQ(s.desktop.boxes.back().icon, BoxIcon::exclamation);
         EXPECT_EQ(s.marks(), std::string(100, '-') + std::string(20, 'x'));
         EXPECT_EQ(s.status(100), "");
         EXPECT_NE(s.report.find("등록대상: 120건\r\n 등록성공: 100건\r\n 등록실패: 0건\r\n 등록중지: 20건"),
@@ -84,7 +83,7 @@ TEST(SendWindow, TheStopButtonWaitsForTheJobAndIsHeardFromItsBeginOn) {
         EXPECT_FALSE(job.Command1.enabled()) << "there is nothing to stop yet";
         s.clock.during_pause = [&] { press(job); };
     });
-    s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+    s.desktop.expect_box(tests::JOB_IS_STOPPED);
     s.send();
     EXPECT_EQ(s.marks(), std::string(100, '-') + std::string(20, 'x'));
 }
@@ -96,7 +95,7 @@ TEST(SendWindow, AStopEndsACallThatIsNotAnsweredButNotBeforeTenSeconds) {
     s.desktop.in_form<send::frmZentSend>(u"frmZentSend", [&](send::frmZentSend& job) {
         s.desktop.during_yield = [&] { job.Command1.Click.raise(); };
     });
-    s.desktop.expect_box(u"메시지 등록이 중지되었습니다");
+    s.desktop.expect_box(tests::JOB_IS_STOPPED);
     s.send();
     EXPECT_EQ(s.carrier.waited, std::chrono::seconds(10));
     EXPECT_EQ(s.status(0), "확인필요");
@@ -145,9 +144,7 @@ TEST(SendSession, AJobWithoutTheCarrierOrAnAccountEndsWithABoxAndNoReport) {
         s.add_many(250);
         s.carrier.results[row.failing_call] = 6;
         s.carrier.service_state = row.service_state;
-        s.send_in_vain(u"메시지 등록을 실패하였습니다.");
-        EXPECT_EQ(utf8(s.desktop.boxes.back().text), FAILURE);
-        EXPECT_EQ(s.desktop.boxes.back().icon, BoxIcon::exclamation);
+        s.send_in_vain(FAILURE);
         EXPECT_EQ(s.carrier.calls, row.calls);
         EXPECT_EQ(s.marks(), std::string(row.sent, '-') + std::string(250 - row.sent, 'x'));
         EXPECT_FALSE(s.state.forms.gSendFormOpen);

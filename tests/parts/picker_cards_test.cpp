@@ -149,8 +149,10 @@ TEST_F(PickerCards, ASearchFindsNamesAndCompaniesOutsideTheTrashInEveryMode) {
 
 TEST_F(PickerCards, ADamagedDatabaseIsReportedAndShowsNoneOfItsCards) {
     disk.put_bytes("no database");
-    desktop.expect_box(u"오류번호:");
-    desktop.expect_box(u"오류번호:");
+    const platform::MessageBox damaged =
+        tests::critical(u"오류번호:-2147467259(" + files_on_disk.application_directory() +
+                        u"\\CardvaleDB.vdb)\r\n\r\n데이터베이스 형식을 인식할 수 없습니다.");
+    for (int box = 0; box < 2; ++box) desktop.expect_box(damaged);
     desktop.in_form<frmSendMan>(u"frmSendMan", [](frmSendMan& picker) {
         EXPECT_EQ(picker.ListView2.row_count(), 0u);
         picker.unload();

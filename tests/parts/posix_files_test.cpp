@@ -286,6 +286,55 @@ TEST_F(PosixFilesTest, AKilledWriteLeavesTheOldFileAndTheNextOneRemovesItsRemain
     EXPECT_EQ(names_in(application), std::set<std::string>{"zent.ini"}) << "a password may be in the remains";
 }
 
+TEST_F(PosixFilesTest, AWholeFileThatAKilledWriteLeftIsBroughtInByTheNextLook) {
+    const fs::path box = application / "box";
+    const auto leave = [&](const std::string& name, const char* bytes) {
+        put(box / (".zent-whole-" + name), bytes);
+    };
+    const auto written_at = [&](const std::string& name, std::time_t seconds) {
+        const timespec times[2] = {{seconds, 0}, {seconds, 0}};
+        ::utimensat(AT_FDCWD, (box / name).c_str(), times, 0);
+    };
+    fs::create_directory(box);
+    leave("첫글.txt", "first save");
+    leave("고친글.txt", "edited");
+    leave("다시 고친글.txt", "edited");
+    put(box / "고친글.txt", "old");
+    written_at("고친글.txt", 1'700'000'000);
+    put(box / "다시 고친글.txt", "edited elsewhere since");
+    written_at(".zent-whole-다시 고친글.txt", 1'700'000'000);
+    put(box / ".zent-new-1-0", "half a te");
+
+    std::vector<std::string> texts;
+    for (const FileEntry& file : files.list_files(u"box", u"*.txt"))
+        texts.push_back(to_utf8(file.name) + ": " + files.read(u"box\\" + file.name));
+    EXPECT_EQ(texts,
+              (std::vector<std::string>{"고친글.txt: edited", "다시 고친글.txt: edited elsewhere since",
+                                        "첫글.txt: first save"}));
+    EXPECT_EQ(names_in(box).size(), 3u) << "nothing remains";
+
+    leave("a.txt", "asked for");
+    EXPECT_TRUE(files.file_exists(u"box\\a.txt"));
+    leave("b.txt", "read");
+    EXPECT_EQ(files.read(u"box\\b.txt"), "read");
+    leave("b.txt", "deleted");
+    files.remove(u"box\\b.txt");
+    EXPECT_FALSE(files.file_exists(u"box\\b.txt"));
+
+    fs::create_directory(application / "category");
+    put(application / "category/.zent-whole-c.txt", "the only text");
+    EXPECT_EQ(error_number([&] { files.remove_empty_folder(u"category"); }), 75);
+    EXPECT_EQ(bytes_of(application / "category/c.txt"), "the only text");
+}
+
+TEST_F(PosixFilesTest, ANameThatLeavesNoRoomForAnotherIsWrittenToo) {
+    const Text name = Text(83, u'가') + u".txt";
+    files.write(name, "old");
+    files.write(name, "new");
+    EXPECT_EQ(files.read(name), "new");
+    EXPECT_EQ(names_in(application).size(), 1u);
+}
+
 TEST_F(PosixFilesTest, AKillAtAnyMomentLeavesTheOldFileOrTheNewOne) {
     const std::string old_file(4'000'000, 'o');
     const std::string new_file(4'000'000, 'n');
@@ -303,8 +352,13 @@ TEST_F(PosixFilesTest, AKillAtAnyMomentLeavesTheOldFileOrTheNewOne) {
         });
         for (int writes = 0; writes <= kills % 4; ++writes) ASSERT_TRUE(begun.wait());
         writer.kill();
-        const std::string found = bytes_of(application / "zent.ini");
-        ASSERT_TRUE(found == old_file || found == new_file) << found.size() << " bytes after kill " << kills;
+        for (const bool looked : {false, true}) {
+            if (looked) files.list_files(u"", u"*.*");
+            const std::string found = files.read(u"zent.ini");
+            ASSERT_TRUE(found == old_file || found == new_file)
+                << found.size() << " bytes after kill " << kills;
+        }
+        EXPECT_EQ(names_in(application), std::set<std::string>{"zent.ini"});
     }
 }
 

@@ -15,27 +15,32 @@ namespace fs = std::filesystem;
 
 TEST(PosixShell, ASecondInstanceSeesTheFirstUntilItIsKilled) {
     const tests::TemporaryFolder folder;
-    fs::create_directory(folder.path() / "other");
-    fs::create_directory_symlink(folder.path(), folder.path() / "link");
+    const fs::path application = folder.path() / "app";
+    const fs::path own = folder.path() / "home/.config/cardvale";
+    fs::create_directories(application / "other");
+    fs::create_directory_symlink(application, folder.path() / "link");
+    const auto shell_in = [&](const fs::path& directory) { return PosixShell{Paths(directory), own}; };
     tests::Pipe started;
     tests::ChildProcess first([&] {
-        PosixShell shell{Paths(folder.path())};
+        PosixShell shell = shell_in(application);
         if (shell.another_instance_runs() || shell.another_instance_runs()) return 1;
         started.signal();
         for (;;) ::pause();
     });
     ASSERT_TRUE(started.wait());
 
-    PosixShell second{Paths(folder.path())};
+    PosixShell second = shell_in(application);
     EXPECT_TRUE(second.another_instance_runs());
-    EXPECT_TRUE(PosixShell{Paths(folder.path() / "link")}.another_instance_runs())
-        << "one folder by two ways";
-    EXPECT_FALSE(PosixShell{Paths(folder.path() / "other")}.another_instance_runs())
-        << "another installation";
-    EXPECT_EQ(tests::names_in(folder.path()), (std::set<std::string>{"other", "link"})) << "no trace";
+    EXPECT_TRUE(shell_in(folder.path() / "link").another_instance_runs()) << "one folder by two ways";
+    EXPECT_EQ(tests::names_in(own).size(), 1u) << "no trace";
+    EXPECT_FALSE(shell_in(application / "other").another_instance_runs()) << "another installation";
 
     first.kill();
     EXPECT_FALSE(second.another_instance_runs());
+
+    for (const auto& lock : fs::directory_iterator(own))
+        EXPECT_EQ(lock.status().permissions(), fs::perms(0600)) << "another user must not take it";
+    EXPECT_EQ(fs::status(own).permissions(), fs::perms(0700));
 }
 
 /// A program that opens things: it reports the number of its arguments and the first of them.
@@ -52,7 +57,7 @@ struct Opener {
     tests::TemporaryFolder folder;
     fs::path fifo = folder.path() / "answer";
     fs::path program = folder.path() / "opener";
-    PosixShell shell{Paths(folder.path()), program};
+    PosixShell shell{Paths(folder.path()), folder.path(), program};
 };
 
 TEST(PosixShell, OpeningPassesThePathAsOneArgumentAndLeavesNoDeadProcess) {
@@ -101,7 +106,7 @@ TEST(PosixShell, AProgramIsStartedIfItsNameAndItsPermissionAllowIt) {
     script("page.exe", "started");
     fs::permissions(folder.path() / "page.exe", fs::perms(0644));
 
-    PosixShell shell(Paths(folder.path()), folder.path() / "opener");
+    PosixShell shell(Paths(folder.path()), folder.path(), folder.path() / "opener");
     const std::pair<const char16_t*, const char*> rows[] = {
         {u"I_Update.EXE", "started 0"}, {u"song.wav", "opened 1"}, {u"page.exe", "opened 1"}};
     for (const auto& [name, what] : rows) {
@@ -114,7 +119,7 @@ TEST(PosixShell, TheProcessEndsAtOnce) {
     const tests::TemporaryFolder folder;
     tests::ChildProcess process([&]() -> int {
         std::atexit([] { tests::put("exit step", "x"); });
-        PosixShell(Paths(folder.path())).end_process();
+        PosixShell(Paths(folder.path()), folder.path()).end_process();
     });
     EXPECT_EQ(process.wait(), 0);
     EXPECT_TRUE(fs::is_empty(folder.path()));
@@ -122,7 +127,7 @@ TEST(PosixShell, TheProcessEndsAtOnce) {
 
 TEST(PosixShell, AFailureToOpenIsSilent) {
     const tests::TemporaryFolder folder;
-    PosixShell shell(Paths(folder.path()), folder.path() / "no opener");
+    PosixShell shell(Paths(folder.path()), folder.path(), folder.path() / "no opener");
     shell.open(u"a.txt");
     shell.open(u"d:\\a.txt");
     shell.open_page(u"http://pondira.example");

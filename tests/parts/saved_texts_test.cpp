@@ -48,9 +48,9 @@ TEST_F(SavedTextsOnDisk, NamesInConjoiningLettersAreListedOpenedAndFoundByTyping
     choose(box.ListView2, 0);
     EXPECT_EQ(utf8(box.Text1.text() + box.txtText.text()), "각서가");
 
-    desktop.expect_box(u"'각서' 제목은 이미 존재하고 있습니다.");
+    desktop.expect_box(tests::refusal(u"'각서' 제목은 이미 존재하고 있습니다."));
     box.Command1.Click.raise();
-    desktop.expect_box(u"수정 되었습니다.");
+    desktop.expect_box(tests::notice(u"수정 되었습니다."));
     box.txtText.set_text(u"나");
     box.Command2.Click.raise();
     EXPECT_EQ(names_in(root / apart), std::set<std::string>{apart + ".txt"}) << "it is still the same file";
@@ -86,13 +86,13 @@ TEST_F(SavedTextsOnDisk, ARowIsItsOwnFileWhateverElseHasNearlyItsName) {
         EXPECT_EQ(titles, (Strings{"bad\uFFFD", "bad\uFFFD", "m", "m", "\uFFFD\uFFFD"}));
         expected[names[i]] = "new";
         box.txtText.set_text(u"new");
-        desktop.expect_box(u"수정 되었습니다.");
+        desktop.expect_box(tests::notice(u"수정 되었습니다."));
         box.Command2.Click.raise();
         EXPECT_EQ(contents(), expected);
 
         expected = lay_out_and_choose();
         expected.erase(names[i]);
-        desktop.expect_box(u"선택한 자료를 삭제하시겠습니까?", platform::BoxAnswer::yes);
+        desktop.expect_box(tests::delete_text_question(box.Text1.text()), platform::BoxAnswer::yes);
         box.Command3.Click.raise();
         EXPECT_EQ(contents(), expected);
 
@@ -100,7 +100,7 @@ TEST_F(SavedTextsOnDisk, ARowIsItsOwnFileWhateverElseHasNearlyItsName) {
         expected["새.txt"] = "new";
         box.Text1.set_text(u"새");
         box.txtText.set_text(u"new");
-        desktop.expect_box(u"수정 되었습니다.");
+        desktop.expect_box(tests::notice(u"수정 되었습니다."));
         box.Command2.Click.raise();
         EXPECT_EQ(contents(), expected);
     }
@@ -117,22 +117,23 @@ TEST_F(SavedTextsOnDisk, NoPathLeavesTheBox) {
     EXPECT_EQ(column(box.ListView1), Strings{"내모음함"});
     EXPECT_EQ(column(box.ListView2), Strings{});
     for (const char16_t* name : {u"밖", u"..", u"."}) {
-        desktop.expect_input(u"등록할", name);
-        desktop.expect_box(u"' 분류명은 이미 존재하고 있습니다.");
-        desktop.expect_input(u"등록할", u"");
+        desktop.expect_input(tests::NEW_CATEGORY, name);
+        desktop.expect_box(
+            tests::refusal(u"'" + platform::Text(name) + u"' 분류명은 이미 존재하고 있습니다."));
+        desktop.expect_input(tests::NEW_CATEGORY, u"");
         box.Command8.Click.raise();
     }
 
     fs::remove_all(first);
     fs::create_directory_symlink(folder.path() / "outside", first);
-    desktop.expect_box(u"오류번호:75\r\n\r\n'내모음함' 분류는 내 모음함 밖으로 연결된 폴더");
+    desktop.expect_box(tests::category_is_outside(u"내모음함"));
     box.Command10.Click.raise();
     box.Text1.set_text(u"남");
     box.txtText.set_text(u"글");
-    desktop.expect_box(u"'남' 제목은 이미 존재하고 있습니다.");
+    desktop.expect_box(tests::refusal(u"'남' 제목은 이미 존재하고 있습니다."));
     box.Command1.Click.raise();
     box.Text1.set_text(u"새");
-    desktop.expect_box(u"오류번호:75");
+    desktop.expect_box(tests::category_is_outside(u"내모음함"));
     box.Command1.Click.raise();
     EXPECT_EQ(names_in(folder.path() / "outside"), std::set<std::string>{"남.txt"});
     EXPECT_EQ(bytes_of(folder.path() / "outside/남.txt"), "theirs");
@@ -142,7 +143,7 @@ TEST_F(SavedTextsOnDisk, ATextOfAnAbsurdSizeIsReportedAndHidesNoOther) {
     put(first / "가.txt", "1");
     fs::resize_file(first / "가.txt", std::uintmax_t{1} << 40);
     put(first / "나.txt", "2");
-    desktop.expect_box(u"오류번호:7\r\n\r\n'가.txt': 메모리가 부족합니다.");
+    desktop.expect_box(tests::failure(7, u"'가.txt': 메모리가 부족합니다."));
     box.load();
     EXPECT_EQ(column(box.ListView2), Strings{"나"});
 }
@@ -159,10 +160,10 @@ TEST_F(SavedTextsOnDisk, ATextWithoutPermissionIsReportedAndHidesNoOther) {
     tests::ChildProcess child([&] {
         constexpr uid_t NOBODY = 65534;
         if (::getuid() == 0 && ::setuid(NOBODY) != 0) return 1;
-        desktop.expect_box(u"오류번호:70\r\n\r\n'가.txt'");
+        desktop.expect_box(tests::failure(70, u"'가.txt': 사용 권한이 없습니다."));
         box.load();
         if (column(box.ListView2) != Strings{"나"}) return 2;
-        desktop.expect_box(u"오류번호:75");
+        desktop.expect_box(tests::failure(75, u"경로/파일 액세스 오류입니다."));
         choose(box.ListView1, 1);
         return testing::Test::HasFailure() ? 3 : 0;
     });

@@ -126,6 +126,24 @@ TEST(AllScreens, ShowTheMainWindowWholeAtItsSmallest) {
     settle();
 }
 
+TEST(AllScreens, LayTheProgressOverTheHeadOfTheRecipients) {
+    System system;
+    compose::frmZent& form = system.main;
+    form.show();
+    settle();
+    QWidget& window = window_of(form);
+    const auto place_of = [&](const char* name) {
+        return place_in(window, *window.findChild<QWidget*>(QLatin1StringView(name)));
+    };
+    const QRect list = place_of("ListView1");
+    form.recipients.PBar1.show();
+    settle();
+    EXPECT_EQ(place_of("ListView1"), list);
+    EXPECT_EQ(place_of("PBar1"), QRect(list.topLeft(), QSize(list.width(), 23)));
+    form.unload();
+    settle();
+}
+
 TEST(AllScreens, HaveTheEmoticonsAsOneStopInWhichArrowsMove) {
     System system;
     system.main.show();

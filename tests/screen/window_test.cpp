@@ -20,6 +20,8 @@ using WindowTest = ScreenTest;
 TEST_F(WindowTest, FormAndWindowKeepEachOtherUpToDate) {
     auto& window = find("_centre");
     QWidget& frame = *window.window();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return form.activations > 0; }));
+    settle();
     EXPECT_EQ(form.activations, 1) << "once for the first showing, whenever the desktop activates it";
     form.set_caption(u"폰디라[문자메시지]");
     EXPECT_EQ(frame.windowTitle(), "폰디라[문자메시지]");
@@ -214,10 +216,15 @@ TEST_F(WindowTest, AnUncaughtErrorIsShownAndTheProgramGoesOn) {
     std::vector<int> shown;
     application.show_errors_with(
         [&](const platform::RuntimeError& error) { shown.push_back(error.number()); });
-    form.Command1.Click.connect([] { throw platform::RuntimeError(platform::ErrorNumber::overflow); });
-    QTest::mouseClick(&find("Command1"), Qt::LeftButton);
-    QTest::mouseClick(&find("Command1"), Qt::LeftButton);
-    EXPECT_EQ(shown, (std::vector<int>{6, 6}));
+    int click = 0;
+    form.Command1.Click.connect([&] {
+        if (++click == 1) throw platform::RuntimeError(platform::ErrorNumber::overflow);
+        if (click == 2) throw std::bad_alloc();
+        if (click == 3) throw std::length_error("a text without an end");
+        throw std::runtime_error("of a library");
+    });
+    for (int i = 0; i < 5; ++i) QTest::mouseClick(&find("Command1"), Qt::LeftButton);
+    EXPECT_EQ(shown, (std::vector<int>{6, 7, 7, 5, 5}));
     application.show_errors_with({});
 }
 

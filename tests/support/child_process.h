@@ -42,11 +42,16 @@ class ChildProcess {
     int wait() {
         int status = 0;
         ::waitpid(std::exchange(id_, -1), &status, 0);
+        wrote_core_ = WIFSIGNALED(status) && WCOREDUMP(status);
         return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
     }
 
+    /// Whether its memory was written out at the end that was waited for.
+    bool wrote_core() const { return wrote_core_; }
+
   private:
     pid_t id_;
+    bool wrote_core_ = false;
 };
 
 /// Limits the size of the files that this process writes. As on a full disk, a write beyond the limit fails;

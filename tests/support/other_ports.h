@@ -13,6 +13,7 @@ struct OtherPorts {
     platform::CardSource* cards = nullptr;
     platform::Recorder* recorder = nullptr;
     platform::Internet* internet = nullptr;
+    platform::DraftStore* drafts = nullptr;
 };
 
 /// The machine with some ports replaced.
@@ -26,7 +27,8 @@ inline platform::Platform with(const platform::Platform& machine, const OtherPor
             .carrier = pick(other.carrier, machine.carrier),
             .cards = pick(other.cards, machine.cards),
             .recorder = pick(other.recorder, machine.recorder),
-            .internet = pick(other.internet, machine.internet)};
+            .internet = pick(other.internet, machine.internet),
+            .drafts = pick(other.drafts, machine.drafts)};
 }
 
 }  // namespace tests

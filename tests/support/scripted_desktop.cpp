@@ -11,29 +11,29 @@ using platform::Text;
 
 ScriptedDesktop::~ScriptedDesktop() {
     for (const Expected& box : expected_boxes_) {
-        ADD_FAILURE() << "a box never came: " << platform::to_utf8(box.part);
+        ADD_FAILURE() << "a box never came: " << described(box.box);
     }
     for (const ExpectedDialog& dialog : expected_dialogs_) {
         ADD_FAILURE() << "a file dialog never came: " << platform::to_utf8(dialog.title);
     }
     for (const ExpectedInput& input : expected_inputs_) {
-        ADD_FAILURE() << "an input box never came: " << platform::to_utf8(input.part);
+        ADD_FAILURE() << "an input box never came: " << described(input.box);
     }
     for (const auto& [name, acts] : acts_) {
         if (!acts.empty()) ADD_FAILURE() << "a form never opened: " << platform::to_utf8(name);
     }
 }
 
-void ScriptedDesktop::expect_box(Text part, BoxAnswer answer) {
-    expected_boxes_.push_back({std::move(part), answer});
+void ScriptedDesktop::expect_box(platform::MessageBox box, BoxAnswer answer) {
+    expected_boxes_.push_back({std::move(box), answer});
 }
 
 void ScriptedDesktop::expect_file_dialog(Text title, std::optional<Text> chosen) {
     expected_dialogs_.push_back({std::move(title), std::move(chosen)});
 }
 
-void ScriptedDesktop::expect_input(Text part, Text answer) {
-    expected_inputs_.push_back({std::move(part), std::move(answer)});
+void ScriptedDesktop::expect_input(platform::InputBox box, Text answer) {
+    expected_inputs_.push_back({std::move(box), std::move(answer)});
 }
 
 void ScriptedDesktop::in_form(Text name, std::function<void(platform::Form&)> act) {
@@ -48,6 +48,7 @@ void ScriptedDesktop::show(platform::Form& form) {
 }
 
 void ScriptedDesktop::show_modal(platform::Form& form) {
+    const platform::StandingInFront standing(*this, &form);
     show(form);
     auto& acts = acts_[form.name()];
     if (!acts.empty() && form.loaded()) {
@@ -78,21 +79,19 @@ void ScriptedDesktop::popup_menu_below(platform::Form& form, platform::Menu& men
 }
 
 BoxAnswer ScriptedDesktop::message_box(const platform::MessageBox& box) {
-    boxes.push_back(box);
+    const platform::StandingInFront standing(*this);
     during_box();
     if (expected_boxes_.empty() && any_box) return *any_box;
-    const bool expected =
-        !expected_boxes_.empty() && platform::contains(box.text, expected_boxes_.front().part);
-    if (!expected) {
-        ADD_FAILURE() << "unexpected box: " << platform::to_utf8(box.text)
-                      << (expected_boxes_.empty()
-                              ? std::string()
-                              : "\nexpected: " + platform::to_utf8(expected_boxes_.front().part));
+    if (expected_boxes_.empty()) {
+        ADD_FAILURE() << "unexpected box: " << described(box);
         return box.buttons == platform::BoxButtons::ok ? BoxAnswer::ok : BoxAnswer::no;
     }
-    const BoxAnswer answer = expected_boxes_.front().answer;
+    const Expected expected = std::move(expected_boxes_.front());
     expected_boxes_.pop_front();
-    return answer;
+    if (described(box) != described(expected.box)) {
+        ADD_FAILURE() << "another box: " << described(box) << "\nexpected: " << described(expected.box);
+    }
+    return expected.answer;
 }
 
 std::optional<Text> ScriptedDesktop::ask_for_file(const platform::FileQuestion& question) {
@@ -107,15 +106,17 @@ std::optional<Text> ScriptedDesktop::ask_for_file(const platform::FileQuestion& 
 }
 
 Text ScriptedDesktop::input_box(const platform::InputBox& box) {
-    input_boxes.push_back(box);
     if (expected_inputs_.empty() && any_input) return *any_input;
-    if (expected_inputs_.empty() || !platform::contains(box.prompt, expected_inputs_.front().part)) {
-        ADD_FAILURE() << "unexpected input box: " << platform::to_utf8(box.prompt);
+    if (expected_inputs_.empty()) {
+        ADD_FAILURE() << "unexpected input box: " << described(box);
         return {};
     }
-    const Text answer = expected_inputs_.front().answer;
+    const ExpectedInput expected = std::move(expected_inputs_.front());
     expected_inputs_.pop_front();
-    return answer;
+    if (described(box) != described(expected.box)) {
+        ADD_FAILURE() << "another input box: " << described(box) << "\nexpected: " << described(expected.box);
+    }
+    return expected.answer;
 }
 
 }  // namespace tests

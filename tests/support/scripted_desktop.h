@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ports/desktop.h"
+#include "tests/support/boxes.h"
 #include "tests/support/virtual_clock.h"
 
 #include <deque>
@@ -20,13 +21,12 @@ class ScriptedDesktop : public platform::Desktop {
     explicit ScriptedDesktop(VirtualClock& clock) : clock_(clock) {}
     ~ScriptedDesktop() override;
 
-    /// The next box must contain the text; the user gives this answer.
-    void expect_box(platform::Text part, platform::BoxAnswer answer = platform::BoxAnswer::ok);
+    /// The next box must be this one; the user gives this answer.
+    void expect_box(platform::MessageBox box, platform::BoxAnswer answer = platform::BoxAnswer::ok);
     /// The next file dialog must have this title; the user picks the path, or cancels without one.
     void expect_file_dialog(platform::Text title, std::optional<platform::Text> chosen);
-    /// The next input box must have the text in its prompt; the user enters this, or cancels when it is
-    /// empty.
-    void expect_input(platform::Text part, platform::Text answer);
+    /// The next input box must be this one; the user enters the answer, or cancels when it is empty.
+    void expect_input(platform::InputBox box, platform::Text answer);
     /// Lets the user do this the next time that a form of this name opens.
     void in_form(platform::Text name, std::function<void(platform::Form&)> act);
 
@@ -40,9 +40,7 @@ class ScriptedDesktop : public platform::Desktop {
     std::optional<platform::Text> any_input;
 
     // The calls of the desktop.
-    std::vector<platform::MessageBox> boxes;
     std::vector<platform::FileQuestion> file_questions;
-    std::vector<platform::InputBox> input_boxes;
     std::vector<platform::Text> forms;
     platform::Text clipboard;
     platform::Text title;
@@ -82,11 +80,11 @@ class ScriptedDesktop : public platform::Desktop {
 
   private:
     struct Expected {
-        platform::Text part;
+        platform::MessageBox box;
         platform::BoxAnswer answer;
     };
     struct ExpectedInput {
-        platform::Text part;
+        platform::InputBox box;
         platform::Text answer;
     };
 

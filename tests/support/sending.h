@@ -18,7 +18,8 @@ namespace tests {
 
 /// The main window of a user who is logged in, with a send button that works and a draft without recipients.
 struct Sending : TestPlatform {
-    compose::frmZent form{platform, state, {.send = [this] { send::check_and_send(platform, state, form); }}};
+    compose::frmZent form{platform, state, {.send = [this] { send::check_and_send(platform, state, form, keeper); }}};
+    drafts::DraftKeeper keeper{platform, form};
 
     /// The text of the last report, and whether it offered the results.
     std::string report;
@@ -37,7 +38,7 @@ struct Sending : TestPlatform {
 
     void type(const platform::Text& text) {
         if (!form.text.Check1.checked() && platform::cp949_length(text) > compose::TEXT_LIMIT) {
-            desktop.expect_box(u"80Byte이상 입력하시겠습니까?", platform::BoxAnswer::yes);
+            desktop.expect_box(tests::long_text_question(), platform::BoxAnswer::yes);
         }
         form.text.mText1.set_text(text);
     }
@@ -77,7 +78,7 @@ struct Sending : TestPlatform {
         click();
     }
     /// Runs a job that ends with a box instead of a report.
-    void send_in_vain(const platform::Text& box) {
+    void send_in_vain(const platform::MessageBox& box) {
         confirm();
         desktop.expect_box(box);
         click();

@@ -29,6 +29,20 @@ class RecordingShell : public platform::Shell {
     bool another_instance = false;
 };
 
+/// A disk that takes no draft and holds none.
+class NoDrafts : public platform::DraftStore {
+  public:
+    std::optional<platform::KeptDraft> last() override { return std::nullopt; }
+    void read_recipients(const std::function<void(platform::KeptRecipient)>&) override {}
+    void take_up_last() override {}
+    void decline_last() override {}
+    void put_field(platform::TextView, const platform::Text&) override {}
+    void put_recipient(std::size_t, const platform::KeptRecipient&) override {}
+    void remove_recipients_from(std::size_t) override {}
+    void commit(platform::LocalTime, bool) override {}
+    platform::Text set_aside() override { return {}; }
+};
+
 /// A machine of doubles for the tests of the logic, and the shared variables of one run.
 struct TestPlatform {
     VirtualClock clock;
@@ -40,6 +54,7 @@ struct TestPlatform {
     ScriptedCards cards;
     ScriptedRecorder recorder;
     ScriptedInternet internet;
+    NoDrafts drafts;
     platform::Platform platform{.desktop = desktop,
                                 .clock = clock,
                                 .files = files,
@@ -48,7 +63,8 @@ struct TestPlatform {
                                 .carrier = carrier,
                                 .cards = cards,
                                 .recorder = recorder,
-                                .internet = internet};
+                                .internet = internet,
+                                .drafts = drafts};
     core::AppState state;
 
     platform::Text app_ini = u"z:\\app\\zent.ini";

@@ -1,9 +1,7 @@
 // What the user types while the program is busy, on an X server of its own.
 
 #include "machine/qt/desktop/long_work.h"
-#include "tests/support/virtual_display.h"
 
-#include <QApplication>
 #include <QCursor>
 #include <QProcess>
 #include <QPushButton>
@@ -33,11 +31,3 @@ TEST(KeptInput, ArrivesAfterTheWorkWithoutFurtherInput) {
 }
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    unsetenv("DISPLAY");
-    const tests::VirtualDisplay display;
-    const QApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

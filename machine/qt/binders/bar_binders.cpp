@@ -132,7 +132,9 @@ void TabStripBinder::show(Aspect aspect) {
 }
 
 void TabStripBinder::choose(int index) {
-    act([&] { control().select(index + 1); });
+    act([&] { control().user_select(index + 1); });
+    // Where the control has refused, the bar goes back.
+    if (is_bound_live()) show(Aspect::value);
 }
 
 ToolBarBinder::ToolBarBinder(BoundForm& bound, ToolBar& control, QToolBar& bar)

@@ -66,8 +66,11 @@ CheckBoxBinder::CheckBoxBinder(BoundForm& bound, platform::CheckBox& control, QC
     : BinderOf(bound, control, box) {
     set_caption(control.caption());
     box.setChecked(control.checked());
-    connect(&box, &QCheckBox::clicked, this,
-            [this](bool checked) { act([&] { this->control().set_checked(checked); }); });
+    connect(&box, &QCheckBox::clicked, this, [this](bool checked) {
+        act([&] { this->control().user_check(checked); });
+        // Qt has ticked the box already; the control may have refused.
+        if (is_bound_live()) show(Aspect::value);
+    });
 }
 
 void CheckBoxBinder::show(Aspect aspect) {
@@ -82,7 +85,7 @@ OptionButtonBinder::OptionButtonBinder(BoundForm& bound, platform::OptionButton&
     button.setAutoExclusive(false);
     button.setChecked(control.chosen());
     connect(&button, &QRadioButton::clicked, this, [this] {
-        act([this] { this->control().set_chosen(true); });
+        act([this] { this->control().user_choose(); });
         widget().setChecked(!is_bound_live() || this->control().chosen());
     });
 }

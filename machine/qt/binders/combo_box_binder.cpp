@@ -53,7 +53,10 @@ QString ComboBoxBinder::widget_text() const {
     return is_editable() ? to_lines(widget().lineEdit()->text()).remove(u'\n') : QString();
 }
 
-void ComboBoxBinder::give_to_model() { control().user_edit(to_text(widget_text())); }
+void ComboBoxBinder::give_to_model() {
+    if (!control().takes_input()) return write_back();
+    control().user_edit(to_text(widget_text()));
+}
 
 void ComboBoxBinder::write_back() {
     const QScopedValueRollback<bool> working(working_, true);
@@ -78,11 +81,12 @@ void ComboBoxBinder::show_rows() {
 
 void ComboBoxBinder::choose(int index) {
     if (!is_bound_live()) return;
-    if (!is_editable()) return act([&] { control().set_list_index(index); });
+    if (!control().takes_input()) return write_back();
+    if (!is_editable()) return act([&] { control().user_choose(index); });
     // The choice has replaced the text and the unfinished syllable in it.
     edits_.written();
     drop_composition(widget());
-    edits_.run([&] { control().set_list_index(index); });
+    edits_.run([&] { control().user_choose(index); });
     edits_.settle();
 }
 

@@ -41,7 +41,9 @@ void DatePickerBinder::take_day() {
     if (!is_bound_live()) return;
     const auto shown = std::chrono::floor<std::chrono::days>(control().value());
     const std::chrono::local_days chosen{std::chrono::days(FIRST_DAY.daysTo(widget().date()))};
-    if (chosen != shown) control().set_value(control().value() + (chosen - shown));
+    if (chosen == shown) return;
+    control().user_choose(control().value() + (chosen - shown));
+    show(Aspect::value);
 }
 
 }  // namespace machine::qt

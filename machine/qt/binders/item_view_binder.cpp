@@ -14,7 +14,7 @@ ItemViewBinder::ItemViewBinder(BoundForm& bound, platform::Control& control, QAb
     view.viewport()->installEventFilter(this);
 }
 
-bool ItemViewBinder::open_menu(QEvent& event, const platform::Event<MouseButton>& clicked) {
+bool ItemViewBinder::open_menu(QEvent& event, const platform::UserEvent<MouseButton>& clicked) {
     event.accept();
     if (static_cast<QContextMenuEvent&>(event).reason() != QContextMenuEvent::Keyboard) return true;
     const QRect row = view().visualRect(view().currentIndex());

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "machine/qt/binders/binder.h"
-#include "platform/controls/event.h"
 #include "platform/controls/input.h"
 
 class QAbstractItemView;
@@ -16,7 +15,7 @@ class ItemViewBinder : public WidgetBinder {
   protected:
     /// Raises a right click at the current row when a key asks for a menu; the mouse's own menu comes with
     /// its button. Keeps the event away from the view.
-    bool open_menu(QEvent& event, const platform::Event<platform::MouseButton>& clicked);
+    bool open_menu(QEvent& event, const platform::UserEvent<platform::MouseButton>& clicked);
 
     static platform::MouseButton button_of(const QEvent& event);
 

@@ -56,6 +56,7 @@ void TextBoxBinder::edited() {
 }
 
 void TextBoxBinder::give_to_model() {
+    if (!control().takes_input()) return write_back();
     Text text = program_text(widget_text());
     const std::size_t caret = program_position(text, selection().caret);
     control().user_edit(std::move(text), caret);

@@ -4,6 +4,7 @@
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QTimer>
 #include <utility>
 
 namespace machine::qt {
@@ -12,6 +13,9 @@ using platform::Placement;
 using platform::WindowState;
 
 namespace {
+
+/// A window that is out of sight, on another of the user's desktops or minimised, is never painted.
+constexpr int LONGEST_WAIT_FOR_PAINT = 2000;
 
 WindowState state_of(const QWidget& window) {
     if (window.isMinimized()) return WindowState::minimised;
@@ -58,7 +62,7 @@ void FormWindow::show() {
     window_.show();
     window_.raise();
     window_.activateWindow();
-    QMetaObject::invokeMethod(this, &FormWindow::activate_if_late, Qt::QueuedConnection);
+    if (!activated_) QTimer::singleShot(LONGEST_WAIT_FOR_PAINT, this, &FormWindow::activate_first);
 }
 
 void FormWindow::show_in_front_of(QWidget* parent) {
@@ -112,8 +116,12 @@ bool FormWindow::eventFilter(QObject*, QEvent* event) {
             event->ignore();
             form_.close_requested();
             return true;
+        case QEvent::Paint:
+            if (!activated_)
+                QMetaObject::invokeMethod(this, &FormWindow::activate_first, Qt::QueuedConnection);
+            return false;
         case QEvent::WindowActivate:
-            activate();
+            activate_again();
             return false;
         case QEvent::Move:
         case QEvent::Resize:
@@ -131,18 +139,19 @@ bool FormWindow::press_key(const QKeyEvent& event) {
     return true;
 }
 
-void FormWindow::activate() {
-    if (std::exchange(activated_early_, false)) return;
+/// Not before the window has been painted: the form's first work may keep the event loop waiting, and the
+/// user would look at a black window. But whether or not the desktop has given it the focus, which may come
+/// late or never.
+void FormWindow::activate_first() {
+    if (activated_ || !bound_.live) return;
     activated_ = true;
+    activated_early_ = !window_.isActiveWindow();
     form_.window_activated();
 }
 
-/// A desktop may activate a new window late or never. The form's first work must not wait for that and must
-/// not be done twice.
-void FormWindow::activate_if_late() {
-    if (activated_ || !bound_.live) return;
-    activate();
-    activated_early_ = bound_.live && !window_.isActiveWindow();
+void FormWindow::activate_again() {
+    if (!activated_ || std::exchange(activated_early_, false)) return;
+    form_.window_activated();
 }
 
 Placement FormWindow::place() const {

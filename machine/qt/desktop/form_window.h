@@ -20,8 +20,8 @@ class FormWindow : public QObject, public platform::FormView {
     QWidget& window() { return window_; }
     const std::optional<QPoint>& popup_point() const { return bound_.popup_point; }
 
-    /// Shows the window, or brings it to the front, and activates the form, even if the desktop does not give
-    /// the window the focus yet.
+    /// Shows the window, or brings it to the front. The form is activated when the window has been painted,
+    /// even if the desktop does not give it the focus yet.
     void show();
     /// Shows the window as a modal one in front of another.
     void show_in_front_of(QWidget* parent);
@@ -43,8 +43,8 @@ class FormWindow : public QObject, public platform::FormView {
 
   private:
     bool press_key(const QKeyEvent& event);
-    void activate();
-    void activate_if_late();
+    void activate_first();
+    void activate_again();
     platform::Placement place() const;
     void report_place();
 

@@ -12,7 +12,6 @@
 #include <QEventLoop>
 #include <QMenu>
 #include <QScreen>
-#include <QTimer>
 
 /// Makes the linker keep the pictures, which are in a static library.
 static void load_pictures() { Q_INIT_RESOURCE(resource); }
@@ -46,6 +45,7 @@ void give_back_focus(QWidget* window) {
 QtDesktop::QtDesktop(const Screens& screens, platform::Files& files)
     : screens_(screens), files_(files), file_dialog_(files) {
     load_pictures();
+    QObject::connect(&closing_, &QTimer::timeout, [this] { close_front_window(); });
 }
 
 QtDesktop::~QtDesktop() {
@@ -58,6 +58,13 @@ void QtDesktop::run_until_closed(const Form& form) {
     wait_for_close(form);
     // No code of a closed window is running any more, so it can be deleted.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void QtDesktop::close_all() {
+    // A window closes when the event loop that it runs has ended, and what opened it may ask a question then.
+    constexpr int BETWEEN_WINDOWS = 50;
+    close_front_window();
+    closing_.start(BETWEEN_WINDOWS);
 }
 
 void QtDesktop::prepare(Form& form) {
@@ -74,6 +81,7 @@ void QtDesktop::show_modal(Form& form) {
     FormWindow* window = window_of(form);
     if (window == nullptr) return;
     const QPointer<QWidget> front = front_window();
+    const platform::StandingInFront standing(*this, &form);
     window->show_in_front_of(front);
     wait_for_close(form);
     give_back_focus(front);
@@ -105,6 +113,7 @@ void QtDesktop::popup_menu_below(Form& form, Menu& menu, const platform::Control
 BoxAnswer QtDesktop::message_box(const platform::MessageBox& box) {
     commit_composition();
     const QPointer<QWidget> front = front_window();
+    const platform::StandingInFront standing(*this);
     const BoxAnswer answer = ask(box, title_, front);
     give_back_focus(front);
     return answer;
@@ -113,6 +122,7 @@ BoxAnswer QtDesktop::message_box(const platform::MessageBox& box) {
 std::optional<Text> QtDesktop::ask_for_file(const platform::FileQuestion& question) {
     commit_composition();
     const QPointer<QWidget> front = front_window();
+    const platform::StandingInFront standing(*this);
     std::optional<Text> chosen = file_dialog_.ask(question, front);
     give_back_focus(front);
     return chosen;
@@ -121,6 +131,7 @@ std::optional<Text> QtDesktop::ask_for_file(const platform::FileQuestion& questi
 Text QtDesktop::input_box(const platform::InputBox& box) {
     commit_composition();
     const QPointer<QWidget> front = front_window();
+    const platform::StandingInFront standing(*this);
     Text answer = ask_for_text(box, front);
     give_back_focus(front);
     return answer;
@@ -141,8 +152,13 @@ void QtDesktop::set_pointer(Pointer pointer) {
 void QtDesktop::set_clipboard(const Text& text) { QGuiApplication::clipboard()->setText(to_qstring(text)); }
 
 platform::Screen QtDesktop::screen() const {
-    const QSize size = QGuiApplication::primaryScreen()->availableSize();
-    return {to_twips(size.width()), to_twips(size.height()), TWIPS_PER_PIXEL, TWIPS_PER_PIXEL};
+    const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
+    return {.left = to_twips(free.left()),
+            .top = to_twips(free.top()),
+            .width = to_twips(free.width()),
+            .height = to_twips(free.height()),
+            .twips_per_pixel_x = TWIPS_PER_PIXEL,
+            .twips_per_pixel_y = TWIPS_PER_PIXEL};
 }
 
 void QtDesktop::set_application_title(const Text& title) { title_ = to_qstring(title); }
@@ -173,6 +189,14 @@ QWidget* QtDesktop::front_window() const {
         if (window != nullptr && window->window().isVisible()) return &window->window();
     }
     return nullptr;
+}
+
+void QtDesktop::close_front_window() const {
+    // Work that only lets the windows paint is in the middle of something.
+    if (is_keeping_painted()) return;
+    QWidget* popup = QApplication::activePopupWidget();
+    QWidget* front = popup != nullptr ? popup : front_window();
+    if (front != nullptr) front->close();
 }
 
 void QtDesktop::wait_for_close(const Form& form) const {

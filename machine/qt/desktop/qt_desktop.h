@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QPointer>
 #include <QString>
+#include <QTimer>
 #include <map>
 
 namespace machine::qt {
@@ -23,6 +24,9 @@ class QtDesktop : public platform::Desktop {
 
     /// Runs the program until the form is closed.
     void run_until_closed(const platform::Form& form);
+    /// Closes everything as a user would who closes one window after the other: boxes get their cautious
+    /// answers, a job is stopped and ends, and the form that the program runs for goes last. Returns at once.
+    void close_all();
 
     void prepare(platform::Form& form) override;
     void show(platform::Form& form) override;
@@ -46,6 +50,7 @@ class QtDesktop : public platform::Desktop {
     FormWindow* window_of(const platform::Form& form) const;
     QWidget* front_window() const;
     void wait_for_close(const platform::Form& form) const;
+    void close_front_window() const;
 
     const Screens& screens_;
     platform::Files& files_;
@@ -54,6 +59,7 @@ class QtDesktop : public platform::Desktop {
     QString title_;
     bool hourglass_ = false;
     QElapsedTimer painted_;
+    QTimer closing_;
 };
 
 }  // namespace machine::qt

@@ -1,0 +1,262 @@
+#include "drafts/draft_keeper.h"
+
+#include "core/boxes.h"
+#include "gateway/gateway.h"
+#include "platform/error.h"
+
+#include <functional>
+#include <utility>
+
+namespace drafts {
+
+using platform::KeptRecipient;
+using platform::ListItem;
+using platform::RuntimeError;
+using platform::Text;
+
+namespace {
+
+constexpr int SECOND = 1000;
+constexpr int BETWEEN_PARTS = 20;
+
+/// The most rows that a part writes, and looks at: each takes a few milliseconds.
+constexpr std::size_t ROWS_WRITTEN = 2'000;
+constexpr std::size_t ROWS_LOOKED_AT = 50'000;
+
+KeptRecipient recipient_of(const ListItem& row) {
+    return {.name = row.sub_item(compose::RECIPIENT_NAME),
+            .number = row.sub_item(compose::RECIPIENT_NUMBER),
+            .status = row.sub_item(compose::RECIPIENT_STATUS),
+            .title = row.sub_item(compose::RECIPIENT_TITLE),
+            .pieces = row.sub_item(compose::RECIPIENT_PIECES),
+            .checked = row.checked()};
+}
+
+/// Two rows that differ have different ones, but for one chance in 2 to the power of 64.
+std::size_t fingerprint(const ListItem& row) {
+    std::size_t hash = row.checked() ? 1 : 2;
+    for (int item = compose::RECIPIENT_NAME; item <= compose::RECIPIENT_PIECES; ++item)
+        hash = (hash << 7 | hash >> 57) ^ std::hash<Text>()(row.sub_item(item)) * 0x9e3779b97f4a7c15U;
+    return hash;
+}
+
+/// Stands for a row that has to be written in any case.
+constexpr std::size_t NOT_KEPT = 0;
+
+}  // namespace
+
+DraftKeeper::DraftKeeper(platform::Platform& platform, compose::frmZent& form)
+    : platform_(platform),
+      form_(form),
+      list_(form.recipients.ListView1),
+      seconds_(platform.clock, SECOND),
+      parts_(platform.clock, BETWEEN_PARTS) {
+    seconds_.Tick.connect([this] { keep_changes(); });
+    parts_.Tick.connect([this] {
+        try {
+            if (!keep_some_rows()) return;
+            parts_.set_enabled(false);
+            commit(false);
+        } catch (const RuntimeError& error) {
+            failed(error);
+        }
+    });
+    form_.kept_draft.KeptDraftTakeUp.Click.connect([this] { take_up(); });
+}
+
+void DraftKeeper::start() {
+    offer_last();
+    seconds_.set_enabled(true);
+}
+
+void DraftKeeper::end() {
+    seconds_.set_enabled(false);
+    platform::ignore_errors([this] {
+        if (!is_kept_ && !has_content(form_)) return;
+        keep_everything();
+        commit(true);
+    });
+}
+
+bool DraftKeeper::unchanged() const {
+    return list_.revision() == kept_revision_ && fields_of(form_) == kept_fields_;
+}
+
+void DraftKeeper::keep_changes() {
+    if (job_runs_ || parts_.enabled() || unchanged()) return;
+    if (!is_kept_ && !has_content(form_)) return;
+    parts_.set_enabled(true);
+}
+
+/// Writes the rows that have changed, as many as a part may. Returns true when all are written.
+bool DraftKeeper::keep_some_rows() {
+    if (pass_revision_ != list_.revision()) {
+        pass_revision_ = list_.revision();
+        next_row_ = 0;
+    }
+    const std::size_t rows = list_.row_count();
+    std::size_t written = 0;
+    for (std::size_t looked_at = 0; next_row_ < rows; ++next_row_) {
+        if (looked_at++ == ROWS_LOOKED_AT || written == ROWS_WRITTEN) return false;
+        const ListItem& row = list_.row(next_row_);
+        if (next_row_ < kept_rows_.size() && kept_rows_[next_row_] == fingerprint(row)) continue;
+        put_row(next_row_, recipient_of(row));
+        kept_rows_[next_row_] = fingerprint(row);
+        ++written;
+    }
+    return true;
+}
+
+void DraftKeeper::put_row(std::size_t row, const KeptRecipient& recipient) {
+    if (kept_rows_.size() <= row) kept_rows_.resize(row + 1, NOT_KEPT);
+    kept_rows_[row] = NOT_KEPT;
+    platform_.drafts.put_recipient(row, recipient);
+}
+
+void DraftKeeper::commit(bool at_rest) {
+    platform_.drafts.remove_recipients_from(list_.row_count());
+    kept_rows_.resize(list_.row_count());
+    Fields fields = fields_of(form_);
+    for (const auto& [name, value] : fields) {
+        const auto kept = kept_fields_.find(name);
+        if (kept == kept_fields_.end() || kept->second != value) platform_.drafts.put_field(name, value);
+    }
+    platform_.drafts.commit(platform_.clock.now(), at_rest);
+    kept_fields_ = std::move(fields);
+    kept_revision_ = pass_revision_;
+    is_kept_ = true;
+}
+
+void DraftKeeper::keep_everything() {
+    parts_.set_enabled(false);
+    while (!keep_some_rows()) platform_.desktop.paint();
+}
+
+void DraftKeeper::forget_what_is_kept() {
+    parts_.set_enabled(false);
+    kept_fields_.clear();
+    kept_rows_.clear();
+    pass_revision_ = kept_revision_ = 0;
+    next_row_ = 0;
+}
+
+/// It is tried again each second; the user is told once.
+void DraftKeeper::failed(const RuntimeError& error) {
+    forget_what_is_kept();
+    if (std::exchange(failure_told_, true)) return;
+    form_.kept_draft.tell(u"작성 중인 메시지를 보관하지 못하고 있습니다. 프로그램이 갑자기 끝나면 되살릴 수 없습니다. (" +
+                          error.description() + u")");
+}
+
+void DraftKeeper::begin_job() {
+    job_runs_ = true;
+    try {
+        keep_everything();
+        commit(false);
+        notes_job_ = true;
+    } catch (const RuntimeError& error) {
+        failed(error);
+        notes_job_ = false;
+    }
+}
+
+void DraftKeeper::before_submit(const std::vector<std::size_t>& rows) {
+    if (!notes_job_) return;
+    for (const std::size_t row : rows) {
+        KeptRecipient recipient = recipient_of(list_.row(row));
+        recipient.status = gateway::NO_ANSWER;
+        recipient.checked = false;
+        put_row(row, recipient);
+    }
+    platform_.drafts.commit(platform_.clock.now(), false);
+}
+
+void DraftKeeper::after_submit(const std::vector<std::size_t>& rows,
+                               const std::function<void(KeptRecipient&)>& answered) {
+    if (!notes_job_) return;
+    // A failure leaves the rows noted as unconfirmed, and the next submit's note fails.
+    platform::ignore_errors([&] {
+        for (const std::size_t row : rows) {
+            KeptRecipient recipient = recipient_of(list_.row(row));
+            answered(recipient);
+            put_row(row, recipient);
+        }
+        platform_.drafts.commit(platform_.clock.now(), false);
+    });
+}
+
+void DraftKeeper::end_job() {
+    job_runs_ = false;
+    notes_job_ = false;
+    // What the job has noted row by row is compared with the list again.
+    kept_revision_ = 0;
+    keep_changes();
+}
+
+void DraftKeeper::offer_last() {
+    RecipientCounts counts;
+    try {
+        last_ = platform_.drafts.last();
+        if (!last_ || field(last_->fields, fields::CONTENT).empty()) return;
+        platform_.drafts.read_recipients([&](const KeptRecipient& recipient) { counts.add(recipient); });
+    } catch (const RuntimeError& error) {
+        if (error.number() == static_cast<int>(platform::ErrorNumber::database_unusable))
+            return set_damaged_aside();
+        return failed(error);
+    }
+    if (last_->at_rest)
+        return form_.kept_draft.offer(u"지난번에 작성하던 메시지가 있습니다: " + summary(*last_, counts));
+    if (core::ask(platform_.desktop, question(*last_, counts), u"메시지 되살리기", platform::BoxIcon::question))
+        return show_last();
+    platform::ignore_errors([this] { platform_.drafts.decline_last(); });
+}
+
+/// From the bar, maybe long after the start: what the user has written since is not replaced unasked.
+void DraftKeeper::take_up() {
+    if (has_content(form_) &&
+        !core::ask(platform_.desktop,
+                   u"지금 작성한 내용을 지난번에 작성하던 메시지로 바꾸시겠습니까?\r\n\r\n지금 목록에 있는 받는 "
+                   u"사람은 되살린 목록에 함께 남습니다.",
+                   u"메시지 되살리기", platform::BoxIcon::question, platform::BoxAnswer::no))
+        return;
+    form_.kept_draft.close();
+    show_last();
+}
+
+/// Shows the draft of the last run. Recipients that are listed already, handed over by the card manager for
+/// instance, are added to its own.
+void DraftKeeper::show_last() {
+    forget_what_is_kept();
+    std::vector<KeptRecipient> listed;
+    for (std::size_t row = 0; row < list_.row_count(); ++row) listed.push_back(recipient_of(list_.row(row)));
+    try {
+        list_.clear();
+        show_fields(form_, last_->fields);
+        platform_.drafts.read_recipients([this](KeptRecipient recipient) {
+            list_.add_row(u"",
+                          {std::move(recipient.name), std::move(recipient.number), std::move(recipient.status),
+                           std::move(recipient.title), std::move(recipient.pieces)},
+                          recipient.checked);
+            platform_.desktop.paint();
+        });
+        platform_.drafts.take_up_last();
+        is_kept_ = true;
+    } catch (const RuntimeError&) {
+        set_damaged_aside();
+    }
+    for (const KeptRecipient& recipient : listed)
+        form_.recipients.add(recipient.name, recipient.number, recipient.title);
+    form_.recipients.RECIPIENT_COUNT_CAPTION();
+}
+
+void DraftKeeper::set_damaged_aside() {
+    platform::ignore_errors([this] {
+        const Text name = platform_.drafts.set_aside();
+        core::warn(platform_.desktop,
+                   u"지난번에 작성하던 메시지를 보관한 파일이 손상되어 모두 되살릴 수 없습니다. 파일은 지우지 않고 "
+                   u"다음 이름으로 남겨 두었습니다.\r\n\r\n" +
+                       name);
+    });
+}
+
+}  // namespace drafts

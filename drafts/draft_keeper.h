@@ -1,0 +1,93 @@
+#pragma once
+
+#include "compose/main_form.h"
+#include "drafts/kept_fields.h"
+#include "drafts/offer.h"
+#include "platform/controls/timer.h"
+#include "platform/ports/platform.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace drafts {
+
+/// Keeps the draft on the disk, a second or two behind the user, offers it after the next start, and notes
+/// what a job is about to register and how it went. So neither the draft nor the knowledge of who has been
+/// registered dies with the program.
+class DraftKeeper {
+  public:
+    DraftKeeper(platform::Platform& platform, compose::frmZent& form);
+
+    /// Offers the draft of the last run and begins to keep the present one.
+    void start();
+    /// Keeps the draft a last time: the program ends in order.
+    void end();
+
+    // The notes of a job, which alone writes while it runs.
+
+    /// Brings the kept draft up to date. Without a disk that takes it the user is told, and the job goes
+    /// without notes.
+    void begin_job();
+    /// To be called before each submit: from here on these rows count as unconfirmed. Raises RuntimeError when
+    /// that cannot be noted; the submit must not be made then.
+    void before_submit(const std::vector<std::size_t>& rows);
+    /// The answer came, or it is known that none will come: notes the rows as the list shows them, with what
+    /// `answered` makes of each.
+    void after_submit(const std::vector<std::size_t>& rows,
+                      const std::function<void(platform::KeptRecipient&)>& answered);
+    void end_job();
+
+  private:
+    void keep_changes();
+    bool keep_some_rows();
+    void keep_everything();
+    void commit(bool at_rest);
+    bool unchanged() const;
+    void put_row(std::size_t row, const platform::KeptRecipient& recipient);
+    void forget_what_is_kept();
+    void failed(const platform::RuntimeError& error);
+
+    void offer_last();
+    void take_up();
+    void show_last();
+    void set_damaged_aside();
+
+    platform::Platform& platform_;
+    compose::frmZent& form_;
+    platform::ListView& list_;
+    platform::Timer seconds_;
+    /// Ticks while a long list is being written, a part a tick, so that the windows stay alive.
+    platform::Timer parts_;
+
+    std::optional<platform::KeptDraft> last_;
+    /// What the store has: the fields, and a fingerprint of each row.
+    Fields kept_fields_;
+    std::vector<std::size_t> kept_rows_;
+    std::uint64_t kept_revision_ = 0;
+    /// Whether the present draft is in the store.
+    bool is_kept_ = false;
+    bool failure_told_ = false;
+    bool job_runs_ = false;
+    bool notes_job_ = false;
+
+    /// The pass over the rows: the next row, and the list's revision that it belongs to.
+    std::size_t next_row_ = 0;
+    std::uint64_t pass_revision_ = 0;
+};
+
+/// A job that is being noted, for as long as this object lives.
+class NotedJob {
+  public:
+    explicit NotedJob(DraftKeeper& keeper) : keeper_(keeper) { keeper_.begin_job(); }
+    NotedJob(const NotedJob&) = delete;
+    NotedJob& operator=(const NotedJob&) = delete;
+    ~NotedJob() { keeper_.end_job(); }
+
+  private:
+    DraftKeeper& keeper_;
+};
+
+}  // namespace drafts
