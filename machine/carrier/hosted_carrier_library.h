@@ -18,7 +18,7 @@ namespace machine::carrier {
 /// submit to it is answered as the library answers one without a session.
 class HostedCarrierLibrary : public platform::CarrierLibrary {
   public:
-    /// `host` is the path of the program; `keep_alive` is called every few milliseconds of a long wait.
+    /// `host` is the path of the program; `keep_alive` is called many times a second of a long wait.
     explicit HostedCarrierLibrary(std::string host, std::function<void()> keep_alive = {});
 
     std::int32_t fn_x_bind(std::int32_t argument1, std::string& user_id, std::string& password,

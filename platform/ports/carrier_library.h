@@ -35,7 +35,7 @@ class CarrierLibrary {
 
     virtual ~CarrierLibrary() = default;
 
-    /// Asked every few milliseconds of a call that is not answered at once. Without it a call waits as long
+    /// Asked many times a second of a call that is not answered at once. Without it a call waits as long
     /// as it may.
     void set_patience(Patience patience) { patience_ = std::move(patience); }
 

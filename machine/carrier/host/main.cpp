@@ -11,7 +11,6 @@
 #include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -45,28 +44,17 @@ void limit_myself() {
     if (!done) std::_Exit(EXIT_FAILURE);
 }
 
-/// Leaves the library the socket, which it does not know, and standard files, all of them open: what it
-/// prints is for the program's error output.
+/// Leaves the library the socket, which it does not know and no program that it starts gets, and standard
+/// files, all of them open: what it prints is for the program's error output.
 void settle_files() {
     ::close_range(HOST_SOCKET + 1, ~0U, 0);
+    ::fcntl(HOST_SOCKET, F_SETFD, FD_CLOEXEC);
     if (::fcntl(STDERR_FILENO, F_GETFD) < 0) ::dup2(STDIN_FILENO, STDERR_FILENO);
     ::dup2(STDERR_FILENO, STDOUT_FILENO);
 }
 
-/// Who this is and which file the socket is, to notice that a library has changed it.
-struct Identity {
-    pid_t process = ::getpid();
-    struct stat socket {};
-
-    Identity() { ::fstat(HOST_SOCKET, &socket); }
-    bool operator==(const Identity& other) const {
-        return process == other.process && socket.st_dev == other.socket.st_dev &&
-               socket.st_ino == other.socket.st_ino;
-    }
-};
-
 void serve() {
-    const Identity at_start;
+    const pid_t myself = ::getpid();
     const GoesOn for_ever = [] { return true; };
     LoadedLibrary library;
     WipedBytes frame;
@@ -75,9 +63,8 @@ void serve() {
         const auto call = parse_call(payload_of(frame));
         if (!call) return;
         const Answer answer = library.run(*call, copies);
-        // A copy of this process that the library has made must not answer, nor may another file be written
-        // to.
-        if (!(Identity() == at_start)) std::_Exit(EXIT_FAILURE);
+        // A library that forks returns twice; the copy of this process must not answer, too.
+        if (::getpid() != myself) std::_Exit(EXIT_FAILURE);
         write_answer(answer, frame);
         copies.wipe();
         if (!send_frame(HOST_SOCKET, frame, for_ever)) return;
