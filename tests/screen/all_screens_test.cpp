@@ -37,6 +37,7 @@ using tests::settle;
 /// The main window and all forms that it opens.
 struct System : tests::WindowsOnDoubles {
     compose::frmZent main{platform, state, {}};
+    drafts::DraftKeeper keeper{platform, main};
 
     std::vector<std::unique_ptr<Form>> dialogs() {
         std::vector<std::unique_ptr<Form>> forms;
