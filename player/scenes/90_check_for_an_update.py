@@ -45,7 +45,10 @@ def play(desk):
     wait_for("the installer", trace.exists)
     expect("the sign that the installer finds", trace.read_text(), "[UPDATE]\nAUTORUN=OK\n")
 
+    # The installer's taking over ends the program at once; the draft is there again.
     desk.start()
+    desk.find("지난번에 작성하던 메시지를 되살리시겠습니까?")
+    desk.keys("Return")
     desk.window(LOG_IN)
     desk.keys("Escape")
     desk.gone(LOG_IN)
