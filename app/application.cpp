@@ -9,7 +9,10 @@
 namespace app {
 
 Application::Application(platform::Platform& platform)
-    : platform_(platform), main_(platform, state_, doors()), hand_over_(platform, state_, main_), drafts_(platform, main_) {}
+    : platform_(platform),
+      main_(platform, state_, doors()),
+      hand_over_(platform, state_, main_),
+      drafts_(platform, main_) {}
 
 bool Application::start() {
     return app::entry_routine(platform_, state_, [this] { main_.show(); });

@@ -20,8 +20,8 @@ inline constexpr int RECIPIENT_NAME = 1;
 inline constexpr int RECIPIENT_NUMBER = 2;
 inline constexpr int RECIPIENT_STATUS = 3;
 inline constexpr int RECIPIENT_TITLE = 4;
-/// Has no column: which pieces of the text are registered for the recipient (see send/pieces.h). The list's tag
-/// says of which text.
+/// Has no column: which pieces of the text are registered for the recipient (see send/pieces.h). The list's
+/// tag says of which text.
 inline constexpr int RECIPIENT_PIECES = 5;
 
 /// Stands for a recipient without a name.

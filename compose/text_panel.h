@@ -50,8 +50,8 @@ class TextPanel : Room {
     /// Makes a saved text the message. Asks first when it is too long.
     void apply(platform::Text text);
 
-    /// Shows a kept text whole, without a question. `agreed` says that it may be long; otherwise the next edit
-    /// asks.
+    /// Shows a kept text whole, without a question. `agreed` says that it may be long; otherwise the next
+    /// edit asks.
     void show_kept(const platform::Text& text, bool agreed);
 
   private:

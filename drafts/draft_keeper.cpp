@@ -144,8 +144,9 @@ void DraftKeeper::forget_what_is_kept() {
 void DraftKeeper::failed(const RuntimeError& error) {
     forget_what_is_kept();
     if (std::exchange(failure_told_, true)) return;
-    form_.kept_draft.tell(u"작성 중인 메시지를 보관하지 못하고 있습니다. 프로그램이 갑자기 끝나면 되살릴 수 없습니다. (" +
-                          error.description() + u")");
+    form_.kept_draft.tell(
+        u"작성 중인 메시지를 보관하지 못하고 있습니다. 프로그램이 갑자기 끝나면 되살릴 수 없습니다. (" +
+        error.description() + u")");
 }
 
 void DraftKeeper::begin_job() {
@@ -206,7 +207,8 @@ void DraftKeeper::offer_last() {
     }
     if (last_->at_rest)
         return form_.kept_draft.offer(u"지난번에 작성하던 메시지가 있습니다: " + summary(*last_, counts));
-    if (core::ask(platform_.desktop, question(*last_, counts), u"메시지 되살리기", platform::BoxIcon::question))
+    if (core::ask(platform_.desktop, question(*last_, counts), u"메시지 되살리기",
+                  platform::BoxIcon::question))
         return show_last();
     platform::ignore_errors([this] { platform_.drafts.decline_last(); });
 }
@@ -214,10 +216,11 @@ void DraftKeeper::offer_last() {
 /// From the bar, maybe long after the start: what the user has written since is not replaced unasked.
 void DraftKeeper::take_up() {
     if (has_content(form_) &&
-        !core::ask(platform_.desktop,
-                   u"지금 작성한 내용을 지난번에 작성하던 메시지로 바꾸시겠습니까?\r\n\r\n지금 목록에 있는 받는 "
-                   u"사람은 되살린 목록에 함께 남습니다.",
-                   u"메시지 되살리기", platform::BoxIcon::question, platform::BoxAnswer::no))
+        !core::ask(
+            platform_.desktop,
+            u"지금 작성한 내용을 지난번에 작성하던 메시지로 바꾸시겠습니까?\r\n\r\n지금 목록에 있는 받는 "
+            u"사람은 되살린 목록에 함께 남습니다.",
+            u"메시지 되살리기", platform::BoxIcon::question, platform::BoxAnswer::no))
         return;
     form_.kept_draft.close();
     show_last();
@@ -233,10 +236,11 @@ void DraftKeeper::show_last() {
         list_.clear();
         show_fields(form_, last_->fields);
         platform_.drafts.read_recipients([this](KeptRecipient recipient) {
-            list_.add_row(u"",
-                          {std::move(recipient.name), std::move(recipient.number), std::move(recipient.status),
-                           std::move(recipient.title), std::move(recipient.pieces)},
-                          recipient.checked);
+            list_.add_row(
+                u"",
+                {std::move(recipient.name), std::move(recipient.number), std::move(recipient.status),
+                 std::move(recipient.title), std::move(recipient.pieces)},
+                recipient.checked);
             platform_.desktop.paint();
         });
         platform_.drafts.take_up_last();
@@ -252,10 +256,11 @@ void DraftKeeper::show_last() {
 void DraftKeeper::set_damaged_aside() {
     platform::ignore_errors([this] {
         const Text name = platform_.drafts.set_aside();
-        core::warn(platform_.desktop,
-                   u"지난번에 작성하던 메시지를 보관한 파일이 손상되어 모두 되살릴 수 없습니다. 파일은 지우지 않고 "
-                   u"다음 이름으로 남겨 두었습니다.\r\n\r\n" +
-                       name);
+        core::warn(
+            platform_.desktop,
+            u"지난번에 작성하던 메시지를 보관한 파일이 손상되어 모두 되살릴 수 없습니다. 파일은 지우지 않고 "
+            u"다음 이름으로 남겨 두었습니다.\r\n\r\n" +
+                name);
     });
 }
 

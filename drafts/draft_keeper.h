@@ -31,8 +31,8 @@ class DraftKeeper {
     /// Brings the kept draft up to date. Without a disk that takes it the user is told, and the job goes
     /// without notes.
     void begin_job();
-    /// To be called before each submit: from here on these rows count as unconfirmed. Raises RuntimeError when
-    /// that cannot be noted; the submit must not be made then.
+    /// To be called before each submit: from here on these rows count as unconfirmed. Raises RuntimeError
+    /// when that cannot be noted; the submit must not be made then.
     void before_submit(const std::vector<std::size_t>& rows);
     /// The answer came, or it is known that none will come: notes the rows as the list shows them, with what
     /// `answered` makes of each.

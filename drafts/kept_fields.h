@@ -11,8 +11,8 @@ using Fields = std::map<platform::Text, platform::Text>;
 
 Fields fields_of(const compose::frmZent& form);
 
-/// Shows what the fields say; a field that is missing or makes no sense leaves its controls as a new draft has
-/// them.
+/// Shows what the fields say; a field that is missing or makes no sense leaves its controls as a new draft
+/// has them.
 void show_fields(compose::frmZent& form, const Fields& fields);
 
 /// Whether the user has put anything into the draft.

@@ -43,7 +43,9 @@ Text excerpt(const KeptDraft& draft) {
     return {};
 }
 
-Text count(std::size_t people) { return platform::format_number(static_cast<double>(people), u"#,##0") + u"명"; }
+Text count(std::size_t people) {
+    return platform::format_number(static_cast<double>(people), u"#,##0") + u"명";
+}
 
 }  // namespace
 

@@ -144,8 +144,8 @@ void frmZentSend::write_status(std::size_t first_row, std::size_t end_row, const
     }
 }
 
-/// Shows of the recipients who wait for the rest of a text how much of it is registered, unless the carrier has
-/// said why the rest is not.
+/// Shows of the recipients who wait for the rest of a text how much of it is registered, unless the carrier
+/// has said why the rest is not.
 void frmZentSend::show_pieces() {
     for (std::size_t row = 0; row < RecipientRows.row_count(); ++row) {
         const platform::ListItem& recipient = RecipientRows.row(row);

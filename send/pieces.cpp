@@ -72,13 +72,15 @@ Text pieces_report(const platform::ListView& recipients) {
     }
     Text report;
     for (const auto& [share, count] : people)
-        report += u"\r\n 나누어 보낸 메시지 " + share + u"만 등록된 받는 사람: " + platform::decimal(count) + u"명";
+        report +=
+            u"\r\n 나누어 보낸 메시지 " + share + u"만 등록된 받는 사람: " + platform::decimal(count) + u"명";
     return report;
 }
 
 Text open_ends(const platform::ListView& recipients) {
     Text text = pieces_report(recipients);
-    if (!text.empty()) text = Text(CRLF) + text + u"\r\n 다시 보내면 등록되지 않은 나머지만 이어서 보낼 수 있습니다.";
+    if (!text.empty())
+        text = Text(CRLF) + text + u"\r\n 다시 보내면 등록되지 않은 나머지만 이어서 보낼 수 있습니다.";
     int unconfirmed = 0;
     for (std::size_t row = 0; row < recipients.row_count(); ++row)
         unconfirmed += recipients.row(row).sub_item(compose::RECIPIENT_STATUS) == gateway::NO_ANSWER;
@@ -94,14 +96,15 @@ bool settle_pieces(const platform::Platform& platform, compose::frmZent& form) {
     const Text report = recipients.tag() == text ? pieces_report(recipients) : Text();
     if (!report.empty()) {
         const platform::StandingQuestion question(platform.desktop);
-        const BoxAnswer answer = platform.desktop.message_box(
-            {.text = u"이 메시지는 앞서 일부만 등록되었습니다." + report +
-                     u"\r\n\r\n등록되지 않은 나머지만 이어서 보내시겠습니까?\r\n\r\n[아니오]를 선택하시면 처음부터 "
-                     u"모두 다시 보냅니다.",
-             .icon = platform::BoxIcon::question,
-             .title = u"이어서 보내기",
-             .buttons = platform::BoxButtons::yes_no_cancel,
-             .default_answer = BoxAnswer::yes});
+        const BoxAnswer answer =
+            platform.desktop.message_box({.text = u"이 메시지는 앞서 일부만 등록되었습니다." + report +
+                                                  u"\r\n\r\n등록되지 않은 나머지만 이어서 "
+                                                  u"보내시겠습니까?\r\n\r\n[아니오]를 선택하시면 처음부터 "
+                                                  u"모두 다시 보냅니다.",
+                                          .icon = platform::BoxIcon::question,
+                                          .title = u"이어서 보내기",
+                                          .buttons = platform::BoxButtons::yes_no_cancel,
+                                          .default_answer = BoxAnswer::yes});
         if (answer == BoxAnswer::cancel) return false;
         if (answer == BoxAnswer::yes) return true;
     }

@@ -1,10 +1,11 @@
-// Kills the program at every file operation of the kept draft and around every call to the carrier, in jobs of
-// three kinds; starts it again, takes the draft up, sends again; and holds the stand-in's ledger against what was
-// asked for: nobody is sent a piece twice, nobody is forgotten, and unconfirmed are the recipients of the one open
-// submit alone. Then the same with the carrier's host killed in every call, in place of the program.
+// Kills the program at every file operation of the kept draft and around every call to the carrier, in jobs
+// of three kinds; starts it again, takes the draft up, sends again; and holds the stand-in's ledger against
+// what was asked for: nobody is sent a piece twice, nobody is forgotten, and unconfirmed are the recipients
+// of the one open submit alone. Then the same with the carrier's host killed in every call, in place of the
+// program.
 //
-// The forms, the draft's file, the carrier's host and the stand-in are the real ones; the user and the clock are
-// scripted, so that a job of minutes takes a moment.
+// The forms, the draft's file, the carrier's host and the stand-in are the real ones; the user and the clock
+// are scripted, so that a job of minutes takes a moment.
 //
 //     build/trials/never_twice [<most points of each kind of job>]
 
@@ -45,7 +46,8 @@ sqlite3_syscall_ptr real_write, real_sync, real_unlink, real_truncate;
 
 ssize_t moment_write(int file, const void* bytes, std::size_t size, off_t at) {
     killer.moment();
-    return reinterpret_cast<ssize_t (*)(int, const void*, std::size_t, off_t)>(real_write)(file, bytes, size, at);
+    return reinterpret_cast<ssize_t (*)(int, const void*, std::size_t, off_t)>(real_write)(file, bytes, size,
+                                                                                           at);
 }
 int moment_sync(int file) {
     killer.moment();
@@ -79,14 +81,16 @@ class TriedCarrier : public machine::carrier::HostedCarrierLibrary {
     using HostedCarrierLibrary::HostedCarrierLibrary;
     std::int32_t fn_x_bind(std::int32_t one, std::string& user, std::string& password, std::string& domain,
                            std::int32_t five, Notify six, std::int32_t seven) override {
-        return tried([&] { return HostedCarrierLibrary::fn_x_bind(one, user, password, domain, five, six, seven); });
+        return tried(
+            [&] { return HostedCarrierLibrary::fn_x_bind(one, user, password, domain, five, six, seven); });
     }
     std::int32_t fn_x_unbind(std::string& user, std::string& password) override {
         return tried([&] { return HostedCarrierLibrary::fn_x_unbind(user, password); });
     }
     std::int32_t fn_x_money_status(std::string& user, std::string& domain, std::string& number,
                                    std::string& address, MoneyStatus& status) override {
-        return tried([&] { return HostedCarrierLibrary::fn_x_money_status(user, domain, number, address, status); });
+        return tried(
+            [&] { return HostedCarrierLibrary::fn_x_money_status(user, domain, number, address, status); });
     }
     std::int32_t fn_x_submit(const Submit& submit) override {
         return tried([&] { return HostedCarrierLibrary::fn_x_submit(submit); });
@@ -125,15 +129,17 @@ struct Program : tests::TestPlatform {
     machine::drafts::SqliteDraftStore store;
     TriedCarrier host;
     platform::Platform machine = tests::with(platform, {.carrier = &host, .drafts = &store});
-    compose::frmZent form{machine, state, {.send = [this] {
-                              send::check_and_send(machine, state, form, keeper);
-                          }}};
+    compose::frmZent form{
+        machine, state, {.send = [this] { send::check_and_send(machine, state, form, keeper); }}};
     drafts::DraftKeeper keeper{machine, form};
 
     void write(const Job& job) {
         Text text = job.personal ? u"{이름}" : u"";
         for (int piece = 1; piece <= job.pieces; ++piece)
-            text += Text(job.pieces == 1 ? 70 : piece < job.pieces ? 80 : 40, static_cast<char16_t>(u'a' + piece));
+            text += Text(job.pieces == 1      ? 70
+                         : piece < job.pieces ? 80
+                                              : 40,
+                         static_cast<char16_t>(u'a' + piece));
         form.text.Check1.set_checked(job.personal);
         form.text.mText1.set_text(text);
         for (int i = 1; i <= job.recipients; ++i)
@@ -142,9 +148,10 @@ struct Program : tests::TestPlatform {
     /// Presses the button until nothing is left to send, as a user does whose job has failed.
     void send_all() {
         for (int tries = 0; tries < 4 && form.recipients.ListView1.checked_count() > 0; ++tries) {
-            desktop.in_form<send::frmSBox>(u"frmSBox", [](send::frmSBox& box) { box.Command1.Click.raise(); });
-            desktop.in_form<send::frmSendEndBox>(u"frmSendEndBox",
-                                                 [](send::frmSendEndBox& box) { box.Command2.Click.raise(); });
+            desktop.in_form<send::frmSBox>(u"frmSBox",
+                                           [](send::frmSBox& box) { box.Command1.Click.raise(); });
+            desktop.in_form<send::frmSendEndBox>(
+                u"frmSendEndBox", [](send::frmSendEndBox& box) { box.Command2.Click.raise(); });
             form.Command1.Click.raise();
         }
     }
@@ -191,13 +198,14 @@ std::map<std::pair<std::string, std::string>, int> ledger() {
     sqlite3* database = nullptr;
     sqlite3_stmt* rows = nullptr;
     sqlite3_open_v2("carrier-ledger.db", &database, SQLITE_OPEN_READWRITE, nullptr);
-    sqlite3_prepare_v2(database, "SELECT dest_addr, sms_content FROM registration WHERE result = 1", -1, &rows,
-                       nullptr);
+    sqlite3_prepare_v2(database, "SELECT dest_addr, sms_content FROM registration WHERE result = 1", -1,
+                       &rows, nullptr);
     while (rows != nullptr && sqlite3_step(rows) == SQLITE_ROW) {
         const std::string addresses = reinterpret_cast<const char*>(sqlite3_column_text(rows, 0));
         const std::string text = reinterpret_cast<const char*>(sqlite3_column_text(rows, 1));
         for (std::size_t at = addresses.find(':'); at != std::string::npos; at = addresses.find(':', at + 1))
-            ++registered[{addresses.substr(at + 1, addresses.find(';', at) - at - 1), text.substr(text.size() - 8)}];
+            ++registered[{addresses.substr(at + 1, addresses.find(';', at) - at - 1),
+                          text.substr(text.size() - 8)}];
     }
     sqlite3_finalize(rows);
     sqlite3_close(database);
@@ -255,13 +263,14 @@ Tally try_job(const Job& job, int most_points) {
         configure();
         const bool ended = in_child(moment, [&](int deadly) { first_run(folder.path(), job, deadly); });
         if (ended || !in_child(0, [&](int) { second_run(folder.path()); }))
-            std::printf("  moment %d of %d: the run %s\n", moment, moments, ended ? "was not killed" : "failed");
+            std::printf("  moment %d of %d: the run %s\n", moment, moments,
+                        ended ? "was not killed" : "failed");
         const Tally before = tally;
         judge(job, job.personal ? 1 : 100, tally);
         if (tally.twice + tally.forgotten + tally.too_many_unconfirmed >
             before.twice + before.forgotten + before.too_many_unconfirmed)
-            std::printf("  moment %d of %d: twice %d, forgotten %d\n", moment, moments, tally.twice - before.twice,
-                        tally.forgotten - before.forgotten);
+            std::printf("  moment %d of %d: twice %d, forgotten %d\n", moment, moments,
+                        tally.twice - before.twice, tally.forgotten - before.forgotten);
     }
     return tally;
 }
@@ -275,9 +284,10 @@ int main(int count, char** arguments) {
     for (const Job& job : {Job{"1,000 in batches", 1000, 1, false}, Job{"250, three pieces", 250, 3, false},
                            Job{"20 personal, two pieces", 20, 2, true}}) {
         const Tally tally = try_job(job, most_points);
-        std::printf("%-26s killed at %4d moments: twice %d, forgotten %d, unconfirmed in %d, too many in %d\n", job.name,
-                    tally.points, tally.twice, tally.forgotten, tally.unconfirmed_points,
-                    tally.too_many_unconfirmed);
+        std::printf(
+            "%-26s killed at %4d moments: twice %d, forgotten %d, unconfirmed in %d, too many in %d\n",
+            job.name, tally.points, tally.twice, tally.forgotten, tally.unconfirmed_points,
+            tally.too_many_unconfirmed);
         std::fflush(stdout);
         good = good && tally.twice + tally.forgotten + tally.too_many_unconfirmed == 0;
     }

@@ -118,7 +118,7 @@ void SqliteDraftStore::Finish::operator()(sqlite3_stmt* statement) const { sqlit
 SqliteDraftStore::SqliteDraftStore(std::string folder, const std::string& application_directory)
     : folder_(std::move(folder)), file_(folder_ + "/draft-" + hash_of(application_directory) + ".db") {}
 
-SqliteDraftStore::~SqliteDraftStore() { close(); }
+SqliteDraftStore::~SqliteDraftStore() = default;
 
 void SqliteDraftStore::open() {
     if (database_) return;

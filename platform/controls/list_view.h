@@ -147,9 +147,8 @@ class ListView : public Control {
     bool held_ = false;
 };
 
-/// Holds a list's rows for as long as this object lives: none goes, none changes its place, and a new one stands
-/// at the end even if the list is sorted. For work over
-/// the rows in whose pauses the event loop runs.
+/// Holds a list's rows for as long as this object lives: none goes, none changes its place, and a new one
+/// stands at the end even if the list is sorted. For work over the rows in whose pauses the event loop runs.
 class HeldRows {
   public:
     explicit HeldRows(ListView& list) : list_(list) { list_.held_ = true; }

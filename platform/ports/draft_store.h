@@ -38,7 +38,8 @@ class DraftStore {
   public:
     virtual ~DraftStore() = default;
 
-    /// The draft of the last run; nothing when there is none. Raises ErrorNumber::database_unusable when it is damaged.
+    /// The draft of the last run; nothing when there is none. Raises ErrorNumber::database_unusable when it
+    /// is damaged.
     virtual std::optional<KeptDraft> last() = 0;
     /// Its recipients in the order of their rows.
     virtual void read_recipients(const std::function<void(KeptRecipient)>& read) = 0;

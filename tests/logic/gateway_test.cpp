@@ -114,7 +114,8 @@ TEST_F(Wrappers, AMissingExportIsShownInABoxWithThePointerRestored) {
 TEST_F(Wrappers, ACallThatIsNeverAnsweredIsShownLikeAMissingExport) {
     for (const Wrapper& wrapper : wrappers()) {
         carrier.silent = {wrapper.operation};
-        desktop.expect_box(tests::failure(462, u"x_msggate_d.so에서 응답이 없어 처리 결과를 알 수 없습니다."));
+        desktop.expect_box(
+            tests::failure(462, u"x_msggate_d.so에서 응답이 없어 처리 결과를 알 수 없습니다."));
         EXPECT_FALSE(wrapper.call()) << wrapper.operation;
     }
 }

@@ -1,5 +1,5 @@
-// The draft on a real disk: what the next run finds after a kill, an orderly end, a damage, and a job that was cut
-// off.
+// The draft on a real disk: what the next run finds after a kill, an orderly end, a damage, and a job that
+// was cut off.
 
 #include "drafts/draft_keeper.h"
 #include "machine/drafts/sqlite_draft_store.h"
@@ -21,7 +21,8 @@ using platform::Text;
 using tests::utf8;
 
 const Text MEANING =
-    u"'확인필요'는 등록 요청을 보냈으나 응답을 받지 못한 받는 사람입니다. 발송결과에서 확인하신 후, 등록되지 않았으면 "
+    u"'확인필요'는 등록 요청을 보냈으나 응답을 받지 못한 받는 사람입니다. 발송결과에서 확인하신 후, 등록되지 "
+    u"않았으면 "
     u"다시 선택하여 보내십시오.";
 
 /// The lines of the question about a draft whose job was cut off.
@@ -33,7 +34,8 @@ Text unconfirmed(int to_send, int others, int open) {
 /// The question before a text goes on that is registered in part.
 platform::MessageBox rest_question(const Text& lines) {
     return {.text = u"이 메시지는 앞서 일부만 등록되었습니다." + lines +
-                    u"\r\n\r\n등록되지 않은 나머지만 이어서 보내시겠습니까?\r\n\r\n[아니오]를 선택하시면 처음부터 모두 "
+                    u"\r\n\r\n등록되지 않은 나머지만 이어서 보내시겠습니까?\r\n\r\n[아니오]를 선택하시면 "
+                    u"처음부터 모두 "
                     u"다시 보냅니다.",
             .icon = BoxIcon::question,
             .title = u"이어서 보내기",
@@ -55,9 +57,8 @@ struct ProgramRun : tests::TestPlatform {
 
     machine::drafts::SqliteDraftStore store;
     platform::Platform machine = tests::with(platform, {.drafts = &store});
-    compose::frmZent form{machine, state, {.send = [this] {
-                              send::check_and_send(machine, state, form, keeper);
-                          }}};
+    compose::frmZent form{
+        machine, state, {.send = [this] { send::check_and_send(machine, state, form, keeper); }}};
     drafts::DraftKeeper keeper{machine, form};
     std::string report;
 
@@ -162,7 +163,8 @@ TEST_F(KeptDraft, ComesBackWholeAfterAKill) {
     const drafts::Fields before = drafts::fields_of(run->form);
     run->clock.run_for(2000);
 
-    restore(u"음성메시지, '제목 \U0001F600', 받는 사람 2명, 11월 23일 오전 10:00\r\n보낼 사람 1명, 나머지 1명");
+    restore(
+        u"음성메시지, '제목 \U0001F600', 받는 사람 2명, 11월 23일 오전 10:00\r\n보낼 사람 1명, 나머지 1명");
     EXPECT_EQ(drafts::fields_of(run->form), before);
     EXPECT_EQ(run->rows(), "* x1\n등록성공 x1\n");
     EXPECT_EQ(run->form.recipients.ListView1.row(0).sub_item(compose::RECIPIENT_TITLE), u"과장");
@@ -229,9 +231,10 @@ TEST_F(KeptDraft, OneThatTheUserDeclinesStaysBesideTheNext) {
     run->add(u"이", u"01000000002");
     run->clock.run_for(2000);
     run->desktop.expect_box(
-        tests::question(u"지금 작성한 내용을 지난번에 작성하던 메시지로 바꾸시겠습니까?\r\n\r\n지금 목록에 있는 "
-                        u"받는 사람은 되살린 목록에 함께 남습니다.",
-                        u"메시지 되살리기", BoxIcon::question, BoxAnswer::no),
+        tests::question(
+            u"지금 작성한 내용을 지난번에 작성하던 메시지로 바꾸시겠습니까?\r\n\r\n지금 목록에 있는 "
+            u"받는 사람은 되살린 목록에 함께 남습니다.",
+            u"메시지 되살리기", BoxIcon::question, BoxAnswer::no),
         BoxAnswer::yes);
     run->form.kept_draft.KeptDraftTakeUp.Click.raise();
     EXPECT_EQ(run->rows(), "* x2\n");
@@ -256,10 +259,11 @@ TEST_F(KeptDraft, ADamagedFileIsSetAsideWithAWord) {
     const std::string kept = file();
     std::ofstream(kept, std::ios::in).write(std::string(200, 'x').data(), 200);
     const auto name = platform::from_utf8(kept + ".damaged-1");
-    start().desktop.expect_box(tests::refusal(
-        u"지난번에 작성하던 메시지를 보관한 파일이 손상되어 모두 되살릴 수 없습니다. 파일은 지우지 않고 다음 이름으로 "
-        u"남겨 두었습니다.\r\n\r\nz:" +
-        platform::replace_all(name, u"/", u"\\")));
+    start().desktop.expect_box(
+        tests::refusal(u"지난번에 작성하던 메시지를 보관한 파일이 손상되어 모두 되살릴 수 없습니다. 파일은 "
+                       u"지우지 않고 다음 이름으로 "
+                       u"남겨 두었습니다.\r\n\r\nz:" +
+                       platform::replace_all(name, u"/", u"\\")));
     run->keeper.start();
     EXPECT_TRUE(std::filesystem::exists(kept + ".damaged-1"));
     run->add(u"이", u"01000000002");
@@ -287,7 +291,8 @@ TEST_F(KeptDraft, WhatALaterVersionKeepsBesideItStays) {
         sqlite3_close(database);
         return value;
     };
-    sql("PRAGMA user_version = 2; ALTER TABLE recipient ADD COLUMN colour TEXT; UPDATE recipient SET colour = 'red';"
+    sql("PRAGMA user_version = 2; ALTER TABLE recipient ADD COLUMN colour TEXT; UPDATE recipient SET colour "
+        "= 'red';"
         "INSERT INTO field VALUES(1, 'new', 'thing')");
     start().keeper.start();
     run->form.kept_draft.KeptDraftTakeUp.Click.raise();
@@ -316,8 +321,7 @@ TEST_F(KeptDraft, AJobCutOffLeavesTheOpenSubmitUnconfirmed) {
     run->add_many(250);
     run->killed_at_submit(2);
 
-    restore(
-        u"문자메시지, '안녕', 받는 사람 250명, 11월 23일 오전 10:00" + unconfirmed(50, 200, 100));
+    restore(u"문자메시지, '안녕', 받는 사람 250명, 11월 23일 오전 10:00" + unconfirmed(50, 200, 100));
     EXPECT_EQ(run->rows(), "등록성공 x100\n확인필요 x100\n* x50\n");
     run->expect_report();
     run->press_send();
@@ -332,11 +336,13 @@ TEST_F(KeptDraft, ATextInPiecesGoesOnWithTheRestAfterAKill) {
     run->add_many(150);
     run->killed_at_submit(4);  // the second batch of the second piece
 
-    restore(u"문자메시지, '" + Text(15, u'x') + u"', 받는 사람 150명, 11월 23일 오전 10:00" + unconfirmed(100, 50, 50));
+    restore(u"문자메시지, '" + Text(15, u'x') + u"', 받는 사람 150명, 11월 23일 오전 10:00" +
+            unconfirmed(100, 50, 50));
     EXPECT_EQ(run->rows(), "*2/3 등록 x100\n확인필요 x50\n");
-    run->desktop.expect_box(rest_question(u"\r\n 나누어 보낸 메시지 1/3만 등록된 받는 사람: 50명\r\n 나누어 보낸 "
-                                          u"메시지 2/3만 등록된 받는 사람: 100명"),
-                            BoxAnswer::yes);
+    run->desktop.expect_box(
+        rest_question(u"\r\n 나누어 보낸 메시지 1/3만 등록된 받는 사람: 50명\r\n 나누어 보낸 "
+                      u"메시지 2/3만 등록된 받는 사람: 100명"),
+        BoxAnswer::yes);
     run->expect_report();
     run->press_send();
     ASSERT_EQ(run->carrier.registrations.size(), 1U);
@@ -351,7 +357,8 @@ TEST_F(KeptDraft, APersonalTextGoesOnWithTheRestAfterAKill) {
     run->add_many(3);
     run->killed_at_submit(4);  // the second piece of the second recipient
 
-    restore(u"문자메시지, '{이름}" + Text(11, u'x') + u"', 받는 사람 3명, 11월 23일 오전 10:00" + unconfirmed(1, 2, 1));
+    restore(u"문자메시지, '{이름}" + Text(11, u'x') + u"', 받는 사람 3명, 11월 23일 오전 10:00" +
+            unconfirmed(1, 2, 1));
     EXPECT_EQ(run->rows(), "등록성공 x1\n확인필요 x1\n* x1\n");
 }
 
@@ -361,14 +368,18 @@ TEST_F(KeptDraft, ASessionRefusedBetweenThePiecesSendsNothingTwice) {
     run->add_many(120);
     run->carrier.results[{"bind", 3}] = 5;
     run->desktop.expect_box(tests::refusal(
-        u"메시지 등록을 실패하였습니다. 원인은 다음과 같습니다.\r\n\r\n원인 1) 인터넷 연결이 안된 경우.\r\n원인 2) "
-        u"폰디라 서버가 응닶이 없는 경우.\r\n원인 3) 폰디라 가입을 해지한 경우.\r\n원인 4) 폰디라 사용이 일시 정지된 "
-        u"경우.\r\n\r\n인터넷 연결상태를 확인하시고 잠시 후 다시 시작하여 주십시오.\r\n\r\n 나누어 보낸 메시지 "
+        u"메시지 등록을 실패하였습니다. 원인은 다음과 같습니다.\r\n\r\n원인 1) 인터넷 연결이 안된 "
+        u"경우.\r\n원인 2) "
+        u"폰디라 서버가 응닶이 없는 경우.\r\n원인 3) 폰디라 가입을 해지한 경우.\r\n원인 4) 폰디라 사용이 "
+        u"일시 정지된 "
+        u"경우.\r\n\r\n인터넷 연결상태를 확인하시고 잠시 후 다시 시작하여 주십시오.\r\n\r\n 나누어 보낸 "
+        u"메시지 "
         u"1/2만 등록된 받는 사람: 120명\r\n 다시 보내면 등록되지 않은 나머지만 이어서 보낼 수 있습니다."));
     run->press_send();
     EXPECT_EQ(run->rows(), "*1/2 등록 x120\n");
 
-    run->desktop.expect_box(rest_question(u"\r\n 나누어 보낸 메시지 1/2만 등록된 받는 사람: 120명"), BoxAnswer::yes);
+    run->desktop.expect_box(rest_question(u"\r\n 나누어 보낸 메시지 1/2만 등록된 받는 사람: 120명"),
+                            BoxAnswer::yes);
     run->expect_report();
     run->press_send();
     ASSERT_EQ(run->carrier.registrations.size(), 4U);

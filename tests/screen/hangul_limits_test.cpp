@@ -133,7 +133,8 @@ struct Draft : WindowsOnDoubles {
     platform::Platform hasty = with(platform, {.clock = &clock});
     InputMethod method;
     compose::MessageKind kind;
-    compose::frmZent form{hasty, state, {.send = [this] { send::check_and_send(hasty, state, form, keeper); }}};
+    compose::frmZent form{
+        hasty, state, {.send = [this] { send::check_and_send(hasty, state, form, keeper); }}};
     drafts::DraftKeeper keeper{hasty, form};
 };
 

@@ -18,7 +18,8 @@ namespace tests {
 
 /// The main window of a user who is logged in, with a send button that works and a draft without recipients.
 struct Sending : TestPlatform {
-    compose::frmZent form{platform, state, {.send = [this] { send::check_and_send(platform, state, form, keeper); }}};
+    compose::frmZent form{
+        platform, state, {.send = [this] { send::check_and_send(platform, state, form, keeper); }}};
     drafts::DraftKeeper keeper{platform, form};
 
     /// The text of the last report, and whether it offered the results.
