@@ -97,6 +97,8 @@ void frmZent::first_tick() {
         start_work();
     } catch (const platform::RuntimeError& error) {
         core::show_error(platform_.desktop, error, platform::BoxIcon::exclamation);
+        // It may have come before the draft was looked after.
+        if (doors_.keep_draft) doors_.keep_draft();
     }
     Timer1.set_enabled(true);
 }

@@ -65,6 +65,7 @@ DraftKeeper::DraftKeeper(platform::Platform& platform, compose::frmZent& form)
 }
 
 void DraftKeeper::start() {
+    if (seconds_.enabled()) return;
     offer_last();
     seconds_.set_enabled(true);
 }

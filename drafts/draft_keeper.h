@@ -21,7 +21,7 @@ class DraftKeeper {
   public:
     DraftKeeper(platform::Platform& platform, compose::frmZent& form);
 
-    /// Offers the draft of the last run and begins to keep the present one.
+    /// Offers the draft of the last run and begins to keep the present one; nothing when that has begun.
     void start();
     /// Keeps the draft a last time: the program ends in order.
     void end();

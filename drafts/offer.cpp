@@ -59,8 +59,9 @@ Text summary(const KeptDraft& draft, const RecipientCounts& recipients) {
     Text line;
     if (const compose::KindOfMessage* kind = kind_of(draft)) line += Text(kind->caption) + u", ";
     if (const Text text = excerpt(draft); !text.empty()) line += u"'" + text + u"', ";
-    return line + u"받는 사람 " + count(recipients.all) + u", " +
-           platform::format_date(draft.written, u"M월 d일 ampm h:nn");
+    line += u"받는 사람 " + count(recipients.all);
+    if (recipients.unconfirmed > 0) line += u"(확인필요 " + count(recipients.unconfirmed) + u")";
+    return line + u", " + platform::format_date(draft.written, u"M월 d일 ampm h:nn");
 }
 
 Text question(const KeptDraft& draft, const RecipientCounts& recipients) {
@@ -68,9 +69,7 @@ Text question(const KeptDraft& draft, const RecipientCounts& recipients) {
     if (recipients.to_send < recipients.all)
         text += u"\r\n보낼 사람 " + count(recipients.to_send) + u", 나머지 " +
                 count(recipients.all - recipients.to_send);
-    if (recipients.unconfirmed > 0)
-        text += u"\r\n\r\n확인필요 " + count(recipients.unconfirmed) + Text(CRLF) +
-                Text(gateway::NO_ANSWER_MEANS);
+    if (recipients.unconfirmed > 0) text += u"\r\n\r\n" + Text(gateway::NO_ANSWER_MEANS);
     return text;
 }
 

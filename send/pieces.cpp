@@ -67,7 +67,9 @@ int count_pieces(Text text) {
 Text pieces_report(const platform::ListView& recipients) {
     std::map<Text, int> people;
     for (std::size_t row = 0; row < recipients.row_count(); ++row) {
-        if (Text share = share_of(recipients.row(row).sub_item(RECIPIENT_PIECES)); !share.empty())
+        const platform::ListItem& recipient = recipients.row(row);
+        if (Text share = share_of(recipient.sub_item(RECIPIENT_PIECES));
+            recipient.checked() && !share.empty())
             ++people[std::move(share)];
     }
     Text report;

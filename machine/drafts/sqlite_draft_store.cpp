@@ -270,7 +270,6 @@ Text SqliteDraftStore::set_aside() {
 }
 
 void SqliteDraftStore::run(const char* sql) { statement(sql).run(); }
-
 SqliteDraftStore::Statement SqliteDraftStore::statement(const char* sql) {
     auto& prepared = prepared_[sql];
     if (!prepared) {

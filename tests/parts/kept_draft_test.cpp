@@ -25,10 +25,11 @@ const Text MEANING =
     u"않았으면 "
     u"다시 선택하여 보내십시오.";
 
-/// The lines of the question about a draft whose job was cut off.
-Text unconfirmed(int to_send, int others, int open) {
-    return u"\r\n보낼 사람 " + platform::decimal(to_send) + u"명, 나머지 " + platform::decimal(others) +
-           u"명\r\n\r\n확인필요 " + platform::decimal(open) + u"명\r\n" + MEANING;
+/// The question's details about a draft whose job was cut off.
+Text cut_off(const Text& excerpt, int all, int to_send, int open) {
+    return u"문자메시지, '" + excerpt + u"', 받는 사람 " + platform::decimal(all) + u"명(확인필요 " +
+           platform::decimal(open) + u"명), 11월 23일 오전 10:00\r\n보낼 사람 " + platform::decimal(to_send) +
+           u"명, 나머지 " + platform::decimal(all - to_send) + u"명\r\n\r\n" + MEANING;
 }
 
 /// The question before a text goes on that is registered in part.
@@ -321,7 +322,7 @@ TEST_F(KeptDraft, AJobCutOffLeavesTheOpenSubmitUnconfirmed) {
     run->add_many(250);
     run->killed_at_submit(2);
 
-    restore(u"문자메시지, '안녕', 받는 사람 250명, 11월 23일 오전 10:00" + unconfirmed(50, 200, 100));
+    restore(cut_off(u"안녕", 250, 50, 100));
     EXPECT_EQ(run->rows(), "등록성공 x100\n확인필요 x100\n* x50\n");
     run->expect_report();
     run->press_send();
@@ -336,13 +337,10 @@ TEST_F(KeptDraft, ATextInPiecesGoesOnWithTheRestAfterAKill) {
     run->add_many(150);
     run->killed_at_submit(4);  // the second batch of the second piece
 
-    restore(u"문자메시지, '" + Text(15, u'x') + u"', 받는 사람 150명, 11월 23일 오전 10:00" +
-            unconfirmed(100, 50, 50));
+    restore(cut_off(Text(15, u'x'), 150, 100, 50));
     EXPECT_EQ(run->rows(), "*2/3 등록 x100\n확인필요 x50\n");
-    run->desktop.expect_box(
-        rest_question(u"\r\n 나누어 보낸 메시지 1/3만 등록된 받는 사람: 50명\r\n 나누어 보낸 "
-                      u"메시지 2/3만 등록된 받는 사람: 100명"),
-        BoxAnswer::yes);
+    run->desktop.expect_box(rest_question(u"\r\n 나누어 보낸 메시지 2/3만 등록된 받는 사람: 100명"),
+                            BoxAnswer::yes);
     run->expect_report();
     run->press_send();
     ASSERT_EQ(run->carrier.registrations.size(), 1U);
@@ -357,8 +355,7 @@ TEST_F(KeptDraft, APersonalTextGoesOnWithTheRestAfterAKill) {
     run->add_many(3);
     run->killed_at_submit(4);  // the second piece of the second recipient
 
-    restore(u"문자메시지, '{이름}" + Text(11, u'x') + u"', 받는 사람 3명, 11월 23일 오전 10:00" +
-            unconfirmed(1, 2, 1));
+    restore(cut_off(u"{이름}" + Text(11, u'x'), 3, 1, 1));
     EXPECT_EQ(run->rows(), "등록성공 x1\n확인필요 x1\n* x1\n");
 }
 
