@@ -97,9 +97,9 @@ void frmZent::first_tick() {
         start_work();
     } catch (const platform::RuntimeError& error) {
         core::show_error(platform_.desktop, error, platform::BoxIcon::exclamation);
-        // It may have come before the draft was looked after.
-        if (doors_.keep_draft) doors_.keep_draft();
     }
+    // Behind the login, which lets the subject follow the text again.
+    if (doors_.keep_draft) doors_.keep_draft();
     Timer1.set_enabled(true);
 }
 
@@ -107,7 +107,6 @@ void frmZent::start_work() {
     const bool server_reached = update_check_at_start();
     if (doors_.NEW_SENDMAN_LOAD) doors_.NEW_SENDMAN_LOAD();
     DRAFT_RESET_IF_NO_KIND();
-    if (doors_.keep_draft) doors_.keep_draft();
     // Without a network an automatic login would fail: the user logs in by hand.
     if (!server_reached) return session.cmdLogin_Click();
     if (!Timer2.tag().empty() || state_.session.gLoggedIn) return;

@@ -23,15 +23,6 @@ constexpr int BETWEEN_PARTS = 20;
 constexpr std::size_t ROWS_WRITTEN = 2'000;
 constexpr std::size_t ROWS_LOOKED_AT = 50'000;
 
-KeptRecipient recipient_of(const ListItem& row) {
-    return {.name = row.sub_item(compose::RECIPIENT_NAME),
-            .number = row.sub_item(compose::RECIPIENT_NUMBER),
-            .status = row.sub_item(compose::RECIPIENT_STATUS),
-            .title = row.sub_item(compose::RECIPIENT_TITLE),
-            .pieces = row.sub_item(compose::RECIPIENT_PIECES),
-            .checked = row.checked()};
-}
-
 /// Two rows that differ have different ones, but for one chance in 2 to the power of 64.
 std::size_t fingerprint(const ListItem& row) {
     std::size_t hash = row.checked() ? 1 : 2;
@@ -44,6 +35,15 @@ std::size_t fingerprint(const ListItem& row) {
 constexpr std::size_t NOT_KEPT = 0;
 
 }  // namespace
+
+KeptRecipient recipient_of(const ListItem& row) {
+    return {.name = row.sub_item(compose::RECIPIENT_NAME),
+            .number = row.sub_item(compose::RECIPIENT_NUMBER),
+            .status = row.sub_item(compose::RECIPIENT_STATUS),
+            .title = row.sub_item(compose::RECIPIENT_TITLE),
+            .pieces = row.sub_item(compose::RECIPIENT_PIECES),
+            .checked = row.checked()};
+}
 
 DraftKeeper::DraftKeeper(platform::Platform& platform, compose::frmZent& form)
     : platform_(platform),
@@ -61,12 +61,16 @@ DraftKeeper::DraftKeeper(platform::Platform& platform, compose::frmZent& form)
             failed(error);
         }
     });
-    form_.kept_draft.KeptDraftTakeUp.Click.connect([this] { take_up(); });
+    form_.kept_draft.KeptDraftTakeUp.Click.connect([this] { take_up_from_bar(); });
+    form_.kept_draft.KeptDraftClose.Click.connect([this] {
+        form_.kept_draft.close();
+        // Behind the one that is passed over there may be an earlier one.
+        if (std::exchange(offered_, std::nullopt)) offer_next();
+    });
 }
 
 void DraftKeeper::start() {
-    if (seconds_.enabled()) return;
-    offer_last();
+    offer_next();
     seconds_.set_enabled(true);
 }
 
@@ -126,6 +130,7 @@ void DraftKeeper::commit(bool at_rest) {
     kept_fields_ = std::move(fields);
     kept_revision_ = pass_revision_;
     is_kept_ = true;
+    if (std::exchange(failure_told_, false)) form_.kept_draft.close();
 }
 
 void DraftKeeper::keep_everything() {
@@ -150,27 +155,46 @@ void DraftKeeper::failed(const RuntimeError& error) {
         error.description() + u")");
 }
 
-void DraftKeeper::begin_job() {
-    job_runs_ = true;
+bool DraftKeeper::bring_up_to_date() {
     try {
         keep_everything();
         commit(false);
-        notes_job_ = true;
+        return true;
     } catch (const RuntimeError& error) {
         failed(error);
-        notes_job_ = false;
+        return false;
     }
+}
+
+bool DraftKeeper::ready_for_job() {
+    return bring_up_to_date() ||
+           core::ask(platform_.desktop,
+                     u"등록 상태를 디스크에 기록할 수 없습니다. 발송 중에 프로그램이 갑자기 끝나면 누구에게 "
+                     u"등록되었는지 알 "
+                     u"수 없어, 같은 사람에게 두 번 보내게 될 수 있습니다.\r\n\r\n그래도 발송하시겠습니까?",
+                     {}, platform::BoxIcon::exclamation, platform::BoxAnswer::no);
+}
+
+void DraftKeeper::begin_job() {
+    job_runs_ = true;
+    notes_job_ = bring_up_to_date();
 }
 
 void DraftKeeper::before_submit(const std::vector<std::size_t>& rows) {
     if (!notes_job_) return;
-    for (const std::size_t row : rows) {
-        KeptRecipient recipient = recipient_of(list_.row(row));
-        recipient.status = gateway::NO_ANSWER;
-        recipient.checked = false;
-        put_row(row, recipient);
+    try {
+        for (const std::size_t row : rows) {
+            KeptRecipient recipient = recipient_of(list_.row(row));
+            recipient.status = gateway::NO_ANSWER;
+            recipient.checked = false;
+            put_row(row, recipient);
+        }
+        platform_.drafts.commit(platform_.clock.now(), false);
+    } catch (const RuntimeError& error) {
+        throw RuntimeError(
+            static_cast<platform::ErrorNumber>(error.number()),
+            u"등록 상태를 디스크에 기록할 수 없어 등록을 중단했습니다. (" + error.description() + u")");
     }
-    platform_.drafts.commit(platform_.clock.now(), false);
 }
 
 void DraftKeeper::after_submit(const std::vector<std::size_t>& rows,
@@ -190,79 +214,9 @@ void DraftKeeper::after_submit(const std::vector<std::size_t>& rows,
 void DraftKeeper::end_job() {
     job_runs_ = false;
     notes_job_ = false;
-    // What the job has noted row by row is compared with the list again.
-    kept_revision_ = 0;
+    // What has been noted row by row is compared with the list again, even if the list has not changed.
+    pass_revision_ = kept_revision_ = 0;
     keep_changes();
-}
-
-void DraftKeeper::offer_last() {
-    RecipientCounts counts;
-    try {
-        last_ = platform_.drafts.last();
-        if (!last_ || field(last_->fields, fields::CONTENT).empty()) return;
-        platform_.drafts.read_recipients([&](const KeptRecipient& recipient) { counts.add(recipient); });
-    } catch (const RuntimeError& error) {
-        if (error.number() == static_cast<int>(platform::ErrorNumber::database_unusable))
-            return set_damaged_aside();
-        return failed(error);
-    }
-    if (last_->at_rest)
-        return form_.kept_draft.offer(u"지난번에 작성하던 메시지가 있습니다: " + summary(*last_, counts));
-    if (core::ask(platform_.desktop, question(*last_, counts), u"메시지 되살리기",
-                  platform::BoxIcon::question))
-        return show_last();
-    platform::ignore_errors([this] { platform_.drafts.decline_last(); });
-}
-
-/// From the bar, maybe long after the start: what the user has written since is not replaced unasked.
-void DraftKeeper::take_up() {
-    if (has_content(form_) &&
-        !core::ask(
-            platform_.desktop,
-            u"지금 작성한 내용을 지난번에 작성하던 메시지로 바꾸시겠습니까?\r\n\r\n지금 목록에 있는 받는 "
-            u"사람은 되살린 목록에 함께 남습니다.",
-            u"메시지 되살리기", platform::BoxIcon::question, platform::BoxAnswer::no))
-        return;
-    form_.kept_draft.close();
-    show_last();
-}
-
-/// Shows the draft of the last run. Recipients that are listed already, handed over by the card manager for
-/// instance, are added to its own.
-void DraftKeeper::show_last() {
-    forget_what_is_kept();
-    std::vector<KeptRecipient> listed;
-    for (std::size_t row = 0; row < list_.row_count(); ++row) listed.push_back(recipient_of(list_.row(row)));
-    try {
-        list_.clear();
-        show_fields(form_, last_->fields);
-        platform_.drafts.read_recipients([this](KeptRecipient recipient) {
-            list_.add_row(
-                u"",
-                {std::move(recipient.name), std::move(recipient.number), std::move(recipient.status),
-                 std::move(recipient.title), std::move(recipient.pieces)},
-                recipient.checked);
-            platform_.desktop.paint();
-        });
-        platform_.drafts.take_up_last();
-        is_kept_ = true;
-    } catch (const RuntimeError&) {
-        set_damaged_aside();
-    }
-    for (const KeptRecipient& recipient : listed)
-        form_.recipients.add(recipient.name, recipient.number, recipient.title);
-    form_.recipients.RECIPIENT_COUNT_CAPTION();
-}
-
-void DraftKeeper::set_damaged_aside() {
-    platform::ignore_errors([this] {
-        const Text name = platform_.drafts.set_aside();
-        core::warn(
-            platform_.desktop,
-            u"지난번에 작성하던 메시지를 보관한 파일이 손상되어 모두 되살릴 수 없습니다. 파일은 지우지 않고 "
-            u"다음 이름으로 남겨 두었습니다.\r\n\r\n" +
-                name);
-    });
 }
 
 }  // namespace drafts

@@ -14,6 +14,9 @@
 
 namespace drafts {
 
+/// The row as the store has it.
+platform::KeptRecipient recipient_of(const platform::ListItem& row);
+
 /// Keeps the draft on the disk, a second or two behind the user, offers it after the next start, and notes
 /// what a job is about to register and how it went. So neither the draft nor the knowledge of who has been
 /// registered dies with the program.
@@ -21,15 +24,16 @@ class DraftKeeper {
   public:
     DraftKeeper(platform::Platform& platform, compose::frmZent& form);
 
-    /// Offers the draft of the last run and begins to keep the present one; nothing when that has begun.
+    /// Offers the draft of the last run and begins to keep the present one.
     void start();
     /// Keeps the draft a last time: the program ends in order.
     void end();
 
     // The notes of a job, which alone writes while it runs.
 
-    /// Brings the kept draft up to date. Without a disk that takes it the user is told, and the job goes
-    /// without notes.
+    /// Brings the kept draft up to date. Where the disk does not take it, asks the user whether to send
+    /// without notes. Returns whether to send.
+    bool ready_for_job();
     void begin_job();
     /// To be called before each submit: from here on these rows count as unconfirmed. Raises RuntimeError
     /// when that cannot be noted; the submit must not be made then.
@@ -50,9 +54,16 @@ class DraftKeeper {
     void forget_what_is_kept();
     void failed(const platform::RuntimeError& error);
 
-    void offer_last();
+    bool bring_up_to_date();
+
+    // The drafts of earlier runs.
+    void offer_next();
+    void decline();
+    void take_up_from_bar();
     void take_up();
-    void show_last();
+    void read_kept_rows();
+    void add_again(const std::vector<platform::KeptRecipient>& listed, bool same_pieces);
+    void cannot_read(const platform::RuntimeError& error);
     void set_damaged_aside();
 
     platform::Platform& platform_;
@@ -62,7 +73,9 @@ class DraftKeeper {
     /// Ticks while a long list is being written, a part a tick, so that the windows stay alive.
     platform::Timer parts_;
 
-    std::optional<platform::KeptDraft> last_;
+    /// The draft that is offered, and how it is described.
+    std::optional<platform::KeptDraft> offered_;
+    RecipientCounts offered_recipients_;
     /// What the store has: the fields, and a fingerprint of each row.
     Fields kept_fields_;
     std::vector<std::size_t> kept_rows_;
@@ -71,6 +84,7 @@ class DraftKeeper {
     bool is_kept_ = false;
     bool failure_told_ = false;
     bool job_runs_ = false;
+    /// Whether the store is up to date, so that a job can be noted.
     bool notes_job_ = false;
 
     /// The pass over the rows: the next row, and the list's revision that it belongs to.

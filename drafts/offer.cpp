@@ -52,6 +52,7 @@ Text count(std::size_t people) {
 void RecipientCounts::add(const platform::KeptRecipient& recipient) {
     ++all;
     if (recipient.checked) ++to_send;
+    if (recipient.status == gateway::REGISTERED) ++registered;
     if (recipient.status == gateway::NO_ANSWER) ++unconfirmed;
 }
 
@@ -60,15 +61,17 @@ Text summary(const KeptDraft& draft, const RecipientCounts& recipients) {
     if (const compose::KindOfMessage* kind = kind_of(draft)) line += Text(kind->caption) + u", ";
     if (const Text text = excerpt(draft); !text.empty()) line += u"'" + text + u"', ";
     line += u"받는 사람 " + count(recipients.all);
-    if (recipients.unconfirmed > 0) line += u"(확인필요 " + count(recipients.unconfirmed) + u")";
+    if (recipients.to_send < recipients.all) {
+        line += u"(보낼 사람 " + count(recipients.to_send);
+        if (recipients.registered > 0) line += u", 등록성공 " + count(recipients.registered);
+        if (recipients.unconfirmed > 0) line += u", 확인필요 " + count(recipients.unconfirmed);
+        line += u")";
+    }
     return line + u", " + platform::format_date(draft.written, u"M월 d일 ampm h:nn");
 }
 
 Text question(const KeptDraft& draft, const RecipientCounts& recipients) {
     Text text = u"지난번에 작성하던 메시지를 되살리시겠습니까?\r\n\r\n" + summary(draft, recipients);
-    if (recipients.to_send < recipients.all)
-        text += u"\r\n보낼 사람 " + count(recipients.to_send) + u", 나머지 " +
-                count(recipients.all - recipients.to_send);
     if (recipients.unconfirmed > 0) text += u"\r\n\r\n" + Text(gateway::NO_ANSWER_MEANS);
     return text;
 }

@@ -11,6 +11,7 @@ namespace drafts {
 struct RecipientCounts {
     std::size_t all = 0;
     std::size_t to_send = 0;
+    std::size_t registered = 0;
     std::size_t unconfirmed = 0;
 
     void add(const platform::KeptRecipient& recipient);

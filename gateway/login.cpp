@@ -9,6 +9,12 @@ namespace gateway {
 
 using platform::Text;
 
+namespace {
+
+constexpr std::chrono::seconds LONGEST_WAIT{30};
+
+}  // namespace
+
 bool Login::prove(const Text& user_id, const Text& password) {
     core::make_folder_when_missing(platform_, Text(core::SOUND_FOLDER));
     state_.session.gLoginUserId = user_id;
@@ -17,6 +23,9 @@ bool Login::prove(const Text& user_id, const Text& password) {
     state_.session.gServiceNumber = CLEAN_FIXED_TEXT(state_.session.gInfoServiceNumber);
     state_.session.gClientAddress = u"127.0.0.1";
     const core::BusyPointer busy(platform_.desktop);
+    // Nothing is lost with a login that is given up, so the user need not wait as long as for a registration.
+    const platform::PatienceScope patience(
+        platform_.carrier, [](std::chrono::milliseconds waited) { return waited < LONGEST_WAIT; });
     state_.session.gSubmitSequence = 1;
     if (!gateway_.GATEWAY_BIND(0)) return false;
 

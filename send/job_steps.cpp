@@ -48,7 +48,10 @@ void frmZentSend::run_job(const CarrierKind* kind, Pauses pauses,
     } catch (const platform::RuntimeError& error) {
         normal_cursor();
         show_pieces();
-        core::show_error(platform_.desktop, error, platform::BoxIcon::critical);
+        core::show_error(platform_.desktop,
+                         {static_cast<platform::ErrorNumber>(error.number()),
+                          error.description() + open_ends(RecipientRows)},
+                         platform::BoxIcon::critical);
     }
     unload();
 }

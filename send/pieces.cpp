@@ -3,6 +3,7 @@
 #include "core/byte_length.h"
 #include "gateway/gateway.h"
 #include "platform/text/number.h"
+#include "send/recipient_text.h"
 
 #include <algorithm>
 #include <map>
@@ -30,7 +31,7 @@ Text share_of(TextView pieces) {
 Text text_in_pieces(const compose::frmZent& form) {
     if (kind_of(form).kind != compose::MessageKind::text) return {};
     const Text text = platform::right_trim(form.text.mText1.text());
-    if (form.text.Check1.checked()) return u"개별:" + text;
+    if (form.text.Check1.checked() && has_placeholder(text)) return u"개별:" + text;
     return core::BYTE_LEN(text) > compose::TEXT_LIMIT ? text : Text();
 }
 
@@ -73,9 +74,11 @@ Text pieces_report(const platform::ListView& recipients) {
             ++people[std::move(share)];
     }
     Text report;
-    for (const auto& [share, count] : people)
-        report +=
-            u"\r\n 나누어 보낸 메시지 " + share + u"만 등록된 받는 사람: " + platform::decimal(count) + u"명";
+    for (const auto& [share, count] : people) {
+        const std::size_t slash = share.find(u'/');
+        report += u"\r\n " + share.substr(slash + 1) + u"개로 나눈 메시지 중 " + share.substr(0, slash) +
+                  u"개만 등록된 받는 사람: " + platform::decimal(count) + u"명";
+    }
     return report;
 }
 
@@ -98,15 +101,15 @@ bool settle_pieces(const platform::Platform& platform, compose::frmZent& form) {
     const Text report = recipients.tag() == text ? pieces_report(recipients) : Text();
     if (!report.empty()) {
         const platform::StandingQuestion question(platform.desktop);
-        const BoxAnswer answer =
-            platform.desktop.message_box({.text = u"이 메시지는 앞서 일부만 등록되었습니다." + report +
-                                                  u"\r\n\r\n등록되지 않은 나머지만 이어서 "
-                                                  u"보내시겠습니까?\r\n\r\n[아니오]를 선택하시면 처음부터 "
-                                                  u"모두 다시 보냅니다.",
-                                          .icon = platform::BoxIcon::question,
-                                          .title = u"이어서 보내기",
-                                          .buttons = platform::BoxButtons::yes_no_cancel,
-                                          .default_answer = BoxAnswer::yes});
+        const BoxAnswer answer = platform.desktop.message_box(
+            {.text = u"이 메시지는 앞서 일부만 등록되었습니다." + report +
+                     u"\r\n\r\n등록되지 않은 나머지만 이어서 "
+                     u"보내시겠습니까?\r\n\r\n[아니오]를 선택하시면 선택한 받는 사람에게 "
+                     u"처음부터 다시 보냅니다.",
+             .icon = platform::BoxIcon::question,
+             .title = u"이어서 보내기",
+             .buttons = platform::BoxButtons::yes_no_cancel,
+             .default_answer = BoxAnswer::yes});
         if (answer == BoxAnswer::cancel) return false;
         if (answer == BoxAnswer::yes) return true;
     }

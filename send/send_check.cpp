@@ -176,7 +176,7 @@ void check_and_send(Platform& platform, AppState& state, frmZent& form, drafts::
     // No hand-over of the card manager may change the list while the user reads the box.
     form.Timer1.set_enabled(false);
     if (confirmed(platform, state, carrier, confirmation_text(form, carrier, *recipients)) &&
-        settle_pieces(platform, form)) {
+        settle_pieces(platform, form) && drafts.ready_for_job()) {
         frmZentSend job(platform, state, form, drafts);
         job.load();
         job.set_caption(Text(carrier.name));

@@ -10,6 +10,7 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 #include <utility>
+#include <vector>
 
 namespace machine::drafts {
 
@@ -25,13 +26,16 @@ namespace {
 /// The version of the tables. A later one may add to them; what this program does not know stays in the file.
 constexpr const char* TABLES =
     "PRAGMA user_version = 1;"
-    "CREATE TABLE draft(id INTEGER PRIMARY KEY, written INTEGER, at_rest INTEGER);"
+    "CREATE TABLE draft(id INTEGER PRIMARY KEY, turn INTEGER, written INTEGER, at_rest INTEGER);"
     "CREATE TABLE field(draft INTEGER, name TEXT, value TEXT, PRIMARY KEY(draft, name)) WITHOUT ROWID;"
     "CREATE TABLE recipient(draft INTEGER, row INTEGER, name TEXT, number TEXT, status TEXT, title TEXT,"
     " pieces TEXT, checked INTEGER, PRIMARY KEY(draft, row)) WITHOUT ROWID;";
 
 /// The most bytes of one value: a text of the user is far below, a damaged file may say anything.
 constexpr int VALUE_LIMIT = 64 << 20;
+
+/// How many drafts are kept: a user who passes one over may come back for it some days later.
+constexpr const char* TOO_OLD = "SELECT id FROM draft ORDER BY turn DESC LIMIT -1 OFFSET 5";
 
 /// FNV-1a, the same in every run.
 std::string hash_of(const std::string& text) {
@@ -42,75 +46,7 @@ std::string hash_of(const std::string& text) {
     return digits;
 }
 
-ErrorNumber number_of(int result) {
-    switch (result & 0xff) {
-        case SQLITE_FULL:
-            return ErrorNumber::disk_full;
-        case SQLITE_NOMEM:
-            return ErrorNumber::out_of_memory;
-        case SQLITE_PERM:
-        case SQLITE_READONLY:
-            return ErrorNumber::permission_denied;
-        // A table or a column is missing.
-        case SQLITE_ERROR:
-        case SQLITE_CORRUPT:
-        case SQLITE_NOTADB:
-        case SQLITE_TOOBIG:
-            return ErrorNumber::database_unusable;
-        default:
-            return ErrorNumber::path_access;
-    }
-}
-
 }  // namespace
-
-/// A prepared statement in use: values are bound in their order, and it is ready for the next use afterwards.
-class SqliteDraftStore::Statement {
-  public:
-    Statement(SqliteDraftStore& store, sqlite3_stmt* statement) : store_(store), statement_(statement) {}
-    Statement(const Statement&) = delete;
-    Statement& operator=(const Statement&) = delete;
-    ~Statement() {
-        sqlite3_reset(statement_);
-        sqlite3_clear_bindings(statement_);
-    }
-
-    /// The text has to live until the statement has run.
-    Statement& bind(TextView text) {
-        const auto bytes = static_cast<int>(text.size() * sizeof(char16_t));
-        // An empty view may have no address, which would stand for a missing value.
-        const void* data = text.empty() ? u"" : text.data();
-        store_.check(sqlite3_bind_text16(statement_, ++bound_, data, bytes, SQLITE_STATIC));
-        return *this;
-    }
-    Statement& bind(std::int64_t number) {
-        store_.check(sqlite3_bind_int64(statement_, ++bound_, number));
-        return *this;
-    }
-
-    bool next_row() {
-        const int result = sqlite3_step(statement_);
-        if (result == SQLITE_ROW) return true;
-        if (result != SQLITE_DONE) store_.check(result);
-        return false;
-    }
-    void run() {
-        while (next_row()) {
-        }
-    }
-
-    Text text(int column) const {
-        const auto* data = static_cast<const char16_t*>(sqlite3_column_text16(statement_, column));
-        const auto bytes = static_cast<std::size_t>(sqlite3_column_bytes16(statement_, column));
-        return data == nullptr ? Text() : Text(data, bytes / sizeof(char16_t));
-    }
-    std::int64_t number(int column) const { return sqlite3_column_int64(statement_, column); }
-
-  private:
-    SqliteDraftStore& store_;
-    sqlite3_stmt* statement_;
-    int bound_ = 0;
-};
 
 void SqliteDraftStore::Close::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
 void SqliteDraftStore::Finish::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
@@ -122,16 +58,20 @@ SqliteDraftStore::~SqliteDraftStore() = default;
 
 void SqliteDraftStore::open() {
     if (database_) return;
-    machine::posix::make_private_folder(folder_);
-    // SQLite gives its other files the permissions of this one.
-    const posix::FileDescriptor file(
-        ::open(file_.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, S_IRUSR | S_IWUSR));
-    if (!file.is_open()) throw RuntimeError(ErrorNumber::permission_denied);
+    posix::make_private_folder(folder_);
+    {
+        // SQLite gives its other files the permissions of this one. It is closed before SQLite opens it:
+        // closing a file lets go of all locks that the process has on it.
+        const posix::FileDescriptor file(
+            ::open(file_.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, S_IRUSR | S_IWUSR));
+        if (!file.is_open()) throw RuntimeError(ErrorNumber::permission_denied);
+        ::fchmod(file.number(), S_IRUSR | S_IWUSR);
+    }
     sqlite3* database = nullptr;
     const int result = sqlite3_open_v2(file_.c_str(), &database, SQLITE_OPEN_READWRITE, nullptr);
     database_.reset(database);
     try {
-        check(result);
+        check(database, result);
         sqlite3_limit(database, SQLITE_LIMIT_LENGTH, VALUE_LIMIT);
         make_tables();
     } catch (const RuntimeError&) {
@@ -153,25 +93,27 @@ void SqliteDraftStore::make_tables() {
     }
     if (!made) {
         begin();
-        check(sqlite3_exec(database_.get(), TABLES, nullptr, nullptr, nullptr));
+        check(database_.get(), sqlite3_exec(database_.get(), TABLES, nullptr, nullptr, nullptr));
         run("COMMIT");
     }
     Statement newest = statement("SELECT max(id) FROM draft");
-    last_ = newest.next_row() ? newest.number(0) : 0;
-    present_ = last_ + 1;
+    present_ = (newest.next_row() ? newest.number(0) : 0) + 1;
 }
 
-std::optional<KeptDraft> SqliteDraftStore::last() {
+std::optional<KeptDraft> SqliteDraftStore::next() {
     open();
     KeptDraft draft;
     {
-        Statement found = statement("SELECT written, at_rest FROM draft WHERE id = ?");
-        if (!found.bind(last_).next_row()) return std::nullopt;
-        draft.written = platform::LocalTime(std::chrono::seconds(found.number(0)));
-        draft.at_rest = found.number(1) != 0;
+        Statement found = statement(
+            "SELECT id, turn, written, at_rest FROM draft WHERE turn < ? ORDER BY turn DESC LIMIT 1");
+        if (!found.bind(offered_turn_).next_row()) return std::nullopt;
+        offered_ = found.number(0);
+        offered_turn_ = found.number(1);
+        draft.written = platform::LocalTime(std::chrono::seconds(found.number(2)));
+        draft.at_rest = found.number(3) != 0;
     }
     Statement fields = statement("SELECT name, value FROM field WHERE draft = ?");
-    fields.bind(last_);
+    fields.bind(offered_);
     while (fields.next_row()) draft.fields.emplace(fields.text(0), fields.text(1));
     return draft;
 }
@@ -180,7 +122,7 @@ void SqliteDraftStore::read_recipients(const std::function<void(KeptRecipient)>&
     open();
     Statement rows = statement(
         "SELECT name, number, status, title, pieces, checked FROM recipient WHERE draft = ? ORDER BY row");
-    rows.bind(last_);
+    rows.bind(offered_);
     while (rows.next_row()) {
         read({.name = rows.text(0),
               .number = rows.text(1),
@@ -191,18 +133,15 @@ void SqliteDraftStore::read_recipients(const std::function<void(KeptRecipient)>&
     }
 }
 
-void SqliteDraftStore::take_up_last() {
-    begin();
-    for (const char* sql : {"DELETE FROM draft WHERE id > ?", "DELETE FROM field WHERE draft > ?",
-                            "DELETE FROM recipient WHERE draft > ?"})
-        statement(sql).bind(last_).run();
-    present_ = last_;
+void SqliteDraftStore::take_up() {
+    // At once, so that a kill before the next commit leaves this draft to be offered, not the replaced one.
+    if (sqlite3_get_autocommit(database_.get()) == 0) run("ROLLBACK");
+    statement("UPDATE draft SET turn = (SELECT max(turn) + 1 FROM draft) WHERE id = ?").bind(offered_).run();
+    if (present_ != offered_) replaced_ = std::exchange(present_, offered_);
 }
 
-void SqliteDraftStore::decline_last() {
-    begin();
-    statement("UPDATE draft SET at_rest = 1 WHERE id = ?").bind(last_).run();
-    run("COMMIT");
+void SqliteDraftStore::decline() {
+    statement("UPDATE draft SET at_rest = 1 WHERE id = ?").bind(offered_).run();
 }
 
 void SqliteDraftStore::put_field(TextView name, const Text& value) {
@@ -245,17 +184,25 @@ void SqliteDraftStore::remove_recipients_from(std::size_t row) {
 void SqliteDraftStore::commit(platform::LocalTime now, bool at_rest) {
     begin();
     statement(
-        "INSERT INTO draft(id, written, at_rest) VALUES(?, ?, ?)"
-        " ON CONFLICT DO UPDATE SET written = excluded.written, at_rest = excluded.at_rest")
+        "INSERT INTO draft(id, turn, written, at_rest)"
+        " VALUES(?, (SELECT coalesce(max(turn), 0) + 1 FROM draft), ?, ?) ON CONFLICT DO UPDATE SET"
+        " turn = excluded.turn, written = excluded.written, at_rest = excluded.at_rest")
         .bind(present_)
         .bind(now.time_since_epoch().count())
         .bind(at_rest ? 1 : 0)
         .run();
-    // The user has begun another draft than the one of the last run, which is kept; those before it are not.
-    for (const char* sql : {"DELETE FROM draft WHERE id < ?", "DELETE FROM field WHERE draft < ?",
-                            "DELETE FROM recipient WHERE draft < ?"})
-        statement(sql).bind(last_).run();
+    if (replaced_ != 0) remove(replaced_);
+    std::vector<std::int64_t> too_old;
+    for (Statement found = statement(TOO_OLD); found.next_row();) too_old.push_back(found.number(0));
+    for (const std::int64_t draft : too_old) remove(draft);
     run("COMMIT");
+    replaced_ = 0;
+}
+
+void SqliteDraftStore::remove(std::int64_t draft) {
+    for (const char* sql : {"DELETE FROM draft WHERE id = ?", "DELETE FROM field WHERE draft = ?",
+                            "DELETE FROM recipient WHERE draft = ?"})
+        statement(sql).bind(draft).run();
 }
 
 Text SqliteDraftStore::set_aside() {
@@ -270,14 +217,16 @@ Text SqliteDraftStore::set_aside() {
 }
 
 void SqliteDraftStore::run(const char* sql) { statement(sql).run(); }
-SqliteDraftStore::Statement SqliteDraftStore::statement(const char* sql) {
+
+Statement SqliteDraftStore::statement(const char* sql) {
     auto& prepared = prepared_[sql];
     if (!prepared) {
         sqlite3_stmt* made = nullptr;
-        check(sqlite3_prepare_v3(database_.get(), sql, -1, SQLITE_PREPARE_PERSISTENT, &made, nullptr));
+        check(database_.get(),
+              sqlite3_prepare_v3(database_.get(), sql, -1, SQLITE_PREPARE_PERSISTENT, &made, nullptr));
         prepared.reset(made);
     }
-    return {*this, prepared.get()};
+    return Statement(prepared.get());
 }
 
 void SqliteDraftStore::begin() {
@@ -286,15 +235,11 @@ void SqliteDraftStore::begin() {
     if (sqlite3_get_autocommit(database_.get()) != 0) run("BEGIN");
 }
 
-void SqliteDraftStore::check(int result) {
-    if (result == SQLITE_OK) return;
-    sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
-    throw RuntimeError(number_of(result));
-}
-
 void SqliteDraftStore::close() {
     prepared_.clear();
     database_.reset();
+    offered_turn_ = std::numeric_limits<std::int64_t>::max();
+    replaced_ = 0;
 }
 
 }  // namespace machine::drafts

@@ -1,14 +1,13 @@
 #pragma once
 
+#include "machine/drafts/statement.h"
 #include "platform/ports/draft_store.h"
 
 #include <cstdint>
+#include <limits>
 #include <map>
 #include <memory>
 #include <string>
-
-struct sqlite3;
-struct sqlite3_stmt;
 
 namespace machine::drafts {
 
@@ -20,10 +19,10 @@ class SqliteDraftStore : public platform::DraftStore {
     SqliteDraftStore(std::string folder, const std::string& application_directory);
     ~SqliteDraftStore() override;
 
-    std::optional<platform::KeptDraft> last() override;
+    std::optional<platform::KeptDraft> next() override;
     void read_recipients(const std::function<void(platform::KeptRecipient)>& read) override;
-    void take_up_last() override;
-    void decline_last() override;
+    void take_up() override;
+    void decline() override;
     void put_field(platform::TextView name, const platform::Text& value) override;
     void put_recipient(std::size_t row, const platform::KeptRecipient& recipient) override;
     void remove_recipients_from(std::size_t row) override;
@@ -31,7 +30,6 @@ class SqliteDraftStore : public platform::DraftStore {
     platform::Text set_aside() override;
 
   private:
-    class Statement;
     struct Close {
         void operator()(sqlite3* database) const;
     };
@@ -44,7 +42,7 @@ class SqliteDraftStore : public platform::DraftStore {
     void run(const char* sql);
     Statement statement(const char* sql);
     void begin();
-    void check(int result);
+    void remove(std::int64_t draft);
     void close();
 
     std::string folder_;
@@ -52,8 +50,13 @@ class SqliteDraftStore : public platform::DraftStore {
     std::unique_ptr<sqlite3, Close> database_;
     /// Prepared once; the key is the text of the statement in the program.
     std::map<const char*, std::unique_ptr<sqlite3_stmt, Finish>> prepared_;
-    std::int64_t last_ = 0;
+
     std::int64_t present_ = 0;
+    /// The draft that `next` has returned, and its turn: each commit gives the present draft the highest.
+    std::int64_t offered_ = 0;
+    std::int64_t offered_turn_ = std::numeric_limits<std::int64_t>::max();
+    /// Goes with the next commit, when another draft has been taken up in its place.
+    std::int64_t replaced_ = 0;
 };
 
 }  // namespace machine::drafts

@@ -32,21 +32,21 @@ struct KeptDraft {
     bool at_rest = false;
 };
 
-/// The draft on the disk, so that it outlives the program: the present one and the one before it. Each method
+/// The drafts on the disk, so that they outlive the program: the present one and a few before it. Each method
 /// raises a RuntimeError when the disk fails it; what has been put since the last commit is dropped then.
 class DraftStore {
   public:
     virtual ~DraftStore() = default;
 
-    /// The draft of the last run; nothing when there is none. Raises ErrorNumber::database_unusable when it
-    /// is damaged.
-    virtual std::optional<KeptDraft> last() = 0;
-    /// Its recipients in the order of their rows.
+    /// The next draft of an earlier run: at first the one that was kept last, then the one before it, and so
+    /// on; nothing when none is left. Raises ErrorNumber::database_unusable when the file is damaged.
+    virtual std::optional<KeptDraft> next() = 0;
+    /// The recipients of that draft in the order of their rows.
     virtual void read_recipients(const std::function<void(KeptRecipient)>& read) = 0;
-    /// Makes the draft of the last run the present one.
-    virtual void take_up_last() = 0;
-    /// Puts the draft of the last run at rest.
-    virtual void decline_last() = 0;
+    /// Makes that draft the present one, in place of what has been kept since the start.
+    virtual void take_up() = 0;
+    /// Puts that draft at rest.
+    virtual void decline() = 0;
 
     // The present draft. A reader finds all that was put before a commit, or nothing of it, even when the
     // machine stops meanwhile. The first commit makes the draft.

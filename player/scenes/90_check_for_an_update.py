@@ -47,8 +47,9 @@ def play(desk):
 
     # The installer's taking over ends the program at once; the draft is there again.
     desk.start()
-    desk.find("지난번에 작성하던 메시지를 되살리시겠습니까?")
-    desk.keys("Return")
     desk.window(LOG_IN)
     desk.keys("Escape")
-    desk.gone(LOG_IN)
+    desk.find("지난번에 작성하던 메시지를 되살리시겠습니까?")
+    desk.keys("Escape")
+    desk.find("지난번에 작성하던 메시지가 있습니다")
+    desk.picture("kept-draft")

@@ -25,23 +25,24 @@ const Text MEANING =
     u"않았으면 "
     u"다시 선택하여 보내십시오.";
 
-/// The question's details about a draft whose job was cut off.
-Text cut_off(const Text& excerpt, int all, int to_send, int open) {
-    return u"문자메시지, '" + excerpt + u"', 받는 사람 " + platform::decimal(all) + u"명(확인필요 " +
-           platform::decimal(open) + u"명), 11월 23일 오전 10:00\r\n보낼 사람 " + platform::decimal(to_send) +
-           u"명, 나머지 " + platform::decimal(all - to_send) + u"명\r\n\r\n" + MEANING;
+/// The question's details about a draft whose job was cut off. `counts` is what stands behind those to send
+/// to.
+Text cut_off(const Text& excerpt, int all, int to_send, const Text& counts) {
+    return u"문자메시지, '" + excerpt + u"', 받는 사람 " + platform::decimal(all) + u"명(보낼 사람 " +
+           platform::decimal(to_send) + u"명, " + counts + u"), 11월 23일 오전 10:00\r\n\r\n" + MEANING;
 }
 
 /// The question before a text goes on that is registered in part.
 platform::MessageBox rest_question(const Text& lines) {
-    return {.text = u"이 메시지는 앞서 일부만 등록되었습니다." + lines +
-                    u"\r\n\r\n등록되지 않은 나머지만 이어서 보내시겠습니까?\r\n\r\n[아니오]를 선택하시면 "
-                    u"처음부터 모두 "
-                    u"다시 보냅니다.",
-            .icon = BoxIcon::question,
-            .title = u"이어서 보내기",
-            .buttons = platform::BoxButtons::yes_no_cancel,
-            .default_answer = BoxAnswer::yes};
+    return {
+        .text =
+            u"이 메시지는 앞서 일부만 등록되었습니다." + lines +
+            u"\r\n\r\n등록되지 않은 나머지만 이어서 보내시겠습니까?\r\n\r\n[아니오]를 선택하시면 선택한 받는 "
+            u"사람에게 처음부터 다시 보냅니다.",
+        .icon = BoxIcon::question,
+        .title = u"이어서 보내기",
+        .buttons = platform::BoxButtons::yes_no_cancel,
+        .default_answer = BoxAnswer::yes};
 }
 
 /// Ends a run where it is, as a kill does.
@@ -165,7 +166,7 @@ TEST_F(KeptDraft, ComesBackWholeAfterAKill) {
     run->clock.run_for(2000);
 
     restore(
-        u"음성메시지, '제목 \U0001F600', 받는 사람 2명, 11월 23일 오전 10:00\r\n보낼 사람 1명, 나머지 1명");
+        u"음성메시지, '제목 \U0001F600', 받는 사람 2명(보낼 사람 1명, 등록성공 1명), 11월 23일 오전 10:00");
     EXPECT_EQ(drafts::fields_of(run->form), before);
     EXPECT_EQ(run->rows(), "* x1\n등록성공 x1\n");
     EXPECT_EQ(run->form.recipients.ListView1.row(0).sub_item(compose::RECIPIENT_TITLE), u"과장");
@@ -220,17 +221,41 @@ TEST_F(KeptDraft, AfterAnOrderlyEndItIsOfferedWithoutABox) {
     EXPECT_FALSE(run->form.kept_draft.KeptDraft.visible());
 }
 
-TEST_F(KeptDraft, OneThatTheUserDeclinesStaysBesideTheNext) {
+TEST_F(KeptDraft, OneThatIsPassedOverStaysBehindTheNext) {
     start().keeper.start();
     run->add(u"김", u"01000000001");
     run->clock.run_for(2000);
     start().expect_question(u"문자메시지, 받는 사람 1명, 11월 23일 오전 10:00", BoxAnswer::no);
     run->keeper.start();
-    EXPECT_EQ(run->rows(), "");
-    start().keeper.start();
     EXPECT_TRUE(run->form.kept_draft.KeptDraft.visible());
     run->add(u"이", u"01000000002");
-    run->clock.run_for(2000);
+    run->add(u"박", u"01000000003");
+    run->keeper.end();
+
+    start().keeper.start();
+    EXPECT_TRUE(platform::contains(run->form.kept_draft.KeptDraftText.caption(), u"받는 사람 2명"));
+    run->form.kept_draft.KeptDraftClose.Click.raise();
+    EXPECT_TRUE(platform::contains(run->form.kept_draft.KeptDraftText.caption(), u"받는 사람 1명"));
+    run->form.kept_draft.KeptDraftTakeUp.Click.raise();
+    EXPECT_EQ(run->rows(), "* x1\n");
+    // Killed at once, it is the one that the next start offers.
+    start().expect_question(u"문자메시지, 받는 사람 1명, 11월 23일 오전 10:00", BoxAnswer::no);
+    run->keeper.start();
+    run->form.kept_draft.KeptDraftClose.Click.raise();
+    EXPECT_TRUE(platform::contains(run->form.kept_draft.KeptDraftText.caption(), u"받는 사람 2명"));
+}
+
+TEST_F(KeptDraft, TakenUpLateItMarksNobodyWhoHasBeenSentToMeanwhile) {
+    start().keeper.start();
+    run->add(u"김", u"01000000001");
+    run->add(u"이", u"01000000002");
+    run->keeper.end();
+    start().keeper.start();
+    run->add(u"김", u"01000000001");
+    run->add(u"박", u"01000000003");
+    run->form.text.mText1.set_text(u"안녕");
+    run->expect_report();
+    run->press_send();
     run->desktop.expect_box(
         tests::question(
             u"지금 작성한 내용을 지난번에 작성하던 메시지로 바꾸시겠습니까?\r\n\r\n지금 목록에 있는 "
@@ -238,7 +263,7 @@ TEST_F(KeptDraft, OneThatTheUserDeclinesStaysBesideTheNext) {
             u"메시지 되살리기", BoxIcon::question, BoxAnswer::no),
         BoxAnswer::yes);
     run->form.kept_draft.KeptDraftTakeUp.Click.raise();
-    EXPECT_EQ(run->rows(), "* x2\n");
+    EXPECT_EQ(run->rows(), "등록성공 x1\n* x1\n등록성공 x1\n");
 }
 
 TEST_F(KeptDraft, LosesNothingOfAHandOverThatCameFirst) {
@@ -260,11 +285,10 @@ TEST_F(KeptDraft, ADamagedFileIsSetAsideWithAWord) {
     const std::string kept = file();
     std::ofstream(kept, std::ios::in).write(std::string(200, 'x').data(), 200);
     const auto name = platform::from_utf8(kept + ".damaged-1");
-    start().desktop.expect_box(
-        tests::refusal(u"지난번에 작성하던 메시지를 보관한 파일이 손상되어 모두 되살릴 수 없습니다. 파일은 "
-                       u"지우지 않고 다음 이름으로 "
-                       u"남겨 두었습니다.\r\n\r\nz:" +
-                       platform::replace_all(name, u"/", u"\\")));
+    start().desktop.expect_box(tests::refusal(
+        u"지난번에 작성하던 메시지를 보관한 파일이 손상되어, 읽을 수 없는 내용은 되살리지 못했습니다. 파일은 "
+        u"지우지 않고 다음 이름으로 남겨 두었습니다.\r\n\r\nz:" +
+        platform::replace_all(name, u"/", u"\\")));
     run->keeper.start();
     EXPECT_TRUE(std::filesystem::exists(kept + ".damaged-1"));
     run->add(u"이", u"01000000002");
@@ -322,7 +346,7 @@ TEST_F(KeptDraft, AJobCutOffLeavesTheOpenSubmitUnconfirmed) {
     run->add_many(250);
     run->killed_at_submit(2);
 
-    restore(cut_off(u"안녕", 250, 50, 100));
+    restore(cut_off(u"안녕", 250, 50, u"등록성공 100명, 확인필요 100명"));
     EXPECT_EQ(run->rows(), "등록성공 x100\n확인필요 x100\n* x50\n");
     run->expect_report();
     run->press_send();
@@ -337,9 +361,9 @@ TEST_F(KeptDraft, ATextInPiecesGoesOnWithTheRestAfterAKill) {
     run->add_many(150);
     run->killed_at_submit(4);  // the second batch of the second piece
 
-    restore(cut_off(Text(15, u'x'), 150, 100, 50));
+    restore(cut_off(Text(15, u'x'), 150, 100, u"확인필요 50명"));
     EXPECT_EQ(run->rows(), "*2/3 등록 x100\n확인필요 x50\n");
-    run->desktop.expect_box(rest_question(u"\r\n 나누어 보낸 메시지 2/3만 등록된 받는 사람: 100명"),
+    run->desktop.expect_box(rest_question(u"\r\n 3개로 나눈 메시지 중 2개만 등록된 받는 사람: 100명"),
                             BoxAnswer::yes);
     run->expect_report();
     run->press_send();
@@ -355,7 +379,7 @@ TEST_F(KeptDraft, APersonalTextGoesOnWithTheRestAfterAKill) {
     run->add_many(3);
     run->killed_at_submit(4);  // the second piece of the second recipient
 
-    restore(cut_off(u"{이름}" + Text(11, u'x'), 3, 1, 1));
+    restore(cut_off(u"{이름}" + Text(11, u'x'), 3, 1, u"등록성공 1명, 확인필요 1명"));
     EXPECT_EQ(run->rows(), "등록성공 x1\n확인필요 x1\n* x1\n");
 }
 
@@ -369,13 +393,13 @@ TEST_F(KeptDraft, ASessionRefusedBetweenThePiecesSendsNothingTwice) {
         u"경우.\r\n원인 2) "
         u"폰디라 서버가 응닶이 없는 경우.\r\n원인 3) 폰디라 가입을 해지한 경우.\r\n원인 4) 폰디라 사용이 "
         u"일시 정지된 "
-        u"경우.\r\n\r\n인터넷 연결상태를 확인하시고 잠시 후 다시 시작하여 주십시오.\r\n\r\n 나누어 보낸 "
+        u"경우.\r\n\r\n인터넷 연결상태를 확인하시고 잠시 후 다시 시작하여 주십시오.\r\n\r\n 2개로 나눈 "
         u"메시지 "
-        u"1/2만 등록된 받는 사람: 120명\r\n 다시 보내면 등록되지 않은 나머지만 이어서 보낼 수 있습니다."));
+        u"중 1개만 등록된 받는 사람: 120명\r\n 다시 보내면 등록되지 않은 나머지만 이어서 보낼 수 있습니다."));
     run->press_send();
     EXPECT_EQ(run->rows(), "*1/2 등록 x120\n");
 
-    run->desktop.expect_box(rest_question(u"\r\n 나누어 보낸 메시지 1/2만 등록된 받는 사람: 120명"),
+    run->desktop.expect_box(rest_question(u"\r\n 2개로 나눈 메시지 중 1개만 등록된 받는 사람: 120명"),
                             BoxAnswer::yes);
     run->expect_report();
     run->press_send();
@@ -389,22 +413,27 @@ TEST_F(KeptDraft, ASessionRefusedBetweenThePiecesSendsNothingTwice) {
     EXPECT_EQ(run->carrier.registrations.size(), 8U);
 }
 
-TEST_F(KeptDraft, ADiskThatTakesNothingIsToldAndTheJobGoesOn) {
+TEST_F(KeptDraft, ADiskThatTakesNoNotesIsToldBeforeTheJob) {
     struct FullDisk : tests::NoDrafts {
         void commit(platform::LocalTime, bool) override {
             throw platform::RuntimeError(platform::ErrorNumber::disk_full);
         }
     } full;
-    tests::Sending sending;
-    const platform::Platform machine = tests::with(sending.platform, {.drafts = &full});
-    platform::Platform on_full_disk = machine;
-    drafts::DraftKeeper keeper(on_full_disk, sending.form);
-    keeper.start();
-    sending.add(u"김", u"01000000001");
-    keeper.begin_job();
-    keeper.before_submit({0});
-    EXPECT_TRUE(sending.form.kept_draft.KeptDraft.visible());
-    EXPECT_FALSE(sending.form.kept_draft.KeptDraftTakeUp.visible());
+    start();
+    platform::Platform on_full_disk = tests::with(run->platform, {.drafts = &full});
+    drafts::DraftKeeper keeper(on_full_disk, run->form);
+    for (const bool goes_on : {false, true}) {
+        run->desktop.expect_box(
+            tests::question(
+                u"등록 상태를 디스크에 기록할 수 없습니다. 발송 중에 프로그램이 갑자기 끝나면 누구에게 "
+                u"등록되었는지 알 수 없어, 같은 사람에게 두 번 보내게 될 수 있습니다.\r\n\r\n그래도 "
+                u"발송하시겠습니까?",
+                {}, BoxIcon::exclamation, BoxAnswer::no),
+            goes_on ? BoxAnswer::yes : BoxAnswer::no);
+        EXPECT_EQ(keeper.ready_for_job(), goes_on);
+    }
+    EXPECT_TRUE(run->form.kept_draft.KeptDraft.visible());
+    EXPECT_FALSE(run->form.kept_draft.KeptDraftTakeUp.visible());
 }
 
 }  // namespace

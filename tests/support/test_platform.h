@@ -32,10 +32,10 @@ class RecordingShell : public platform::Shell {
 /// A disk that takes no draft and holds none.
 class NoDrafts : public platform::DraftStore {
   public:
-    std::optional<platform::KeptDraft> last() override { return std::nullopt; }
+    std::optional<platform::KeptDraft> next() override { return std::nullopt; }
     void read_recipients(const std::function<void(platform::KeptRecipient)>&) override {}
-    void take_up_last() override {}
-    void decline_last() override {}
+    void take_up() override {}
+    void decline() override {}
     void put_field(platform::TextView, const platform::Text&) override {}
     void put_recipient(std::size_t, const platform::KeptRecipient&) override {}
     void remove_recipients_from(std::size_t) override {}
