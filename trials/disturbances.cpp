@@ -88,6 +88,38 @@ class LibraryGoesWrong : public Disturbance {
     std::string misdeed_;
 };
 
+/// The carrier refuses a session.
+class SessionRefused : public Disturbance {
+  public:
+    SessionRefused() : Disturbance("session refused") {}
+    int run(const Job& job, int point) const override {
+        std::ofstream("carrier.ini", std::ios::app) << "[failures]\nfn_x_bind@" << point << "=5\n";
+        return in_child([&] {
+            Program program;
+            program.write(job);
+            program.send_all();
+            program.leave_rows();
+            return program.host.binds;
+        });
+    }
+};
+
+/// The user presses the stop button in a pause.
+class Stopped : public Disturbance {
+  public:
+    Stopped() : Disturbance("stopped") {}
+    int run(const Job& job, int point) const override {
+        return in_child([&] {
+            Program program;
+            program.write(job);
+            program.stop_at_pause(static_cast<std::size_t>(point));
+            program.send_all();
+            program.leave_rows();
+            return static_cast<int>(program.clock.pauses.size());
+        });
+    }
+};
+
 }  // namespace
 
 std::vector<std::unique_ptr<Disturbance>> disturbances() {
@@ -95,6 +127,8 @@ std::vector<std::unique_ptr<Disturbance>> disturbances() {
     all.push_back(std::make_unique<Killed>());
     for (const char* misdeed : {"abort", "exit", "hang"})
         all.push_back(std::make_unique<LibraryGoesWrong>(misdeed));
+    all.push_back(std::make_unique<SessionRefused>());
+    all.push_back(std::make_unique<Stopped>());
     return all;
 }
 

@@ -1,7 +1,8 @@
 // Disturbs jobs of three kinds at every point: the program killed at a file operation of the kept draft or
-// around a call to the carrier, the carrier's library gone wrong in a call. What is left is sent again, and
-// the stand-in's ledger held against what was asked for: nobody is sent a piece twice, nobody is forgotten,
-// and unconfirmed are the recipients of the one open submit alone.
+// around a call to the carrier, the carrier's library gone wrong in a call, a session refused, the stop
+// button pressed. What is left is sent again, and the stand-in's ledger held against what was asked for:
+// nobody is sent a piece twice, nobody is forgotten, and unconfirmed are the recipients of the one open
+// submit alone.
 //
 // The forms, the draft's file, the carrier's host and the stand-in are the real ones; the user and the clock
 // are scripted, so that a job of minutes takes a moment.

@@ -29,6 +29,7 @@ TriedCarrier::TriedCarrier()
 
 std::int32_t TriedCarrier::fn_x_bind(std::int32_t one, std::string& user, std::string& password,
                                      std::string& domain, std::int32_t five, Notify six, std::int32_t seven) {
+    ++binds;
     return between_moments(
         [&] { return HostedCarrierLibrary::fn_x_bind(one, user, password, domain, five, six, seven); });
 }
@@ -64,6 +65,14 @@ void Program::write(const Job& job) {
     for (int i = 1; i <= job.recipients; ++i)
         form.recipients.add(u"n" + platform::decimal(i), u"010" + platform::decimal(10'000'000 + i), {});
     clock.run_for(3000);
+}
+
+void Program::stop_at_pause(std::size_t n) {
+    desktop.in_form<send::frmZentSend>(u"frmZentSend", [this, n](send::frmZentSend& job) {
+        clock.during_pause = [this, n, &job] {
+            if (clock.pauses.size() == n) job.Command1.Click.raise();
+        };
+    });
 }
 
 void Program::send_all() {

@@ -6,6 +6,7 @@
 #include "send/send_check.h"
 #include "tests/support/sending.h"
 
+#include <cstddef>
 #include <string>
 
 namespace trials {
@@ -28,6 +29,8 @@ class TriedCarrier : public machine::carrier::HostedCarrierLibrary {
     std::int32_t fn_x_money_status(std::string& user, std::string& domain, std::string& number,
                                    std::string& address, MoneyStatus& status) override;
     std::int32_t fn_x_submit(const Submit& submit) override;
+
+    int binds = 0;
 };
 
 /// The program, with a user who confirms everything and takes up what is offered.
@@ -42,6 +45,8 @@ struct Program : tests::TestPlatform {
     drafts::DraftKeeper keeper{machine, form};
 
     void write(const Job& job);
+    /// The user will press the stop button in the n-th pause of the next job, counted from 1.
+    void stop_at_pause(std::size_t n);
     /// Presses the button until nothing is left to send, as a user does whose job has failed.
     void send_all();
     /// Leaves a file with the number of each recipient and whether he is unconfirmed.
