@@ -40,7 +40,7 @@ void DraftKeeper::offer_next() {
             return take_up();
         platform::ignore_errors([this] { platform_.drafts.decline(); });
     }
-    form_.kept_draft.offer(u"지난번에 작성하던 메시지가 있습니다: " +
+    form_.kept_draft.offer(u"지난번에 작성하던 메시지: " +
                            summary(*offered_, offered_recipients_));
 }
 

@@ -51,5 +51,5 @@ def play(desk):
     desk.keys("Escape")
     desk.find("지난번에 작성하던 메시지를 되살리시겠습니까?")
     desk.keys("Escape")
-    desk.find("지난번에 작성하던 메시지가 있습니다")
+    desk.find("지난번에 작성하던 메시지: ")
     desk.picture("kept-draft")

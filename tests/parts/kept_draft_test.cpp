@@ -209,7 +209,7 @@ TEST_F(KeptDraft, AfterAnOrderlyEndItIsOfferedWithoutABox) {
     start().keeper.start();
     EXPECT_TRUE(run->form.kept_draft.KeptDraft.visible());
     EXPECT_EQ(run->form.kept_draft.KeptDraftText.caption(),
-              u"지난번에 작성하던 메시지가 있습니다: 문자메시지, 받는 사람 1명, 11월 23일 오전 10:00");
+              u"지난번에 작성하던 메시지: 문자메시지, 받는 사람 1명, 11월 23일 오전 10:00");
     run->form.kept_draft.KeptDraftTakeUp.Click.raise();
     EXPECT_EQ(run->rows(), "* x1\n");
     EXPECT_FALSE(run->form.kept_draft.KeptDraft.visible());
