@@ -40,8 +40,7 @@ void DraftKeeper::offer_next() {
             return take_up();
         platform::ignore_errors([this] { platform_.drafts.decline(); });
     }
-    form_.kept_draft.offer(u"지난번에 작성하던 메시지: " +
-                           summary(*offered_, offered_recipients_));
+    form_.kept_draft.offer(u"지난번에 작성하던 메시지: " + summary(*offered_, offered_recipients_));
 }
 
 /// Maybe long after the start: what the user has written since is not replaced unasked.
