@@ -84,7 +84,14 @@ void DraftKeeper::end() {
 }
 
 bool DraftKeeper::unchanged() const {
-    return list_.revision() == kept_revision_ && fields_of(form_) == kept_fields_;
+    return list_.revision() == kept_revision_ && !recording_changed() && fields_of(form_) == kept_fields_;
+}
+
+/// A recording is kept when it is finished.
+bool DraftKeeper::recording_changed() const {
+    const platform::SoundRecorder& recorder = form_.voice.RFK1;
+    return recorder.state() != platform::SoundRecorder::State::recording &&
+           recorder.revision() != kept_recording_;
 }
 
 void DraftKeeper::keep_changes() {
@@ -126,7 +133,11 @@ void DraftKeeper::commit(bool at_rest) {
         const auto kept = kept_fields_.find(name);
         if (kept == kept_fields_.end() || kept->second != value) platform_.drafts.put_field(name, value);
     }
+    const bool with_recording = recording_changed();
+    if (with_recording)
+        platform_.drafts.put_field(fields::RECORDING, kept_recording(form_.voice.RFK1.recording()));
     platform_.drafts.commit(platform_.clock.now(), at_rest);
+    if (with_recording) kept_recording_ = form_.voice.RFK1.revision();
     kept_fields_ = std::move(fields);
     kept_revision_ = pass_revision_;
     is_kept_ = true;
@@ -141,6 +152,7 @@ void DraftKeeper::keep_everything() {
 void DraftKeeper::forget_what_is_kept() {
     parts_.set_enabled(false);
     kept_fields_.clear();
+    kept_recording_.reset();
     kept_rows_.clear();
     pass_revision_ = kept_revision_ = 0;
     next_row_ = 0;

@@ -50,6 +50,7 @@ class DraftKeeper {
     void keep_everything();
     void commit(bool at_rest);
     bool unchanged() const;
+    bool recording_changed() const;
     void put_row(std::size_t row, const platform::KeptRecipient& recipient);
     void forget_what_is_kept();
     void failed(const platform::RuntimeError& error);
@@ -80,6 +81,8 @@ class DraftKeeper {
     Fields kept_fields_;
     std::vector<std::size_t> kept_rows_;
     std::uint64_t kept_revision_ = 0;
+    /// Revision of the recording that the store has.
+    std::optional<std::uint64_t> kept_recording_ = 0;
     /// Whether the present draft is in the store.
     bool is_kept_ = false;
     bool failure_told_ = false;

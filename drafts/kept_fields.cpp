@@ -64,7 +64,22 @@ void show_schedule(frmZent& form, const Fields& fields) {
     }
 }
 
+/// Begins the value, which the store could otherwise take for one that begins with a mark of the byte order.
+constexpr char16_t RECORDING_BEGINS = u'|';
+
+platform::Samples recording_in(TextView value) {
+    if (value.starts_with(RECORDING_BEGINS)) value.remove_prefix(1);
+    const TextView samples = value.substr(0, platform::SoundRecorder::LIMIT);
+    return {samples.begin(), samples.end()};
+}
+
 }  // namespace
+
+Text kept_recording(platform::SampleView recording) {
+    Text value(1, RECORDING_BEGINS);
+    value.append(recording.begin(), recording.end());
+    return value;
+}
 
 Text field(const Fields& fields, TextView name) {
     const auto found = fields.find(Text(name));
@@ -75,7 +90,8 @@ bool has_content(const frmZent& form) {
     return form.recipients.ListView1.row_count() > 0 || !form.text.body().empty() ||
            !form.plus.body().empty() || !platform::trim(form.voice.ttsText.text()).empty() ||
            !form.voice.TTSFileTxt.text().empty() || form.fax.FAX1.row_count() > 0 ||
-           !form.recipients.HText1[0].text().empty() || !form.recipients.HText1[1].text().empty();
+           !form.voice.RFK1.recording().empty() || !form.recipients.HText1[0].text().empty() ||
+           !form.recipients.HText1[1].text().empty();
 }
 
 Fields fields_of(const frmZent& form) {
@@ -115,6 +131,8 @@ void show_fields(frmZent& form, const Fields& fields) {
     platform::ignore_errors([&] { form.voice.TabStrip2.select(number(fields, VOICE_SOURCE)); });
     form.voice.ttsText.set_text(field(fields, fields::SPEECH));
     form.voice.TTSFileTxt.set_text(field(fields, SOUND_FILE));
+    if (platform::Samples recording = recording_in(field(fields, fields::RECORDING)); !recording.empty())
+        form.voice.RFK1.take_up(std::move(recording));
     show_documents(form, field(fields, DOCUMENTS));
     show_schedule(form, fields);
     form.reply.Check2.set_checked(!field(fields, REPLY).empty());

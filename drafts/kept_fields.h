@@ -15,6 +15,9 @@ Fields fields_of(const compose::frmZent& form);
 /// has them.
 void show_fields(compose::frmZent& form, const Fields& fields);
 
+/// A recording as the value of a field.
+platform::Text kept_recording(platform::SampleView recording);
+
 /// Whether the user has put anything into the draft.
 bool has_content(const compose::frmZent& form);
 
@@ -28,6 +31,8 @@ inline constexpr platform::TextView SUBJECT = u"subject";
 inline constexpr platform::TextView TEXT = u"text";
 inline constexpr platform::TextView PLUS_TEXT = u"plus_text";
 inline constexpr platform::TextView SPEECH = u"speech";
+/// Not among those of `fields_of`: it is too large to be looked at every second.
+inline constexpr platform::TextView RECORDING = u"recording";
 /// "1" when the draft has content.
 inline constexpr platform::TextView CONTENT = u"content";
 

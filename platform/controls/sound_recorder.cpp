@@ -94,6 +94,14 @@ bool SoundRecorder::SaveWave(const Text& folder, const Text& file) {
     }
 }
 
+void SoundRecorder::take_up(Samples recording) {
+    stop();
+    recording_ = std::move(recording);
+    ++revision_;
+    kept_ = false;
+    if (open_) become_idle();
+}
+
 void SoundRecorder::microphone_changed() {
     if (state_ == State::idle) become_idle();
 }
@@ -102,6 +110,7 @@ void SoundRecorder::heard(SampleView samples) {
     if (state_ != State::recording || samples.empty()) return;
     if (std::exchange(holds_earlier_, false)) recording_.clear();
     kept_ = false;
+    ++revision_;
     const SampleView fitting = samples.first(std::min(samples.size(), LIMIT - recording_.size()));
     recording_.insert(recording_.end(), fitting.begin(), fitting.end());
     level_ = loudness(samples);

@@ -4,6 +4,8 @@
 #include "platform/ports/files.h"
 #include "platform/ports/recorder.h"
 
+#include <cstdint>
+
 namespace platform {
 
 /// Records a voice from the microphone, with buttons of its own. It holds one recording of up to six minutes,
@@ -40,6 +42,10 @@ class SoundRecorder : public Control, private Recorder::Listener {
 
     State state() const { return state_; }
     const Samples& recording() const { return recording_; }
+    /// Grows with every change of the recording.
+    std::uint64_t revision() const { return revision_; }
+    /// Shows a recording of an earlier run as if it had just been made.
+    void take_up(Samples recording);
     /// In minutes and seconds: how much of the possible length is recorded, or how much of the recording is
     /// played.
     Text time() const;
@@ -74,6 +80,7 @@ class SoundRecorder : public Control, private Recorder::Listener {
     bool open_ = false;
     State state_ = State::idle;
     Samples recording_;
+    std::uint64_t revision_ = 0;
     bool kept_ = true;
     /// The recording is still the earlier one: no sample of the new one has arrived.
     bool holds_earlier_ = false;

@@ -173,6 +173,21 @@ TEST_F(KeptDraft, ComesBackWholeAfterAKill) {
     EXPECT_EQ(run->form.recipients.Label4.caption(), u"전체>2>대상>1");
 }
 
+TEST_F(KeptDraft, ARecordingComesBack) {
+    start().keeper.start();
+    run->form.choose(MessageKind::voice);
+    run->form.voice.TabStrip2.select(2);
+    run->form.voice.RFK1.open();
+    run->form.voice.RFK1.record();
+    // As text these would be a mark of the byte order, halves of characters and a NUL.
+    const platform::Samples samples = {-257, -2, -10240, -10240, 0, 7};
+    run->recorder.speak(samples);
+    run->form.voice.RFK1.stop();
+    run->clock.run_for(2000);
+    restore(u"음성메시지, 받는 사람 0명, 11월 23일 오전 10:00");
+    EXPECT_EQ(run->form.voice.RFK1.recording(), samples);
+}
+
 TEST_F(KeptDraft, ALongTextComesBackWithoutAQuestionAboutItsLength) {
     start().keeper.start();
     run->write_long_text(3);
