@@ -59,7 +59,12 @@ void change_the_process() {
     std::fflush(stdout);
 }
 
-void take_3_GB() { std::memset(std::make_unique<char[]>(std::size_t{3} << 30).get(), 1, 4096); }
+void take_3_GB() {
+    const auto memory = std::make_unique<char[]>(std::size_t{3} << 30);
+    // Memory that is never looked at would not be taken.
+    volatile char* first = memory.get();
+    *first = 1;
+}
 
 /// Ends unless there can be no core file.
 void want_no_core() {
