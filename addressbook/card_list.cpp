@@ -78,6 +78,14 @@ void frmSendMan::CARD_LIST_FILL(platform::CardRecordset& recordset) {
     platform_.desktop.set_pointer(platform::Pointer::hourglass);
     const int records = recordset.record_count();
     if (records > QUICK_LIST) show_progress();
+    fill_with(recordset, records);
+    LISTVIEW2HDR_RESET();
+    PICK_STATUS_SHOW();
+    hide_progress();
+}
+
+void frmSendMan::fill_with(platform::CardRecordset& recordset, int records) {
+    const platform::FilledList filling(ListView2);
     const auto user = platform_.desktop.watch_input();
     for (; !recordset.end_of_file(); recordset.move_next()) {
         // Deliberately silent: a user who goes on working does not wait for the rest of a long list.
@@ -86,9 +94,6 @@ void frmSendMan::CARD_LIST_FILL(platform::CardRecordset& recordset) {
         PBar1.set_progress(ListView2.row_count(), static_cast<std::size_t>(records));
         platform_.desktop.paint();
     }
-    LISTVIEW2HDR_RESET();
-    PICK_STATUS_SHOW();
-    hide_progress();
 }
 
 void frmSendMan::LISTVIEW2_ADD(const platform::CardRecordset& TemTable) {

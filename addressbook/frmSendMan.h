@@ -66,6 +66,7 @@ class frmSendMan : public platform::Form {
     // The list.
     /// Replaces the list's rows by those of the recordset; stops early when the user goes on working.
     void CARD_LIST_FILL(platform::CardRecordset& recordset);
+    void fill_with(platform::CardRecordset& recordset, int records);
     /// Adds the current record.
     void LISTVIEW2_ADD(const platform::CardRecordset& TemTable);
     /// Gives all columns the same width.

@@ -72,11 +72,14 @@ void frmMyMsgBox::MESSAGE_LIST_LOAD(const Text& category) {
         // behind 11. Users know their lists so.
         ListView2.sort(TEXT_SAVED, ListView::SortOrder::descending);
         platform::SET_SORT_ARROW(ListView2, TEXT_SAVED, 1, true);
-        for (SavedText& text : content.texts) {
-            ListView2.add_row(std::move(text.title),
-                              {in_one_line(text.body), platform::format_date(text.saved, SAVED_PATTERN),
-                               std::move(text.body), std::move(text.file)});
-            platform_.desktop.paint();
+        {
+            const platform::FilledList filling(ListView2);
+            for (SavedText& text : content.texts) {
+                ListView2.add_row(std::move(text.title),
+                                  {in_one_line(text.body), platform::format_date(text.saved, SAVED_PATTERN),
+                                   std::move(text.body), std::move(text.file)});
+                platform_.desktop.paint();
+            }
         }
         if (ListView2.row_count() > 0) ListView2.select_item(0);
     }

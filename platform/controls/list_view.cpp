@@ -35,8 +35,9 @@ std::size_t ListView::add_row(Text text, std::vector<Text> sub_items, bool check
     added->checked_ = checked;
     if (checked) ++checked_count_;
     if (index_) index_->add(*added);
-    if (sorted_) added->sort_text_ = lower_case(added->sub_item(sort_key_));
-    const std::size_t place = sorted_ && !held_ ? place_of(added->sort_text_) : rows_.size();
+    if (sorted_ && !filling_) added->sort_text_ = lower_case(added->sub_item(sort_key_));
+    const bool at_end = !sorted_ || held_ || filling_;
+    const std::size_t place = at_end ? rows_.size() : place_of(added->sort_text_);
     insert(place, std::move(added));
     return place;
 }
