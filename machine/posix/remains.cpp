@@ -1,7 +1,10 @@
 #include "machine/posix/remains.h"
 
+#include <dirent.h>
 #include <filesystem>
+#include <memory>
 #include <optional>
+#include <string_view>
 #include <sys/stat.h>
 #include <tuple>
 #include <unistd.h>
@@ -44,14 +47,19 @@ void bring_in(const std::string& path) {
 }
 
 void settle_remains(const std::string& folder) {
-    std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-        const std::string name = entry->path().filename();
+    struct CloseFolder {
+        void operator()(DIR* opened) const { ::closedir(opened); }
+    };
+    // A box of texts has thousands of files: their names are looked at where they stand.
+    const std::unique_ptr<DIR, CloseFolder> opened(::opendir(folder.c_str()));
+    if (!opened) return;
+    while (const dirent* entry = ::readdir(opened.get())) {
+        const std::string_view name = entry->d_name;
         if (name.starts_with(WAITING)) {
-            bring_in(folder + "/" + name.substr(WAITING.size()));
+            bring_in(folder + "/" + std::string(name.substr(WAITING.size())));
         } else if (name.starts_with(UNFINISHED)) {
             // It may hold a password that the user has removed since.
-            ::unlink(entry->path().c_str());
+            ::unlink((folder + "/" + std::string(name)).c_str());
         }
     }
 }
