@@ -62,11 +62,7 @@ DraftKeeper::DraftKeeper(platform::Platform& platform, compose::frmZent& form)
         }
     });
     form_.kept_draft.KeptDraftTakeUp.Click.connect([this] { take_up_from_bar(); });
-    form_.kept_draft.KeptDraftClose.Click.connect([this] {
-        form_.kept_draft.close();
-        // Behind the one that is passed over there may be an earlier one.
-        if (std::exchange(offered_, std::nullopt)) offer_next();
-    });
+    form_.kept_draft.KeptDraftClose.Click.connect([this] { pass_over(); });
 }
 
 void DraftKeeper::start() {
@@ -141,7 +137,7 @@ void DraftKeeper::commit(bool at_rest) {
     kept_fields_ = std::move(fields);
     kept_revision_ = pass_revision_;
     is_kept_ = true;
-    if (std::exchange(failure_told_, false)) form_.kept_draft.close();
+    works_again();
 }
 
 void DraftKeeper::keep_everything() {
@@ -165,6 +161,12 @@ void DraftKeeper::failed(const RuntimeError& error) {
     form_.kept_draft.tell(
         u"작성 중인 메시지를 보관하지 못하고 있습니다. 프로그램이 갑자기 끝나면 되살릴 수 없습니다. (" +
         error.description() + u")");
+}
+
+/// The word about the failure stood in the place of an offer.
+void DraftKeeper::works_again() {
+    if (!std::exchange(failure_told_, false)) return;
+    offered_ ? show_offer() : form_.kept_draft.close();
 }
 
 bool DraftKeeper::bring_up_to_date() {

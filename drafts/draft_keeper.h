@@ -54,12 +54,13 @@ class DraftKeeper {
     void put_row(std::size_t row, const platform::KeptRecipient& recipient);
     void forget_what_is_kept();
     void failed(const platform::RuntimeError& error);
-
+    void works_again();
     bool bring_up_to_date();
 
     // The drafts of earlier runs.
     void offer_next();
-    void decline();
+    void show_offer();
+    void pass_over();
     void take_up_from_bar();
     void take_up();
     void read_kept_rows();

@@ -40,11 +40,25 @@ void DraftKeeper::offer_next() {
             return take_up();
         platform::ignore_errors([this] { platform_.drafts.decline(); });
     }
+    show_offer();
+}
+
+void DraftKeeper::show_offer() {
     form_.kept_draft.offer(u"지난번에 작성하던 메시지: " + summary(*offered_, offered_recipients_));
+}
+
+/// Behind the draft that is passed over there may be an earlier one.
+void DraftKeeper::pass_over() {
+    form_.kept_draft.close();
+    // The user has closed a word about a failure, not the offer.
+    if (failure_told_ || !offered_) return;
+    offered_.reset();
+    offer_next();
 }
 
 /// Maybe long after the start: what the user has written since is not replaced unasked.
 void DraftKeeper::take_up_from_bar() {
+    if (!offered_) return;
     if (has_content(form_) &&
         !core::ask(
             platform_.desktop,

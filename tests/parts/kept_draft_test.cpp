@@ -430,8 +430,9 @@ TEST_F(KeptDraft, ASessionRefusedBetweenThePiecesSendsNothingTwice) {
 
 TEST_F(KeptDraft, ADiskThatTakesNoNotesIsToldBeforeTheJob) {
     struct FullDisk : tests::NoDrafts {
+        bool is_full = true;
         void commit(platform::LocalTime, bool) override {
-            throw platform::RuntimeError(platform::ErrorNumber::disk_full);
+            if (is_full) throw platform::RuntimeError(platform::ErrorNumber::disk_full);
         }
     } full;
     start();
@@ -449,6 +450,9 @@ TEST_F(KeptDraft, ADiskThatTakesNoNotesIsToldBeforeTheJob) {
     }
     EXPECT_TRUE(run->form.kept_draft.KeptDraft.visible());
     EXPECT_FALSE(run->form.kept_draft.KeptDraftTakeUp.visible());
+    full.is_full = false;
+    EXPECT_TRUE(keeper.ready_for_job());
+    EXPECT_FALSE(run->form.kept_draft.KeptDraft.visible());
 }
 
 }  // namespace
