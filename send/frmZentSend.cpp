@@ -26,6 +26,7 @@ frmZentSend::frmZentSend(platform::Platform& platform, core::AppState& state, co
       main_form_(main_form),
       drafts_(drafts),
       gateway_(platform, state) {
+    Failed.hide();
     set_caption(u"폰디라 서버에 메시지 등록...");
     Command1.set_tool_tip(u"메시지 등록을 중지합니다.");
     // Until the job begins there is nothing to stop, and a second Enter on the confirmation lands here.

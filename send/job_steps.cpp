@@ -101,7 +101,7 @@ Text frmZentSend::submit(SendJob& job, const std::vector<std::size_t>& rows, boo
 }
 
 /// Notes at once what the answer means for the rows: the list shows it only after the pause.
-void frmZentSend::take_answer(const SendJob& job, const std::vector<std::size_t>& rows, bool decides,
+void frmZentSend::take_answer(SendJob& job, const std::vector<std::size_t>& rows, bool decides,
                               const Text& result) {
     const bool registered = result == gateway::REGISTERED;
     const bool unconfirmed = result == gateway::NO_ANSWER;
@@ -119,6 +119,7 @@ void frmZentSend::take_answer(const SendJob& job, const std::vector<std::size_t>
         if (unconfirmed || (decides && registered)) recipient.checked = false;
     });
     if (!unconfirmed) return;
+    job.unconfirmed += static_cast<int>(rows.size());
     // Also before the last piece: nobody is sent anything more until the user has looked.
     for (const std::size_t row : rows) write_status(row, row + 1, result);
 }
@@ -174,6 +175,7 @@ void frmZentSend::report(const SendJob& job) {
     frmSendEndBox box(platform_, main_form_);
     box.load();
     box.Text1.set_text(Text(platform::CRLF) + text + open_ends(RecipientRows));
+    box.show_outcome(outcome_of(job, MSGSendCount));
     if (job.success > 0) box.offer_results();
     box.show_modal();
 }

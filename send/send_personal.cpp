@@ -13,17 +13,21 @@ using platform::Text;
 void frmZentSend::SEND_PERSONAL() {
     const compose::KindOfMessage& text = kind_of(compose::MessageKind::text);
     run_job(&carrier_kind(text, compose::Content::text), compose::PERSONAL_PAUSES, [this](SendJob& job) {
-        for_each_recipient([&](std::size_t row) { send_personal_row(job, row); });
+        for_each_recipient(job, [&](std::size_t row) { send_personal_row(job, row); });
     });
 }
 
 /// The checked rows, one after the other, until the user stops the job; here the box about the
 /// stop also comes behind the last row.
-void frmZentSend::for_each_recipient(const std::function<void(std::size_t row)>& send_row) {
+void frmZentSend::for_each_recipient(SendJob& job, const std::function<void(std::size_t row)>& send_row) {
+    begin_progress(job, MSGSendCount, Unit::person);
     const std::size_t rows = RecipientRows.row_count();
     for (std::size_t row = 0; row < rows; ++row) {
         RecipientRows.make_visible(row);
-        if (RecipientRows.row(row).checked()) send_row(row);
+        if (RecipientRows.row(row).checked()) {
+            send_row(row);
+            step_done(job);
+        }
         if (StopRequested) {
             show_stopped();
             return;

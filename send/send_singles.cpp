@@ -19,7 +19,7 @@ constexpr platform::TextView FAILED = u"실패";
 
 void frmZentSend::SEND_SINGLES(const Text& kind_name) {
     run_job(compose::find_carrier_kind(kind_name).carrier, compose::USUAL_PAUSES, [this](SendJob& job) {
-        for_each_recipient([&](std::size_t row) { send_single_row(job, row); });
+        for_each_recipient(job, [&](std::size_t row) { send_single_row(job, row); });
     });
 }
 
