@@ -42,6 +42,14 @@ Outcome outcome_of(const SendJob& job, int recipients) {
                                                             u": 발송결과에서 확인하여 주십시오.")};
 }
 
+Text in_lines(const Outcome& outcome) {
+    Text lines = outcome.registered;
+    for (const Text& line : {outcome.failed, outcome.unconfirmed}) {
+        if (!line.empty()) lines += u"\n" + line;
+    }
+    return lines;
+}
+
 frmSendEndBox::frmSendEndBox(platform::Platform& platform, compose::frmZent& main_form)
     : Form(platform.desktop, u"frmSendEndBox"), main_form_(main_form) {
     set_caption(u"KT 폰디라 서버에 메시지 등록완료...");

@@ -25,6 +25,9 @@ struct Outcome {
 
 Outcome outcome_of(const SendJob& job, int recipients);
 
+/// For a note: all but those whom the user stopped himself.
+platform::Text in_lines(const Outcome& outcome);
+
 /// The window of the report.
 class frmSendEndBox : public platform::Form {
   public:

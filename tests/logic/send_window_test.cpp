@@ -180,6 +180,7 @@ TEST(SendSession, AJobWithoutTheCarrierOrAnAccountEndsWithABoxAndNoReport) {
         s.carrier.results[row.failing_call] = 6;
         s.carrier.service_state = row.service_state;
         s.send_in_vain(FAILURE);
+        EXPECT_EQ(s.desktop.notifications, std::vector<Text>{u"메시지 등록을 실패하였습니다."});
         EXPECT_EQ(s.carrier.calls, row.calls);
         EXPECT_EQ(s.marks(), std::string(row.sent, '-') + std::string(250 - row.sent, 'x'));
         EXPECT_FALSE(s.state.forms.gSendFormOpen);
@@ -228,6 +229,9 @@ TEST(SendReport, SaysFirstWhomTheUserHasToLookAfter) {
     });
     s.confirm();
     s.click();
+    EXPECT_EQ(tests::utf8(s.desktop.notifications.at(0)),
+              "250명 중 50명을 등록했습니다.\n⚠ 실패 100명: 목록에 선택된 채로 남아 있습니다.\n"
+              "⚠ 확인필요 100명: 발송결과에서 확인하여 주십시오.");
 }
 
 }  // namespace

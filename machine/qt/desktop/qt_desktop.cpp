@@ -3,6 +3,7 @@
 #include "machine/qt/desktop/boxes.h"
 #include "machine/qt/desktop/form_window.h"
 #include "machine/qt/desktop/long_work.h"
+#include "machine/qt/desktop/notification.h"
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "platform/controls/bars.h"
@@ -162,6 +163,12 @@ platform::Screen QtDesktop::screen() const {
 }
 
 void QtDesktop::set_application_title(const Text& title) { title_ = to_qstring(title); }
+
+void QtDesktop::notify(const Text& text) {
+    if (QGuiApplication::applicationState() == Qt::ApplicationActive) return;
+    QApplication::alert(front_window());
+    send_notification(title_, to_qstring(text));
+}
 
 void QtDesktop::yield() { QCoreApplication::processEvents(); }
 

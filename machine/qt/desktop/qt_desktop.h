@@ -42,6 +42,7 @@ class QtDesktop : public platform::Desktop {
     void set_clipboard(const platform::Text& text) override;
     platform::Screen screen() const override;
     void set_application_title(const platform::Text& title) override;
+    void notify(const platform::Text& text) override;
     void yield() override;
     void paint() override;
     std::unique_ptr<platform::InputWatch> watch_input() override;
