@@ -91,6 +91,9 @@ class ListView : public Control {
     void deselect_item();
     void select_all();
     void make_visible(std::size_t row) const;
+    /// Whether the user sees which rows are selected; he need not where selecting was not his doing.
+    bool shows_selection() const { return shows_selection_; }
+    void show_selection(bool on) { assign(shows_selection_, on, Aspect::selection); }
 
     /// The first row with a sub-item that begins with the text.
     std::optional<std::size_t> find_in_sub_items(TextView beginning) const;
@@ -147,6 +150,7 @@ class ListView : public Control {
     int width_ = 0;
     bool held_ = false;
     bool filling_ = false;
+    bool shows_selection_ = true;
 };
 
 /// Fills a list for as long as this object lives: new rows stand at the end, and a sorted list is sorted once

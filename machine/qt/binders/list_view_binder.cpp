@@ -73,6 +73,7 @@ ListViewBinder::ListViewBinder(BoundForm& bound, platform::ListView& control, QT
     : BinderOf(bound, control, view), rows_(control, view) {
     control.attach_rows(&rows_);
     set_up(view);
+    show(platform::Aspect::selection);
     connect(&rows_.model(), &ListViewModel::checked_by_user, this, [this](std::size_t row, bool checked) {
         act([&] { this->control().user_check(row, checked); });
     });
@@ -86,6 +87,12 @@ void ListViewBinder::release() {
     control().attach_rows(nullptr);
     rows_.let_go();
     WidgetBinder::release();
+}
+
+void ListViewBinder::show(platform::Aspect aspect) {
+    if (aspect != platform::Aspect::selection) return;
+    widget().setProperty("quietSelection", !control().shows_selection());
+    widget().viewport()->update();
 }
 
 bool ListViewBinder::filter(QObject& object, QEvent& event) {

@@ -19,6 +19,7 @@ class ListViewBinder : public BinderOf<platform::ListView, QTreeView, ItemViewBi
     void release() override;
 
   private:
+    void show(platform::Aspect aspect) override;
     bool filter(QObject& object, QEvent& event) override;
     bool press_key(QKeyEvent& event);
     void release_key(const QKeyEvent& event);
