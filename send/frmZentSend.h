@@ -12,6 +12,7 @@
 #include "platform/controls/list_view.h"
 #include "platform/controls/timer.h"
 #include "platform/ports/platform.h"
+#include "send/batch.h"
 #include "send/send_job.h"
 
 #include <chrono>
@@ -114,15 +115,12 @@ class frmZentSend : public platform::Form {
 
     // Recipients in batches: send_batches.cpp.
     void pass_over_rows(SendJob& job, Batch& batch, PassOptions options);
-    bool add_to_batch(Batch& batch, std::size_t& current, int piece) const;
     void submit_batch(SendJob& job, Batch& batch, std::size_t current, bool leaves_trace);
 
     // Recipients one by one: send_personal.cpp, send_singles.cpp.
     /// Whether the user has asked for personal messages and the current kind allows them.
     bool is_personal() const;
     void for_each_recipient(const std::function<void(std::size_t row)>& send_row);
-    std::optional<platform::Text> filled_in(const platform::Text& text,
-                                            const platform::ListItem& recipient) const;
     void send_personal_row(SendJob& job, std::size_t row);
     void send_single_row(SendJob& job, std::size_t row);
 
