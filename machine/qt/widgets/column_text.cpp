@@ -1,11 +1,37 @@
 #include "machine/qt/widgets/column_text.h"
 
-#include <QEvent>
 #include <QFontMetricsF>
+#include <QSyntaxHighlighter>
 #include <QTextBlock>
 #include <QtMath>
 
 namespace machine::qt {
+
+namespace {
+
+/// Spaces the blanks of the labels. Word spacing would widen a run of blanks once, not each of them.
+class LabelBlanks : public QSyntaxHighlighter {
+  public:
+    explicit LabelBlanks(ColumnText& text) : QSyntaxHighlighter(text.document()), text_(text) {}
+
+  protected:
+    void highlightBlock(const QString& line) override {
+        const QFontMetricsF metrics(text_.font());
+        const double syllable = metrics.horizontalAdvance(QStringLiteral("가"));
+        QTextCharFormat blank;
+        blank.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+        blank.setFontLetterSpacing(syllable / 3 - metrics.horizontalAdvance(u' '));
+        for (int at = 0; at < line.indexOf(u':'); ++at)
+            if (line[at] == u' ') setFormat(at, 1, blank);
+    }
+
+  private:
+    ColumnText& text_;
+};
+
+}  // namespace
+
+ColumnText::ColumnText(QWidget* parent) : MultilineEdit(parent) { new LabelBlanks(*this); }
 
 QSize ColumnText::sizeHint() const {
     constexpr int MOST_SYLLABLES = 36;
@@ -19,28 +45,7 @@ QSize ColumnText::sizeHint() const {
         lines += 1 + static_cast<int>(width / limit);
     }
     const double edge = 2 * (document()->documentMargin() + frameWidth()) + 1;
-    return {qCeil(qMin(widest, limit) + edge), qCeil(lines * metrics.lineSpacing() + edge)};
-}
-
-void ColumnText::changeEvent(QEvent* event) {
-    MultilineEdit::changeEvent(event);
-    if (event->type() == QEvent::FontChange) align();
-}
-
-void ColumnText::showEvent(QShowEvent* event) {
-    align();
-    MultilineEdit::showEvent(event);
-}
-
-void ColumnText::align() {
-    QFont plain = font();
-    plain.setWordSpacing(0);
-    const QFontMetricsF metrics(plain);
-    const double blank = metrics.horizontalAdvance(QStringLiteral("가")) / 3;
-    QFont aligned = plain;
-    aligned.setWordSpacing(blank - metrics.horizontalAdvance(u' '));
-    if (aligned != font()) setFont(aligned);
-    updateGeometry();
+    return {qCeil(qMin(widest, limit) + edge), lines * qCeil(metrics.lineSpacing() + 1) + qCeil(edge)};
 }
 
 }  // namespace machine::qt

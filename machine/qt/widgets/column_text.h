@@ -10,17 +10,10 @@ class ColumnText : public MultilineEdit {
     Q_OBJECT
 
   public:
-    using MultilineEdit::MultilineEdit;
+    explicit ColumnText(QWidget* parent = nullptr);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
-
-  protected:
-    void changeEvent(QEvent* event) override;
-    void showEvent(QShowEvent* event) override;
-
-  private:
-    void align();
 };
 
 }  // namespace machine::qt
