@@ -3,6 +3,7 @@
 #include "compose/message_kinds.h"
 #include "compose/room.h"
 #include "core/app_state.h"
+#include "core/personal_text.h"
 #include "core/phone_number.h"
 #include "platform/controls/bars.h"
 #include "platform/controls/buttons.h"
@@ -25,8 +26,7 @@ inline constexpr int RECIPIENT_TITLE = 4;
 /// tag says of which text.
 inline constexpr int RECIPIENT_PIECES = 5;
 
-/// Stands for a recipient without a name.
-inline constexpr platform::TextView NO_NAME = u"이름없음";
+using core::NO_NAME;
 
 /// The recipients: typed, picked from the cards, or handed over by the card manager.
 class RecipientList : Room {

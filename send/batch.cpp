@@ -1,8 +1,10 @@
 #include "send/batch.h"
 
+#include "compose/recipient_list.h"
 #include "core/byte_length.h"
+#include "core/phone_number.h"
+#include "platform/text/number.h"
 #include "send/pieces.h"
-#include "send/recipient_text.h"
 
 namespace send {
 
@@ -14,6 +16,14 @@ namespace {
 constexpr std::size_t ADDRESS_LIMIT = 2048;
 
 }  // namespace
+
+std::optional<Text> address_of(const platform::ListItem& recipient) {
+    const Text number = core::DIGITS_ONLY(recipient.sub_item(compose::RECIPIENT_NUMBER));
+    if (platform::leading_number(number) == 0) return std::nullopt;
+    Text name = platform::trim(core::without_separators(recipient.sub_item(compose::RECIPIENT_NAME)));
+    if (name.empty()) name = compose::NO_NAME;
+    return name + u":" + number + u";";
+}
 
 bool add_to_batch(const platform::ListView& recipients, Batch& batch, std::size_t& current, int piece) {
     const platform::ListItem& row = recipients.row(current - 1);
@@ -40,12 +50,13 @@ bool add_to_batch(const platform::ListView& recipients, Batch& batch, std::size_
 }
 
 int count_batches(const platform::ListView& recipients, int piece) {
-    Batch batch;
     int batches = 0;
+    Batch batch;
     for (std::size_t current = 0; current != recipients.row_count();) {
         ++current;
         const bool full = add_to_batch(recipients, batch, current, piece);
-        if (!full && (current != recipients.row_count() || batch.count == 0)) continue;
+        const bool ends = current == recipients.row_count() && !batch.s_dest_addr.empty();
+        if (!full && !ends) continue;
         ++batches;
         batch = {};
     }

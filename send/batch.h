@@ -4,6 +4,7 @@
 #include "platform/text/text.h"
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace send {
@@ -24,13 +25,16 @@ struct Batch {
     std::size_t first_row = 0;
 };
 
+/// The recipient as the carrier takes it: name, ":", number, ";". Nothing for a row without a number.
+std::optional<platform::Text> address_of(const platform::ListItem& recipient);
+
 /// Adds the row to the batch when it is checked, has a number and has not got the piece yet (a text that goes
-/// whole is piece 0, which nobody has got). `current` is its number, counted from 1. Returns whether the
-/// batch is to be submitted now. A row that does not fit is not consumed (`current` is decremented) and
+/// whole is piece 0, which nobody has got). Returns whether the batch is to be submitted now. `current` is
+/// the row's number, counted from 1; a row that does not fit is not consumed (`current` is decremented) and
 /// starts the next batch.
 bool add_to_batch(const platform::ListView& recipients, Batch& batch, std::size_t& current, int piece);
 
-/// How many batches the recipients who have not got the piece yet make.
+/// How many batches the checked rows make that have not got the piece yet.
 int count_batches(const platform::ListView& recipients, int piece);
 
 }  // namespace send

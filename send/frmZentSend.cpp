@@ -2,8 +2,8 @@
 
 #include "core/busy.h"
 #include "core/centring.h"
+#include "core/personal_text.h"
 #include "platform/text/format.h"
-#include "send/recipient_text.h"
 
 namespace send {
 
@@ -87,7 +87,7 @@ bool frmZentSend::is_personal() const {
 
 void frmZentSend::run_routine_of_draft() {
     Timer1.set_enabled(false);
-    if (is_personal() && has_placeholder(main_form_.text.mText1.text())) {
+    if (is_personal() && core::has_placeholder(main_form_.text.mText1.text())) {
         SEND_PERSONAL();
     } else {
         SEND_BATCHES(caption());

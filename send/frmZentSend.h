@@ -130,8 +130,6 @@ class frmZentSend : public platform::Form {
     /// Whether the user has asked for personal messages and the current kind allows them.
     bool is_personal() const;
     void for_each_recipient(SendJob& job, const std::function<void(std::size_t row)>& send_row);
-    std::optional<platform::Text> filled_in(const platform::Text& text,
-                                            const platform::ListItem& recipient) const;
     void send_personal_row(SendJob& job, std::size_t row);
     void send_single_row(SendJob& job, std::size_t row);
 

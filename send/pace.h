@@ -23,7 +23,7 @@ std::chrono::milliseconds time_left(Steps steps, std::chrono::milliseconds elaps
 /// "1,234명".
 platform::Text people(int count);
 
-/// A length of time as one says it, as "약 3분"; rounded up, for nobody minds a job that is done early.
+/// A length of time as one says it, as "약 3분".
 platform::Text about(std::chrono::milliseconds time);
 
 }  // namespace send

@@ -1,8 +1,7 @@
 // What the user sees of a job while it runs.
 
-#include "platform/text/format.h"
+#include "core/byte_length.h"
 #include "send/frmZentSend.h"
-#include "send/pieces.h"
 
 #include <algorithm>
 
@@ -11,7 +10,8 @@ namespace send {
 using platform::Text;
 
 void frmZentSend::begin_progress(SendJob& job, int steps, Unit unit) {
-    const int submits = unit == Unit::person ? count_pieces(main_form_.text.mText1.text()) : 1;
+    const int submits =
+        unit == Unit::person ? core::count_pieces(main_form_.text.mText1.text(), compose::TEXT_LIMIT) : 1;
     job.steps = {.done = 0, .all = steps};
     job.unit = unit;
     job.waits = submits * std::chrono::milliseconds(job.pauses.after_success + job.pauses.before_unbind);

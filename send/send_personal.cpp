@@ -1,10 +1,9 @@
 // SEND_PERSONAL: a text with the recipient's name or title in it, one recipient a submit. Also what it shares
 // with the other routine that goes recipient by recipient.
 
-#include "platform/controls/list_columns.h"
+#include "core/personal_text.h"
 #include "send/frmZentSend.h"
 #include "send/pieces.h"
-#include "send/recipient_text.h"
 
 namespace send {
 
@@ -35,22 +34,15 @@ void frmZentSend::for_each_recipient(SendJob& job, const std::function<void(std:
     }
 }
 
-/// The text for this recipient; nothing when it has a place for a name that is missing.
-std::optional<Text> frmZentSend::filled_in(const Text& text, const platform::ListItem& recipient) const {
-    const int title = platform::FIND_COLUMN(u"직위", RecipientRows) - 1;
-    return fill_placeholders(text, recipient.sub_item(compose::RECIPIENT_NAME), recipient.sub_item(title));
-}
-
 void frmZentSend::send_personal_row(SendJob& job, std::size_t row) {
-    const platform::ListItem& recipient = RecipientRows.row(row);
     const std::optional<Text> text =
-        filled_in(platform::right_trim(main_form_.text.mText1.text()), recipient);
+        core::personal_text(platform::right_trim(main_form_.text.mText1.text()), RecipientRows, row);
     if (!text) {
         ++job.failure;
         write_status(row, row + 1, Text(NAME_MISSING));
         return;
     }
-    const std::optional<Text> address = address_of(recipient);
+    const std::optional<Text> address = address_of(RecipientRows.row(row));
     if (!address) return;
     job.message.s_dest_addr_count = 1;
     job.message.s_dest_addr = *address;

@@ -103,9 +103,9 @@ TEST(SendWindow, SaysHowManyAreRegisteredWhichBatchGoesAndHowLongItTakes) {
     });
     s.send();
     EXPECT_EQ(seen,
-              (Lines{"0% · 문자메시지 | 250명 중 0명 등록 | 묶음 1/3 · 남은 시간 약 5초",
-                     "39% · 문자메시지 | 250명 중 100명 등록 | 묶음 2/3 · 남은 시간 약 5초",
-                     "79% · 문자메시지 | 250명 중 100명 등록 | ⚠ 실패 100명 | 묶음 3/3 · 남은 시간 약 5초",
+              (Lines{"0% · 문자메시지 | 250명 중 0명 등록 | 묶음 1/3 · 남은 시간 약 3초",
+                     "39% · 문자메시지 | 250명 중 100명 등록 | 묶음 2/3 · 남은 시간 약 2초",
+                     "79% · 문자메시지 | 250명 중 100명 등록 | ⚠ 실패 100명 | 묶음 3/3 · 남은 시간 약 1초",
                      "99% · 문자메시지 | 250명 중 150명 등록 | ⚠ 실패 100명 | 마무리하고 있습니다."}));
 }
 
@@ -118,7 +118,7 @@ TEST(SendWindow, ReckonsTheTimeLeftByThePausesAndByWhatTheCarrierHasTaken) {
     EXPECT_EQ(time_left({.done = 10, .all = 30}, -60s, 1000ms), 20s) << "the clock was put back";
     EXPECT_EQ(time_left({.done = 31, .all = 30}, 60s, 1000ms), 0s);
     const std::pair<std::chrono::milliseconds, const char*> lengths[] = {
-        {500ms, "약 5초"}, {56s, "약 1분"}, {61s, "약 2분"}, {1h, "약 1시간"}, {2h + 5min, "약 2시간 5분"},
+        {0s, "약 1초"}, {1500ms, "약 2초"}, {89s, "약 1분"}, {1h, "약 1시간"}, {2h + 5min, "약 2시간 5분"},
     };
     for (const auto& [length, words] : lengths) EXPECT_EQ(utf8(send::about(length)), words);
 }

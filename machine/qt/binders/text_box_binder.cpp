@@ -3,6 +3,7 @@
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/typing/field_events.h"
+#include "machine/qt/typing/undoing.h"
 #include "machine/qt/widgets/multiline_edit.h"
 
 #include <QLineEdit>
@@ -139,7 +140,7 @@ void LineBinder::join_lines() {
     if (const QString text = widget().text(); has_edit() && text != one_line(text)) {
         const auto caret = one_line(text.left(widget().cursorPosition())).size();
         const QScopedValueRollback<bool> working(working_, true);
-        widget().setText(one_line(text));
+        write_undoably(widget(), one_line(text));
         widget().setCursorPosition(static_cast<int>(caret));
     }
     edited();
@@ -147,7 +148,7 @@ void LineBinder::join_lines() {
 
 QString LineBinder::widget_text() const { return widget().text(); }
 
-void LineBinder::write(const QString& text) { widget().setText(text); }
+void LineBinder::write(const QString& text) { write_undoably(widget(), text); }
 
 void LineBinder::select(int start, int end) {
     if (start == end) {
