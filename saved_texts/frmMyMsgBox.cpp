@@ -57,7 +57,10 @@ void frmMyMsgBox::connect_fields() {
     SearchText.KeyPress.connect([this](KeyPressed& key) {
         if (key.code != platform::KEY_ENTER) return;
         key.swallow();
-        ListView2.set_focus();
+        go_to_found();
+    });
+    SearchText.KeyDown.connect([this](const KeyPressed& key) {
+        if (key.code == platform::KEY_DOWN) go_to_found();
     });
     Text1.KeyPress.connect([](KeyPressed& key) {
         if (clean_title(platform::Text(1, static_cast<char16_t>(key.code))).empty()) key.swallow();

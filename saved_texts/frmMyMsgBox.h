@@ -88,6 +88,7 @@ class frmMyMsgBox : public platform::Form {
     void list_selected_category();
     void show_selected_text();
     void show_found();
+    void go_to_found();
     void show_count();
     void show_chosen();
     std::optional<Source> source_of(std::size_t row) const;

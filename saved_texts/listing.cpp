@@ -112,6 +112,11 @@ void frmMyMsgBox::show_count() {
     FoundCount.set_caption(found == all ? in_words(all) : in_words(all) + u" 중 " + in_words(found));
 }
 
+void frmMyMsgBox::go_to_found() {
+    ListView2.set_focus();
+    if (ListView2.row_count() > 0) show_selected_text();
+}
+
 /// A row looks chosen only while its text is the one in the fields.
 void frmMyMsgBox::show_chosen() {
     const auto row = ListView2.selected_item();

@@ -45,6 +45,8 @@ class TextBox : public Control {
     Event<> Change;
     /// Raised before a key changes the text. An input method and a paste raise none.
     UserEvent<KeyPressed&> KeyPress{*this};
+    /// Up and down in a field of one line, where they move nothing.
+    UserEvent<KeyPressed&> KeyDown{*this};
 
   private:
     Text text_;

@@ -49,6 +49,8 @@ class ListView : public Control {
         Text (*shown)(TextView text) = nullptr;
         /// Whether the signs of the rows' marks stand here.
         bool signs = false;
+        /// Whether the column is the one that matters now.
+        bool in_use = false;
     };
 
     /// How the rows are marked.
@@ -76,6 +78,8 @@ class ListView : public Control {
     void set_column_caption(int number, Text caption);
     void set_column_picture(int number, std::optional<int> picture);
     void set_column_width(int number, int twips);
+    /// Marks the column as the one that matters now, and shows its texts so; no other column is marked then.
+    void use_column(int number, Text (*shown)(TextView text));
     /// The room for all columns in twips; 0 while nothing shows the list.
     int width() const { return width_; }
 

@@ -6,6 +6,7 @@
 #include "machine/qt/typing/undoing.h"
 #include "machine/qt/widgets/multiline_edit.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
 
@@ -126,6 +127,10 @@ LineBinder::LineBinder(BoundForm& bound, TextBox& control, QLineEdit& edit) : Bi
 }
 
 bool LineBinder::filter(QObject&, QEvent& event) {
+    if (event.type() == QEvent::KeyPress) {
+        KeyPressed key{moving_key_code(static_cast<const QKeyEvent&>(event))};
+        if (key.code == platform::KEY_UP || key.code == platform::KEY_DOWN) control().KeyDown.raise(key);
+    }
     return filter_field_event(
         widget(), event, [this](KeyPressed& key) { press_key(key); },
         [this](bool begins) {
