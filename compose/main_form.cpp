@@ -4,6 +4,8 @@
 #include "service/frmAbout.h"
 #include "service/service_pages.h"
 
+#include <algorithm>
+
 namespace compose {
 
 using platform::Text;
@@ -150,6 +152,10 @@ void frmZent::start_text(MessageKind kind) {
         case MessageKind::end:
             return;
     }
+}
+
+void frmZent::Form_Escape() {
+    if (std::ranges::any_of(recipients.HText1, &platform::TextBox::has_focus)) recipients.empty_fields();
 }
 
 void frmZent::open_by_button(int index) {

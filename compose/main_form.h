@@ -130,6 +130,7 @@ class frmZent : public platform::Form {
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Unload() override;
+    void Form_Escape() override;
 
   private:
     void connect();

@@ -72,6 +72,10 @@ bool RecipientList::add(Text name, const Text& number, Text title) {
     return true;
 }
 
+void RecipientList::empty_fields() {
+    for (platform::TextBox& field : HText1) field.set_text(u"");
+}
+
 void RecipientList::RECIPIENT_COUNT_CAPTION() {
     Label4.set_caption(u"전체>" + platform::decimal(ListView1.row_count()) + u">대상>" +
                        platform::decimal(ListView1.checked_count()));
@@ -100,15 +104,20 @@ void RecipientList::add_typed() {
         return refuse_number(wrong_number(number_caption, number, fault));
 
     add(platform::remove_all(core::without_separators(HText1[0].text()), u" "), number, {});
-    HText1[0].set_text(u"");
-    HText1[1].set_text(u"");
+    empty_fields();
     RECIPIENT_COUNT_CAPTION();
     HText1[0].set_focus();
 }
 
 void RecipientList::refuse_number(Text text) {
     core::warn(platform_.desktop, std::move(text));
+    return_number();
+}
+
+/// Selected, so that the next number replaces it instead of being written in front of it.
+void RecipientList::return_number() {
     HText1[1].set_focus();
+    HText1[1].select_all();
 }
 
 bool RecipientList::point_at_duplicate(const Text& number) {
@@ -119,6 +128,7 @@ bool RecipientList::point_at_duplicate(const Text& number) {
     ListView1.select_item(*hit);
     // Deliberately the caption of column 2, the name, though numbers were compared: support knows the box so.
     core::warn(platform_.desktop, u"이미 동일한 " + ListView1.column(2).caption + u"가 존재합니다.");
+    return_number();
     return true;
 }
 

@@ -66,6 +66,9 @@ class RecipientList : Room {
     /// becomes NO_NAME.
     bool add(platform::Text name, const platform::Text& number, platform::Text title);
 
+    /// Empties the fields in which a recipient is typed.
+    void empty_fields();
+
     /// Shows how many rows there are and how many are checked.
     void RECIPIENT_COUNT_CAPTION();
 
@@ -74,6 +77,7 @@ class RecipientList : Room {
     void HText1_KeyPress(std::size_t index, platform::KeyPressed& key);
     void add_typed();
     void refuse_number(platform::Text text);
+    void return_number();
     bool point_at_duplicate(const platform::Text& number);
     void remove_selected();
     void pick_recipients();

@@ -1,8 +1,9 @@
 #include "machine/qt/desktop/qt_desktop.h"
 
-#include "machine/qt/desktop/boxes.h"
 #include "machine/qt/desktop/form_window.h"
+#include "machine/qt/desktop/input_box.h"
 #include "machine/qt/desktop/long_work.h"
+#include "machine/qt/desktop/message_box.h"
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "platform/controls/bars.h"
@@ -114,7 +115,7 @@ BoxAnswer QtDesktop::message_box(const platform::MessageBox& box) {
     commit_composition();
     const QPointer<QWidget> front = front_window();
     const platform::StandingInFront standing(*this);
-    const BoxAnswer answer = ask(box, title_, front);
+    const BoxAnswer answer = ask(box, title_, last_key_, front);
     give_back_focus(front);
     return answer;
 }

@@ -2,6 +2,7 @@
 
 #include "machine/qt/desktop/file_dialog.h"
 #include "machine/qt/desktop/screens.h"
+#include "machine/qt/typing/last_key.h"
 #include "platform/ports/desktop.h"
 #include "platform/ports/files.h"
 
@@ -55,6 +56,7 @@ class QtDesktop : public platform::Desktop {
     const Screens& screens_;
     platform::Files& files_;
     FileDialog file_dialog_;
+    LastKey last_key_;
     std::map<const platform::Form*, QPointer<FormWindow>> windows_;
     QString title_;
     bool hourglass_ = false;
