@@ -49,7 +49,7 @@ void show_cut_text(QTreeView& view, const QHelpEvent& event) {
     QToolTip::showText(event.globalPos(), index.data().toString(), view.viewport(), cell);
 }
 
-bool moves_through_rows(const QKeyEvent& event) {
+bool moves(const QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Up:
         case Qt::Key_Down:
@@ -59,6 +59,8 @@ bool moves_through_rows(const QKeyEvent& event) {
         case Qt::Key_End:
         case Qt::Key_PageUp:
         case Qt::Key_PageDown:
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
             return true;
         case Qt::Key_Space:
             return event.modifiers() != Qt::NoModifier;
@@ -117,10 +119,10 @@ bool ListViewBinder::filter(QObject& object, QEvent& event) {
     }
 }
 
-/// The view itself handles the keys that move through the rows. It gets no letters, with which it would
-/// search the first column: that one is empty, and the handlers use letters.
+/// The view itself handles the keys that move through the rows or to the next control. It gets no letters,
+/// with which it would search the first column: that one is empty, and the handlers use letters.
 bool ListViewBinder::press_key(QKeyEvent& event) {
-    if (moves_through_rows(event)) return false;
+    if (moves(event)) return false;
     event.accept();
     if (event.key() == Qt::Key_Space && control().check_boxes()) {
         toggle_check();
