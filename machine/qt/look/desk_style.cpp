@@ -1,26 +1,87 @@
 #include "machine/qt/look/desk_style.h"
 
+#include "machine/qt/look/colours.h"
 #include "machine/qt/look/late_icon.h"
+#include "machine/qt/look/shapes.h"
 
+#include <QAbstractItemView>
+#include <QFrame>
 #include <QPainter>
+#include <QPushButton>
 #include <QStyleOption>
-#include <QWidget>
 
 namespace machine::qt {
 
 namespace {
 
 constexpr int ROW_AIR = 6;
+constexpr int HEADER_AIR = 6;
+constexpr double HEADING_SIZE = 1.25;
 
-/// Half way between the colours of text and background, for light and dark desktops.
-QColor edge_colour(const QPalette& palette) {
-    const QColor text = palette.color(QPalette::Text);
-    const QColor ground = palette.color(QPalette::Base);
-    return QColor((text.red() + ground.red()) / 2, (text.green() + ground.green()) / 2,
-                  (text.blue() + ground.blue()) / 2);
+bool is_filled(const QStyleOptionButton& button) {
+    return button.features.testFlag(QStyleOptionButton::DefaultButton);
+}
+
+/// The colours of a filled button's picture and caption.
+QStyleOptionButton on_accent(const QStyleOptionButton& button) {
+    QStyleOptionButton shown(button);
+    shown.palette.setColor(QPalette::ButtonText,
+                           button.palette.color(QPalette::Active, QPalette::HighlightedText));
+    if (!shown.icon.isNull()) shown.icon = QIcon(shown.icon.pixmap(shown.iconSize, QIcon::Selected));
+    return shown;
+}
+
+void draw_header(QPainter& painter, const QStyleOptionHeader& header) {
+    const Colours colours = colours_of(header.palette);
+    painter.fillRect(header.rect, header.palette.color(QPalette::AlternateBase));
+    painter.fillRect(QRect(header.rect.bottomLeft(), QSize(header.rect.width(), 1)), colours.line);
+    const bool last =
+        header.position == QStyleOptionHeader::End || header.position == QStyleOptionHeader::OnlyOneSection;
+    if (!last)
+        painter.fillRect(header.rect.right(), header.rect.top() + 4, 1, header.rect.height() - 8,
+                         colours.line);
+}
+
+/// A bar of progress, or its part that is done.
+void draw_bar(QPainter& painter, const QStyleOptionProgressBar& bar, bool done) {
+    QRectF place = bar.rect;
+    const double round = std::min(place.height() / 2, 4.0);
+    const Colours colours = colours_of(bar.palette);
+    if (done) {
+        const double range = std::max(1, bar.maximum - bar.minimum);
+        place.setWidth(place.width() * (bar.progress - bar.minimum) / range);
+        if (place.width() <= 0) return;
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(done ? colours.accent : between(colours.line, bar.palette.color(QPalette::Window), 0.4));
+    painter.drawRoundedRect(place, round, round);
+    painter.restore();
 }
 
 }  // namespace
+
+void DeskStyle::polish(QPalette& palette) {
+    QProxyStyle::polish(palette);
+    make_readable(palette);
+}
+
+void DeskStyle::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    const QString look = widget->property("look").toString();
+    if (look.isEmpty()) return;
+    if (look == QLatin1String("heading") || look == QLatin1String("strong")) {
+        QFont font = widget->font();
+        font.setBold(true);
+        if (look == QLatin1String("heading")) font.setPointSizeF(font.pointSizeF() * HEADING_SIZE);
+        widget->setFont(font);
+        return;
+    }
+    if (look == QLatin1String("muted")) widget->setForegroundRole(MUTED_TEXT);
+    if (look == QLatin1String("failure")) widget->setForegroundRole(FAILURE_TEXT);
+    if (look == QLatin1String("warning")) widget->setForegroundRole(WARNING_TEXT);
+}
 
 QSize DeskStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                   const QWidget* widget) const {
@@ -37,24 +98,112 @@ QSize DeskStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     return size;
 }
 
-/// Qt derives the edges of check boxes and radio buttons from the window's colour, so that an empty one
-/// cannot be seen on a dark list.
 void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
-    const bool box = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
-    if ((!box && element != PE_IndicatorRadioButton) || !(option->state & State_Enabled)) return;
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(edge_colour(option->palette));
-    painter->setBrush(Qt::NoBrush);
-    const QRectF edge = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    if (box) {
-        painter->drawRoundedRect(edge, 1.5, 1.5);
-    } else {
-        painter->drawEllipse(edge);
+    switch (element) {
+        case PE_PanelButtonCommand: {
+            const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+            return draw_button(*painter, *option, button != nullptr && is_filled(*button));
+        }
+        case PE_PanelButtonTool:
+            return draw_flat_button(*painter, *option);
+        case PE_FrameFocusRect:
+            // A button shows the focus by its edge.
+            if (qobject_cast<const QPushButton*>(widget) != nullptr) return;
+            break;
+        case PE_PanelLineEdit: {
+            const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+            if (frame != nullptr && frame->lineWidth > 0) return draw_field(*painter, *option);
+            break;
+        }
+        case PE_FrameLineEdit:
+        case PE_Frame:
+            return draw_edge(*painter, *option);
+        case PE_IndicatorCheckBox:
+        case PE_IndicatorItemViewItemCheck:
+            return draw_check_box(*painter, *option);
+        case PE_IndicatorRadioButton:
+            return draw_radio_button(*painter, *option);
+        case PE_IndicatorArrowDown:
+            return draw_arrow(*painter, *option, option->rect);
+        case PE_IndicatorArrowUp:
+            return draw_arrow(*painter, *option, option->rect, true);
+        default:
+            break;
     }
-    painter->restore();
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const {
+    switch (element) {
+        case CE_PushButtonLabel:
+            if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+                button != nullptr && is_filled(*button) && (button->state & State_Enabled)) {
+                const QStyleOptionButton shown = on_accent(*button);
+                return QProxyStyle::drawControl(element, &shown, painter, widget);
+            }
+            break;
+        case CE_HeaderSection:
+            if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option))
+                return draw_header(*painter, *header);
+            break;
+        case CE_HeaderEmptyArea:
+            return painter->fillRect(option->rect, option->palette.color(QPalette::AlternateBase));
+        case CE_TabBarTabShape:
+            return draw_tab(*painter, *option, option->state.testFlag(State_Selected));
+        case CE_ToolBar:
+            return;
+        case CE_ShapedFrame:
+            if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+                frame != nullptr && frame->frameShape == QFrame::HLine) {
+                const QRect& place = frame->rect;
+                return painter->fillRect(place.left(), place.center().y(), place.width(), 1,
+                                         colours_of(frame->palette).line);
+            }
+            break;
+        case CE_ProgressBarGroove:
+        case CE_ProgressBarContents:
+            if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option))
+                return draw_bar(*painter, *bar, element == CE_ProgressBarContents);
+            break;
+        case CE_ItemViewItem:
+            // The rows chosen in a list that has not the keys are pale, so that the list that has them is
+            // seen.
+            if (const auto* view = qobject_cast<const QAbstractItemView*>(widget);
+                view != nullptr && !view->hasFocus()) {
+                if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
+                    QStyleOptionViewItem pale(*item);
+                    pale.state.setFlag(State_Active, false);
+                    return QProxyStyle::drawControl(element, &pale, painter, widget);
+                }
+            }
+            break;
+        default:
+            break;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void DeskStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const {
+    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (control != CC_ComboBox || combo == nullptr || !combo->frame)
+        return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    draw_field(*painter, *combo);
+    draw_arrow(*painter, *combo, proxy()->subControlRect(control, combo, SC_ComboBoxArrow, widget));
+}
+
+int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+    switch (metric) {
+        case PM_TabBarTabShiftHorizontal:
+        case PM_TabBarTabShiftVertical:
+            return 0;
+        case PM_HeaderMargin:
+            return HEADER_AIR;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+    }
 }
 
 /// Otherwise scrolling with the wheel over a choice would change it: another kind of message, which clears

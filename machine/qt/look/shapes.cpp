@@ -1,0 +1,178 @@
+#include "machine/qt/look/shapes.h"
+
+#include "machine/qt/look/colours.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyle>
+#include <QStyleOption>
+
+namespace machine::qt {
+
+namespace {
+
+constexpr double ROUND = 4;
+constexpr double FOCUS_LINE = 2;
+
+/// Draws without jagged edges, and leaves the painter as it was.
+class Smooth {
+  public:
+    explicit Smooth(QPainter& painter) : painter_(painter) {
+        painter_.save();
+        painter_.setRenderHint(QPainter::Antialiasing);
+    }
+    Smooth(const Smooth&) = delete;
+    Smooth& operator=(const Smooth&) = delete;
+    ~Smooth() { painter_.restore(); }
+
+  private:
+    QPainter& painter_;
+};
+
+void draw_box(QPainter& painter, const QRectF& place, const QBrush& ground, const QColor& edge,
+              double line = 1, double round = ROUND) {
+    const Smooth smooth(painter);
+    painter.setBrush(ground);
+    painter.setPen(QPen(edge, line));
+    const double inset = line / 2;
+    painter.drawRoundedRect(place.adjusted(inset, inset, -inset, -inset), round, round);
+}
+
+bool is(const QStyleOption& option, QStyle::StateFlag state) { return option.state.testFlag(state); }
+
+bool has_focus(const QStyleOption& option) { return is(option, QStyle::State_HasFocus); }
+
+QColor edge_of(const QStyleOption& option) {
+    const Colours colours = colours_of(option.palette);
+    if (!is(option, QStyle::State_Enabled))
+        return between(colours.line, option.palette.color(QPalette::Window), 0.4);
+    return colours.line;
+}
+
+/// Half way between text and ground, so that an empty box is seen on every window and list.
+QColor strong_edge(const QStyleOption& option) {
+    return between(option.palette.color(QPalette::Text), option.palette.color(QPalette::Base), 0.5);
+}
+
+QColor pressed_on(const QStyleOption& option, const QColor& ground) {
+    const QColor accent = colours_of(option.palette).accent;
+    if (!is(option, QStyle::State_Enabled)) return ground;
+    if (is(option, QStyle::State_Sunken)) return between(ground, accent, 0.22);
+    if (is(option, QStyle::State_On)) return between(ground, accent, 0.14);
+    return is(option, QStyle::State_MouseOver) ? between(ground, accent, 0.07) : ground;
+}
+
+}  // namespace
+
+void draw_button(QPainter& painter, const QStyleOption& option, bool filled) {
+    const QColor accent = colours_of(option.palette).accent;
+    if (filled && is(option, QStyle::State_Enabled)) {
+        const double darker = is(option, QStyle::State_Sunken)      ? 0.25
+                              : is(option, QStyle::State_MouseOver) ? 0.1
+                                                                    : 0.0;
+        const QColor ground = between(accent, Qt::black, darker);
+        draw_box(painter, option.rect, ground, ground);
+        if (has_focus(option)) {
+            draw_box(painter, QRectF(option.rect).adjusted(2, 2, -2, -2), Qt::NoBrush,
+                     option.palette.color(QPalette::HighlightedText), 1, ROUND - 1);
+        }
+        return;
+    }
+    const QColor ground = option.palette.color(QPalette::Button);
+    draw_box(painter, option.rect, pressed_on(option, ground), has_focus(option) ? accent : edge_of(option),
+             has_focus(option) ? FOCUS_LINE : 1);
+}
+
+void draw_flat_button(QPainter& painter, const QStyleOption& option) {
+    const bool seen = is(option, QStyle::State_On) || is(option, QStyle::State_Sunken) ||
+                      (is(option, QStyle::State_MouseOver) && is(option, QStyle::State_Enabled));
+    const QColor accent = colours_of(option.palette).accent;
+    const QColor ground = pressed_on(option, option.palette.color(QPalette::Window));
+    if (has_focus(option)) {
+        draw_box(painter, option.rect, seen ? QBrush(ground) : Qt::NoBrush, accent, FOCUS_LINE);
+    } else if (seen) {
+        draw_box(painter, option.rect, ground, ground);
+    }
+}
+
+void draw_edge(QPainter& painter, const QStyleOption& option) {
+    const bool focus = has_focus(option);
+    draw_box(painter, option.rect, Qt::NoBrush, focus ? colours_of(option.palette).accent : edge_of(option),
+             1, ROUND - 1);
+}
+
+void draw_field(QPainter& painter, const QStyleOption& option) {
+    const bool enabled = is(option, QStyle::State_Enabled);
+    const bool focus = has_focus(option);
+    draw_box(painter, option.rect, option.palette.color(enabled ? QPalette::Base : QPalette::Window),
+             focus ? colours_of(option.palette).accent : edge_of(option), focus ? FOCUS_LINE : 1);
+}
+
+void draw_arrow(QPainter& painter, const QStyleOption& option, const QRect& place, bool up) {
+    const Smooth smooth(painter);
+    const QPointF middle = QRectF(place).center();
+    const double height = up ? -2 : 2;
+    QPainterPath arrow(middle + QPointF(-4, -height));
+    arrow.lineTo(middle + QPointF(0, height));
+    arrow.lineTo(middle + QPointF(4, -height));
+    const bool enabled = is(option, QStyle::State_Enabled);
+    painter.setPen(QPen(enabled ? option.palette.color(QPalette::Text) : strong_edge(option), 1.5,
+                        Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPath(arrow);
+}
+
+void draw_check_box(QPainter& painter, const QStyleOption& option) {
+    const bool on = is(option, QStyle::State_On) || is(option, QStyle::State_NoChange);
+    const bool enabled = is(option, QStyle::State_Enabled);
+    const QColor accent = enabled ? colours_of(option.palette).accent : strong_edge(option);
+    const int side = std::min(option.rect.width(), option.rect.height());
+    const QRectF box = QStyle::alignedRect(option.direction, Qt::AlignCenter, {side, side}, option.rect);
+    draw_box(painter, box, on ? QBrush(accent) : QBrush(option.palette.color(QPalette::Base)),
+             on ? accent : strong_edge(option), 1, 3);
+    if (!on) return;
+    const Smooth smooth(painter);
+    QPainterPath mark;
+    if (is(option, QStyle::State_NoChange)) {
+        mark.moveTo(box.topLeft() + QPointF(side * 0.25, side * 0.5));
+        mark.lineTo(box.topLeft() + QPointF(side * 0.75, side * 0.5));
+    } else {
+        mark.moveTo(box.topLeft() + QPointF(side * 0.24, side * 0.52));
+        mark.lineTo(box.topLeft() + QPointF(side * 0.42, side * 0.70));
+        mark.lineTo(box.topLeft() + QPointF(side * 0.76, side * 0.30));
+    }
+    painter.setPen(QPen(option.palette.color(QPalette::Active, QPalette::HighlightedText), side / 7.0,
+                        Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(mark);
+}
+
+void draw_radio_button(QPainter& painter, const QStyleOption& option) {
+    const Smooth smooth(painter);
+    const bool on = is(option, QStyle::State_On);
+    const bool enabled = is(option, QStyle::State_Enabled);
+    const QColor accent = enabled ? colours_of(option.palette).accent : strong_edge(option);
+    const QRectF circle = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.setBrush(option.palette.color(QPalette::Base));
+    painter.setPen(QPen(on ? accent : strong_edge(option), 1));
+    painter.drawEllipse(circle);
+    if (!on) return;
+    const double inset = circle.width() * 0.25;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(accent);
+    painter.drawEllipse(circle.adjusted(inset, inset, -inset, -inset));
+}
+
+void draw_tab(QPainter& painter, const QStyleOption& option, bool chosen) {
+    const Smooth smooth(painter);
+    const QRectF place = option.rect;
+    const QColor accent = colours_of(option.palette).accent;
+    if (!chosen && is(option, QStyle::State_MouseOver))
+        painter.fillRect(place.adjusted(1, 2, -1, -1),
+                         pressed_on(option, option.palette.color(QPalette::Window)));
+    painter.setPen(QPen(edge_of(option), 1));
+    painter.drawLine(place.bottomLeft() - QPointF(0, 0.5), place.bottomRight() - QPointF(0, 0.5));
+    if (!chosen) return;
+    painter.fillRect(QRectF(place.left() + 6, place.bottom() - 3, place.width() - 12, 3), accent);
+}
+
+}  // namespace machine::qt

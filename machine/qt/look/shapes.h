@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QRect>
+
+class QPainter;
+class QStyleOption;
+
+namespace machine::qt {
+
+/// The shapes of which the program's controls are drawn: boxes with slightly round corners, one line thick.
+/// Each takes its colours from the option's palette and its state (enabled, under the mouse, pressed, with
+/// the focus).
+
+/// A button. A filled one is the one that Enter presses.
+void draw_button(QPainter& painter, const QStyleOption& option, bool filled);
+
+/// A flat button, seen when it is pressed, stays pressed or is under the mouse.
+void draw_flat_button(QPainter& painter, const QStyleOption& option);
+
+/// The edge of a field, list or panel.
+void draw_edge(QPainter& painter, const QStyleOption& option);
+
+/// A field to type into or choose from, with its ground.
+void draw_field(QPainter& painter, const QStyleOption& option);
+
+/// A small arrow that points down, or up.
+void draw_arrow(QPainter& painter, const QStyleOption& option, const QRect& place, bool up = false);
+
+void draw_check_box(QPainter& painter, const QStyleOption& option);
+void draw_radio_button(QPainter& painter, const QStyleOption& option);
+
+/// A tab of a row of tabs; the chosen one has a line of the accent.
+void draw_tab(QPainter& painter, const QStyleOption& option, bool chosen);
+
+}  // namespace machine::qt
