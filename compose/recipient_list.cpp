@@ -142,6 +142,7 @@ void RecipientList::pick_recipients() {
     state_.forms.gDialogConfirmed = false;
     pick_();
     if (ListView1.row_count() != rows || state_.forms.gDialogConfirmed) RECIPIENT_COUNT_CAPTION();
+    if (ListView1.row_count() != rows) ListView1.set_focus();
 }
 
 void RecipientList::CHECK_SELECTED_ITEMS(bool checked) {

@@ -43,13 +43,13 @@ TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsCorrected) {
          u"음성으로 변환할 TTS내용을 입력하십시오.", u"ttsText"},
         {"a sound file that has gone",
          [&](Sending& s) { voice(s, 3, 3), s.form.voice.TTSFileTxt.set_text(u"c:\\a.wav"); },
-         u"첨부할 WAV파일을 선택하여 주십시오.", u""},
+         u"첨부할 WAV파일을 선택하여 주십시오.", u"TTSBttn1"},
         {"no document", [&](Sending& s) { fax(s, {}); }, u"보낼문서를 지정하여 주십시오.", u"FAXBttn1"},
         {"a document that has gone",
          [&](Sending& s) {
              fax(s, {u"c:\\a.txt", u"c:\\b.txt"});
          },
-         u"c:\\b.txt\r\n\r\n위 파일을 찾을 수 없습니다. 확인하여 주십시오.", u""},
+         u"c:\\b.txt\r\n\r\n위 파일을 찾을 수 없습니다. 확인하여 주십시오.", u"FAX1"},
         {"no number", [](Sending& s) { s.add(u"b", u" "); },
          u"이름 ' ' 오류입니다.\r\n\r\n(전송할 이름을(를) 입력하여 주십시오.)", u"ListView1"},
         {"a fixed line for a text", [](Sending& s) { s.add(u"b", u"0212345678"); }, MOBILE_ONLY,
@@ -71,6 +71,7 @@ TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsCorrected) {
         Sending s;
         s.add(u"a", u"01011112222");
         refusal.make(s);
+        s.form.Command1.set_focus();
         s.desktop.expect_box(tests::refusal(refusal.words));
         s.click();
         EXPECT_EQ(utf8(s.form.focused() ? s.form.focused()->name() : Text()), utf8(refusal.focus));
