@@ -97,5 +97,21 @@ TEST_F(TypingIntoBoxes, OnceTheUserHasPausedKeysAnswer) {
               platform::BoxAnswer::yes);
 }
 
+TEST_F(TypingIntoBoxes, ASecondEnterOnTheConfirmationStopsNoJob) {
+    const auto window = windows.screens.build(u"frmZentSend");
+    auto& stop = *window->findChild<QPushButton*>("Command1");
+    int stops = 0;
+    QObject::connect(&stop, &QPushButton::clicked, [&] { ++stops; });
+    window->show();
+    settle();
+    ASSERT_NE(window->focusWidget(), nullptr);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Return);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(stops, 0);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Space);
+    EXPECT_EQ(stops, 1);
+}
+
 }  // namespace
 }  // namespace tests

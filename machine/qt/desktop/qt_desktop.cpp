@@ -64,8 +64,8 @@ void QtDesktop::run_until_closed(const Form& form) {
 void QtDesktop::close_all() {
     // A window closes when the event loop that it runs has ended, and what opened it may ask a question then.
     constexpr int BETWEEN_WINDOWS = 50;
-    close_front_window();
     closing_.start(BETWEEN_WINDOWS);
+    close_front_window();
 }
 
 void QtDesktop::prepare(Form& form) {

@@ -46,6 +46,7 @@ class QtDesktop : public platform::Desktop {
     void yield() override;
     void paint() override;
     std::unique_ptr<platform::InputWatch> watch_input() override;
+    bool closes_all() const override { return closing_.isActive(); }
 
   private:
     FormWindow* window_of(const platform::Form& form) const;
