@@ -66,6 +66,10 @@ class RecipientList : Room {
     /// becomes NO_NAME.
     bool add(platform::Text name, const platform::Text& number, platform::Text title);
 
+    /// Asks what becomes of somebody who is typed but not added, when there is one. Returns false when the
+    /// user wants to go back, or when the number is refused.
+    bool settle_typed();
+
     /// Empties the fields in which a recipient is typed.
     void empty_fields();
 
@@ -75,8 +79,8 @@ class RecipientList : Room {
   private:
     void connect();
     void HText1_KeyPress(std::size_t index, platform::KeyPressed& key);
-    void add_typed();
-    void refuse_number(platform::Text text);
+    bool add_typed();
+    bool refuse_number(platform::Text text);
     void return_number();
     bool point_at_duplicate(const platform::Text& number);
     void remove_selected();

@@ -174,6 +174,7 @@ void check_and_send(Platform& platform, AppState& state, frmZent& form, drafts::
     const CarrierKind& carrier = carrier_kind(kind, content_of(form));
     Text documents;
     if (!check_content(platform, form, carrier.content, documents)) return;
+    if (!form.recipients.settle_typed()) return;
     const auto recipients = check_recipients(platform, form, kind);
     if (!recipients || !schedule_is_possible(platform, form)) return;
 

@@ -80,6 +80,27 @@ TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsCorrected) {
     }
 }
 
+TEST(SendCheck, LeavesNobodyOutWhoIsTypedButNotAdded) {
+    const MessageBox question{
+        .text =
+            u"입력만 하고 추가하지 않은 받는사람이 있습니다.\r\n\r\n남은사람 01099998888"
+            u"\r\n\r\n받는사람에 추가하고 보내시겠습니까?",
+        .icon = BoxIcon::question,
+        .buttons = BoxButtons::yes_no_cancel,
+        .default_answer = BoxAnswer::yes};
+    for (const auto& [answer, sent] :
+         {std::pair(BoxAnswer::yes, 2U), std::pair(BoxAnswer::no, 1U), std::pair(BoxAnswer::cancel, 0U)}) {
+        Sending s;
+        s.add(u"a", u"01011112222");
+        s.form.recipients.HText1[0].set_text(u"남은사람");
+        s.form.recipients.HText1[1].set_text(u"010-9999-8888");
+        s.desktop.expect_box(question, answer);
+        sent > 0 ? s.send() : s.click();
+        EXPECT_EQ(s.marks(), std::string(sent, '-') + (sent == 0 ? "x" : ""));
+        EXPECT_EQ(s.form.recipients.HText1[1].text().empty(), answer == BoxAnswer::yes);
+    }
+}
+
 TEST(SendCheck, ShowsTheFirstOfSeveralFaults) {
     Sending s;
     s.state.session.gLoggedIn = false;
