@@ -140,12 +140,17 @@ void TabStripBinder::choose(int index) {
 ToolBarBinder::ToolBarBinder(BoundForm& bound, ToolBar& control, QToolBar& bar)
     : BinderOf(bound, control, bar) {
     const QList<QIcon> pictures = pictures_of(bar);
+    const QStringList keys = bar.property("shortcuts").toStringList();
     for (int number = 1; number <= control.count(); ++number) {
         const ToolBar::Button& button = control.button(number);
         auto* action = new QAction(pictures.value(number - 1), to_qstring(button.caption), &bar);
         action->setObjectName(part_name(bar, number));
         action->setSeparator(button.caption.empty());
         action->setCheckable(button.in_group);
+        if (const QString key = keys.value(number - 1); !key.isEmpty()) {
+            action->setShortcut(QKeySequence(key));
+            action->setToolTip(QStringLiteral("%1 (%2)").arg(action->text(), key));
+        }
         bar.addAction(action);
         actions_.push_back(action);
         connect(action, &QAction::triggered, this, [this, number] {

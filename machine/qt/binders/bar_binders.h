@@ -47,7 +47,8 @@ class TabStripBinder : public BinderOf<platform::TabStrip, QTabBar> {
     void choose(int index);
 };
 
-/// Makes an action `Toolbar1_2` for each button. The screen's list `pictures` has a name for each.
+/// Makes an action `Toolbar1_2` for each button. The screen's list `pictures` has a name for each,
+/// its list `shortcuts` a key or nothing.
 class ToolBarBinder : public BinderOf<platform::ToolBar, QToolBar> {
   public:
     ToolBarBinder(BoundForm& bound, platform::ToolBar& control, QToolBar& bar);

@@ -1,5 +1,6 @@
 #include "machine/qt/desktop/input_box.h"
 
+#include "machine/qt/desktop/dialog_frame.h"
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/typing/field_events.h"
@@ -41,7 +42,7 @@ class AnswerField : public QLineEdit {
 }  // namespace
 
 Text ask_for_text(const platform::InputBox& box, QWidget* parent) {
-    QDialog window(parent);
+    QDialog window(parent, DIALOG_FRAME);
     window.setObjectName(QStringLiteral("inputBox"));
     window.setWindowTitle(to_qstring(box.title));
     auto* layout = new QVBoxLayout(&window);

@@ -1,5 +1,6 @@
 #include "machine/qt/desktop/message_box.h"
 
+#include "machine/qt/desktop/dialog_frame.h"
 #include "machine/qt/desktop/typing_rest.h"
 #include "machine/qt/look/late_icon.h"
 #include "machine/qt/typing/conversion.h"
@@ -99,6 +100,7 @@ void type_later(QWidget& parent, const QString& text) {
 MessageBox::MessageBox(const platform::MessageBox& box, const QString& application_title,
                        const LastKey& last_key, QWidget* parent)
     : QMessageBox(parent), buttons_(box.buttons), last_key_(last_key), typing_rest_(*new TypingRest(*this)) {
+    setWindowFlags(DIALOG_FRAME);
     setObjectName(QStringLiteral("messageBox"));
     setWindowTitle(box.title.empty() ? application_title : to_qstring(box.title));
     // Texts contain what users have typed, and a "<" is not markup.

@@ -78,6 +78,7 @@ void DeskStyle::polish(QWidget* widget) {
         widget->setFont(font);
         return;
     }
+    if (look == QLatin1String("link")) widget->setForegroundRole(QPalette::Link);
     if (look == QLatin1String("muted")) widget->setForegroundRole(MUTED_TEXT);
     if (look == QLatin1String("failure")) widget->setForegroundRole(FAILURE_TEXT);
     if (look == QLatin1String("warning")) widget->setForegroundRole(WARNING_TEXT);
