@@ -67,6 +67,13 @@ class RecipientList : Room {
     /// becomes NO_NAME.
     bool add(platform::Text name, const platform::Text& number, platform::Text title);
 
+    /// Asks what becomes of somebody who is typed but not added, when there is one. Returns false when the
+    /// user wants to go back, or when the number is refused.
+    bool settle_typed();
+
+    /// Empties the fields in which a recipient is typed.
+    void empty_fields();
+
     /// Shows how many rows there are and how many are checked.
     void RECIPIENT_COUNT_CAPTION();
 
@@ -76,8 +83,9 @@ class RecipientList : Room {
     platform::TextView fault_of_row(const platform::ListItem& row) const;
     platform::RowMark mark_of(const platform::ListItem& row) const;
     void HText1_KeyPress(std::size_t index, platform::KeyPressed& key);
-    void add_typed();
-    void refuse_number(platform::Text text);
+    bool add_typed();
+    bool refuse_number(platform::Text text);
+    void return_number();
     bool point_at_duplicate(const platform::Text& number);
     void remove_selected();
     void pick_recipients();

@@ -1,5 +1,6 @@
 #include "send/frmZentSend.h"
 
+#include "core/boxes.h"
 #include "core/busy.h"
 #include "core/centring.h"
 #include "core/personal_text.h"
@@ -60,8 +61,16 @@ void frmZentSend::Form_Unload() {
     main_form_.Timer1.set_enabled(true);
 }
 
-/// A running job never ends unseen: closing the window asks it to stop.
-void frmZentSend::Form_Close() { job_started_ ? stop_or_close() : unload(); }
+/// A running job never ends unseen. What is registered cannot be taken back, nor a stop, and Escape is
+/// pressed for many reasons: so it asks first.
+void frmZentSend::Form_Close() {
+    if (!job_started_) return unload();
+    if (StopRequested) return;
+    const bool agreed =
+        platform_.desktop.closes_all() || core::ask(platform_.desktop, u"메시지 등록을 중지하시겠습니까?", {},
+                                                    platform::BoxIcon::question, platform::BoxAnswer::no);
+    if (agreed) stop_or_close();
+}
 
 void frmZentSend::stop_or_close() {
     // Deliberately not the caption that a finished job gives the button: a late click must not close the
@@ -72,6 +81,8 @@ void frmZentSend::stop_or_close() {
     }
     StopRequested = true;
     Command1.set_enabled(false);
+    Label1_1.set_caption(Label1_1.caption() + Text(platform::CRLF) +
+                         u"지금 등록 중인 메시지까지만 보내고 중지합니다.");
 }
 
 /// Whether the job waits on for the carrier.

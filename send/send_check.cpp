@@ -43,6 +43,7 @@ bool check_sound_file(const Platform& platform, frmZent& form) {
     form.voice.translate_machine_path();
     if (core::FILE_EXISTS(platform, form.voice.TTSFileTxt.text())) return true;
     core::warn(platform.desktop, u"첨부할 WAV파일을 선택하여 주십시오.");
+    form.voice.focus_source();
     return false;
 }
 
@@ -61,6 +62,7 @@ std::optional<Text> check_documents(const Platform& platform, frmZent& form) {
         const Text& path = documents.row(row).text();
         if (!core::FILE_EXISTS(platform, path)) {
             core::warn(platform.desktop, path + u"\r\n\r\n위 파일을 찾을 수 없습니다. 확인하여 주십시오.");
+            form.fax.FAX1.set_focus();
             return std::nullopt;
         }
         list += path + u";";
@@ -117,6 +119,7 @@ std::optional<Recipients> check_recipients(const Platform& platform, frmZent& fo
     const std::size_t rows = form.recipients.ListView1.row_count();
     if (rows == 0) {
         core::warn(platform.desktop, u"받는사람을 입력하여 주십시오!");
+        form.recipients.HText1[0].set_focus();
         return std::nullopt;
     }
     form.recipients.PBar1.set_value(0);
@@ -142,6 +145,7 @@ std::optional<Recipients> check_recipients(const Platform& platform, frmZent& fo
     if (recipients.count > 0) return recipients;
     platform.desktop.set_pointer(platform::Pointer::normal);
     core::warn(platform.desktop, u"받는사람을 선택하여 주십시오.");
+    form.recipients.ListView1.set_focus();
     return std::nullopt;
 }
 
@@ -195,6 +199,7 @@ void check_and_send(Platform& platform, AppState& state, frmZent& form, drafts::
     const CarrierKind& carrier = carrier_kind(kind, content_of(form));
     Text documents;
     if (!check_content(platform, form, carrier.content, documents)) return;
+    if (!form.recipients.settle_typed()) return;
     const auto recipients = check_recipients(platform, form, kind);
     if (!recipients || !schedule_is_possible(platform, form)) return;
 
@@ -210,6 +215,8 @@ void check_and_send(Platform& platform, AppState& state, frmZent& form, drafts::
         job.show_modal();
         form.recipients.RECIPIENT_COUNT_CAPTION();
         platform.desktop.set_pointer(platform::Pointer::normal);
+        // The same text often goes to the next people.
+        form.recipients.HText1[0].set_focus();
     }
     form.Timer1.set_enabled(true);
 }

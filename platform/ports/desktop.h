@@ -111,6 +111,9 @@ class Desktop {
     virtual void paint() = 0;
     virtual std::unique_ptr<InputWatch> watch_input() = 0;
 
+    /// Whether the whole program is being closed. Nobody is there then to answer a question.
+    virtual bool closes_all() const = 0;
+
     /// Whether a question waits for the user's answer. Until then nothing may change what it is about.
     bool question_stands() const { return questions_ > 0; }
 

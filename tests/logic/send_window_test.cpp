@@ -49,21 +49,39 @@ TEST(SendWindow, StartsOneJobHalfASecondAfterItsActivation) {
     EXPECT_TRUE(s.form.Timer1.enabled());
 }
 
-TEST(SendWindow, ClosingItStopsTheJobAndDisablesTheButton) {
-    const std::function<void(send::frmZentSend&)> ways[] = {
-        [](send::frmZentSend& job) { job.Command1.Click.raise(); },
-        [](send::frmZentSend& job) { job.close_requested(); },
-        [](send::frmZentSend& job) { job.escape_pressed(); },
+TEST(SendWindow, ItsButtonStopsTheJobAndClosingItAsksFirst) {
+    const MessageBox stop{.text = u"메시지 등록을 중지하시겠습니까?",
+                          .icon = BoxIcon::question,
+                          .buttons = BoxButtons::yes_no,
+                          .default_answer = BoxAnswer::no};
+    const struct {
+        std::function<void(send::frmZentSend&)> act;
+        bool asks, logs_out;
+    } ways[] = {
+        {[](send::frmZentSend& job) { job.Command1.Click.raise(); }, false, false},
+        {[](send::frmZentSend& job) { job.close_requested(); }, true, false},
+        {[](send::frmZentSend& job) { job.escape_pressed(); }, true, false},
+        {[](send::frmZentSend& job) { job.close_requested(); }, false, true},
     };
     for (const auto& way : ways) {
         Sending s;
         s.add_many(120);
+        s.desktop.logs_out = way.logs_out;
         s.at_pause(1, [&](send::frmZentSend& job) {
-            way(job);
+            if (way.asks) {
+                s.desktop.expect_box(stop, BoxAnswer::no);
+                way.act(job);
+                EXPECT_TRUE(job.Command1.enabled());
+                s.desktop.expect_box(stop, BoxAnswer::yes);
+                s.desktop.expect_box(tests::JOB_IS_STOPPED);
+            }
+            way.act(job);
+            job.escape_pressed();
             EXPECT_FALSE(job.Command1.enabled());
+            EXPECT_TRUE(job.Label1_1.caption().ends_with(u"중지합니다."));
             EXPECT_TRUE(job.loaded());
         });
-        s.desktop.expect_box(tests::JOB_IS_STOPPED);
+        if (!way.asks) s.desktop.expect_box(tests::JOB_IS_STOPPED);
         s.send();
         EXPECT_EQ(s.marks(), std::string(100, '-') + std::string(20, 'x'));
         EXPECT_EQ(s.status(100), "");

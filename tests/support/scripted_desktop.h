@@ -53,6 +53,7 @@ class ScriptedDesktop : public platform::Desktop {
     /// Runs whenever a long loop lets the windows paint.
     std::function<void()> during_paint = [] {};
     std::function<void()> during_yield = [] {};
+    bool logs_out = false;
     /// Runs while a box stands.
     std::function<void()> during_box = [] {};
     /// Whether the user presses a key while a handler runs.
@@ -76,6 +77,7 @@ class ScriptedDesktop : public platform::Desktop {
     void yield() override { during_yield(); }
     void paint() override { during_paint(); }
     std::unique_ptr<platform::InputWatch> watch_input() override;
+    bool closes_all() const override { return logs_out; }
 
     platform::Screen screen_size{
         .width = 28800, .height = 16200, .twips_per_pixel_x = 15, .twips_per_pixel_y = 15};

@@ -42,7 +42,7 @@ bool is_on_header_box(const QHeaderView& header, const QPoint& place) {
     return place.x() - header.sectionViewportPosition(0) < box;
 }
 
-bool moves_through_rows(const QKeyEvent& event) {
+bool moves(const QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Up:
         case Qt::Key_Down:
@@ -52,6 +52,8 @@ bool moves_through_rows(const QKeyEvent& event) {
         case Qt::Key_End:
         case Qt::Key_PageUp:
         case Qt::Key_PageDown:
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
             return true;
         case Qt::Key_Space:
             return event.modifiers() != Qt::NoModifier;
@@ -125,10 +127,10 @@ bool ListViewBinder::filter(QObject& object, QEvent& event) {
     }
 }
 
-/// The view itself handles the keys that move through the rows. It gets no letters, with which it would
-/// search the first column: that one is empty, and the handlers use letters.
+/// The view itself handles the keys that move through the rows or to the next control. It gets no letters,
+/// with which it would search the first column: that one is empty, and the handlers use letters.
 bool ListViewBinder::press_key(QKeyEvent& event) {
-    if (moves_through_rows(event)) return false;
+    if (moves(event)) return false;
     event.accept();
     if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier) {
         // Not every keyboard has the key for the menu.

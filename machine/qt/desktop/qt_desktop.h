@@ -2,6 +2,7 @@
 
 #include "machine/qt/desktop/file_dialog.h"
 #include "machine/qt/desktop/screens.h"
+#include "machine/qt/typing/last_key.h"
 #include "platform/ports/desktop.h"
 #include "platform/ports/files.h"
 
@@ -46,6 +47,7 @@ class QtDesktop : public platform::Desktop {
     void yield() override;
     void paint() override;
     std::unique_ptr<platform::InputWatch> watch_input() override;
+    bool closes_all() const override { return closing_.isActive(); }
 
   private:
     FormWindow* window_of(const platform::Form& form) const;
@@ -56,6 +58,7 @@ class QtDesktop : public platform::Desktop {
     const Screens& screens_;
     platform::Files& files_;
     FileDialog file_dialog_;
+    LastKey last_key_;
     std::map<const platform::Form*, QPointer<FormWindow>> windows_;
     QString title_;
     bool hourglass_ = false;
