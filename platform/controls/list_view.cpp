@@ -35,6 +35,7 @@ std::size_t ListView::add_row(Text text, std::vector<Text> sub_items, bool check
     added->checked_ = checked;
     if (checked) ++checked_count_;
     if (index_) index_->add(*added);
+    mark(*added);
     if (sorted_ && !filling_) added->sort_text_ = lower_case(added->sub_item(sort_key_));
     const bool at_end = !sorted_ || held_ || filling_;
     const std::size_t place = at_end ? rows_.size() : place_of(added->sort_text_);
@@ -96,6 +97,7 @@ void ListView::set_sub_item(std::size_t row, int sub_item, Text text) {
     if (index_) index_->remove(changed, sub_item);
     changed.sub_items_[static_cast<std::size_t>(sub_item - 1)] = std::move(text);
     if (index_) index_->add(changed, sub_item);
+    mark(changed);
     if (rows_view_ != nullptr) rows_view_->row_changed(row);
 }
 
@@ -109,6 +111,23 @@ void ListView::change_checked(std::size_t row, bool checked) {
     ++revision_;
     item(row).checked_ = checked;
     checked ? ++checked_count_ : --checked_count_;
+}
+
+void ListView::set_marking(Marking marking) {
+    marking_ = std::move(marking);
+    for (std::size_t row = 0; row < rows_.size(); ++row) {
+        const RowMark before = item(row).mark_;
+        mark(item(row));
+        if (item(row).mark_ != before && rows_view_ != nullptr) rows_view_->row_changed(row);
+    }
+}
+
+void ListView::mark(ListItem& row) const {
+    if (marking_.mark_of) row.mark_ = marking_.mark_of(row);
+}
+
+Text ListView::mark_reason(std::size_t row) const {
+    return marking_.reason_of ? marking_.reason_of(rows_[row]) : Text();
 }
 
 std::optional<std::size_t> ListView::selected_item() const {

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -44,7 +45,21 @@ class ListView : public Control {
         std::optional<int> picture = {};
         /// In twips; 0 keeps the screen's width.
         int width = 0;
+        /// How the user reads a text of the column; null shows it as it stands.
+        Text (*shown)(TextView text) = nullptr;
+        /// Whether the signs of the rows' marks stand here.
+        bool signs = false;
     };
+
+    /// How the rows are marked.
+    struct Marking {
+        std::function<RowMark(const ListItem& row)> mark_of;
+        /// What the user reads about the mark when he points at the row; empty when its texts say it all.
+        std::function<Text(const ListItem& row)> reason_of;
+    };
+
+    /// Which rows the user checks or unchecks at once.
+    enum class ManyRows { selected, all };
 
     ListView(Form& form, TextView name, std::vector<Column> columns, bool check_boxes = false)
         : Control(form, name), columns_(std::move(columns)), check_boxes_(check_boxes) {}
@@ -64,6 +79,10 @@ class ListView : public Control {
     /// The room for all columns in twips; 0 while nothing shows the list.
     int width() const { return width_; }
 
+    /// What the user reads in the list while it has no rows.
+    const Text& placeholder() const { return placeholder_; }
+    void set_placeholder(Text text) { assign(placeholder_, std::move(text), Aspect::rows); }
+
     std::size_t row_count() const { return rows_.size(); }
     /// Grows with every change of the rows' texts, marks and places.
     std::uint64_t revision() const { return revision_; }
@@ -82,6 +101,11 @@ class ListView : public Control {
     /// Raises no event.
     void set_checked(std::size_t row, bool checked);
     std::size_t checked_count() const { return checked_count_; }
+
+    /// Marks all rows, and from then on every row whose texts change.
+    void set_marking(Marking marking);
+    /// What the user reads about the row's mark.
+    Text mark_reason(std::size_t row) const;
 
     /// The one row that keys act on; none after it has gone or has been deselected.
     std::optional<std::size_t> selected_item() const;
@@ -108,11 +132,14 @@ class ListView : public Control {
 
     // What the user does.
     void user_check(std::size_t row, bool checked);
+    /// Whether many rows are checked is up to the handlers of CheckMany.
+    void user_check_many(ManyRows rows, bool checked) { CheckMany.raise(rows, checked); }
     void user_select(std::size_t row, bool selected);
     void user_selected_item(std::optional<std::size_t> row);
     void user_resized(int width);
 
     Event<std::size_t> ItemCheck;
+    UserEvent<ManyRows, bool> CheckMany{*this};
     UserEvent<int> ColumnClick{*this};
     UserEvent<KeyPressed&> KeyDown{*this};
     UserEvent<KeyPressed&> KeyPress{*this};
@@ -131,11 +158,14 @@ class ListView : public Control {
     bool stands_before(const Text& sort_text, const Text& other) const;
     std::size_t place_of(const Text& sort_text) const;
     void insert(std::size_t place, Row row);
+    void mark(ListItem& row) const;
 
     RowsView* rows_view_ = nullptr;
     std::vector<Column> columns_;
     bool check_boxes_;
+    Text placeholder_;
     RowSequence rows_;
+    Marking marking_;
     /// Made at the first search, because most lists are never searched.
     mutable std::optional<PrefixIndex> index_;
     ListItem* selected_item_ = nullptr;

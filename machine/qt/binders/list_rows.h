@@ -5,6 +5,7 @@
 
 #include <QItemSelection>
 #include <optional>
+#include <vector>
 
 class QTreeView;
 
@@ -57,6 +58,8 @@ class ListRows : public QObject, public platform::RowsView {
     std::optional<int> first_changed_;
     int last_changed_ = 0;
     std::optional<int> to_show_;
+    /// In twips, as the list has set them.
+    std::vector<int> widths_;
 };
 
 }  // namespace machine::qt

@@ -40,6 +40,9 @@ class ListViewModel : public QAbstractTableModel {
     void end_rearranging();
     void rows_changed(int first, int last);
     void columns_changed();
+    /// The header shows whether all rows are checked, some or none.
+    Qt::CheckState checked_rows() const;
+    void tell_checked_rows();
 
   signals:
     /// The user changed the row's check box.
@@ -52,6 +55,7 @@ class ListViewModel : public QAbstractTableModel {
     platform::ListView* list_;
     QList<QIcon> pictures_;
     int told_rows_;
+    Qt::CheckState told_checked_ = Qt::Unchecked;
 };
 
 }  // namespace machine::qt
