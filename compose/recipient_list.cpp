@@ -106,6 +106,10 @@ bool RecipientList::add(Text name, const Text& number, Text title) {
     return true;
 }
 
+void RecipientList::empty_fields() {
+    for (platform::TextBox& field : HText1) field.set_text(u"");
+}
+
 void RecipientList::RECIPIENT_COUNT_CAPTION() {
     Label4.set_caption(u"전체>" + platform::decimal(ListView1.row_count()) + u">대상>" +
                        platform::decimal(ListView1.checked_count()));
@@ -121,7 +125,28 @@ void RecipientList::HText1_KeyPress(std::size_t index, KeyPressed& key) {
     }
 }
 
-void RecipientList::add_typed() {
+bool RecipientList::settle_typed() {
+    const Text number = core::DIGITS_ONLY(HText1[1].text());
+    if (number.empty()) return true;
+    const platform::StandingQuestion question(platform_.desktop);
+    switch (platform_.desktop.message_box({.text = u"입력만 하고 추가하지 않은 받는사람이 있습니다.\r\n\r\n" +
+                                                   platform::trim(HText1[0].text() + u" " + number) +
+                                                   u"\r\n\r\n받는사람에 추가하고 보내시겠습니까?",
+                                           .icon = platform::BoxIcon::question,
+                                           .buttons = platform::BoxButtons::yes_no_cancel,
+                                           .default_answer = platform::BoxAnswer::yes})) {
+        case platform::BoxAnswer::yes:
+            return add_typed();
+        case platform::BoxAnswer::no:
+            return true;
+        default:
+            return_number();
+            return false;
+    }
+}
+
+/// Returns whether somebody was added.
+bool RecipientList::add_typed() {
     const Text number = core::DIGITS_ONLY(HText1[1].text());
     HText1[1].set_text(number);
     const Text number_caption(kind_->number.caption);
@@ -129,20 +154,27 @@ void RecipientList::add_typed() {
 
     // Before the number is checked: a few digits that begin a listed number are a duplicate, not a short
     // number.
-    if (point_at_duplicate(number)) return;
+    if (point_at_duplicate(number)) return false;
     if (const platform::TextView fault = fault_of_number(*kind_, number); !fault.empty())
         return refuse_number(wrong_number(number_caption, number, fault));
 
     add(platform::remove_all(core::without_separators(HText1[0].text()), u" "), number, {});
-    HText1[0].set_text(u"");
-    HText1[1].set_text(u"");
+    empty_fields();
     RECIPIENT_COUNT_CAPTION();
     HText1[0].set_focus();
+    return true;
 }
 
-void RecipientList::refuse_number(Text text) {
+bool RecipientList::refuse_number(Text text) {
     core::warn(platform_.desktop, std::move(text));
+    return_number();
+    return false;
+}
+
+/// Selected, so that the next number replaces it instead of being written in front of it.
+void RecipientList::return_number() {
     HText1[1].set_focus();
+    HText1[1].select_all();
 }
 
 bool RecipientList::point_at_duplicate(const Text& number) {
@@ -153,6 +185,7 @@ bool RecipientList::point_at_duplicate(const Text& number) {
     ListView1.select_item(*hit);
     // Deliberately the caption of column 2, the name, though numbers were compared: support knows the box so.
     core::warn(platform_.desktop, u"이미 동일한 " + ListView1.column(2).caption + u"가 존재합니다.");
+    return_number();
     return true;
 }
 
@@ -166,6 +199,7 @@ void RecipientList::pick_recipients() {
     state_.forms.gDialogConfirmed = false;
     pick_();
     if (ListView1.row_count() != rows || state_.forms.gDialogConfirmed) RECIPIENT_COUNT_CAPTION();
+    if (ListView1.row_count() != rows) ListView1.set_focus();
 }
 
 void RecipientList::CHECK_SELECTED_ITEMS(bool checked) {

@@ -3,6 +3,7 @@
 #include "compose/message_kinds.h"
 #include "compose/room.h"
 #include "core/app_state.h"
+#include "core/personal_text.h"
 #include "core/phone_number.h"
 #include "platform/controls/bars.h"
 #include "platform/controls/buttons.h"
@@ -25,8 +26,7 @@ inline constexpr int RECIPIENT_TITLE = 4;
 /// tag says of which text.
 inline constexpr int RECIPIENT_PIECES = 5;
 
-/// Stands for a recipient without a name.
-inline constexpr platform::TextView NO_NAME = u"이름없음";
+using core::NO_NAME;
 
 /// The recipients: typed, picked from the cards, or handed over by the card manager.
 class RecipientList : Room {
@@ -67,6 +67,13 @@ class RecipientList : Room {
     /// becomes NO_NAME.
     bool add(platform::Text name, const platform::Text& number, platform::Text title);
 
+    /// Asks what becomes of somebody who is typed but not added, when there is one. Returns false when the
+    /// user wants to go back, or when the number is refused.
+    bool settle_typed();
+
+    /// Empties the fields in which a recipient is typed.
+    void empty_fields();
+
     /// Shows how many rows there are and how many are checked.
     void RECIPIENT_COUNT_CAPTION();
 
@@ -76,8 +83,9 @@ class RecipientList : Room {
     platform::TextView fault_of_row(const platform::ListItem& row) const;
     platform::RowMark mark_of(const platform::ListItem& row) const;
     void HText1_KeyPress(std::size_t index, platform::KeyPressed& key);
-    void add_typed();
-    void refuse_number(platform::Text text);
+    bool add_typed();
+    bool refuse_number(platform::Text text);
+    void return_number();
     bool point_at_duplicate(const platform::Text& number);
     void remove_selected();
     void pick_recipients();

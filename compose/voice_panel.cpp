@@ -45,7 +45,10 @@ VoicePanel::VoicePanel(platform::Form& form, platform::Platform& platform, platf
     // The button has no action and never had one; the text above it gives the guidance.
     TTSBttn4.set_enabled(false);
 
-    TabStrip2.Click.connect([this] { show_source(); });
+    TabStrip2.Click.connect([this] {
+        show_source();
+        if (!TabStrip2.has_focus()) focus_source();
+    });
     ttsText.Change.connect([this] { ttsText_Change(); });
     ttsText.KeyPress.connect([this](platform::KeyPressed& key) {
         if (key.code == platform::KEY_BACKSPACE || core::BYTE_LEN(ttsText.text()) <= TTS_LIMIT) return;
@@ -68,6 +71,17 @@ void VoicePanel::show_source() {
     for (platform::Frame& panel : TPIC) panel.hide();
     TPIC[static_cast<std::size_t>(TabStrip2.selected() - 1)].show();
     stop_hidden_recording();
+}
+
+void VoicePanel::focus_source() {
+    switch (voice_source_of(*this)) {
+        case Content::speech:
+            return ttsText.set_focus();
+        case Content::recording:
+            return RFK1.set_focus();
+        default:
+            return TTSBttn1.set_focus();
+    }
 }
 
 Content voice_source_of(const VoicePanel& panel) {

@@ -154,6 +154,16 @@ void ListView::change_checked(std::size_t row, bool checked) {
     checked ? ++checked_count_ : --checked_count_;
 }
 
+void ListView::use_column(int number, Text (*shown)(TextView text)) {
+    for (int other = 1; other <= column_count(); ++other) {
+        Column& column = columns_[static_cast<std::size_t>(other - 1)];
+        column.in_use = other == number;
+        column.shown = column.in_use ? shown : nullptr;
+    }
+    if (rows_view_ != nullptr) rows_view_->columns_changed();
+    refresh(Aspect::rows);
+}
+
 void ListView::set_marking(Marking marking) {
     marking_ = std::move(marking);
     for (std::size_t row = 0; row < rows_.size(); ++row) {

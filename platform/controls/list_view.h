@@ -64,6 +64,8 @@ class ListView : public Control {
         bool signs = false;
         /// Whether the user may change the texts where they stand.
         bool editable = false;
+        /// Whether the column is the one that matters now.
+        bool in_use = false;
     };
 
     /// How the rows are marked.
@@ -91,6 +93,8 @@ class ListView : public Control {
     void set_column_caption(int number, Text caption);
     void set_column_picture(int number, std::optional<int> picture);
     void set_column_width(int number, int twips);
+    /// Marks the column as the one that matters now, and shows its texts so; no other column is marked then.
+    void use_column(int number, Text (*shown)(TextView text));
     /// The room for all columns in twips; 0 while nothing shows the list.
     int width() const { return width_; }
 
@@ -139,6 +143,9 @@ class ListView : public Control {
     void make_visible(std::size_t row) const;
     /// Lets the user change a text of the row where it stands. CellEdited tells what came of it.
     void edit(std::size_t row, int sub_item) const;
+    /// Whether the user sees which rows are selected; he need not where selecting was not his doing.
+    bool shows_selection() const { return shows_selection_; }
+    void show_selection(bool on) { assign(shows_selection_, on, Aspect::selection); }
 
     /// The first row with a sub-item that begins with the text.
     std::optional<std::size_t> find_in_sub_items(TextView beginning) const;
@@ -207,6 +214,7 @@ class ListView : public Control {
     int width_ = 0;
     bool held_ = false;
     bool filling_ = false;
+    bool shows_selection_ = true;
 };
 
 /// Fills a list for as long as this object lives: new rows stand at the end, and a sorted list is sorted once

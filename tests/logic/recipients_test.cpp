@@ -91,11 +91,21 @@ TEST_F(Typed, ANumberIsSearchedForAsADuplicateBeforeTheKindChecksIt) {
         if (added) expected = {"*김유신 01012345678", "계백 0317654321", "*!" + entry.row};
         EXPECT_EQ(rows(), expected);
         EXPECT_EQ(counts(), added ? "전체>3>대상>2" : "전체>2>대상>1");
-        EXPECT_EQ(form.recipients.HText1[1].has_focus(), !added && !duplicate);
+        EXPECT_EQ(form.recipients.HText1[1].has_focus(), !added);
         EXPECT_EQ(form.recipients.HText1[0].has_focus(), added);
         EXPECT_EQ(utf8(form.recipients.HText1[0].text()), added ? "" : utf8(entry.name))
             << "a refused entry stays";
         EXPECT_EQ(form.recipients.HText1[1].text().empty(), added || platform::trim(entry.number).empty());
+        EXPECT_EQ(form.recipients.HText1[1].selection_length(), form.recipients.HText1[1].text().size());
+    }
+}
+
+TEST_F(Typed, EscapeInTheFieldsEmptiesThemAndNothingElse) {
+    for (const bool in_the_fields : {false, true}) {
+        form.recipients.HText1[0].set_text(u"김");
+        in_the_fields ? form.recipients.HText1[1].set_focus() : form.text.mText1.set_focus();
+        form.escape_pressed();
+        EXPECT_EQ(form.recipients.HText1[0].text().empty(), in_the_fields);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "machine/qt/binders/display_binders.h"
 
+#include "machine/qt/binders/key_of_caption.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/animation_player.h"
 #include "platform/error.h"
@@ -37,7 +38,8 @@ LabelBinder::LabelBinder(BoundForm& bound, platform::Label& control, QLabel& lab
 }
 
 void LabelBinder::show(Aspect aspect) {
-    if (aspect == Aspect::caption) widget().setText(shown_text(control().caption()));
+    if (aspect == Aspect::caption)
+        widget().setText(caption_with_key(widget(), shown_text(control().caption())));
 }
 
 bool LabelBinder::filter(QObject&, QEvent& event) {

@@ -45,7 +45,7 @@ bool is_on_header_box(const QHeaderView& header, const QPoint& place) {
     return place.x() - header.sectionViewportPosition(0) < box;
 }
 
-bool moves_through_rows(const QKeyEvent& event) {
+bool moves(const QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Up:
         case Qt::Key_Down:
@@ -55,6 +55,8 @@ bool moves_through_rows(const QKeyEvent& event) {
         case Qt::Key_End:
         case Qt::Key_PageUp:
         case Qt::Key_PageDown:
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
             return true;
         case Qt::Key_Space:
             return event.modifiers() != Qt::NoModifier;
@@ -72,6 +74,7 @@ ListViewBinder::ListViewBinder(BoundForm& bound, platform::ListView& control, QT
     widths_.set(view.property("columnWidths").toStringList());
     view.setAcceptDrops(true);
     if (control.check_boxes()) view.header()->viewport()->installEventFilter(this);
+    show(platform::Aspect::selection);
     connect(&rows_.model(), &ListViewModel::checked_by_user, this, [this](std::size_t row, bool checked) {
         act([&] { this->control().user_check(row, checked); });
     });
@@ -94,7 +97,10 @@ void ListViewBinder::release() {
 }
 
 void ListViewBinder::show(platform::Aspect aspect) {
-    if (aspect == platform::Aspect::rows) widget().viewport()->update();
+    if (aspect == platform::Aspect::selection)
+        widget().setProperty("quietSelection", !control().shows_selection());
+    if (aspect == platform::Aspect::selection || aspect == platform::Aspect::rows)
+        widget().viewport()->update();
 }
 
 bool ListViewBinder::filter(QObject& object, QEvent& event) {
@@ -138,10 +144,10 @@ bool ListViewBinder::filter(QObject& object, QEvent& event) {
     }
 }
 
-/// The view itself handles the keys that move through the rows. It gets no letters, with which it would
-/// search the first column: that one is empty, and the handlers use letters.
+/// The view itself handles the keys that move through the rows or to the next control. It gets no letters,
+/// with which it would search the first column: that one is empty, and the handlers use letters.
 bool ListViewBinder::press_key(QKeyEvent& event) {
-    if (moves_through_rows(event)) return false;
+    if (moves(event)) return false;
     event.accept();
     if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier) {
         // Not every keyboard has the key for the menu.

@@ -5,6 +5,9 @@
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/marked_cell.h"
 
+#include <QApplication>
+#include <QFont>
+
 namespace machine::qt {
 
 using platform::ListItem;
@@ -60,6 +63,11 @@ QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int
     }
     const platform::ListView::Column& column = list_->column(section + 1);
     if (role == Qt::DisplayRole) return to_qstring(column.caption);
+    if (role == Qt::FontRole && column.in_use) {
+        QFont font = QApplication::font();
+        font.setBold(true);
+        return font;
+    }
     if (role == Qt::DecorationRole && section == 0 && list_->check_boxes())
         return check_box_icon(checked_rows());
     if (role == Qt::DecorationRole && column.picture) {

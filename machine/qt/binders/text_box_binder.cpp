@@ -3,8 +3,10 @@
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/typing/field_events.h"
+#include "machine/qt/typing/undoing.h"
 #include "machine/qt/widgets/multiline_edit.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
 #include <algorithm>
@@ -126,6 +128,10 @@ LineBinder::LineBinder(BoundForm& bound, TextBox& control, QLineEdit& edit) : Bi
 }
 
 bool LineBinder::filter(QObject&, QEvent& event) {
+    if (event.type() == QEvent::KeyPress) {
+        KeyPressed key{moving_key_code(static_cast<const QKeyEvent&>(event))};
+        if (key.code == platform::KEY_UP || key.code == platform::KEY_DOWN) control().KeyDown.raise(key);
+    }
     return filter_field_event(
         widget(), event, [this](KeyPressed& key) { press_key(key); },
         [this](bool begins) {
@@ -151,7 +157,7 @@ void LineBinder::join_lines() {
     if (const QString text = widget().text(); has_edit() && text != one_line(text)) {
         const auto caret = one_line(text.left(widget().cursorPosition())).size();
         const QScopedValueRollback<bool> working(working_, true);
-        widget().setText(one_line(text));
+        write_undoably(widget(), one_line(text));
         widget().setCursorPosition(static_cast<int>(caret));
     }
     edited();
@@ -174,7 +180,7 @@ Text LineBinder::pasted_lines() const {
 
 QString LineBinder::widget_text() const { return widget().text(); }
 
-void LineBinder::write(const QString& text) { widget().setText(text); }
+void LineBinder::write(const QString& text) { write_undoably(widget(), text); }
 
 void LineBinder::select(int start, int end) {
     if (start == end) {

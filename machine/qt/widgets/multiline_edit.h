@@ -13,6 +13,8 @@ namespace machine::qt {
 /// handler that cuts the text or opens a box at that time would corrupt its state.
 class MultilineEdit : public QPlainTextEdit {
     Q_OBJECT
+    /// Whether characters that the carrier cannot send are marked.
+    Q_PROPERTY(bool marks_lost MEMBER marks_lost_)
 
   public:
     explicit MultilineEdit(QWidget* parent = nullptr);
@@ -35,14 +37,20 @@ class MultilineEdit : public QPlainTextEdit {
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
 
   private:
     void work(const std::function<void()>& step);
+    void tell();
     void tell_later();
+    void mark_lost();
 
+    bool marks_lost_ = false;
     int working_ = 0;
+    /// Whether a write belongs to the last step that the user can take back.
+    bool joins_last_step_ = false;
 };
 
 }  // namespace machine::qt
