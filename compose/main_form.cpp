@@ -4,6 +4,8 @@
 #include "service/frmAbout.h"
 #include "service/service_pages.h"
 
+#include <algorithm>
+
 namespace compose {
 
 using platform::Text;
@@ -63,7 +65,12 @@ void frmZent::connect() {
     Command2.Click.connect([this] { unload(); });
     Command3.Click.connect([this] { start_anew(); });
     Command5.Click.connect([this] { show_caution(); });
-    if (doors_.saved_texts) text.MyMsgBttn.Click.connect(doors_.saved_texts);
+    if (doors_.saved_texts) {
+        text.MyMsgBttn.Click.connect([this] {
+            doors_.saved_texts();
+            focus_content();
+        });
+    }
 
     mnuSetup.Click.connect([this] { schedule.show_settings(); });
     mmuEnd.Click.connect([this] { unload(); });
@@ -86,6 +93,7 @@ void frmZent::connect() {
         text.start_if_empty();
         plus.start_if_empty();
         subject.follow_again();
+        focus_content();
     });
 }
 
@@ -128,6 +136,21 @@ void frmZent::show_kind() {
     start_text(kind.kind);
     subject.follow_again();
     voice.stop_hidden_recording();
+    // Who goes through the tabs with the arrow keys stays there.
+    if (!TabStrip1.has_focus()) focus_content();
+}
+
+void frmZent::focus_content() {
+    const KindOfMessage& kind = kind_of(*this);
+    if (kind.with_text) return plus.mText2.set_focus();
+    switch (kind.panel) {
+        case Panel::text:
+            return text.mText1.set_focus();
+        case Panel::voice:
+            return voice.focus_source();
+        case Panel::fax:
+            return fax.FAXBttn1.set_focus();
+    }
 }
 
 void frmZent::show_panel(Panel panel) {
@@ -150,6 +173,10 @@ void frmZent::start_text(MessageKind kind) {
         case MessageKind::end:
             return;
     }
+}
+
+void frmZent::Form_Escape() {
+    if (std::ranges::any_of(recipients.HText1, &platform::TextBox::has_focus)) recipients.empty_fields();
 }
 
 void frmZent::open_by_button(int index) {
@@ -187,6 +214,7 @@ void frmZent::start_anew() {
     voice.TTSFileTxt.set_text(u"");
     subject.subjectText.set_text(u"");
     recipients.RECIPIENT_COUNT_CAPTION();
+    focus_content();
 }
 
 void frmZent::show_caution() {

@@ -116,6 +116,9 @@ class frmZent : public platform::Form {
     /// Chooses the kind's tab, also when it is chosen already: its text begins anew.
     void choose(MessageKind kind) { TabStrip1.select(static_cast<int>(kind)); }
 
+    /// Gives the focus to where the user goes on writing: the kind's text, or what chooses its content.
+    void focus_content();
+
     /// Fills an empty subject from the text message, or with NO_SUBJECT.
     void subjectText_CHECK();
 
@@ -130,6 +133,7 @@ class frmZent : public platform::Form {
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Unload() override;
+    void Form_Escape() override;
 
   private:
     void connect();

@@ -28,8 +28,10 @@ PlusPanel::PlusPanel(platform::Form& form, platform::Desktop& desktop, platform:
 }
 
 void PlusPanel::start() {
-    mText2.set_text(sender_.sender_tag() + u"\r\n\r\n\r\n\r\n" + Text(CALL_LINE));
+    const Text sender = sender_.sender_tag();
+    mText2.set_text(sender + u"\r\n\r\n\r\n\r\n" + Text(CALL_LINE));
     mText2_Change();
+    mText2.select(sender.size(), 0);
 }
 
 void PlusPanel::start_if_empty() {

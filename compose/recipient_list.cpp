@@ -1,14 +1,16 @@
 #include "compose/recipient_list.h"
 
 #include "compose/questions.h"
+#include "compose/recipient_status.h"
 #include "core/boxes.h"
-#include "core/phone_number.h"
 #include "platform/controls/list_columns.h"
 #include "platform/error.h"
 
 namespace compose {
 
 using platform::KeyPressed;
+using platform::ListItem;
+using platform::RowMark;
 using platform::Text;
 
 namespace {
@@ -28,6 +30,10 @@ RecipientList::RecipientList(platform::Form& form, platform::Platform& platform,
     PBar1.hide();
     Command7.set_enabled(pick_ != nullptr);
     mnusubpopup1.set_enabled(pick_ != nullptr);
+    ListView1.set_placeholder(
+        u"이름과 번호를 입력하고 Enter를 누르거나\n명함DB에서 불러오거나, 표에서 복사한 줄을 "
+        u"붙여넣으십시오.");
+    mark_rows();
     connect();
 }
 
@@ -39,6 +45,8 @@ void RecipientList::connect() {
     HBttn2.Click.connect([this] { remove_selected(); });
     Command7.Click.connect([this] { pick_recipients(); });
     ListView1.ItemCheck.connect([this](std::size_t row) { row_checked(row); });
+    ListView1.CheckMany.connect(
+        [this](platform::ListView::ManyRows rows, bool checked) { check_rows(rows, checked); });
     ListView1.ColumnClick.connect([this](int column) { sort_by(column); });
     ListView1.KeyDown.connect([this](KeyPressed& key) {
         if (key.code == platform::KEY_DELETE) remove_selected();
@@ -60,6 +68,32 @@ void RecipientList::set_kind(const KindOfMessage& kind) {
     kind_ = &kind;
     ListView1.set_column_caption(RECIPIENT_NUMBER + 1, Text(kind.number.caption));
     Label2_5.set_caption(Text(kind.number.caption) + u":");
+    mark_rows();
+}
+
+void RecipientList::mark_rows() {
+    ListView1.set_marking({.mark_of = [this](const ListItem& row) { return mark_of(row); },
+                           .reason_of = [this](const ListItem& row) { return Text(fault_of_row(row)); }});
+}
+
+/// Why the kind cannot reach the recipient, unless a job has said more about it.
+platform::TextView RecipientList::fault_of_row(const ListItem& row) const {
+    if (outcome_of(row.sub_item(RECIPIENT_STATUS)) != Outcome::open) return {};
+    return fault_of_number(*kind_, core::DIGITS_ONLY(row.sub_item(RECIPIENT_NUMBER)));
+}
+
+platform::RowMark RecipientList::mark_of(const ListItem& row) const {
+    switch (outcome_of(row.sub_item(RECIPIENT_STATUS))) {
+        case Outcome::registered:
+            return RowMark::done;
+        case Outcome::failed:
+            return RowMark::failed;
+        case Outcome::unconfirmed:
+            return RowMark::uncertain;
+        case Outcome::open:
+            break;
+    }
+    return fault_of_row(row).empty() ? RowMark::none : RowMark::unusable;
 }
 
 bool RecipientList::add(Text name, const Text& number, Text title) {
@@ -70,6 +104,10 @@ bool RecipientList::add(Text name, const Text& number, Text title) {
     ListView1.make_visible(row);
     ListView1.select_item(row);
     return true;
+}
+
+void RecipientList::empty_fields() {
+    for (platform::TextBox& field : HText1) field.set_text(u"");
 }
 
 void RecipientList::RECIPIENT_COUNT_CAPTION() {
@@ -87,7 +125,28 @@ void RecipientList::HText1_KeyPress(std::size_t index, KeyPressed& key) {
     }
 }
 
-void RecipientList::add_typed() {
+bool RecipientList::settle_typed() {
+    const Text number = core::DIGITS_ONLY(HText1[1].text());
+    if (number.empty()) return true;
+    const platform::StandingQuestion question(platform_.desktop);
+    switch (platform_.desktop.message_box({.text = u"입력만 하고 추가하지 않은 받는사람이 있습니다.\r\n\r\n" +
+                                                   platform::trim(HText1[0].text() + u" " + number) +
+                                                   u"\r\n\r\n받는사람에 추가하고 보내시겠습니까?",
+                                           .icon = platform::BoxIcon::question,
+                                           .buttons = platform::BoxButtons::yes_no_cancel,
+                                           .default_answer = platform::BoxAnswer::yes})) {
+        case platform::BoxAnswer::yes:
+            return add_typed();
+        case platform::BoxAnswer::no:
+            return true;
+        default:
+            return_number();
+            return false;
+    }
+}
+
+/// Returns whether somebody was added.
+bool RecipientList::add_typed() {
     const Text number = core::DIGITS_ONLY(HText1[1].text());
     HText1[1].set_text(number);
     const Text number_caption(kind_->number.caption);
@@ -95,20 +154,27 @@ void RecipientList::add_typed() {
 
     // Before the number is checked: a few digits that begin a listed number are a duplicate, not a short
     // number.
-    if (point_at_duplicate(number)) return;
+    if (point_at_duplicate(number)) return false;
     if (const platform::TextView fault = fault_of_number(*kind_, number); !fault.empty())
         return refuse_number(wrong_number(number_caption, number, fault));
 
     add(platform::remove_all(core::without_separators(HText1[0].text()), u" "), number, {});
-    HText1[0].set_text(u"");
-    HText1[1].set_text(u"");
+    empty_fields();
     RECIPIENT_COUNT_CAPTION();
     HText1[0].set_focus();
+    return true;
 }
 
-void RecipientList::refuse_number(Text text) {
+bool RecipientList::refuse_number(Text text) {
     core::warn(platform_.desktop, std::move(text));
+    return_number();
+    return false;
+}
+
+/// Selected, so that the next number replaces it instead of being written in front of it.
+void RecipientList::return_number() {
     HText1[1].set_focus();
+    HText1[1].select_all();
 }
 
 bool RecipientList::point_at_duplicate(const Text& number) {
@@ -119,6 +185,7 @@ bool RecipientList::point_at_duplicate(const Text& number) {
     ListView1.select_item(*hit);
     // Deliberately the caption of column 2, the name, though numbers were compared: support knows the box so.
     core::warn(platform_.desktop, u"이미 동일한 " + ListView1.column(2).caption + u"가 존재합니다.");
+    return_number();
     return true;
 }
 
@@ -132,17 +199,21 @@ void RecipientList::pick_recipients() {
     state_.forms.gDialogConfirmed = false;
     pick_();
     if (ListView1.row_count() != rows || state_.forms.gDialogConfirmed) RECIPIENT_COUNT_CAPTION();
+    if (ListView1.row_count() != rows) ListView1.set_focus();
 }
 
 void RecipientList::CHECK_SELECTED_ITEMS(bool checked) {
-    if (!ListView1.selected_item()) return;
+    if (ListView1.selected_item()) check_rows(platform::ListView::ManyRows::selected, checked);
+}
+
+void RecipientList::check_rows(platform::ListView::ManyRows which, bool checked) {
     const std::size_t rows = ListView1.row_count();
     if (rows > LONG_LIST) {
         PBar1.set_value(0);
         PBar1.show();
     }
     for (std::size_t row = 0; row < rows; ++row) {
-        if (ListView1.row(row).selected()) {
+        if (which == platform::ListView::ManyRows::all || ListView1.row(row).selected()) {
             ListView1.set_checked(row, checked);
             if (checked) ListView1.set_sub_item(row, RECIPIENT_STATUS, u"");
         }

@@ -82,6 +82,7 @@ TextPanel::TextPanel(platform::Form& form, platform::Platform& platform, Subject
 void TextPanel::start() {
     mText1.set_text(sender_.sender_tag());
     mText1_Change();
+    mText1.set_caret_to_end();
 }
 
 void TextPanel::start_if_empty() {
@@ -100,6 +101,7 @@ Text TextPanel::body() const {
 void TextPanel::insert(const Text& text) {
     platform_.desktop.set_clipboard(text);
     mText1.paste(text);
+    mText1.set_focus();
 }
 
 void TextPanel::mText1_Change() {
@@ -160,6 +162,7 @@ void TextPanel::apply(Text text) {
         }
     }
     mText1.set_text(text);
+    mText1.set_caret_to_end();
     // The answer was for this text only: the user is asked again at the next edit.
     mText1.set_tag(u"");
     applied_long_ = agreed;

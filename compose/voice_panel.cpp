@@ -45,7 +45,10 @@ VoicePanel::VoicePanel(platform::Form& form, platform::Platform& platform, platf
     // The button has no action and never had one; the text above it gives the guidance.
     TTSBttn4.set_enabled(false);
 
-    TabStrip2.Click.connect([this] { show_source(); });
+    TabStrip2.Click.connect([this] {
+        show_source();
+        if (!TabStrip2.has_focus()) focus_source();
+    });
     ttsText.Change.connect([this] { ttsText_Change(); });
     ttsText.KeyPress.connect([this](platform::KeyPressed& key) {
         if (key.code == platform::KEY_BACKSPACE || core::BYTE_LEN(ttsText.text()) <= TTS_LIMIT) return;
@@ -56,6 +59,7 @@ VoicePanel::VoicePanel(platform::Form& form, platform::Platform& platform, platf
     // A cancelled dialog ends a handler silently, and so does a failure on the way.
     TTSBttn0.Click.connect([this] { platform::ignore_errors([this] { save_recording(); }); });
     TTSBttn1.Click.connect([this] { platform::ignore_errors([this] { choose_sound_file(); }); });
+    Frame1.Drop.connect([this](const platform::Dropped& dropped) { take_dropped(dropped); });
     TTSBttn2.Click.connect([this] { TTSFileTxt.set_text(u""); });
     TTSBttn3.Click.connect([this] {
         translate_machine_path();
@@ -68,6 +72,17 @@ void VoicePanel::show_source() {
     for (platform::Frame& panel : TPIC) panel.hide();
     TPIC[static_cast<std::size_t>(TabStrip2.selected() - 1)].show();
     stop_hidden_recording();
+}
+
+void VoicePanel::focus_source() {
+    switch (voice_source_of(*this)) {
+        case Content::speech:
+            return ttsText.set_focus();
+        case Content::recording:
+            return RFK1.set_focus();
+        default:
+            return TTSBttn1.set_focus();
+    }
 }
 
 Content voice_source_of(const VoicePanel& panel) {
@@ -125,6 +140,13 @@ void VoicePanel::choose_sound_file() {
     dialog_.set_up(u"음성파일 선택", Text(WAV_FILTER));
     dialog_.show_open();
     TTSFileTxt.set_text(dialog_.file_name());
+}
+
+void VoicePanel::take_dropped(const platform::Dropped& dropped) {
+    if (dropped.files.size() != 1 || !platform::lower_case(dropped.files.front()).ends_with(u".wav"))
+        return core::warn(platform_.desktop, u"첨부할 WAV파일을 선택하여 주십시오.");
+    TabStrip2.select(3);
+    TTSFileTxt.set_text(dropped.files.front());
 }
 
 }  // namespace compose

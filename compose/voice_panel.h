@@ -45,6 +45,9 @@ class VoicePanel : Room {
 
     void ttsText_Change();
 
+    /// Gives the focus to what makes the voice: the text, the recorder, or the button that chooses a file.
+    void focus_source();
+
     /// Rewrites a sound file's path that the user pasted as the operating system spells it.
     void translate_machine_path();
 
@@ -57,6 +60,7 @@ class VoicePanel : Room {
     void ask_before_replacing(bool& may);
     void save_recording();
     void choose_sound_file();
+    void take_dropped(const platform::Dropped& dropped);
 
     platform::Platform& platform_;
     platform::CommonDialog& dialog_;

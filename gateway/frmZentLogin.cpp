@@ -114,6 +114,7 @@ void frmZentLogin::start_login() {
     }
     if (core::play_film(platform_, Animation1, core::login_film(platform_))) Animation1.show();
     Picture1.show();
+    for (platform::CommandButton* other : {&Command3, &Command4, &Command5}) other->set_enabled(false);
     // The bind stops the one thread there is, so it starts in a tick of its own, after the busy picture is
     // painted.
     Timer1.set_enabled(true);
@@ -176,6 +177,7 @@ void frmZentLogin::hide_busy_picture() {
     Animation1.stop();
     Animation1.hide();
     Picture1.hide();
+    for (platform::CommandButton* other : {&Command3, &Command4, &Command5}) other->set_enabled(true);
 }
 
 }  // namespace gateway

@@ -1,9 +1,10 @@
 #include "send/frmZentSend.h"
 
+#include "core/boxes.h"
 #include "core/busy.h"
 #include "core/centring.h"
+#include "core/personal_text.h"
 #include "platform/text/format.h"
-#include "send/recipient_text.h"
 
 namespace send {
 
@@ -26,6 +27,7 @@ frmZentSend::frmZentSend(platform::Platform& platform, core::AppState& state, co
       main_form_(main_form),
       drafts_(drafts),
       gateway_(platform, state) {
+    Failed.hide();
     set_caption(u"폰디라 서버에 메시지 등록...");
     Command1.set_tool_tip(u"메시지 등록을 중지합니다.");
     // Until the job begins there is nothing to stop, and a second Enter on the confirmation lands here.
@@ -59,8 +61,16 @@ void frmZentSend::Form_Unload() {
     main_form_.Timer1.set_enabled(true);
 }
 
-/// A running job never ends unseen: closing the window asks it to stop.
-void frmZentSend::Form_Close() { job_started_ ? stop_or_close() : unload(); }
+/// A running job never ends unseen. What is registered cannot be taken back, nor a stop, and Escape is
+/// pressed for many reasons: so it asks first.
+void frmZentSend::Form_Close() {
+    if (!job_started_) return unload();
+    if (StopRequested) return;
+    const bool agreed =
+        platform_.desktop.closes_all() || core::ask(platform_.desktop, u"메시지 등록을 중지하시겠습니까?", {},
+                                                    platform::BoxIcon::question, platform::BoxAnswer::no);
+    if (agreed) stop_or_close();
+}
 
 void frmZentSend::stop_or_close() {
     // Deliberately not the caption that a finished job gives the button: a late click must not close the
@@ -71,6 +81,8 @@ void frmZentSend::stop_or_close() {
     }
     StopRequested = true;
     Command1.set_enabled(false);
+    Label1_1.set_caption(Label1_1.caption() + Text(platform::CRLF) +
+                         u"지금 등록 중인 메시지까지만 보내고 중지합니다.");
 }
 
 /// Whether the job waits on for the carrier.
@@ -86,7 +98,7 @@ bool frmZentSend::is_personal() const {
 
 void frmZentSend::run_routine_of_draft() {
     Timer1.set_enabled(false);
-    if (is_personal() && has_placeholder(main_form_.text.mText1.text())) {
+    if (is_personal() && core::has_placeholder(main_form_.text.mText1.text())) {
         SEND_PERSONAL();
     } else {
         SEND_BATCHES(caption());

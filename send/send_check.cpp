@@ -4,8 +4,10 @@
 #include "core/paths.h"
 #include "core/phone_number.h"
 #include "core/work_folders.h"
+#include "platform/text/cp949.h"
 #include "send/confirmation.h"
 #include "send/draft.h"
+#include "send/forecast.h"
 #include "send/frmZentSend.h"
 #include "send/pieces.h"
 
@@ -41,6 +43,7 @@ bool check_sound_file(const Platform& platform, frmZent& form) {
     form.voice.translate_machine_path();
     if (core::FILE_EXISTS(platform, form.voice.TTSFileTxt.text())) return true;
     core::warn(platform.desktop, u"첨부할 WAV파일을 선택하여 주십시오.");
+    form.voice.focus_source();
     return false;
 }
 
@@ -59,6 +62,7 @@ std::optional<Text> check_documents(const Platform& platform, frmZent& form) {
         const Text& path = documents.row(row).text();
         if (!core::FILE_EXISTS(platform, path)) {
             core::warn(platform.desktop, path + u"\r\n\r\n위 파일을 찾을 수 없습니다. 확인하여 주십시오.");
+            form.fax.FAX1.set_focus();
             return std::nullopt;
         }
         list += path + u";";
@@ -115,6 +119,7 @@ std::optional<Recipients> check_recipients(const Platform& platform, frmZent& fo
     const std::size_t rows = form.recipients.ListView1.row_count();
     if (rows == 0) {
         core::warn(platform.desktop, u"받는사람을 입력하여 주십시오!");
+        form.recipients.HText1[0].set_focus();
         return std::nullopt;
     }
     form.recipients.PBar1.set_value(0);
@@ -140,15 +145,39 @@ std::optional<Recipients> check_recipients(const Platform& platform, frmZent& fo
     if (recipients.count > 0) return recipients;
     platform.desktop.set_pointer(platform::Pointer::normal);
     core::warn(platform.desktop, u"받는사람을 선택하여 주십시오.");
+    form.recipients.ListView1.set_focus();
     return std::nullopt;
 }
 
-bool confirmed(Platform& platform, AppState& state, const CarrierKind& kind, const Text& text) {
+/// Takes the characters that the carrier cannot send out of what goes to it.
+void take_out_lost_characters(frmZent& form, const CarrierKind& kind) {
+    const auto take_out = [](platform::TextBox& field) {
+        field.set_text(platform::without_lost_in_cp949(field.text()));
+    };
+    // Before the text changes, which the subject may follow.
+    const Text subject = platform::without_lost_in_cp949(form.subject.subjectText.text());
+    if (kind.sms) take_out(kind.content == Content::text ? form.text.mText1 : form.plus.mText2);
+    if (kind.tts) take_out(form.voice.ttsText);
+    form.subject.subjectText.set_text(subject);
+}
+
+bool confirmed(Platform& platform, AppState& state, frmZent& form, const CarrierKind& kind,
+               const Recipients& recipients, Text& documents) {
     state.forms.gDialogConfirmed = false;
     frmSBox box(platform, state);
+    const auto show_draft = [&] {
+        const auto message = message_of_draft(form, &kind, documents, platform.clock.now());
+        box.show_draft(form, confirmation_text(form, kind, recipients), recipients.count,
+                       forecast_of(form, message));
+    };
     box.load();
-    box.Text1.set_text(Text(platform::CRLF) + text);
     box.Label1.set_caption(Text(kind.name) + u" 발송을 시작하시겠습니까?");
+    show_draft();
+    box.TakeOut.Click.connect([&] {
+        take_out_lost_characters(form, kind);
+        // Nothing may be left.
+        check_content(platform, form, kind.content, documents) ? show_draft() : box.cancel();
+    });
     box.show_modal();
     return state.forms.gDialogConfirmed;
 }
@@ -170,13 +199,14 @@ void check_and_send(Platform& platform, AppState& state, frmZent& form, drafts::
     const CarrierKind& carrier = carrier_kind(kind, content_of(form));
     Text documents;
     if (!check_content(platform, form, carrier.content, documents)) return;
+    if (!form.recipients.settle_typed()) return;
     const auto recipients = check_recipients(platform, form, kind);
     if (!recipients || !schedule_is_possible(platform, form)) return;
 
     // No hand-over of the card manager may change the list while the user reads the box.
     form.Timer1.set_enabled(false);
-    if (confirmed(platform, state, carrier, confirmation_text(form, carrier, *recipients)) &&
-        settle_pieces(platform, form) && drafts.ready_for_job()) {
+    if (confirmed(platform, state, form, carrier, *recipients, documents) && settle_pieces(platform, form) &&
+        drafts.ready_for_job()) {
         frmZentSend job(platform, state, form, drafts);
         job.load();
         job.set_caption(Text(carrier.name));
@@ -185,6 +215,8 @@ void check_and_send(Platform& platform, AppState& state, frmZent& form, drafts::
         job.show_modal();
         form.recipients.RECIPIENT_COUNT_CAPTION();
         platform.desktop.set_pointer(platform::Pointer::normal);
+        // The same text often goes to the next people.
+        form.recipients.HText1[0].set_focus();
     }
     form.Timer1.set_enabled(true);
 }

@@ -21,6 +21,7 @@ void frmAbout::Form_Load() {
     set_caption(Text(core::APPLICATION_TITLE) + u" 정보");
     Label1_0.set_caption(Text(core::APPLICATION_TITLE));
     Label1_1.set_caption(u"버전:" + core::deployment::version());
+    Command1.set_focus();
 }
 
 }  // namespace service

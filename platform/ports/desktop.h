@@ -98,8 +98,12 @@ class Desktop {
 
     virtual void set_pointer(Pointer pointer) = 0;
     virtual void set_clipboard(const Text& text) = 0;
+    virtual Text clipboard_text() const = 0;
     virtual Screen screen() const = 0;
     virtual void set_application_title(const Text& title) = 0;
+    /// Tells a user who looks at another program that something long has ended. Anybody who sees the screen
+    /// may read it.
+    virtual void notify(const Text& text) = 0;
 
     /// Handles the waiting events once.
     virtual void yield() = 0;
@@ -107,6 +111,9 @@ class Desktop {
     /// only as often as an eye can notice.
     virtual void paint() = 0;
     virtual std::unique_ptr<InputWatch> watch_input() = 0;
+
+    /// Whether the whole program is being closed. Nobody is there then to answer a question.
+    virtual bool closes_all() const = 0;
 
     /// Whether a question waits for the user's answer. Until then nothing may change what it is about.
     bool question_stands() const { return questions_ > 0; }

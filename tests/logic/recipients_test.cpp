@@ -91,11 +91,21 @@ TEST_F(Typed, ANumberIsSearchedForAsADuplicateBeforeTheKindChecksIt) {
         if (added) expected = {"*김유신 01012345678", "계백 0317654321", "*!" + entry.row};
         EXPECT_EQ(rows(), expected);
         EXPECT_EQ(counts(), added ? "전체>3>대상>2" : "전체>2>대상>1");
-        EXPECT_EQ(form.recipients.HText1[1].has_focus(), !added && !duplicate);
+        EXPECT_EQ(form.recipients.HText1[1].has_focus(), !added);
         EXPECT_EQ(form.recipients.HText1[0].has_focus(), added);
         EXPECT_EQ(utf8(form.recipients.HText1[0].text()), added ? "" : utf8(entry.name))
             << "a refused entry stays";
         EXPECT_EQ(form.recipients.HText1[1].text().empty(), added || platform::trim(entry.number).empty());
+        EXPECT_EQ(form.recipients.HText1[1].selection_length(), form.recipients.HText1[1].text().size());
+    }
+}
+
+TEST_F(Typed, EscapeInTheFieldsEmptiesThemAndNothingElse) {
+    for (const bool in_the_fields : {false, true}) {
+        form.recipients.HText1[0].set_text(u"김");
+        in_the_fields ? form.recipients.HText1[1].set_focus() : form.text.mText1.set_focus();
+        form.escape_pressed();
+        EXPECT_EQ(form.recipients.HText1[0].text().empty(), in_the_fields);
     }
 }
 
@@ -172,6 +182,38 @@ TEST_F(Checking, ProgressShowsAboveFiveHundredRowsOnly) {
     form.recipients.mnusubpopup5.Click.raise();
     EXPECT_EQ(form.recipients.PBar1.value(), 100);
     EXPECT_FALSE(form.recipients.PBar1.visible());
+}
+
+TEST_F(Checking, TheBoxInTheHeaderChecksEveryRow) {
+    add(u"가", u"010", u"등록성공", false);
+    add(u"나", u"011", u"등록실패", true);
+    form.recipients.ListView1.user_check_many(platform::ListView::ManyRows::all, true);
+    EXPECT_EQ(rows(), (Rows{"*가 010", "*나 011"}));
+    EXPECT_EQ(counts(), "전체>2>대상>2");
+}
+
+TEST_F(Recipients, ARowIsMarkedByItsStatusAndOtherwiseByWhetherTheKindReachesIt) {
+    using platform::RowMark;
+    const struct {
+        const char16_t *number, *status;
+        RowMark as_text, as_fax;
+    } people[] = {{u"01012345678", u"", RowMark::none, RowMark::unusable},
+                  {u"0317654321", u"", RowMark::unusable, RowMark::none},
+                  {u"0317654321", u"2/3 등록", RowMark::unusable, RowMark::none},
+                  {u"0317654321", u"등록성공", RowMark::done, RowMark::done},
+                  {u"0317654321", u"등록실패X6(Pondira 응답 없음)", RowMark::failed, RowMark::failed},
+                  {u"0317654321", u"실패", RowMark::failed, RowMark::failed},
+                  {u"0317654321", u"확인필요", RowMark::uncertain, RowMark::uncertain}};
+    platform::ListView& list = form.recipients.ListView1;
+    for (const auto& person : people) add(u"가", person.number, person.status);
+    for (std::size_t row = 0; row < std::size(people); ++row)
+        EXPECT_EQ(list.row(row).mark(), people[row].as_text) << row;
+    EXPECT_EQ(utf8(list.mark_reason(1)), TEXT_ONLY);
+    form.choose(compose::MessageKind::fax);
+    for (std::size_t row = 0; row < std::size(people); ++row)
+        EXPECT_EQ(list.row(row).mark(), people[row].as_fax) << row;
+    EXPECT_EQ(utf8(list.mark_reason(0)), NO_FAX);
+    EXPECT_EQ(utf8(list.mark_reason(3)), "");
 }
 
 TEST_F(Recipients, CtrlAAndTheMenuSelectEveryRowAndTheRightButtonOpensTheMenu) {

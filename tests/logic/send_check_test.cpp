@@ -43,13 +43,13 @@ TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsCorrected) {
          u"음성으로 변환할 TTS내용을 입력하십시오.", u"ttsText"},
         {"a sound file that has gone",
          [&](Sending& s) { voice(s, 3, 3), s.form.voice.TTSFileTxt.set_text(u"c:\\a.wav"); },
-         u"첨부할 WAV파일을 선택하여 주십시오.", u""},
+         u"첨부할 WAV파일을 선택하여 주십시오.", u"TTSBttn1"},
         {"no document", [&](Sending& s) { fax(s, {}); }, u"보낼문서를 지정하여 주십시오.", u"FAXBttn1"},
         {"a document that has gone",
          [&](Sending& s) {
              fax(s, {u"c:\\a.txt", u"c:\\b.txt"});
          },
-         u"c:\\b.txt\r\n\r\n위 파일을 찾을 수 없습니다. 확인하여 주십시오.", u""},
+         u"c:\\b.txt\r\n\r\n위 파일을 찾을 수 없습니다. 확인하여 주십시오.", u"FAX1"},
         {"no number", [](Sending& s) { s.add(u"b", u" "); },
          u"이름 ' ' 오류입니다.\r\n\r\n(전송할 이름을(를) 입력하여 주십시오.)", u"ListView1"},
         {"a fixed line for a text", [](Sending& s) { s.add(u"b", u"0212345678"); }, MOBILE_ONLY,
@@ -71,11 +71,33 @@ TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsCorrected) {
         Sending s;
         s.add(u"a", u"01011112222");
         refusal.make(s);
+        s.form.Command1.set_focus();
         s.desktop.expect_box(tests::refusal(refusal.words));
         s.click();
         EXPECT_EQ(utf8(s.form.focused() ? s.form.focused()->name() : Text()), utf8(refusal.focus));
         EXPECT_FALSE(s.form.recipients.PBar1.visible());
         EXPECT_TRUE(s.desktop.forms.empty());
+    }
+}
+
+TEST(SendCheck, LeavesNobodyOutWhoIsTypedButNotAdded) {
+    const MessageBox question{
+        .text =
+            u"입력만 하고 추가하지 않은 받는사람이 있습니다.\r\n\r\n남은사람 01099998888"
+            u"\r\n\r\n받는사람에 추가하고 보내시겠습니까?",
+        .icon = BoxIcon::question,
+        .buttons = BoxButtons::yes_no_cancel,
+        .default_answer = BoxAnswer::yes};
+    for (const auto& [answer, sent] :
+         {std::pair(BoxAnswer::yes, 2U), std::pair(BoxAnswer::no, 1U), std::pair(BoxAnswer::cancel, 0U)}) {
+        Sending s;
+        s.add(u"a", u"01011112222");
+        s.form.recipients.HText1[0].set_text(u"남은사람");
+        s.form.recipients.HText1[1].set_text(u"010-9999-8888");
+        s.desktop.expect_box(question, answer);
+        sent > 0 ? s.send() : s.click();
+        EXPECT_EQ(s.marks(), std::string(sent, '-') + (sent == 0 ? "x" : ""));
+        EXPECT_EQ(s.form.recipients.HText1[1].text().empty(), answer == BoxAnswer::yes);
     }
 }
 

@@ -321,6 +321,8 @@ TEST_F(HangulLimits, APlaceholderGoesBehindTheUnfinishedSyllableOfAnUnlimitedTex
                                            QWidget* rows = find<QComboBox>("Combo3").view();
                                            QTest::keyClick(rows, Qt::Key_Down);
                                            QTest::keyClick(rows, Qt::Key_Return);
+                                           // This desktop leaves no window active behind a list.
+                                           find("mText1").activateWindow();
                                            EXPECT_EQ(draft.form.text.Combo3.list_index(), 1);
                                        },
                                        "", AT_79 + u"한{이름}", u"가나다라a한"}});
@@ -408,7 +410,7 @@ TEST_F(HangulLimits, AnotherKindBeginsItsTextWithoutTheUnfinishedSyllable) {
             draft.field().set_focus();
             draft.leave_han_unfinished();
             click_tab(compose::MessageKind::text);
-            EXPECT_EQ(draft.form.plus.mText2.text(), u"한" + plus);
+            EXPECT_EQ(draft.form.plus.mText2.text(), Text(plus).insert(3, u"한")) << "behind the sender";
             EXPECT_EQ(draft.form.text.mText1.text(), u"[홍]");
             EXPECT_EQ(find<machine::qt::MultilineEdit>("mText1").committed_text(), "[홍]");
         }

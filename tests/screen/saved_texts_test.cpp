@@ -4,6 +4,8 @@
 #include "tests/screen/program_fixture.h"
 #include "tests/support/files_on_disk.h"
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QTest>
 #include <QTreeView>
@@ -19,8 +21,11 @@ class SavedTextsWindow : public ProgramTest {
     using Act = WindowPlayer::Act;
     void in_main(Act act) { user.in_window("frmZent", std::move(act)); }
     void in_box(Act act) { user.in_window("frmMyMsgBox", std::move(act)); }
-    void in_message(Qt::Key key) {
-        user.in_window("messageBox", [key](QWidget& window) { QTest::keyClick(window.focusWidget(), key); });
+    /// Waits until the box takes keys.
+    void in_message(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        user.in_window(
+            "messageBox", [=](QWidget& window) { QTest::keyClick(window.focusWidget(), key, modifiers); },
+            [] { return qobject_cast<QAbstractButton*>(QApplication::focusWidget()) != nullptr; });
     }
 
     /// Types after the text of the body's field; a carriage return stands for the Enter key.
@@ -100,7 +105,7 @@ TEST_F(SavedTextsWindow, SavingAndApplyingATextKeepsEveryCharacter) {
         EXPECT_EQ(bytes_of(first / "인사.txt"), bytes(u"저장할 글"));
         press(window, "Command3");
     });
-    in_message(Qt::Key_Y);
+    in_message(Qt::Key_Y, Qt::AltModifier);
     in_main([](QWidget& window) { press(window, "MyMsgBttn"); });
     in_box([](QWidget& window) {
         click_row(window, "ListView2", row_text(window, "ListView2", 0) == QStringLiteral("인사") ? 1 : 0);

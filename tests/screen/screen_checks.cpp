@@ -9,6 +9,8 @@
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QTabBar>
+#include <QTest>
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
 #include <vector>
@@ -55,7 +57,7 @@ void expect_everything_readable(const QWidget& window) {
     }
 }
 
-/// The widgets that Tab visits, from the first one on.
+/// The widgets that Tab is to visit, from the first one on.
 std::vector<QWidget*> tab_order(QWidget& window) {
     std::vector<QWidget*> order;
     for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
@@ -64,6 +66,36 @@ std::vector<QWidget*> tab_order(QWidget& window) {
             order.push_back(next);
     }
     return order;
+}
+
+/// The widgets that the key visits from that one on, until it comes to one for the second time. Within a date
+/// it goes from field to field first.
+std::vector<QWidget*> visited(QWidget& window, QWidget& first, Qt::Key key) {
+    constexpr int MOST_FIELDS = 4;
+    std::vector<QWidget*> visited;
+    first.setFocus();
+    for (QWidget* now = &first; std::ranges::find(visited, now) == visited.end();
+         now = window.focusWidget()) {
+        visited.push_back(now);
+        for (int fields = 0; fields < MOST_FIELDS && window.focusWidget() == now; ++fields)
+            QTest::keyClick(now, key, key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
+    }
+    return visited;
+}
+
+std::string names_of(const std::vector<QWidget*>& widgets) {
+    std::string names;
+    for (const QWidget* widget : widgets) names += name_of(*widget) + " ";
+    return names;
+}
+
+/// Tab comes to every control once and to the first one again, Shift+Tab the other way round.
+void expect_closed_ring(QWidget& window) {
+    auto order = tab_order(window);
+    if (order.empty()) return;
+    EXPECT_EQ(names_of(visited(window, *order.front(), Qt::Key_Tab)), names_of(order));
+    std::reverse(order.begin() + 1, order.end());
+    EXPECT_EQ(names_of(visited(window, *order.front(), Qt::Key_Backtab)), names_of(order));
 }
 
 /// Tab goes down, or up to the head of the next column. A widget that the screen's order forgets comes before
@@ -134,6 +166,7 @@ void expect_good_screen(QWidget& window) {
     expect_clear_shortcuts(window);
     expect_everything_readable(window);
     expect_tab_order_of_a_reader(window);
+    expect_closed_ring(window);
 }
 
 void expect_pictures(const QWidget& window) {

@@ -10,8 +10,8 @@ void settle();
 
 QRect place_in(const QWidget& window, const QWidget& widget);
 
-/// Fails for a shown window that cuts a text, whose Tab jumps up, in which two keys are alike or a tool tip
-/// names another key than the widget has.
+/// Fails for a shown window that cuts a text, whose Tab jumps up or does not come to every control, in which
+/// two keys are alike or a tool tip names another key than the widget has.
 void expect_good_screen(QWidget& window);
 
 /// Fails for a misspelt picture, which would leave a blank place.

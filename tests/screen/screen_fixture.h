@@ -26,7 +26,7 @@ class BoxPlayer : public QObject {
 
     /// The buttons to press in the next boxes, in order. A further box fails the test.
     std::deque<QMessageBox::StandardButton> answers;
-    /// Runs while a box is open.
+    /// Runs while a box is open, and may answer it.
     std::function<void()> meanwhile = [] {};
     std::vector<QString> asked;
 

@@ -44,6 +44,7 @@ class ScriptedDesktop : public platform::Desktop {
     std::vector<platform::Text> forms;
     platform::Text clipboard;
     platform::Text title;
+    std::vector<platform::Text> notifications;
     platform::Pointer pointer = platform::Pointer::normal;
     std::vector<const platform::Menu*> popups;
     /// The control below which the last menu opened.
@@ -52,6 +53,7 @@ class ScriptedDesktop : public platform::Desktop {
     /// Runs whenever a long loop lets the windows paint.
     std::function<void()> during_paint = [] {};
     std::function<void()> during_yield = [] {};
+    bool logs_out = false;
     /// Runs while a box stands.
     std::function<void()> during_box = [] {};
     /// Whether the user presses a key while a handler runs.
@@ -69,11 +71,14 @@ class ScriptedDesktop : public platform::Desktop {
     platform::Text input_box(const platform::InputBox& box) override;
     void set_pointer(platform::Pointer shape) override { pointer = shape; }
     void set_clipboard(const platform::Text& text) override { clipboard = text; }
+    platform::Text clipboard_text() const override { return clipboard; }
     platform::Screen screen() const override { return screen_size; }
     void set_application_title(const platform::Text& text) override { title = text; }
+    void notify(const platform::Text& text) override { notifications.push_back(text); }
     void yield() override { during_yield(); }
     void paint() override { during_paint(); }
     std::unique_ptr<platform::InputWatch> watch_input() override;
+    bool closes_all() const override { return logs_out; }
 
     platform::Screen screen_size{
         .width = 28800, .height = 16200, .twips_per_pixel_x = 15, .twips_per_pixel_y = 15};

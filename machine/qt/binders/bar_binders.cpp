@@ -7,11 +7,13 @@
 #include <QAction>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QToolBar>
 #include <QToolButton>
 #include <algorithm>
+#include <utility>
 
 namespace machine::qt {
 
@@ -78,6 +80,7 @@ StatusBarBinder::StatusBarBinder(BoundForm& bound, StatusBar& control, QStatusBa
         panel->setObjectName(part_name(bar, number));
         panel->setAutoRaise(true);
         panel->setFocusPolicy(Qt::TabFocus);
+        panel->setCursor(Qt::PointingHandCursor);
         panel->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         panel->installEventFilter(this);
         connect(panel, &QToolButton::clicked, this, [this, number] { click(number, MouseButton::left); });
@@ -112,6 +115,7 @@ void StatusBarBinder::show_panels() {
         const StatusBar::Panel& shown = control().panel(static_cast<int>(i) + 1);
         QToolButton& panel = *panels_[i];
         panel.setText(to_qstring(shown.text));
+        panel.setVisible(!shown.text.empty());
         panel.setToolTip(to_qstring(shown.tool_tip));
         panel.setIcon(pictures.value(shown.picture - 1));
         panel.setAccessibleName(to_qstring(shown.text.empty() ? shown.tool_tip : shown.text));
@@ -143,6 +147,19 @@ TabStripBinder::TabStripBinder(BoundForm& bound, platform::TabStrip& control, QT
     connect(&bar, &QTabBar::currentChanged, this, [this](int index) {
         if (is_bound_live() && index != this->control().selected() - 1) choose(index);
     });
+    if (bar.property("turnedByCtrlTab").toBool()) turn_by_keys();
+}
+
+void TabStripBinder::turn_by_keys() {
+    const int count = widget().count();
+    const std::pair<Qt::KeyboardModifiers, int> ways[] = {
+        {Qt::ControlModifier, 1}, {Qt::ControlModifier | Qt::ShiftModifier, count - 1}};
+    for (const auto& [modifiers, step] : ways) {
+        auto* shortcut = new QShortcut(QKeyCombination(modifiers, Qt::Key_Tab), &widget());
+        connect(shortcut, &QShortcut::activated, this, [this, step = step, count] {
+            if (is_bound_live()) choose((control().selected() - 1 + step) % count);
+        });
+    }
 }
 
 void TabStripBinder::show(Aspect aspect) {
@@ -158,6 +175,7 @@ void TabStripBinder::choose(int index) {
 ToolBarBinder::ToolBarBinder(BoundForm& bound, ToolBar& control, QToolBar& bar)
     : BinderOf(bound, control, bar) {
     const QList<QIcon> pictures = pictures_of(bar);
+    const QStringList keys = bar.property("shortcuts").toStringList();
     for (int number = 1; number <= control.count(); ++number) {
         const ToolBar::Button& button = control.button(number);
         if (button.caption.empty() && number > 1) add_free_room(bar);
@@ -165,6 +183,10 @@ ToolBarBinder::ToolBarBinder(BoundForm& bound, ToolBar& control, QToolBar& bar)
         action->setObjectName(part_name(bar, number));
         action->setVisible(!button.caption.empty());
         action->setCheckable(button.in_group);
+        if (const QString key = keys.value(number - 1); !key.isEmpty()) {
+            action->setShortcut(QKeySequence(key));
+            action->setToolTip(QStringLiteral("%1 (%2)").arg(action->text(), key));
+        }
         bar.addAction(action);
         actions_.push_back(action);
         connect(action, &QAction::triggered, this, [this, number] {

@@ -38,6 +38,8 @@ class StatusBarBinder : public BinderOf<platform::StatusBar, QStatusBar> {
     std::vector<QToolButton*> panels_;
 };
 
+/// With the screen's `turnedByCtrlTab`, Ctrl+Tab and Ctrl+Shift+Tab anywhere in the window choose the next
+/// tab and the one before.
 class TabStripBinder : public BinderOf<platform::TabStrip, QTabBar> {
   public:
     TabStripBinder(BoundForm& bound, platform::TabStrip& control, QTabBar& bar);
@@ -45,9 +47,11 @@ class TabStripBinder : public BinderOf<platform::TabStrip, QTabBar> {
   private:
     void show(platform::Aspect aspect) override;
     void choose(int index);
+    void turn_by_keys();
 };
 
-/// Makes an action `Toolbar1_2` for each button. The screen's list `pictures` has a name for each.
+/// Makes an action `Toolbar1_2` for each button. The screen's list `pictures` has a name for each,
+/// its list `shortcuts` a key or nothing.
 class ToolBarBinder : public BinderOf<platform::ToolBar, QToolBar> {
   public:
     ToolBarBinder(BoundForm& bound, platform::ToolBar& control, QToolBar& bar);

@@ -1,5 +1,6 @@
 #include "machine/qt/binders/button_binders.h"
 
+#include "machine/qt/binders/key_of_caption.h"
 #include "machine/qt/typing/conversion.h"
 
 #include <QCheckBox>
@@ -40,7 +41,7 @@ bool ButtonBinder::filter(QObject&, QEvent& event) {
 /// Keeps the shortcut that the screen gives the button: Qt drops it when the text is set.
 void ButtonBinder::set_caption(const platform::Text& caption) {
     const QKeySequence shortcut = button().shortcut();
-    button().setText(to_qstring(caption));
+    button().setText(caption_with_key(button(), to_qstring(caption)));
     if (button().shortcut().isEmpty()) button().setShortcut(shortcut);
 }
 

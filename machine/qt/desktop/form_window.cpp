@@ -1,5 +1,7 @@
 #include "machine/qt/desktop/form_window.h"
 
+#include "machine/qt/desktop/dialog_frame.h"
+#include "machine/qt/desktop/panes.h"
 #include "machine/qt/typing/conversion.h"
 
 #include <QKeyEvent>
@@ -68,7 +70,8 @@ void FormWindow::show() {
 void FormWindow::show_in_front_of(QWidget* parent) {
     // A new parent makes the window forget which of its widgets has the focus.
     QWidget* focus = window_.focusWidget();
-    window_.setParent(parent, window_.windowFlags() | Qt::Dialog);
+    const bool maximisable = window_.property("maximisable").toBool();
+    window_.setParent(parent, maximisable ? DIALOG_FRAME | Qt::WindowMaximizeButtonHint : DIALOG_FRAME);
     window_.setWindowModality(Qt::ApplicationModal);
     if (focus != nullptr) focus->setFocus();
     show();
@@ -134,6 +137,7 @@ bool FormWindow::eventFilter(QObject*, QEvent* event) {
 }
 
 bool FormWindow::press_key(const QKeyEvent& event) {
+    if (event.key() == Qt::Key_F6) return move_to_pane(window_, event.modifiers() != Qt::ShiftModifier);
     if (event.key() != Qt::Key_Escape) return false;
     form_.escape_pressed();
     return true;

@@ -23,7 +23,8 @@ class FormWindow : public QObject, public platform::FormView {
     /// Shows the window, or brings it to the front. The form is activated when the window has been painted,
     /// even if the desktop does not give it the focus yet.
     void show();
-    /// Shows the window as a modal one in front of another.
+    /// Shows the window as a modal one in front of another. The user can maximise it if the screen's property
+    /// `maximisable` says so.
     void show_in_front_of(QWidget* parent);
 
     /// Parts with the form, which may be destroyed afterwards. The window is hidden at once and deleted when

@@ -1,8 +1,10 @@
 #include "machine/qt/desktop/qt_desktop.h"
 
-#include "machine/qt/desktop/boxes.h"
 #include "machine/qt/desktop/form_window.h"
+#include "machine/qt/desktop/input_box.h"
 #include "machine/qt/desktop/long_work.h"
+#include "machine/qt/desktop/message_box.h"
+#include "machine/qt/desktop/notification.h"
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "platform/controls/bars.h"
@@ -63,8 +65,8 @@ void QtDesktop::run_until_closed(const Form& form) {
 void QtDesktop::close_all() {
     // A window closes when the event loop that it runs has ended, and what opened it may ask a question then.
     constexpr int BETWEEN_WINDOWS = 50;
-    close_front_window();
     closing_.start(BETWEEN_WINDOWS);
+    close_front_window();
 }
 
 void QtDesktop::prepare(Form& form) {
@@ -114,7 +116,7 @@ BoxAnswer QtDesktop::message_box(const platform::MessageBox& box) {
     commit_composition();
     const QPointer<QWidget> front = front_window();
     const platform::StandingInFront standing(*this);
-    const BoxAnswer answer = ask(box, title_, front);
+    const BoxAnswer answer = ask(box, title_, last_key_, front);
     give_back_focus(front);
     return answer;
 }
@@ -151,6 +153,8 @@ void QtDesktop::set_pointer(Pointer pointer) {
 
 void QtDesktop::set_clipboard(const Text& text) { QGuiApplication::clipboard()->setText(to_qstring(text)); }
 
+Text QtDesktop::clipboard_text() const { return to_text(QGuiApplication::clipboard()->text()); }
+
 platform::Screen QtDesktop::screen() const {
     const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
     return {.left = to_twips(free.left()),
@@ -162,6 +166,12 @@ platform::Screen QtDesktop::screen() const {
 }
 
 void QtDesktop::set_application_title(const Text& title) { title_ = to_qstring(title); }
+
+void QtDesktop::notify(const Text& text) {
+    if (QGuiApplication::applicationState() == Qt::ApplicationActive) return;
+    QApplication::alert(front_window());
+    send_notification(title_, to_qstring(text));
+}
 
 void QtDesktop::yield() { QCoreApplication::processEvents(); }
 

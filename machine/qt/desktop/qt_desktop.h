@@ -2,6 +2,7 @@
 
 #include "machine/qt/desktop/file_dialog.h"
 #include "machine/qt/desktop/screens.h"
+#include "machine/qt/typing/last_key.h"
 #include "platform/ports/desktop.h"
 #include "platform/ports/files.h"
 
@@ -40,11 +41,14 @@ class QtDesktop : public platform::Desktop {
     platform::Text input_box(const platform::InputBox& box) override;
     void set_pointer(platform::Pointer pointer) override;
     void set_clipboard(const platform::Text& text) override;
+    platform::Text clipboard_text() const override;
     platform::Screen screen() const override;
     void set_application_title(const platform::Text& title) override;
+    void notify(const platform::Text& text) override;
     void yield() override;
     void paint() override;
     std::unique_ptr<platform::InputWatch> watch_input() override;
+    bool closes_all() const override { return closing_.isActive(); }
 
   private:
     FormWindow* window_of(const platform::Form& form) const;
@@ -55,6 +59,7 @@ class QtDesktop : public platform::Desktop {
     const Screens& screens_;
     platform::Files& files_;
     FileDialog file_dialog_;
+    LastKey last_key_;
     std::map<const platform::Form*, QPointer<FormWindow>> windows_;
     QString title_;
     bool hourglass_ = false;

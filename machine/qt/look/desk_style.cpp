@@ -78,6 +78,7 @@ void DeskStyle::polish(QWidget* widget) {
         widget->setFont(font);
         return;
     }
+    if (look == QLatin1String("link")) widget->setForegroundRole(QPalette::Link);
     if (look == QLatin1String("muted")) widget->setForegroundRole(MUTED_TEXT);
     if (look == QLatin1String("failure")) widget->setForegroundRole(FAILURE_TEXT);
     if (look == QLatin1String("warning")) widget->setForegroundRole(WARNING_TEXT);
@@ -175,6 +176,7 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
                 if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
                     QStyleOptionViewItem pale(*item);
                     pale.state.setFlag(State_Active, false);
+                    if (view->property("quietSelection").toBool()) pale.state.setFlag(State_Selected, false);
                     return QProxyStyle::drawControl(element, &pale, painter, widget);
                 }
             }
@@ -206,10 +208,12 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     }
 }
 
-/// Otherwise scrolling with the wheel over a choice would change it: another kind of message, which clears
-/// the draft, another hour, another sender.
+/// Otherwise the buttons of boxes would have pictures from another set than the program's, and scrolling with
+/// the wheel over a choice would change it: another kind of message, which clears the draft, another hour,
+/// another sender.
 int DeskStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                          QStyleHintReturn* returned) const {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     if (hint == SH_TabBar_AllowWheelScrolling || hint == SH_ComboBox_AllowWheelScrolling) return 0;
     return QProxyStyle::styleHint(hint, option, widget, returned);
 }

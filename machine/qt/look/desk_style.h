@@ -7,7 +7,8 @@ namespace machine::qt {
 /// The look of the program's windows: Qt's Fusion style, drawn flat, with one accent. The button that Enter
 /// presses is filled with it, the focus is a line of it. The mouse wheel changes no choice.
 ///
-/// A label whose property `look` says so is written as "heading", "strong", "muted", "failure" or "warning".
+/// A label whose property `look` says so is written as "heading", "strong", "link", "muted", "failure" or
+/// "warning".
 class DeskStyle : public QProxyStyle {
     Q_OBJECT
 

@@ -1,0 +1,27 @@
+#include "machine/qt/typing/last_key.h"
+
+#include "machine/qt/typing/typed_text.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+namespace machine::qt {
+
+LastKey::LastKey() { QCoreApplication::instance()->installEventFilter(this); }
+
+std::chrono::milliseconds LastKey::age() const {
+    return since_.isValid() ? std::chrono::milliseconds(since_.elapsed()) : std::chrono::milliseconds::max();
+}
+
+bool LastKey::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        wrote_ = !written_by(static_cast<const QKeyEvent&>(*event)).isEmpty();
+        since_.start();
+    } else if (event->type() == QEvent::InputMethod) {
+        wrote_ = true;
+        since_.start();
+    }
+    return false;
+}
+
+}  // namespace machine::qt
