@@ -66,14 +66,17 @@ void frmSendMan::connect_list() {
         if (moves_selection(key.code)) PICK_STATUS_SHOW();
     });
     ListView2.KeyPress.connect([this](platform::KeyPressed& key) {
-        if (key.code == platform::KEY_CTRL_A) ListView2.select_all();
+        if (key.code != platform::KEY_CTRL_A) return;
+        ListView2.select_all();
+        show_counts();
     });
-    ListView2.ColumnClick.connect([this](int column) { platform::SORT_BY_COLUMN(ListView2, column); });
+    ListView2.ColumnClick.connect([this](int column) { sort_by(column); });
     ListView2.Resize.connect([this] { LISTVIEW2HDR_RESET(); });
 }
 
 void frmSendMan::CARD_LIST_FILL(platform::CardRecordset& recordset) {
     ListView2.clear();
+    typed_row_.reset();
     if (recordset.end_of_file()) return PICK_STATUS_SHOW();
     platform_.desktop.set_pointer(platform::Pointer::hourglass);
     const int records = recordset.record_count();
@@ -125,6 +128,30 @@ void frmSendMan::PICK_STATUS_SHOW() {
     set_caption(u"발송대상 선택-" + with_commas(total_) + u"/" +
                 with_commas(static_cast<double>(ListView2.row_count())) + u"/" +
                 platform::decimal(selected ? static_cast<long long>(*selected) + 1 : 0));
+    show_counts();
+}
+
+void frmSendMan::show_counts() {
+    int selected = 0;
+    for (std::size_t row = 0; row < ListView2.row_count(); ++row) selected += ListView2.row(row).selected();
+    const auto people = [](double number) { return platform::format_number(number, u"#,##0명"); };
+    Counts.set_caption(u"전체 " + people(total_) + u" · 목록 " +
+                       people(static_cast<double>(ListView2.row_count())) + u" · 선택 " + people(selected));
+}
+
+/// The order is kept for the next opening.
+void frmSendMan::sort_by(int column) {
+    platform::SORT_BY_COLUMN(ListView2, column);
+    state_.cards.sort_column = ListView2.column(column).caption;
+    state_.cards.sort_order = ListView2.sort_order();
+}
+
+void frmSendMan::sort_as_before() {
+    const int column = platform::FIND_COLUMN(state_.cards.sort_column, ListView2);
+    if (column < 0) return;
+    ListView2.sort(column - 1, state_.cards.sort_order);
+    const bool descending = state_.cards.sort_order == platform::ListView::SortOrder::descending;
+    platform::SET_SORT_ARROW(ListView2, column - 1, descending ? 1 : 0, true);
 }
 
 void frmSendMan::show_progress() {

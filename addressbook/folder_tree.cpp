@@ -180,11 +180,13 @@ void frmSendMan::show_expanded_picture(TreeNode& node) {
 void frmSendMan::FOLDER_CARDS_LOAD(const TreeNode& node) {
     if (node.position() == 1) return list_all_cards();
     if (!OPEN_CARD_DB(platform_, state_, true)) return;
+    ListView2.set_placeholder(u"");
     platform::ignore_errors([&] {
         const auto recordset = open_recordset(state_, statements::cards_of_folder(node.tag()));
         CARD_LIST_FILL(*recordset);
     });
     hide_progress();
+    ListView2.set_placeholder(u"이 폴더에는 명함이 없습니다.");
 }
 
 Text frmSendMan::ALLDB_SQL() const {

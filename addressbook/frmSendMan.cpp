@@ -39,6 +39,7 @@ void frmSendMan::Form_Load() {
 void frmSendMan::Form_Activate() {
     if (activated_) return;
     activated_ = true;
+    Text1.set_focus();
     list_all_cards();
 }
 

@@ -13,6 +13,7 @@
 #include "platform/ports/platform.h"
 
 #include <array>
+#include <optional>
 #include <unordered_map>
 
 namespace addressbook {
@@ -35,9 +36,13 @@ class frmSendMan : public platform::Form {
     platform::CommandButton Command1{*this, u"Command1", u""};
     platform::CommandButton Command5{*this, u"Command5", u"전체자료"};
     platform::ListView ListView2{*this, u"ListView2", {}};
+    /// How many cards there are, how many are listed, how many are selected.
+    platform::Label Counts{*this, u"Counts"};
     platform::ProgressBar PBar1{*this, u"PBar1"};
     platform::Label Label2{*this, u"Label2", u"선택번호:"};
     platform::ComboBox Combo2{*this, u"Combo2"};
+    /// What became of the rows that were added last.
+    platform::Label Added{*this, u"Added"};
     std::array<platform::CommandButton, 2> Command2{
         platform::CommandButton{*this, u"Command2_0", u"확인(&O)"},
         platform::CommandButton{*this, u"Command2_1", u"계속추가(&A)"}};
@@ -104,21 +109,28 @@ class frmSendMan : public platform::Form {
     void show_hint_when_empty();
     void show_hint();
     void search();
+    void go_to_typed();
+    void go_to_rows();
     void list_all_cards();
-    void list_anew(const platform::Text& statement);
+    void list_anew(const platform::Text& statement, const platform::Text& when_empty);
 
     // The list.
+    void sort_by(int column);
+    void show_counts();
     void show_progress();
     void hide_progress();
 
     // Picking.
     void build_columns(const platform::Text& kind);
+    void sort_as_before();
+    void use_number_column();
     void take_selected(std::size_t index);
     /// The sub-items that picking reads.
     struct PickedCells {
         int number, company, title;
     };
-    void pick_row(const platform::ListItem& row, const PickedCells& cells);
+    enum class Pick { added, listed, without_number };
+    Pick pick_row(const platform::ListItem& row, const PickedCells& cells);
 
     platform::Platform& platform_;
     core::AppState& state_;
@@ -126,6 +138,8 @@ class frmSendMan : public platform::Form {
     platform::Timer& polling_;
     /// The first activation has run.
     bool activated_ = false;
+    /// The row that was selected because it begins with what is in the search field.
+    std::optional<std::size_t> typed_row_;
     /// The cards that the last Group_Recount found.
     std::int32_t total_ = 0;
     /// The first node of each number, as T_INDEX finds it.

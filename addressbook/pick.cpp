@@ -5,6 +5,7 @@
 #include "core/phone_number.h"
 #include "platform/controls/list_columns.h"
 #include "platform/error.h"
+#include "platform/text/format.h"
 #include "platform/text/number.h"
 
 #include <algorithm>
@@ -27,9 +28,15 @@ int sub_item_of(TextView caption, const platform::ListView& list) {
     return column > 0 ? column - 1 : list.column_count();
 }
 
+/// Whether picking finds digits here that are not all zeros.
+bool holds_number(TextView cell) { return cell.find_first_of(u"123456789") != TextView::npos; }
+
+Text shown_number(TextView cell) { return holds_number(cell) ? Text(cell) : Text(u"번호 없음"); }
+
 }  // namespace
 
 void frmSendMan::connect_picking() {
+    Combo2.Click.connect([this] { use_number_column(); });
     for (std::size_t index = 0; index < Command2.size(); ++index)
         Command2[index].Click.connect([this, index] { take_selected(index); });
     ListView2.DblClick.connect([this] {
@@ -56,6 +63,17 @@ void frmSendMan::build_columns(const Text& kind) {
     Combo2.clear();
     for (const TextView column : shown->picker_numbers) Combo2.add_row(Text(column));
     Combo2.set_list_index(0);
+    sort_as_before();
+}
+
+/// Shows which column's numbers will be taken, and which cards have none there.
+void frmSendMan::use_number_column() {
+    const int column = platform::FIND_COLUMN(Combo2.text(), ListView2);
+    ListView2.use_column(column, shown_number);
+    const auto mark_of = [column](const ListItem& row) {
+        return holds_number(row.sub_item(column - 1)) ? platform::RowMark::none : platform::RowMark::unusable;
+    };
+    ListView2.set_marking({.mark_of = mark_of, .reason_of = {}});
 }
 
 void frmSendMan::take_selected(std::size_t index) {
@@ -68,25 +86,34 @@ void frmSendMan::SENDLIST_ADD() {
     const PickedCells cells{.number = sub_item_of(Combo2.text(), ListView2),
                             .company = sub_item_of(u"회사", ListView2),
                             .title = sub_item_of(u"직위", ListView2)};
+    int added = 0, listed = 0, without_number = 0;
     platform_.desktop.set_pointer(platform::Pointer::hourglass);
     show_progress();
     for (std::size_t row = 0; row < ListView2.row_count(); ++row) {
         if (!ListView2.row(row).selected()) continue;
-        platform::ignore_errors([&] { pick_row(ListView2.row(row), cells); });
+        platform::ignore_errors([&] {
+            const Pick pick = pick_row(ListView2.row(row), cells);
+            ++(pick == Pick::added ? added : pick == Pick::listed ? listed : without_number);
+        });
         PBar1.set_progress(row + 1, ListView2.row_count());
         platform_.desktop.paint();
     }
     hide_progress();
+    const auto people = [](int number) { return platform::format_number(number, u"#,##0명"); };
+    Added.set_caption(people(added) + u" 추가 · 이미 있음 " + people(listed) + u" · 번호 없음 " +
+                      people(without_number));
 }
 
-void frmSendMan::pick_row(const ListItem& row, const PickedCells& cells) {
+frmSendMan::Pick frmSendMan::pick_row(const ListItem& row, const PickedCells& cells) {
     Text name = platform::trim(row.text());
     if (name.empty()) name = platform::trim(row.sub_item(cells.company));
     const Text number = core::DIGITS_ONLY(row.sub_item(cells.number));
-    if (platform::leading_number(number) == 0) return;
-    if (recipients_.add(platform::blanks_for_nul(std::move(name)), number,
-                        platform::blanks_for_nul(row.sub_item(cells.title))))
-        state_.forms.gDialogConfirmed = true;
+    if (platform::leading_number(number) == 0) return Pick::without_number;
+    if (!recipients_.add(platform::blanks_for_nul(std::move(name)), number,
+                         platform::blanks_for_nul(row.sub_item(cells.title))))
+        return Pick::listed;
+    state_.forms.gDialogConfirmed = true;
+    return Pick::added;
 }
 
 }  // namespace addressbook

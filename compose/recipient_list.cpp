@@ -1,14 +1,16 @@
 #include "compose/recipient_list.h"
 
 #include "compose/questions.h"
+#include "compose/recipient_status.h"
 #include "core/boxes.h"
-#include "core/phone_number.h"
 #include "platform/controls/list_columns.h"
 #include "platform/error.h"
 
 namespace compose {
 
 using platform::KeyPressed;
+using platform::ListItem;
+using platform::RowMark;
 using platform::Text;
 
 namespace {
@@ -28,6 +30,10 @@ RecipientList::RecipientList(platform::Form& form, platform::Platform& platform,
     PBar1.hide();
     Command7.set_enabled(pick_ != nullptr);
     mnusubpopup1.set_enabled(pick_ != nullptr);
+    ListView1.set_placeholder(
+        u"이름과 번호를 입력하고 Enter를 누르거나\n명함DB에서 불러오거나, 표에서 복사한 줄을 "
+        u"붙여넣으십시오.");
+    mark_rows();
     connect();
 }
 
@@ -39,6 +45,8 @@ void RecipientList::connect() {
     HBttn2.Click.connect([this] { remove_selected(); });
     Command7.Click.connect([this] { pick_recipients(); });
     ListView1.ItemCheck.connect([this](std::size_t row) { row_checked(row); });
+    ListView1.CheckMany.connect(
+        [this](platform::ListView::ManyRows rows, bool checked) { check_rows(rows, checked); });
     ListView1.ColumnClick.connect([this](int column) { sort_by(column); });
     ListView1.KeyDown.connect([this](KeyPressed& key) {
         if (key.code == platform::KEY_DELETE) remove_selected();
@@ -60,6 +68,32 @@ void RecipientList::set_kind(const KindOfMessage& kind) {
     kind_ = &kind;
     ListView1.set_column_caption(RECIPIENT_NUMBER + 1, Text(kind.number.caption));
     Label2_5.set_caption(Text(kind.number.caption) + u":");
+    mark_rows();
+}
+
+void RecipientList::mark_rows() {
+    ListView1.set_marking({.mark_of = [this](const ListItem& row) { return mark_of(row); },
+                           .reason_of = [this](const ListItem& row) { return Text(fault_of_row(row)); }});
+}
+
+/// Why the kind cannot reach the recipient, unless a job has said more about it.
+platform::TextView RecipientList::fault_of_row(const ListItem& row) const {
+    if (outcome_of(row.sub_item(RECIPIENT_STATUS)) != Outcome::open) return {};
+    return fault_of_number(*kind_, core::DIGITS_ONLY(row.sub_item(RECIPIENT_NUMBER)));
+}
+
+platform::RowMark RecipientList::mark_of(const ListItem& row) const {
+    switch (outcome_of(row.sub_item(RECIPIENT_STATUS))) {
+        case Outcome::registered:
+            return RowMark::done;
+        case Outcome::failed:
+            return RowMark::failed;
+        case Outcome::unconfirmed:
+            return RowMark::uncertain;
+        case Outcome::open:
+            break;
+    }
+    return fault_of_row(row).empty() ? RowMark::none : RowMark::unusable;
 }
 
 bool RecipientList::add(Text name, const Text& number, Text title) {
@@ -169,14 +203,17 @@ void RecipientList::pick_recipients() {
 }
 
 void RecipientList::CHECK_SELECTED_ITEMS(bool checked) {
-    if (!ListView1.selected_item()) return;
+    if (ListView1.selected_item()) check_rows(platform::ListView::ManyRows::selected, checked);
+}
+
+void RecipientList::check_rows(platform::ListView::ManyRows which, bool checked) {
     const std::size_t rows = ListView1.row_count();
     if (rows > LONG_LIST) {
         PBar1.set_value(0);
         PBar1.show();
     }
     for (std::size_t row = 0; row < rows; ++row) {
-        if (ListView1.row(row).selected()) {
+        if (which == platform::ListView::ManyRows::all || ListView1.row(row).selected()) {
             ListView1.set_checked(row, checked);
             if (checked) ListView1.set_sub_item(row, RECIPIENT_STATUS, u"");
         }

@@ -3,6 +3,8 @@
 #include "compose/message_kinds.h"
 #include "compose/room.h"
 #include "core/app_state.h"
+#include "core/personal_text.h"
+#include "core/phone_number.h"
 #include "platform/controls/bars.h"
 #include "platform/controls/buttons.h"
 #include "platform/controls/displays.h"
@@ -24,8 +26,7 @@ inline constexpr int RECIPIENT_TITLE = 4;
 /// tag says of which text.
 inline constexpr int RECIPIENT_PIECES = 5;
 
-/// Stands for a recipient without a name.
-inline constexpr platform::TextView NO_NAME = u"이름없음";
+using core::NO_NAME;
 
 /// The recipients: typed, picked from the cards, or handed over by the card manager.
 class RecipientList : Room {
@@ -44,8 +45,8 @@ class RecipientList : Room {
                                  u"ListView1",
                                  {{.caption = u"선택"},
                                   {.caption = u"이름"},
-                                  {.caption = u"문자보낼번호"},
-                                  {.caption = u"상태"},
+                                  {.caption = u"문자보낼번호", .shown = core::with_hyphens},
+                                  {.caption = u"상태", .signs = true},
                                   {.caption = u"직위"}},
                                  true};
     platform::ProgressBar PBar1{form_, u"PBar1"};
@@ -58,7 +59,7 @@ class RecipientList : Room {
     platform::Menu mnusubpopup5{form_, u"mnusubpopup5", u"선택취소(&C)"};
     platform::Menu mnusubpopup9{form_, u"mnusubpopup9", u"삭제(&D)"};
 
-    /// Sets the kind of message whose numbers are typed from now on.
+    /// Sets the kind of message whose numbers are typed from now on, and marks the rows that it cannot reach.
     void set_kind(const KindOfMessage& kind);
 
     /// Adds a checked row, selected and in view: at the end or, in a sorted list, in its place. Returns false
@@ -78,6 +79,9 @@ class RecipientList : Room {
 
   private:
     void connect();
+    void mark_rows();
+    platform::TextView fault_of_row(const platform::ListItem& row) const;
+    platform::RowMark mark_of(const platform::ListItem& row) const;
     void HText1_KeyPress(std::size_t index, platform::KeyPressed& key);
     bool add_typed();
     bool refuse_number(platform::Text text);
@@ -86,6 +90,7 @@ class RecipientList : Room {
     void remove_selected();
     void pick_recipients();
     void CHECK_SELECTED_ITEMS(bool checked);
+    void check_rows(platform::ListView::ManyRows rows, bool checked);
     void row_checked(std::size_t row);
     void sort_by(int column);
 

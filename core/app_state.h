@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/boolean_word.h"
+#include "platform/controls/list_view.h"
 #include "platform/ports/platform.h"
 #include "platform/text/text.h"
 
@@ -90,6 +91,9 @@ struct MainWindow {
 struct CardDatabase {
     /// The open connection, or none.
     std::unique_ptr<platform::CardConnection> gCardDb;
+    /// How the user has sorted the cards, for the next opening: the column, and the order.
+    platform::Text sort_column;
+    platform::ListView::SortOrder sort_order = platform::ListView::SortOrder::ascending;
 };
 
 /// Which other windows are open, and what the last one answered.

@@ -18,4 +18,13 @@ Text LLL(Text& text, std::size_t limit) {
     return text;
 }
 
+int count_pieces(Text text, std::size_t limit) {
+    int pieces = 0;
+    for (text = platform::right_trim(text); !text.empty(); ++pieces) {
+        const std::size_t piece = LLL(text, limit).size();
+        text = platform::right_trim(text.substr(piece));
+    }
+    return pieces;
+}
+
 }  // namespace core

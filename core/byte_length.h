@@ -13,4 +13,7 @@ std::size_t BYTE_LEN(platform::TextView text);
 /// cp949. No character is split, so the result can be a byte shorter than the limit.
 platform::Text LLL(platform::Text& text, std::size_t limit);
 
+/// How many messages of at most `limit` bytes the text goes in.
+int count_pieces(platform::Text text, std::size_t limit);
+
 }  // namespace core

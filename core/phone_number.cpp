@@ -30,6 +30,15 @@ Text usable_digits(TextView number) {
     return digits;
 }
 
+constexpr std::size_t SUBSCRIBER_LENGTH = 4;
+
+/// The digits before the exchange's; 0 for a number that begins with its exchange, as 1588-0000 does.
+std::size_t prefix_length(TextView number) {
+    if (!number.starts_with(u'0')) return 0;
+    if (number.starts_with(u"02")) return 2;
+    return number.starts_with(u"050") || number.starts_with(u"030") ? 4 : 3;
+}
+
 }  // namespace
 
 Text DIGITS_ONLY(TextView value) {
@@ -38,6 +47,18 @@ Text DIGITS_ONLY(TextView value) {
     std::ranges::copy_if(trimmed, std::back_inserter(digits),
                          [](char16_t c) { return c >= u'0' && c <= u'9'; });
     return platform::leading_number(digits) != 0 ? digits : trimmed;
+}
+
+Text with_hyphens(TextView number) {
+    Text shown(number);
+    const std::size_t prefix = prefix_length(number);
+    const std::size_t rest = number.size() - std::min(prefix, number.size());
+    const bool whole = prefix == 0 ? rest == 8 && number.starts_with(u'1') : rest == 7 || rest == 8;
+    const bool all_digits = std::ranges::all_of(number, [](char16_t c) { return c >= u'0' && c <= u'9'; });
+    if (!whole || !all_digits) return shown;
+    shown.insert(shown.size() - SUBSCRIBER_LENGTH, 1, u'-');
+    if (prefix > 0) shown.insert(prefix, 1, u'-');
+    return shown;
 }
 
 bool TEXT_NUMBER_OK(TextView number) {

@@ -7,6 +7,9 @@ namespace core {
 /// The digits of the trimmed text, joined; the trimmed text itself when it has none or they make 0.
 platform::Text DIGITS_ONLY(platform::TextView value);
 
+/// The number as people write it, "010-2000-0236"; one that is not of a Korean form stays as it is.
+platform::Text with_hyphens(platform::TextView number);
+
 /// Whether the number may receive text messages: every number but those with a Korean area code.
 bool TEXT_NUMBER_OK(platform::TextView number);
 

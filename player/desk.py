@@ -254,6 +254,20 @@ class Desk:
         self.start_sending(main, confirmation)
         return self.read_report()
 
+    def note_while_away(self, act):
+        """Does something and turns to another desktop at once; waits for the note that calls the user back, returns its lines."""
+        log = self.results / "notes.log"
+        with open(log, "w") as file:
+            monitor = subprocess.Popen(["dbus-monitor", "member='Notify'"], stdout=file)
+        try:
+            act()
+            subprocess.run(["xdotool", "set_desktop", "1"], check=True)
+            note = self.wait("the note", lambda: re.search(r'string "([^"]*)"\s+array', log.read_text()))
+        finally:
+            monitor.terminate()
+            subprocess.run(["xdotool", "set_desktop", "0"], check=True)
+        return note[1].splitlines()
+
     def click(self, thing):
         box = thing.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
         x, y = box.x + box.width // 2, box.y + box.height // 2

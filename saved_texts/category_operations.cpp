@@ -79,6 +79,7 @@ void frmMyMsgBox::remove_category() {
         if (has_texts) platform_.files.remove_files(folder, u"*.*");
         platform_.files.remove_empty_folder(folder);
         ListView2.clear();
+        search_.forget();
         CATEGORY_LIST_LOAD();
     });
 }

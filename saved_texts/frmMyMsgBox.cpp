@@ -45,10 +45,23 @@ void frmMyMsgBox::connect_lists() {
     ListView2.KeyDown.connect([this](const KeyPressed& key) {
         if (key.code == platform::KEY_DELETE) remove_text();
     });
+    ListView2.KeyPress.connect([this](const KeyPressed& key) {
+        if (key.code == platform::KEY_ENTER) apply_selected();
+    });
+    ListView2.DblClick.connect([this] { apply_selected(); });
     ListView2.ColumnClick.connect([this](int column) { platform::SORT_BY_COLUMN(ListView2, column); });
 }
 
 void frmMyMsgBox::connect_fields() {
+    SearchText.Change.connect([this] { show_found(); });
+    SearchText.KeyPress.connect([this](KeyPressed& key) {
+        if (key.code != platform::KEY_ENTER) return;
+        key.swallow();
+        go_to_found();
+    });
+    SearchText.KeyDown.connect([this](const KeyPressed& key) {
+        if (key.code == platform::KEY_DOWN) go_to_found();
+    });
     Text1.KeyPress.connect([](KeyPressed& key) {
         if (clean_title(platform::Text(1, static_cast<char16_t>(key.code))).empty()) key.swallow();
     });

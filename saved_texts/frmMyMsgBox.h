@@ -8,6 +8,7 @@
 #include "platform/controls/panels.h"
 #include "platform/error.h"
 #include "platform/ports/platform.h"
+#include "saved_texts/list_search.h"
 
 #include <functional>
 #include <optional>
@@ -37,6 +38,9 @@ class frmMyMsgBox : public platform::Form {
     platform::CommandButton Command8{*this, u"Command8", u"새 분류 추가"};
     platform::CommandButton Command7{*this, u"Command7", u"분류명 수정"};
     platform::CommandButton Command9{*this, u"Command9", u"분류 삭제"};
+    platform::TextBox SearchText{*this, u"SearchText"};
+    /// How many texts there are, or how many of them hold the words.
+    platform::Label FoundCount{*this, u"FoundCount"};
     platform::ListView ListView2{
         *this,
         u"ListView2",
@@ -68,6 +72,13 @@ class frmMyMsgBox : public platform::Form {
         bool operator==(const Source&) const = default;
     };
 
+    struct Fields {
+        platform::Text title;
+        platform::Text body;
+
+        bool operator==(const Fields&) const = default;
+    };
+
     void connect_lists();
     void connect_fields();
 
@@ -76,6 +87,10 @@ class frmMyMsgBox : public platform::Form {
     void MESSAGE_LIST_LOAD(const platform::Text& category);
     void list_selected_category();
     void show_selected_text();
+    void show_found();
+    void go_to_found();
+    void show_count();
+    void show_chosen();
     std::optional<Source> source_of(std::size_t row) const;
     std::optional<platform::Text> selected_category() const;
     void select_category(std::size_t row);
@@ -88,8 +103,10 @@ class frmMyMsgBox : public platform::Form {
     bool take_fields();
     bool is_saved(const platform::Text& category, const platform::Text& title) const;
     void empty_fields();
+    Fields fields() const { return {Text1.text(), txtText.text()}; }
     void apply_to_draft();
     void apply_and_close();
+    void apply_selected();
 
     // Categories.
     void rename_category();
@@ -116,6 +133,9 @@ class frmMyMsgBox : public platform::Form {
     std::optional<platform::Text> listed_category_;
     /// Where the text in the fields came from; nothing for a new one. The selected row may be another one.
     std::optional<Source> source_;
+    /// What the fields held when it came into them.
+    Fields taken_;
+    ListSearch search_{ListView2};
 };
 
 }  // namespace saved_texts

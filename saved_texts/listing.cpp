@@ -67,7 +67,11 @@ void frmMyMsgBox::MESSAGE_LIST_LOAD(const Text& category) {
         failure = std::move(content.failure);
 
         ListView2.clear();
+        search_.forget();
         listed_category_ = category;
+        // A text of another category in the fields would seem to be the one that is chosen here. What the
+        // user has written stays.
+        if (source_ && source_->category != category && fields() == taken_) empty_fields();
         // Deliberately by the text of the date: within a day 오전 and 오후 sort as words, and 12 o'clock
         // behind 11. Users know their lists so.
         ListView2.sort(TEXT_SAVED, ListView::SortOrder::descending);
@@ -81,9 +85,42 @@ void frmMyMsgBox::MESSAGE_LIST_LOAD(const Text& category) {
                 platform_.desktop.paint();
             }
         }
-        if (ListView2.row_count() > 0) ListView2.select_item(0);
+        show_found();
     }
     if (failure) throw *failure;
+}
+
+/// Leaves the texts that hold the words looked for, and selects the one in the fields or else the first.
+void frmMyMsgBox::show_found() {
+    search_.show(platform::trim(SearchText.text()));
+    show_count();
+    std::size_t chosen = 0;
+    for (std::size_t row = 0; row < ListView2.row_count() && source_; ++row) {
+        if (source_of(row) == source_) chosen = row;
+    }
+    ListView2.deselect_item();
+    if (ListView2.row_count() > 0) ListView2.select_item(chosen);
+    show_chosen();
+}
+
+void frmMyMsgBox::show_count() {
+    const auto in_words = [](std::size_t texts) {
+        return platform::format_number(static_cast<double>(texts), u"#,##0개");
+    };
+    const std::size_t found = ListView2.row_count();
+    const std::size_t all = search_.all();
+    FoundCount.set_caption(found == all ? in_words(all) : in_words(all) + u" 중 " + in_words(found));
+}
+
+void frmMyMsgBox::go_to_found() {
+    ListView2.set_focus();
+    if (ListView2.row_count() > 0) show_selected_text();
+}
+
+/// A row looks chosen only while its text is the one in the fields.
+void frmMyMsgBox::show_chosen() {
+    const auto row = ListView2.selected_item();
+    ListView2.show_selection(row && source_ && source_of(*row) == source_);
 }
 
 /// Takes the selected text into the fields. What has been typed over the same text stays.
@@ -93,9 +130,11 @@ void frmMyMsgBox::show_selected_text() {
     empty_fields();
     if (!row) return;
     source_ = source_of(*row);
+    show_chosen();
     Command5.set_enabled(true);
     Text1.set_text(ListView2.row(*row).text());
     txtText.set_text(ListView2.row(*row).sub_item(TEXT_BODY));
+    taken_ = fields();
 }
 
 std::optional<frmMyMsgBox::Source> frmMyMsgBox::source_of(std::size_t row) const {

@@ -38,6 +38,7 @@ void frmMyMsgBox::empty_fields() {
     Text1.set_text(u"");
     txtText.set_text(u"");
     source_.reset();
+    show_chosen();
 }
 
 void frmMyMsgBox::save_new_text() {
@@ -52,6 +53,7 @@ void frmMyMsgBox::save_new_text() {
     show_failures_of([&] {
         core::write_saved_text(platform_, *category, title, txtText.text());
         empty_fields();
+        SearchText.set_text(u"");
         list_selected_category();
         platform_.desktop.message_box({.text = u"저장 되었습니다.", .icon = BoxIcon::information});
     });
@@ -84,6 +86,7 @@ void frmMyMsgBox::save_edited_text() {
         platform_.files.write(old_path, platform::encode_cp949(body));
         ListView2.set_sub_item(*row, TEXT_LINE, in_one_line(body));
         ListView2.set_sub_item(*row, TEXT_BODY, body);
+        taken_ = fields();
         if (old_title != title) {
             platform_.files.rename(old_path, core::saved_text_path(platform_, *category, title));
             ListView2.set_item_text(*row, title);
@@ -111,6 +114,7 @@ void frmMyMsgBox::remove_text() {
         core::check_category(platform_, *category);
         core::DELETE_FILE(platform_, core::category_folder(platform_, *category) + file);
         ListView2.remove_selected_rows();
+        show_count();
         empty_fields();
     });
 }
@@ -124,6 +128,12 @@ void frmMyMsgBox::apply_to_draft() {
 void frmMyMsgBox::apply_and_close() {
     if (Command5.enabled()) apply_to_draft();
     unload();
+}
+
+void frmMyMsgBox::apply_selected() {
+    if (!ListView2.selected_item()) return;
+    show_selected_text();
+    apply_and_close();
 }
 
 }  // namespace saved_texts

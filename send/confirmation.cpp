@@ -33,6 +33,13 @@ Text reply_lines(const compose::frmZent& form) {
     return u" 답변받기      : 예" + Text(CRLF) + u" 답변개수      : " + form.reply.Combo4.text();
 }
 
+Text when_in_words(const compose::SchedulePanel& schedule) {
+    if (schedule.Option1.chosen()) return u"바로 발송";
+    const platform::LocalTime date = schedule.DTP1.value();
+    return platform::format_date(date, u"M월 d일 ") + platform::weekday(date) + u" " +
+           schedule.Combo1.text() + u":" + schedule.Combo2.text() + u" 예약";
+}
+
 Text recipients_line(const Recipients& recipients) {
     Text line = u" 발송대상      : " + recipients.first_name + u"(" + recipients.first_number + u")";
     if (recipients.count > 1) line += u"외 " + platform::decimal(recipients.count - 1) + u"건";
@@ -57,10 +64,26 @@ frmSBox::frmSBox(platform::Platform& platform, core::AppState& state)
     : Form(platform.desktop, u"frmSBox"), state_(state) {
     set_caption(u"메시지 발송확인");
     Command1.Click.connect([this] { answer(true); });
-    Command2.Click.connect([this] { answer(false); });
+    Command2.Click.connect([this] { cancel(); });
 }
 
 void frmSBox::Form_Load() { core::CENTER_FORM(desktop(), *this); }
+
+void frmSBox::show_draft(const compose::frmZent& form, const Text& text, int recipients,
+                         const Forecast& forecast) {
+    Text1.set_text(Text(CRLF) + text);
+    Preview.set_text(forecast.content);
+    People.set_caption(platform::decimal(recipients) + u"명");
+    When.set_caption(when_in_words(form.schedule));
+    Amount.set_caption(amount_in_words(forecast));
+    Nameless.set_caption(u"이름이 없는 " + platform::decimal(forecast.nameless) +
+                         u"명에게는 발송되지 않습니다.");
+    Nameless.set_visible(forecast.nameless > 0);
+    Lost.set_caption(u"보낼 수 없는 글자 " + platform::decimal(forecast.lost_characters) +
+                     u"개는 ?로 나갑니다.");
+    Lost.set_visible(forecast.lost_characters > 0);
+    TakeOut.set_visible(forecast.lost_characters > 0);
+}
 
 void frmSBox::answer(bool start) {
     state_.forms.gDialogConfirmed = start;

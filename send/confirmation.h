@@ -7,6 +7,7 @@
 #include "platform/controls/fields.h"
 #include "platform/controls/form.h"
 #include "platform/ports/platform.h"
+#include "send/forecast.h"
 
 namespace send {
 
@@ -28,13 +29,28 @@ class frmSBox : public platform::Form {
 
     platform::TextBox Text1{*this, u"Text1"};
     platform::Label Label1{*this, u"Label1", u"발송을 시작하시겠습니까?"};
+    /// What the first recipient gets.
+    platform::TextBox Preview{*this, u"Preview"};
+    platform::Label People{*this, u"People"};
+    platform::Label When{*this, u"When"};
+    platform::Label Amount{*this, u"Amount"};
+    platform::Label Nameless{*this, u"Nameless"};
+    platform::Label Lost{*this, u"Lost"};
+    platform::CommandButton TakeOut{*this, u"TakeOut", u"그 글자 빼기(&R)"};
     platform::CommandButton Command1{*this, u"Command1", u"발송시작(&S)"};
     platform::CommandButton Command2{*this, u"Command2", u"취소(&C)"};
 
+    /// Shows the confirmation text and what the job will come to.
+    void show_draft(const compose::frmZent& form, const platform::Text& text, int recipients,
+                    const Forecast& forecast);
+
+    /// Says no.
+    void cancel() { answer(false); }
+
   protected:
     void Form_Load() override;
-    void Form_Escape() override { answer(false); }
-    void Form_Close() override { answer(false); }
+    void Form_Escape() override { cancel(); }
+    void Form_Close() override { cancel(); }
 
   private:
     void answer(bool start);

@@ -16,7 +16,7 @@ using platform::Text;
 void frmZentSend::begin_pieces(SendJob& job, const Text& text) {
     mText1.set_text(text);
     job.pieces = 0;
-    job.all_pieces = count_pieces(text);
+    job.all_pieces = core::count_pieces(text, compose::TEXT_LIMIT);
     if (main_form_.schedule.Option1.chosen()) {
         compose::show_schedule({DTP1, Combo1, Combo2}, platform_.clock.now());
     } else {

@@ -3,8 +3,8 @@
 #include "core/boxes.h"
 #include "core/busy.h"
 #include "core/centring.h"
+#include "core/personal_text.h"
 #include "platform/text/format.h"
-#include "send/recipient_text.h"
 
 namespace send {
 
@@ -27,6 +27,7 @@ frmZentSend::frmZentSend(platform::Platform& platform, core::AppState& state, co
       main_form_(main_form),
       drafts_(drafts),
       gateway_(platform, state) {
+    Failed.hide();
     set_caption(u"폰디라 서버에 메시지 등록...");
     Command1.set_tool_tip(u"메시지 등록을 중지합니다.");
     // Until the job begins there is nothing to stop, and a second Enter on the confirmation lands here.
@@ -97,7 +98,7 @@ bool frmZentSend::is_personal() const {
 
 void frmZentSend::run_routine_of_draft() {
     Timer1.set_enabled(false);
-    if (is_personal() && has_placeholder(main_form_.text.mText1.text())) {
+    if (is_personal() && core::has_placeholder(main_form_.text.mText1.text())) {
         SEND_PERSONAL();
     } else {
         SEND_BATCHES(caption());

@@ -12,6 +12,7 @@
 #include "platform/controls/list_view.h"
 #include "platform/controls/timer.h"
 #include "platform/ports/platform.h"
+#include "send/batch.h"
 #include "send/send_job.h"
 
 #include <chrono>
@@ -42,6 +43,10 @@ class frmZentSend : public platform::Form {
     platform::Animation Animation1{*this, u"Animation1"};
     platform::Label Label1_0{*this, u"Label1_0", u"KT 폰디라 서버와 통신중입니다."};
     platform::Label Label1_1{*this, u"Label1_1", u"등록이 완료될 때까지 잠시만 기다려 주십시오..."};
+    /// How many are registered, how many failed, and what is left.
+    platform::Label Registered{*this, u"Registered", u"등록을 준비하고 있습니다."};
+    platform::Label Failed{*this, u"Failed"};
+    platform::Label Remaining{*this, u"Remaining"};
     platform::ProgressBar PBar1{*this, u"PBar1"};
     platform::CommandButton Command1{*this, u"Command1", u"등록중지"};
     platform::Timer Timer1;
@@ -102,7 +107,7 @@ class frmZentSend : public platform::Form {
     void open_session(SendJob& job);
     platform::Text submit(SendJob& job, const std::vector<std::size_t>& rows, bool decides,
                           platform::TextView without_call = NOT_REGISTERED);
-    void take_answer(const SendJob& job, const std::vector<std::size_t>& rows, bool decides,
+    void take_answer(SendJob& job, const std::vector<std::size_t>& rows, bool decides,
                      const platform::Text& result);
     void close_session(const SendJob& job);
     static void count(SendJob& job, const platform::Text& result, int recipients);
@@ -112,17 +117,19 @@ class frmZentSend : public platform::Form {
     void report(const SendJob& job);
     void SEND_FINISHED();
 
+    // What the user sees of it meanwhile: progress.cpp.
+    void begin_progress(SendJob& job, int steps, Unit unit);
+    void step_done(SendJob& job);
+    void show_progress(const SendJob& job);
+
     // Recipients in batches: send_batches.cpp.
     void pass_over_rows(SendJob& job, Batch& batch, PassOptions options);
-    bool add_to_batch(Batch& batch, std::size_t& current, int piece) const;
     void submit_batch(SendJob& job, Batch& batch, std::size_t current, bool leaves_trace);
 
     // Recipients one by one: send_personal.cpp, send_singles.cpp.
     /// Whether the user has asked for personal messages and the current kind allows them.
     bool is_personal() const;
-    void for_each_recipient(const std::function<void(std::size_t row)>& send_row);
-    std::optional<platform::Text> filled_in(const platform::Text& text,
-                                            const platform::ListItem& recipient) const;
+    void for_each_recipient(SendJob& job, const std::function<void(std::size_t row)>& send_row);
     void send_personal_row(SendJob& job, std::size_t row);
     void send_single_row(SendJob& job, std::size_t row);
 
@@ -138,6 +145,8 @@ class frmZentSend : public platform::Form {
     drafts::DraftKeeper& drafts_;
     gateway::Gateway gateway_;
     bool job_started_ = false;
+    /// What the window was called before it told how far the job is.
+    platform::Text kind_name_;
 };
 
 }  // namespace send

@@ -27,6 +27,8 @@ constexpr platform::TextView FAILURE_MESSAGE =
     u"원인 4) 폰디라 사용이 일시 정지된 경우.\r\n\r\n"
     u"인터넷 연결상태를 확인하시고 잠시 후 다시 시작하여 주십시오.";
 
+constexpr platform::TextView JOB_FAILED = u"메시지 등록을 실패하였습니다.";
+
 }  // namespace
 
 /// An error ends the job where it is, without a report; rows that are done keep their status.
@@ -44,10 +46,12 @@ void frmZentSend::run_job(const CarrierKind* kind, Pauses pauses,
     } catch (const SessionRefused&) {
         normal_cursor();
         show_pieces();
+        platform_.desktop.notify(Text(JOB_FAILED));
         core::warn(platform_.desktop, Text(FAILURE_MESSAGE) + open_ends(RecipientRows));
     } catch (const platform::RuntimeError& error) {
         normal_cursor();
         show_pieces();
+        platform_.desktop.notify(Text(JOB_FAILED));
         core::show_error(platform_.desktop,
                          {static_cast<platform::ErrorNumber>(error.number()),
                           error.description() + open_ends(RecipientRows)},
@@ -101,7 +105,7 @@ Text frmZentSend::submit(SendJob& job, const std::vector<std::size_t>& rows, boo
 }
 
 /// Notes at once what the answer means for the rows: the list shows it only after the pause.
-void frmZentSend::take_answer(const SendJob& job, const std::vector<std::size_t>& rows, bool decides,
+void frmZentSend::take_answer(SendJob& job, const std::vector<std::size_t>& rows, bool decides,
                               const Text& result) {
     const bool registered = result == gateway::REGISTERED;
     const bool unconfirmed = result == gateway::NO_ANSWER;
@@ -119,6 +123,7 @@ void frmZentSend::take_answer(const SendJob& job, const std::vector<std::size_t>
         if (unconfirmed || (decides && registered)) recipient.checked = false;
     });
     if (!unconfirmed) return;
+    job.unconfirmed += static_cast<int>(rows.size());
     // Also before the last piece: nobody is sent anything more until the user has looked.
     for (const std::size_t row : rows) write_status(row, row + 1, result);
 }
@@ -174,7 +179,10 @@ void frmZentSend::report(const SendJob& job) {
     frmSendEndBox box(platform_, main_form_);
     box.load();
     box.Text1.set_text(Text(platform::CRLF) + text + open_ends(RecipientRows));
+    const Outcome outcome = outcome_of(job, MSGSendCount);
+    box.show_outcome(outcome);
     if (job.success > 0) box.offer_results();
+    platform_.desktop.notify(in_lines(outcome));
     box.show_modal();
 }
 

@@ -1,9 +1,9 @@
 #include "send/pieces.h"
 
 #include "core/byte_length.h"
+#include "core/personal_text.h"
 #include "gateway/gateway.h"
 #include "platform/text/number.h"
-#include "send/recipient_text.h"
 
 #include <algorithm>
 #include <map>
@@ -31,7 +31,7 @@ Text share_of(TextView pieces) {
 Text text_in_pieces(const compose::frmZent& form) {
     if (kind_of(form).kind != compose::MessageKind::text) return {};
     const Text text = platform::right_trim(form.text.mText1.text());
-    if (form.text.Check1.checked() && has_placeholder(text)) return u"개별:" + text;
+    if (form.text.Check1.checked() && core::has_placeholder(text)) return u"개별:" + text;
     return core::BYTE_LEN(text) > compose::TEXT_LIMIT ? text : Text();
 }
 
@@ -54,15 +54,6 @@ Text with_piece(TextView pieces, int piece, int all) {
 Text status_of_pieces(TextView pieces) {
     const Text share = share_of(pieces);
     return share.empty() ? Text() : share + Text(PIECES_REGISTERED);
-}
-
-int count_pieces(Text text) {
-    int pieces = 0;
-    for (text = platform::right_trim(text); !text.empty(); ++pieces) {
-        const std::size_t piece = core::LLL(text, compose::TEXT_LIMIT).size();
-        text = platform::right_trim(text.substr(piece));
-    }
-    return pieces;
 }
 
 Text pieces_report(const platform::ListView& recipients) {

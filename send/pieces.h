@@ -18,9 +18,6 @@ inline constexpr platform::TextView PIECES_REGISTERED = u" 등록";
 /// That status; empty for a recipient without a piece.
 platform::Text status_of_pieces(platform::TextView pieces);
 
-/// How many messages of at most 80 bytes the text goes in.
-int count_pieces(platform::Text text);
-
 /// For how many recipients how many of the pieces are registered, a line each; empty when no recipient waits
 /// for the rest of a text.
 platform::Text pieces_report(const platform::ListView& recipients);

@@ -28,12 +28,45 @@ Text report_text(const SendJob& job, int recipients, platform::LocalTime now) {
            cases(recipients - job.success - job.failure) + u"\r\n 걸린시간: " + elapsed(job.started, now);
 }
 
+Outcome outcome_of(const SendJob& job, int recipients) {
+    const auto unless_none = [](int count, const Text& text) { return count > 0 ? text : Text(); };
+    const int stopped = recipients - job.success - job.failure - job.unconfirmed;
+    return {.registered = job.success == recipients
+                              ? people(recipients) + u" 모두 등록했습니다."
+                              : people(recipients) + u" 중 " + people(job.success) + u"을 등록했습니다.",
+            .failed = unless_none(job.failure,
+                                  u"⚠ 실패 " + people(job.failure) + u": 목록에 선택된 채로 남아 있습니다."),
+            .stopped = unless_none(
+                stopped, u"등록하지 않음 " + people(stopped) + u": 목록에 선택된 채로 남아 있습니다."),
+            .unconfirmed = unless_none(job.unconfirmed, u"⚠ 확인필요 " + people(job.unconfirmed) +
+                                                            u": 발송결과에서 확인하여 주십시오.")};
+}
+
+Text in_lines(const Outcome& outcome) {
+    Text lines = outcome.registered;
+    for (const Text& line : {outcome.failed, outcome.unconfirmed}) {
+        if (!line.empty()) lines += u"\n" + line;
+    }
+    return lines;
+}
+
 frmSendEndBox::frmSendEndBox(platform::Platform& platform, compose::frmZent& main_form)
     : Form(platform.desktop, u"frmSendEndBox"), main_form_(main_form) {
     set_caption(u"KT 폰디라 서버에 메시지 등록완료...");
     Command1.set_enabled(false);
     Command1.Click.connect([this] { main_form_.session.KTSMS_LINK(service::PAGE_RESULTS); });
     Command2.Click.connect([this] { unload(); });
+}
+
+void frmSendEndBox::show_outcome(const Outcome& outcome) {
+    const auto show = [](platform::Label& label, const Text& text) {
+        label.set_caption(text);
+        label.set_visible(!text.empty());
+    };
+    show(Registered, outcome.registered);
+    show(Failed, outcome.failed);
+    show(Stopped, outcome.stopped);
+    show(Unconfirmed, outcome.unconfirmed);
 }
 
 void frmSendEndBox::Form_Load() { core::CENTER_FORM(desktop(), *this); }

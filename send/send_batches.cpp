@@ -3,21 +3,10 @@
 #include "core/byte_length.h"
 #include "platform/text/format.h"
 #include "send/frmZentSend.h"
-#include "send/pieces.h"
-#include "send/recipient_text.h"
 
 namespace send {
 
 using platform::Text;
-
-namespace {
-
-/// The most recipients that the carrier takes in one submit.
-constexpr int RECIPIENT_LIMIT = 100;
-/// The most bytes of cp949 in one submit's addresses.
-constexpr std::size_t ADDRESS_LIMIT = 2048;
-
-}  // namespace
 
 void frmZentSend::SEND_BATCHES(const Text& kind_name) {
     const auto [kind, carrier] = compose::find_carrier_kind(kind_name);
@@ -28,6 +17,7 @@ void frmZentSend::SEND_BATCHES(const Text& kind_name) {
     }
     run_job(carrier, kind != nullptr ? kind->pauses : compose::USUAL_PAUSES, [this](SendJob& job) {
         Batch batch;
+        begin_progress(job, count_batches(RecipientRows, job.pieces), Unit::batch);
         pass_over_rows(job, batch, {.leaves_trace = true, .shows_progress = true});
     });
 }
@@ -40,7 +30,8 @@ void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options
     while (current != rows) {
         ++current;
         if (options.leaves_trace) RecipientRows.make_visible(current - 1);
-        if (add_to_batch(batch, current, job.pieces)) submit_batch(job, batch, current, options.leaves_trace);
+        if (add_to_batch(RecipientRows, batch, current, job.pieces))
+            submit_batch(job, batch, current, options.leaves_trace);
         if (options.shows_progress) PBar1.set_progress(current, rows);
         if (current == rows) {
             // The last rows were left out, but the batch holds earlier ones.
@@ -52,34 +43,6 @@ void frmZentSend::pass_over_rows(SendJob& job, Batch& batch, PassOptions options
             return;
         }
     }
-}
-
-/// Adds the row to the batch when it is checked, has a number and has not got the piece yet (a text that goes
-/// whole is piece 0, which nobody has got). Returns whether the batch is to be
-/// submitted now. A row that does not fit is not consumed (`current` is decremented) and starts the next
-/// batch.
-bool frmZentSend::add_to_batch(Batch& batch, std::size_t& current, int piece) const {
-    const platform::ListItem& row = RecipientRows.row(current - 1);
-    if (!row.checked() || has_piece(row.sub_item(compose::RECIPIENT_PIECES), piece)) return false;
-    const std::optional<Text> address = address_of(row);
-    if (!address) return false;
-
-    const std::size_t bytes = batch.bytes + core::BYTE_LEN(*address);
-    if (bytes > ADDRESS_LIMIT) {
-        // A recipient that is too long for any batch is left out like one without a number.
-        if (batch.s_dest_addr.empty()) return false;
-        --current;
-        return true;
-    }
-    batch.s_dest_addr += *address;
-    batch.bytes = bytes;
-    batch.rows.push_back(current - 1);
-    ++batch.count;
-    // Deliberately before the first row is noted: an address that fills a batch alone also marks rows that
-    // failed in the batch before. Users and support know the status column so.
-    if (bytes == ADDRESS_LIMIT) return true;
-    if (batch.count == 1) batch.first_row = current - 1;
-    return batch.count == RECIPIENT_LIMIT || current == RecipientRows.row_count();
 }
 
 void frmZentSend::submit_batch(SendJob& job, Batch& batch, std::size_t current, bool leaves_trace) {
@@ -96,6 +59,7 @@ void frmZentSend::submit_batch(SendJob& job, Batch& batch, std::size_t current, 
         count(job, result, batch.count);
         write_status(batch.first_row, current, result);
     }
+    step_done(job);
     close_session(job);
     batch.rows.clear();
     batch.count = 0;

@@ -4,8 +4,10 @@
 #include "core/paths.h"
 #include "core/phone_number.h"
 #include "core/work_folders.h"
+#include "platform/text/cp949.h"
 #include "send/confirmation.h"
 #include "send/draft.h"
+#include "send/forecast.h"
 #include "send/frmZentSend.h"
 #include "send/pieces.h"
 
@@ -147,12 +149,35 @@ std::optional<Recipients> check_recipients(const Platform& platform, frmZent& fo
     return std::nullopt;
 }
 
-bool confirmed(Platform& platform, AppState& state, const CarrierKind& kind, const Text& text) {
+/// Takes the characters that the carrier cannot send out of what goes to it.
+void take_out_lost_characters(frmZent& form, const CarrierKind& kind) {
+    const auto take_out = [](platform::TextBox& field) {
+        field.set_text(platform::without_lost_in_cp949(field.text()));
+    };
+    // Before the text changes, which the subject may follow.
+    const Text subject = platform::without_lost_in_cp949(form.subject.subjectText.text());
+    if (kind.sms) take_out(kind.content == Content::text ? form.text.mText1 : form.plus.mText2);
+    if (kind.tts) take_out(form.voice.ttsText);
+    form.subject.subjectText.set_text(subject);
+}
+
+bool confirmed(Platform& platform, AppState& state, frmZent& form, const CarrierKind& kind,
+               const Recipients& recipients, Text& documents) {
     state.forms.gDialogConfirmed = false;
     frmSBox box(platform, state);
+    const auto show_draft = [&] {
+        const auto message = message_of_draft(form, &kind, documents, platform.clock.now());
+        box.show_draft(form, confirmation_text(form, kind, recipients), recipients.count,
+                       forecast_of(form, message));
+    };
     box.load();
-    box.Text1.set_text(Text(platform::CRLF) + text);
     box.Label1.set_caption(Text(kind.name) + u" 발송을 시작하시겠습니까?");
+    show_draft();
+    box.TakeOut.Click.connect([&] {
+        take_out_lost_characters(form, kind);
+        // Nothing may be left.
+        check_content(platform, form, kind.content, documents) ? show_draft() : box.cancel();
+    });
     box.show_modal();
     return state.forms.gDialogConfirmed;
 }
@@ -180,8 +205,8 @@ void check_and_send(Platform& platform, AppState& state, frmZent& form, drafts::
 
     // No hand-over of the card manager may change the list while the user reads the box.
     form.Timer1.set_enabled(false);
-    if (confirmed(platform, state, carrier, confirmation_text(form, carrier, *recipients)) &&
-        settle_pieces(platform, form) && drafts.ready_for_job()) {
+    if (confirmed(platform, state, form, carrier, *recipients, documents) && settle_pieces(platform, form) &&
+        drafts.ready_for_job()) {
         frmZentSend job(platform, state, form, drafts);
         job.load();
         job.set_caption(Text(carrier.name));

@@ -4,9 +4,7 @@
 #include "gateway/gateway.h"
 #include "platform/text/calendar.h"
 #include "platform/text/text.h"
-
-#include <cstddef>
-#include <vector>
+#include "send/pace.h"
 
 namespace send {
 
@@ -31,19 +29,14 @@ struct SendJob {
     // Counted in recipients.
     int success = 0;
     int failure = 0;
-};
+    /// Whose registration the carrier has not answered.
+    int unconfirmed = 0;
 
-/// Recipients gathered for one submit.
-struct Batch {
-    platform::Text s_dest_addr;
-    /// Length of the address text in cp949. Kept because measuring the whole text for each row would make a
-    /// long list slow.
-    std::size_t bytes = 0;
-    int count = 0;
-    /// The rows that are in it, counted from 0.
-    std::vector<std::size_t> rows;
-    /// The row at which it begins.
-    std::size_t first_row = 0;
+    /// How far it is.
+    Steps steps{};
+    Unit unit = Unit::batch;
+    /// What it waits within each step.
+    std::chrono::milliseconds waits{};
 };
 
 /// The carrier cannot be reached or the account cannot be used: the job ends without a report.

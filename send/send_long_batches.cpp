@@ -25,6 +25,9 @@ void frmZentSend::SEND_LONG_BATCHES() {
         begin_pieces(job, platform::right_trim(main_form_.text.mText1.text()));
         const std::size_t expected = expected_pieces(mText1.text());
         Batch batch;
+        int batches = 0;
+        for (int piece = 1; piece <= job.all_pieces; ++piece) batches += count_batches(RecipientRows, piece);
+        begin_progress(job, batches, Unit::batch);
         while (!mText1.text().empty()) {
             next_piece(job);
             state_.session.gSubmitSequence = 1;

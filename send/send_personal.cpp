@@ -1,10 +1,9 @@
 // SEND_PERSONAL: a text with the recipient's name or title in it, one recipient a submit. Also what it shares
 // with the other routine that goes recipient by recipient.
 
-#include "platform/controls/list_columns.h"
+#include "core/personal_text.h"
 #include "send/frmZentSend.h"
 #include "send/pieces.h"
-#include "send/recipient_text.h"
 
 namespace send {
 
@@ -13,17 +12,21 @@ using platform::Text;
 void frmZentSend::SEND_PERSONAL() {
     const compose::KindOfMessage& text = kind_of(compose::MessageKind::text);
     run_job(&carrier_kind(text, compose::Content::text), compose::PERSONAL_PAUSES, [this](SendJob& job) {
-        for_each_recipient([&](std::size_t row) { send_personal_row(job, row); });
+        for_each_recipient(job, [&](std::size_t row) { send_personal_row(job, row); });
     });
 }
 
 /// The checked rows, one after the other, until the user stops the job; here the box about the
 /// stop also comes behind the last row.
-void frmZentSend::for_each_recipient(const std::function<void(std::size_t row)>& send_row) {
+void frmZentSend::for_each_recipient(SendJob& job, const std::function<void(std::size_t row)>& send_row) {
+    begin_progress(job, MSGSendCount, Unit::person);
     const std::size_t rows = RecipientRows.row_count();
     for (std::size_t row = 0; row < rows; ++row) {
         RecipientRows.make_visible(row);
-        if (RecipientRows.row(row).checked()) send_row(row);
+        if (RecipientRows.row(row).checked()) {
+            send_row(row);
+            step_done(job);
+        }
         if (StopRequested) {
             show_stopped();
             return;
@@ -31,22 +34,15 @@ void frmZentSend::for_each_recipient(const std::function<void(std::size_t row)>&
     }
 }
 
-/// The text for this recipient; nothing when it has a place for a name that is missing.
-std::optional<Text> frmZentSend::filled_in(const Text& text, const platform::ListItem& recipient) const {
-    const int title = platform::FIND_COLUMN(u"직위", RecipientRows) - 1;
-    return fill_placeholders(text, recipient.sub_item(compose::RECIPIENT_NAME), recipient.sub_item(title));
-}
-
 void frmZentSend::send_personal_row(SendJob& job, std::size_t row) {
-    const platform::ListItem& recipient = RecipientRows.row(row);
     const std::optional<Text> text =
-        filled_in(platform::right_trim(main_form_.text.mText1.text()), recipient);
+        core::personal_text(platform::right_trim(main_form_.text.mText1.text()), RecipientRows, row);
     if (!text) {
         ++job.failure;
         write_status(row, row + 1, Text(NAME_MISSING));
         return;
     }
-    const std::optional<Text> address = address_of(recipient);
+    const std::optional<Text> address = address_of(RecipientRows.row(row));
     if (!address) return;
     job.message.s_dest_addr_count = 1;
     job.message.s_dest_addr = *address;

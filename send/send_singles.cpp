@@ -2,8 +2,8 @@
 // being cut.
 
 #include "core/byte_length.h"
+#include "core/personal_text.h"
 #include "send/frmZentSend.h"
-#include "send/recipient_text.h"
 
 namespace send {
 
@@ -19,7 +19,7 @@ constexpr platform::TextView FAILED = u"실패";
 
 void frmZentSend::SEND_SINGLES(const Text& kind_name) {
     run_job(compose::find_carrier_kind(kind_name).carrier, compose::USUAL_PAUSES, [this](SendJob& job) {
-        for_each_recipient([&](std::size_t row) { send_single_row(job, row); });
+        for_each_recipient(job, [&](std::size_t row) { send_single_row(job, row); });
     });
 }
 
@@ -28,14 +28,14 @@ void frmZentSend::send_single_row(SendJob& job, std::size_t row) {
         ++job.failure;
         write_status(row, row + 1, Text(status));
     };
-    const platform::ListItem& recipient = RecipientRows.row(row);
     if (is_personal()) {
-        const std::optional<Text> text = filled_in(main_form_.text.mText1.text(), recipient);
+        const std::optional<Text> text =
+            core::personal_text(main_form_.text.mText1.text(), RecipientRows, row);
         if (!text) return fail(NAME_MISSING);
         if (core::BYTE_LEN(*text) > compose::TEXT_LIMIT) return fail(TEXT_TOO_LONG);
         job.message.s_sms_content = *text;
     }
-    const std::optional<Text> address = address_of(recipient);
+    const std::optional<Text> address = address_of(RecipientRows.row(row));
     if (!address) return;
     job.message.s_dest_addr_count = 1;
     job.message.s_dest_addr = *address;

@@ -3,12 +3,25 @@
 #include "platform/text/text.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <utility>
 #include <vector>
 
 namespace platform {
 
 struct RowBlock;
+
+/// What sets a row apart at a glance: a sign and a colour.
+enum class RowMark : std::uint8_t {
+    none,
+    /// Nothing more is to be done with it.
+    done,
+    failed,
+    /// The user has to look whether it is done.
+    uncertain,
+    /// It cannot be used as it is.
+    unusable,
+};
 
 /// A row of a list: its item text and its sub-items, counted from 1.
 class ListItem {
@@ -24,6 +37,7 @@ class ListItem {
     int small_icon() const { return small_icon_; }
     bool checked() const { return checked_; }
     bool selected() const { return selected_; }
+    RowMark mark() const { return mark_; }
     /// Position in the list, counted from 0.
     std::size_t position() const;
 
@@ -39,6 +53,7 @@ class ListItem {
     int small_icon_ = 0;
     bool checked_ = false;
     bool selected_ = false;
+    RowMark mark_ = RowMark::none;
 };
 
 }  // namespace platform

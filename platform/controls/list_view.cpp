@@ -35,6 +35,7 @@ std::size_t ListView::add_row(Text text, std::vector<Text> sub_items, bool check
     added->checked_ = checked;
     if (checked) ++checked_count_;
     if (index_) index_->add(*added);
+    mark(*added);
     if (sorted_ && !filling_) added->sort_text_ = lower_case(added->sub_item(sort_key_));
     const bool at_end = !sorted_ || held_ || filling_;
     const std::size_t place = at_end ? rows_.size() : place_of(added->sort_text_);
@@ -51,19 +52,60 @@ void ListView::insert(std::size_t place, Row row) {
 }
 
 void ListView::remove_selected_rows() {
+    take_rows([](const ListItem& row) { return row.selected(); });
+}
+
+TakenRows ListView::take_rows(const std::function<bool(const ListItem& row)>& passes) {
+    TakenRows taken;
+    if (held_) return taken;
+    ++revision_;
+    if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
+    std::size_t place = 0;
+    for (Row& row : rows_.take_all()) {
+        if (passes(*row)) {
+            leave_out(*row);
+            taken.emplace_back(place, std::move(row));
+        } else {
+            rows_.insert(rows_.size(), std::move(row));
+        }
+        ++place;
+    }
+    if (rows_view_ != nullptr) rows_view_->rows_rearranged();
+    return taken;
+}
+
+void ListView::put_back(TakenRows rows) {
     if (held_) return;
     ++revision_;
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
-    if (selected_item_ != nullptr && selected_item_->selected()) selected_item_ = nullptr;
-    for (Row& row : rows_.take_all()) {
-        if (!row->selected()) {
-            rows_.insert(rows_.size(), std::move(row));
-            continue;
+    auto back = rows.begin();
+    const auto put_in_place = [&](bool at_end) {
+        while (back != rows.end() && (at_end || back->first <= rows_.size())) {
+            take_in(*back->second);
+            rows_.insert(rows_.size(), std::move(back->second));
+            ++back;
         }
-        if (row->checked()) --checked_count_;
-        if (index_) index_->remove(*row);
+    };
+    for (Row& row : rows_.take_all()) {
+        put_in_place(false);
+        rows_.insert(rows_.size(), std::move(row));
     }
+    put_in_place(true);
     if (rows_view_ != nullptr) rows_view_->rows_rearranged();
+    if (sorted_ && !filling_) sort(sort_key_, sort_order_);
+}
+
+void ListView::leave_out(ListItem& row) {
+    if (selected_item_ == &row) selected_item_ = nullptr;
+    row.selected_ = false;
+    if (row.checked()) --checked_count_;
+    if (index_) index_->remove(row);
+}
+
+void ListView::take_in(ListItem& row) {
+    if (row.checked()) ++checked_count_;
+    if (index_) index_->add(row);
+    mark(row);
 }
 
 void ListView::clear() {
@@ -96,6 +138,7 @@ void ListView::set_sub_item(std::size_t row, int sub_item, Text text) {
     if (index_) index_->remove(changed, sub_item);
     changed.sub_items_[static_cast<std::size_t>(sub_item - 1)] = std::move(text);
     if (index_) index_->add(changed, sub_item);
+    mark(changed);
     if (rows_view_ != nullptr) rows_view_->row_changed(row);
 }
 
@@ -109,6 +152,33 @@ void ListView::change_checked(std::size_t row, bool checked) {
     ++revision_;
     item(row).checked_ = checked;
     checked ? ++checked_count_ : --checked_count_;
+}
+
+void ListView::use_column(int number, Text (*shown)(TextView text)) {
+    for (int other = 1; other <= column_count(); ++other) {
+        Column& column = columns_[static_cast<std::size_t>(other - 1)];
+        column.in_use = other == number;
+        column.shown = column.in_use ? shown : nullptr;
+    }
+    if (rows_view_ != nullptr) rows_view_->columns_changed();
+    refresh(Aspect::rows);
+}
+
+void ListView::set_marking(Marking marking) {
+    marking_ = std::move(marking);
+    for (std::size_t row = 0; row < rows_.size(); ++row) {
+        const RowMark before = item(row).mark_;
+        mark(item(row));
+        if (item(row).mark_ != before && rows_view_ != nullptr) rows_view_->row_changed(row);
+    }
+}
+
+void ListView::mark(ListItem& row) const {
+    if (marking_.mark_of) row.mark_ = marking_.mark_of(row);
+}
+
+Text ListView::mark_reason(std::size_t row) const {
+    return marking_.reason_of ? marking_.reason_of(rows_[row]) : Text();
 }
 
 std::optional<std::size_t> ListView::selected_item() const {
@@ -133,6 +203,22 @@ void ListView::select_all() {
     for (std::size_t row = 0; row < rows_.size(); ++row) item(row).selected_ = true;
     if (selected_item_ == nullptr && rows_.size() > 0) selected_item_ = &item(0);
     if (rows_view_ != nullptr) rows_view_->selection_changed();
+}
+
+void ListView::deselect_all() {
+    for (std::size_t row = 0; row < rows_.size(); ++row) item(row).selected_ = false;
+    selected_item_ = nullptr;
+    if (rows_view_ != nullptr) rows_view_->selection_changed();
+}
+
+void ListView::go_to(std::size_t row) {
+    deselect_all();
+    select_item(row);
+    make_visible(row);
+}
+
+void ListView::edit(std::size_t row, int sub_item) const {
+    if (rows_view_ != nullptr && column(sub_item + 1).editable) rows_view_->edit(row, sub_item);
 }
 
 void ListView::make_visible(std::size_t row) const {

@@ -7,7 +7,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace platform {
@@ -30,6 +32,18 @@ class RowsView {
     virtual void selection_changed() = 0;
     virtual void columns_changed() = 0;
     virtual void make_visible(std::size_t row) = 0;
+    /// Lets the user change a text of the row where it stands.
+    virtual void edit(std::size_t row, int sub_item) = 0;
+};
+
+/// Rows that have been taken out of a list, in their order, each with the place that it had.
+using TakenRows = std::vector<std::pair<std::size_t, Row>>;
+
+/// A text of a row as the user wants it.
+struct CellEdit {
+    std::size_t row;
+    int sub_item;
+    Text text;
 };
 
 /// A report list: columns, rows with an optional check box, one selected item and any number of selected
@@ -44,7 +58,25 @@ class ListView : public Control {
         std::optional<int> picture = {};
         /// In twips; 0 keeps the screen's width.
         int width = 0;
+        /// How the user reads a text of the column; null shows it as it stands.
+        Text (*shown)(TextView text) = nullptr;
+        /// Whether the signs of the rows' marks stand here.
+        bool signs = false;
+        /// Whether the user may change the texts where they stand.
+        bool editable = false;
+        /// Whether the column is the one that matters now.
+        bool in_use = false;
     };
+
+    /// How the rows are marked.
+    struct Marking {
+        std::function<RowMark(const ListItem& row)> mark_of;
+        /// What the user reads about the mark when he points at the row; empty when its texts say it all.
+        std::function<Text(const ListItem& row)> reason_of;
+    };
+
+    /// Which rows the user checks or unchecks at once.
+    enum class ManyRows { selected, all };
 
     ListView(Form& form, TextView name, std::vector<Column> columns, bool check_boxes = false)
         : Control(form, name), columns_(std::move(columns)), check_boxes_(check_boxes) {}
@@ -61,8 +93,14 @@ class ListView : public Control {
     void set_column_caption(int number, Text caption);
     void set_column_picture(int number, std::optional<int> picture);
     void set_column_width(int number, int twips);
+    /// Marks the column as the one that matters now, and shows its texts so; no other column is marked then.
+    void use_column(int number, Text (*shown)(TextView text));
     /// The room for all columns in twips; 0 while nothing shows the list.
     int width() const { return width_; }
+
+    /// What the user reads in the list while it has no rows.
+    const Text& placeholder() const { return placeholder_; }
+    void set_placeholder(Text text) { assign(placeholder_, std::move(text), Aspect::rows); }
 
     std::size_t row_count() const { return rows_.size(); }
     /// Grows with every change of the rows' texts, marks and places.
@@ -74,6 +112,10 @@ class ListView : public Control {
     std::size_t add_row(Text text, std::vector<Text> sub_items, bool checked = false);
     /// Does nothing while the rows are held; neither do `clear` and `sort`.
     void remove_selected_rows();
+    /// The same for the rows that pass, which are returned so that they can be put back.
+    TakenRows take_rows(const std::function<bool(const ListItem& row)>& passes);
+    /// Puts rows back where they were or, in a list that is sorted, where they belong.
+    void put_back(TakenRows rows);
     void clear();
 
     void set_item_text(std::size_t row, Text text);
@@ -83,6 +125,11 @@ class ListView : public Control {
     void set_checked(std::size_t row, bool checked);
     std::size_t checked_count() const { return checked_count_; }
 
+    /// Marks all rows, and from then on every row whose texts change.
+    void set_marking(Marking marking);
+    /// What the user reads about the row's mark.
+    Text mark_reason(std::size_t row) const;
+
     /// The one row that keys act on; none after it has gone or has been deselected.
     std::optional<std::size_t> selected_item() const;
     /// Makes the row the selected item and selects it; other rows keep their selection.
@@ -90,7 +137,15 @@ class ListView : public Control {
     /// Deselects the selected item, if there is one.
     void deselect_item();
     void select_all();
+    void deselect_all();
+    /// Selects the row alone and brings it into view.
+    void go_to(std::size_t row);
     void make_visible(std::size_t row) const;
+    /// Lets the user change a text of the row where it stands. CellEdited tells what came of it.
+    void edit(std::size_t row, int sub_item) const;
+    /// Whether the user sees which rows are selected; he need not where selecting was not his doing.
+    bool shows_selection() const { return shows_selection_; }
+    void show_selection(bool on) { assign(shows_selection_, on, Aspect::selection); }
 
     /// The first row with a sub-item that begins with the text.
     std::optional<std::size_t> find_in_sub_items(TextView beginning) const;
@@ -108,17 +163,24 @@ class ListView : public Control {
 
     // What the user does.
     void user_check(std::size_t row, bool checked);
+    /// Whether many rows are checked is up to the handlers of CheckMany.
+    void user_check_many(ManyRows rows, bool checked) { CheckMany.raise(rows, checked); }
     void user_select(std::size_t row, bool selected);
     void user_selected_item(std::optional<std::size_t> row);
     void user_resized(int width);
 
     Event<std::size_t> ItemCheck;
+    UserEvent<ManyRows, bool> CheckMany{*this};
     UserEvent<int> ColumnClick{*this};
     UserEvent<KeyPressed&> KeyDown{*this};
     UserEvent<KeyPressed&> KeyPress{*this};
     UserEvent<KeyPressed&> KeyUp{*this};
     UserEvent<MouseButton> MouseUp{*this};
     UserEvent<> DblClick{*this};
+    /// The list shows the text only if a handler sets it.
+    UserEvent<const CellEdit&> CellEdited{*this};
+    /// Without a handler nothing can be dropped here.
+    UserEvent<const Dropped&> Drop{*this};
     /// The width available for the columns has changed.
     Event<> Resize;
 
@@ -131,11 +193,16 @@ class ListView : public Control {
     bool stands_before(const Text& sort_text, const Text& other) const;
     std::size_t place_of(const Text& sort_text) const;
     void insert(std::size_t place, Row row);
+    void mark(ListItem& row) const;
+    void leave_out(ListItem& row);
+    void take_in(ListItem& row);
 
     RowsView* rows_view_ = nullptr;
     std::vector<Column> columns_;
     bool check_boxes_;
+    Text placeholder_;
     RowSequence rows_;
+    Marking marking_;
     /// Made at the first search, because most lists are never searched.
     mutable std::optional<PrefixIndex> index_;
     ListItem* selected_item_ = nullptr;
@@ -147,6 +214,7 @@ class ListView : public Control {
     int width_ = 0;
     bool held_ = false;
     bool filling_ = false;
+    bool shows_selection_ = true;
 };
 
 /// Fills a list for as long as this object lives: new rows stand at the end, and a sorted list is sorted once

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace platform {
 
@@ -22,6 +23,21 @@ inline std::size_t cp949_bytes(char16_t unit) { return cp949_table::BYTES[unit];
 
 /// The bytes of the text in code page 949.
 std::size_t cp949_length(TextView text);
+
+/// A run of code units of a text.
+struct TextRange {
+    std::size_t start = 0;
+    std::size_t length = 0;
+
+    bool operator==(const TextRange&) const = default;
+};
+
+/// The characters that become question marks in code page 949, in order. What a reader sees as one, an emoji
+/// with its skin colour or several joined, is one range.
+std::vector<TextRange> lost_in_cp949(TextView text);
+
+/// The text without those characters.
+Text without_lost_in_cp949(TextView text);
 
 /// Whether a byte begins a double-byte character.
 constexpr bool is_cp949_lead(char byte) {

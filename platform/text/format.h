@@ -21,6 +21,9 @@ Text format_service_number(TextView value);
 /// Every other character stands for itself. The pattern "long Time" is the locale's: "오후 1:04:05".
 Text format_date(LocalTime time, TextView pattern);
 
+/// The day of the week: "월요일".
+Text weekday(LocalTime time);
+
 /// An elapsed time in days, shown as a clock time: only its fraction of a day, without its sign, to the
 /// nearest second. Whole days are lost.
 Text format_day_fraction(double days, TextView pattern);

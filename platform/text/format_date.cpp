@@ -71,6 +71,12 @@ Text format_date(LocalTime moment, TextView pattern) {
     return out;
 }
 
+Text weekday(LocalTime time) {
+    constexpr TextView NAMES[] = {u"일", u"월", u"화", u"수", u"목", u"금", u"토"};
+    const std::chrono::weekday day(std::chrono::floor<std::chrono::days>(time));
+    return Text(NAMES[day.c_encoding()]) + u"요일";
+}
+
 Text format_day_fraction(double days, TextView pattern) {
     constexpr int SECONDS_A_DAY = 86'400;
     const double part_of_day = std::fabs(days - std::trunc(days));

@@ -21,7 +21,7 @@ def play(desk):
     desk.picture("draft")
 
     desk.start_sending(main, "confirmation")
-    desk.window_called("문자메시지")
+    desk.window("% · 문자메시지")
     desk.picture("sending")
     expect("the report", desk.read_report("report"), [3, 0, 0])
     desk.picture("sent")

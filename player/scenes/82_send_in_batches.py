@@ -20,7 +20,9 @@ def play(desk):
     )
     desk.find("전체>250>대상>100", "label", main)
     desk.picture("refused-batch")
-    expect("the report", desk.send(main), [100, 0, 0])
+    note = desk.note_while_away(lambda: desk.start_sending(main))
+    expect("the note", note, ["100명 모두 등록했습니다."])
+    expect("the report", desk.read_report(), [100, 0, 0])
     desk.carrier.expect(batch("안내", SECOND))
     desk.find("전체>250>대상>0", "label", main)
 

@@ -68,6 +68,17 @@ TEST(Numbers, OnlyTheDigitsStayUnlessTheyMakeZero) {
     for (const auto& row : rows) EXPECT_EQ(utf8(DIGITS_ONLY(row.typed)), utf8(row.digits));
 }
 
+TEST(Numbers, AreShownAsPeopleWriteThem) {
+    const std::pair<const char16_t*, const char*> numbers[] = {
+        {u"01020000236", "010-2000-0236"}, {u"0112345678", "011-234-5678"},
+        {u"025551234", "02-555-1234"},     {u"0212345678", "02-1234-5678"},
+        {u"0317654321", "031-765-4321"},   {u"15880000", "1588-0000"},
+        {u"05021234567", "0502-123-4567"}, {u"030312345678", "0303-1234-5678"},
+        {u"0101234", "0101234"},           {u"번호를모르는사람임", "번호를모르는사람임"},
+        {u"010123456789", "010123456789"}, {u"", ""}};
+    for (const auto& [number, shown] : numbers) EXPECT_EQ(utf8(core::with_hyphens(number)), shown);
+}
+
 TEST(Texts, ATextFromAPaddedBufferLosesOnlyItsPadding) {
     const struct {
         Text buffer;

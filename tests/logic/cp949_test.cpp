@@ -58,6 +58,27 @@ TEST(Cp949, MixedTextsGoThroughInOrder) {
     EXPECT_EQ(platform::decode_cp949("\xC7\r\n"), u"?\n") << "a lead byte takes its trail byte with it";
 }
 
+TEST(Cp949, WhatIsLostIsCountedAsAReaderDoes) {
+    const struct {
+        Text text;
+        std::vector<platform::TextRange> lost;
+        Text rest;
+    } rows[] = {
+        {u"안녕? é♡", {}, u"안녕? é♡"},
+        {u"가\U0001F600나\U0001F600", {{1, 2}, {4, 2}}, u"가나"},
+        {u"\U0001F600\U0001F600", {{0, 2}, {2, 2}}, u""},
+        {u"\U0001F44D\U0001F3FD!", {{0, 4}}, u"!"},
+        {u"\u2764\uFE0F\u200D\U0001F525a", {{0, 5}}, u"a"},
+        {u"1\uFE0F\u20E3", {{1, 2}}, u"1"},
+        {u"x\xD83D", {{1, 1}}, u"x"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(platform::to_utf8(row.text));
+        EXPECT_EQ(platform::lost_in_cp949(row.text), row.lost);
+        EXPECT_EQ(platform::without_lost_in_cp949(row.text), row.rest);
+    }
+}
+
 TEST(Cp949, CuttingBytesNeverSplitsACharacter) {
     const std::string bytes = "a\xC7\xD1\x81\x41z";
     const std::size_t kept[] = {0, 1, 1, 3, 3, 5, 6, 6};

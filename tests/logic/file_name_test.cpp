@@ -1,6 +1,7 @@
 #include "platform/file_name.h"
 
 #include "platform/error.h"
+#include "platform/formats/shown_path.h"
 #include "platform/text/hangul.h"
 
 #include <algorithm>
@@ -23,6 +24,14 @@ TEST(FileName, AreRefusedWhenAnySystemRefusesOrHidesThem) {
           Text(u"CON"),   Text(u"con .txt"), Text(u"nul.tar.gz"), Text(u"Com9.txt"), Text(86, u'한')}) {
         EXPECT_THROW(check_file_name(bad), RuntimeError) << to_utf8(bad);
     }
+}
+
+TEST(FileName, StandsInFrontOfItsFolder) {
+    EXPECT_EQ(shown_path(u"z:\\home\\kim\\견적.doc"), u"견적.doc — /home/kim");
+    EXPECT_EQ(shown_path(u"Z:\\견적.doc"), u"견적.doc — /");
+    EXPECT_EQ(shown_path(u"c:\\temp\\a.wav"), u"a.wav — c:\\temp");
+    EXPECT_EQ(shown_path(u"/home/kim/a.wav"), u"a.wav — /home/kim");
+    EXPECT_EQ(shown_path(u"a.wav"), u"a.wav");
 }
 
 TEST(FileName, AreListedWithoutRegardToCase) {

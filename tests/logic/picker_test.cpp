@@ -52,6 +52,73 @@ struct Picker : testing::Test, tests::Picking {
     }
 };
 
+TEST_F(Picker, SaysWhatBecameOfTheRowsThatWereAdded) {
+    found = {{.name = u"가", .cellphone = u"010-1111-2222"},
+             {.name = u"나", .cellphone = u"없음"},
+             {.name = u"다", .cellphone = u"010-1111-2222"}};
+    pick(TEXT, [&](frmSendMan& picker) {
+        EXPECT_EQ(utf8(picker.Counts.caption()), "전체 2명 · 목록 3명 · 선택 0명");
+        EXPECT_EQ(picker.ListView2.row(0).mark(), platform::RowMark::none);
+        EXPECT_EQ(picker.ListView2.row(1).mark(), platform::RowMark::unusable);
+        EXPECT_TRUE(picker.ListView2.column(4).in_use);
+        EXPECT_EQ(utf8(picker.ListView2.column(4).shown(u"없음")), "번호 없음");
+        platform::KeyPressed ctrl_a{platform::KEY_CTRL_A};
+        picker.ListView2.KeyPress.raise(ctrl_a);
+        EXPECT_EQ(utf8(picker.Counts.caption()), "전체 2명 · 목록 3명 · 선택 3명");
+        picker.Command2[1].Click.raise();
+        EXPECT_EQ(utf8(picker.Added.caption()), "1명 추가 · 이미 있음 1명 · 번호 없음 1명");
+    });
+    pick(VOICE, [](frmSendMan& picker) {
+        picker.Combo2.user_choose(1);
+        EXPECT_TRUE(picker.ListView2.column(4).in_use) << "the company's number";
+        EXPECT_FALSE(picker.ListView2.column(3).in_use);
+        EXPECT_EQ(picker.ListView2.row(0).mark(), platform::RowMark::unusable) << "a mobile number alone";
+    });
+}
+
+TEST_F(Picker, TypingSelectsTheFirstCardThatBeginsSoUnlessTheUserHasSelectedOthers) {
+    found = {{.name = u"가"}, {.name = u"나", .company = u"Delta"}, {.name = u"델타"}};
+    pick(TEXT, [&](frmSendMan& picker) {
+        const auto typed = [&](const Text& text) {
+            picker.Text1.user_edit(text, text.size());
+            const auto selected = picker.ListView2.selected_item();
+            return selected ? utf8(picker.ListView2.row(*selected).text()) : "none";
+        };
+        EXPECT_TRUE(picker.Text1.has_focus());
+        EXPECT_EQ(typed(u"delta"), "나");
+        EXPECT_EQ(typed(u"델"), "델타");
+        EXPECT_EQ(typed(u"델x"), "none");
+        platform::KeyPressed down{platform::KEY_DOWN};
+        picker.Text1.KeyDown.raise(down);
+        EXPECT_TRUE(picker.ListView2.has_focus());
+        picker.Text1.set_focus();
+        EXPECT_EQ(typed(u"델"), "가") << "selected by the user";
+    });
+}
+
+TEST_F(Picker, KeepsItsOrderForTheNextOpening) {
+    found = {{.name = u"나", .company = u"1"}, {.name = u"가", .company = u"2"}};
+    pick(TEXT, [&](frmSendMan& picker) { picker.ListView2.ColumnClick.raise(3); });
+    pick(FAX, [&](frmSendMan& picker) {
+        EXPECT_EQ(utf8(picker.ListView2.row(0).text()), "가");
+        EXPECT_EQ(picker.ListView2.column(2).picture, 1);
+        picker.ListView2.ColumnClick.raise(2);
+        click(picker, 2);
+        EXPECT_EQ(utf8(picker.ListView2.row(0).text()), "나");
+    });
+}
+
+TEST_F(Picker, SaysWhatASearchDidNotFind) {
+    pick(TEXT, [&](frmSendMan& picker) {
+        EXPECT_EQ(utf8(picker.ListView2.placeholder()), "명함이 없습니다.");
+        search(picker, u"없는이름");
+        EXPECT_EQ(utf8(picker.ListView2.placeholder()),
+                  "'없는이름'(으)로 시작하는 이름이나 회사가 없습니다.\r\n'~를 포함'(으)로 찾아 보십시오.");
+        click(picker, 2);
+        EXPECT_EQ(utf8(picker.ListView2.placeholder()), "이 폴더에는 명함이 없습니다.");
+    });
+}
+
 TEST_F(Picker, TheTreeIsBuiltFromRowsInAnyOrderAndWithoutTheTrash) {
     folders = {{10, 20, u"4단계"},  {20, 30, u"3단계"},   {30, 1, u"2단계"},  {71, 72, u"버린 아이"},
                {72, 1000, u"버림"}, {1000, 0, u"휴지통"}, {1, 0, u"전체"},    {5, 30, u"미정"},
@@ -262,6 +329,7 @@ TEST_F(Picker, ProgressShowsForMoreThan100CardsAndTheWindowIsPaintedMeanwhile) {
 TEST_F(Picker, TheHintDisappearsWhenTypingButTheButtonSearchesForIt) {
     pick(TEXT, [&](frmSendMan& picker) {
         const auto shown = [&] { return utf8(picker.Text1.text()); };
+        picker.ListView2.set_focus();
         EXPECT_EQ(shown(), "이름 또는 회사");
         EXPECT_EQ(picker.Text1.text_colour(), 0x808080u);
         picker.Command1.Click.raise();

@@ -184,6 +184,38 @@ TEST_F(Checking, ProgressShowsAboveFiveHundredRowsOnly) {
     EXPECT_FALSE(form.recipients.PBar1.visible());
 }
 
+TEST_F(Checking, TheBoxInTheHeaderChecksEveryRow) {
+    add(u"가", u"010", u"등록성공", false);
+    add(u"나", u"011", u"등록실패", true);
+    form.recipients.ListView1.user_check_many(platform::ListView::ManyRows::all, true);
+    EXPECT_EQ(rows(), (Rows{"*가 010", "*나 011"}));
+    EXPECT_EQ(counts(), "전체>2>대상>2");
+}
+
+TEST_F(Recipients, ARowIsMarkedByItsStatusAndOtherwiseByWhetherTheKindReachesIt) {
+    using platform::RowMark;
+    const struct {
+        const char16_t *number, *status;
+        RowMark as_text, as_fax;
+    } people[] = {{u"01012345678", u"", RowMark::none, RowMark::unusable},
+                  {u"0317654321", u"", RowMark::unusable, RowMark::none},
+                  {u"0317654321", u"2/3 등록", RowMark::unusable, RowMark::none},
+                  {u"0317654321", u"등록성공", RowMark::done, RowMark::done},
+                  {u"0317654321", u"등록실패X6(Pondira 응답 없음)", RowMark::failed, RowMark::failed},
+                  {u"0317654321", u"실패", RowMark::failed, RowMark::failed},
+                  {u"0317654321", u"확인필요", RowMark::uncertain, RowMark::uncertain}};
+    platform::ListView& list = form.recipients.ListView1;
+    for (const auto& person : people) add(u"가", person.number, person.status);
+    for (std::size_t row = 0; row < std::size(people); ++row)
+        EXPECT_EQ(list.row(row).mark(), people[row].as_text) << row;
+    EXPECT_EQ(utf8(list.mark_reason(1)), TEXT_ONLY);
+    form.choose(compose::MessageKind::fax);
+    for (std::size_t row = 0; row < std::size(people); ++row)
+        EXPECT_EQ(list.row(row).mark(), people[row].as_fax) << row;
+    EXPECT_EQ(utf8(list.mark_reason(0)), NO_FAX);
+    EXPECT_EQ(utf8(list.mark_reason(3)), "");
+}
+
 TEST_F(Recipients, CtrlAAndTheMenuSelectEveryRowAndTheRightButtonOpensTheMenu) {
     platform::KeyPressed a{u'a'}, ctrl_a{platform::KEY_CTRL_A};
     for (const char16_t* name : {u"가", u"나"}) add(name, u"010", {}, false);

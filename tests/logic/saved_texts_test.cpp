@@ -145,6 +145,60 @@ TEST_F(MyMsgBox, AClickThatChoosesNoOtherTextKeepsWhatWasTyped) {
     EXPECT_EQ(fields(), "나: second") << "a right click can choose another one";
 }
 
+TEST_F(MyMsgBox, ShowsARowAsChosenOnlyWhileItsTextIsInTheFields) {
+    put(FIRST, u"가", "first");
+    put(u"공지", u"휴무", "closed");
+    open();
+    EXPECT_FALSE(box().ListView2.shows_selection());
+    choose(box().ListView2, 0);
+    EXPECT_TRUE(box().ListView2.shows_selection());
+    choose(box().ListView1, 1);
+    EXPECT_FALSE(box().ListView2.shows_selection());
+    EXPECT_EQ(utf8(box().Text1.text() + box().txtText.text()), "") << "a text of the other category";
+    write_fields(u"새 제목", u"새 글");
+    choose(box().ListView1, 0);
+    EXPECT_EQ(utf8(box().Text1.text()), "새 제목") << "a new text can go into any category";
+    EXPECT_FALSE(box().ListView2.shows_selection());
+}
+
+TEST_F(MyMsgBox, FindsTextsByTheirTitlesAndBodiesAndKeepsTheOthers) {
+    put(FIRST, u"Sale", "two for one");
+    put(FIRST, u"가", platform::encode_cp949(u"첫 줄\r\n둘째 SALE"));
+    put(FIRST, u"나", "x");
+    put(u"공지", u"sale 2", "y");
+    open();
+    const auto found = [&](const Text& words) {
+        box().SearchText.set_text(words);
+        Strings titles = column(box().ListView2);
+        std::ranges::sort(titles);
+        titles.push_back(utf8(box().FoundCount.caption()));
+        return titles;
+    };
+    EXPECT_EQ(found(u" sale"), (Strings{"Sale", "가", "3개 중 2개"}));
+    choose(box().ListView2, 0);
+    EXPECT_EQ(found(u"줄 둘"), (Strings{"가", "3개 중 1개"})) << "over the end of a line";
+    EXPECT_EQ(found(u"없는 말"), Strings{"3개 중 0개"});
+    EXPECT_EQ(found(u""), (Strings{"Sale", "가", "나", "3개"}));
+    EXPECT_TRUE(box().ListView2.shows_selection());
+    EXPECT_EQ(utf8(box().ListView2.row(*box().ListView2.selected_item()).text()), utf8(box().Text1.text()));
+    found(u"sale");
+    choose(box().ListView1, 1);
+    EXPECT_EQ(column(box().ListView2), Strings{"sale 2"});
+    EXPECT_EQ(utf8(box().FoundCount.caption()), "1개");
+}
+
+TEST_F(MyMsgBox, EnterOrADoubleClickOnARowTakesItsText) {
+    put(FIRST, u"가", "first");
+    for (const bool by_key : {true, false}) {
+        form.subject.subjectText.set_text(u"");
+        open();
+        platform::KeyPressed enter{platform::KEY_ENTER};
+        by_key ? box().ListView2.KeyPress.raise(enter) : box().ListView2.DblClick.raise();
+        EXPECT_EQ(utf8(form.text.mText1.text() + u" " + form.subject.subjectText.text()), "[홍길동]first 가");
+        EXPECT_FALSE(box().loaded());
+    }
+}
+
 TEST_F(MyMsgBox, SavesANewMessageUnderItsCleanedTitleOrSaysWhyNot) {
     put(FIRST, u"있음", "old");
     open();

@@ -106,6 +106,41 @@ TEST(SendWindow, TheStopButtonWaitsForTheJobAndIsHeardFromItsBeginOn) {
     EXPECT_EQ(s.marks(), std::string(100, '-') + std::string(20, 'x'));
 }
 
+TEST(SendWindow, SaysHowManyAreRegisteredWhichBatchGoesAndHowLongItTakes) {
+    Sending s;
+    s.add_many(250);
+    s.carrier.results[{"submit", 2}] = 6;
+    Lines seen;
+    s.desktop.in_form<send::frmZentSend>(u"frmZentSend", [&](send::frmZentSend& job) {
+        s.clock.during_pause = [&] {
+            const Text failed = job.Failed.visible() ? u" | " + job.Failed.caption() : Text();
+            const Text line =
+                job.caption() + u" | " + job.Registered.caption() + failed + u" | " + job.Remaining.caption();
+            if (seen.empty() || seen.back() != utf8(line)) seen.push_back(utf8(line));
+        };
+    });
+    s.send();
+    EXPECT_EQ(seen,
+              (Lines{"0% · 문자메시지 | 250명 중 0명 등록 | 묶음 1/3 · 남은 시간 약 3초",
+                     "39% · 문자메시지 | 250명 중 100명 등록 | 묶음 2/3 · 남은 시간 약 2초",
+                     "79% · 문자메시지 | 250명 중 100명 등록 | ⚠ 실패 100명 | 묶음 3/3 · 남은 시간 약 1초",
+                     "99% · 문자메시지 | 250명 중 150명 등록 | ⚠ 실패 100명 | 마무리하고 있습니다."}));
+}
+
+TEST(SendWindow, ReckonsTheTimeLeftByThePausesAndByWhatTheCarrierHasTaken) {
+    using namespace std::chrono_literals;
+    using send::time_left;
+    EXPECT_EQ(time_left({.done = 0, .all = 30}, 0s, 1000ms), 30s);
+    EXPECT_EQ(time_left({.done = 10, .all = 30}, 10s, 1000ms), 20s);
+    EXPECT_EQ(time_left({.done = 10, .all = 30}, 60s, 1000ms), 120s) << "a slow carrier";
+    EXPECT_EQ(time_left({.done = 10, .all = 30}, -60s, 1000ms), 20s) << "the clock was put back";
+    EXPECT_EQ(time_left({.done = 31, .all = 30}, 60s, 1000ms), 0s);
+    const std::pair<std::chrono::milliseconds, const char*> lengths[] = {
+        {0s, "약 1초"}, {1500ms, "약 2초"}, {89s, "약 1분"}, {1h, "약 1시간"}, {2h + 5min, "약 2시간 5분"},
+    };
+    for (const auto& [length, words] : lengths) EXPECT_EQ(utf8(send::about(length)), words);
+}
+
 TEST(SendWindow, AStopEndsACallThatIsNotAnsweredButNotBeforeTenSeconds) {
     Sending s;
     s.add_many(120);
@@ -163,6 +198,7 @@ TEST(SendSession, AJobWithoutTheCarrierOrAnAccountEndsWithABoxAndNoReport) {
         s.carrier.results[row.failing_call] = 6;
         s.carrier.service_state = row.service_state;
         s.send_in_vain(FAILURE);
+        EXPECT_EQ(s.desktop.notifications, std::vector<Text>{u"메시지 등록을 실패하였습니다."});
         EXPECT_EQ(s.carrier.calls, row.calls);
         EXPECT_EQ(s.marks(), std::string(row.sent, '-') + std::string(250 - row.sent, 'x'));
         EXPECT_FALSE(s.state.forms.gSendFormOpen);
@@ -193,6 +229,27 @@ TEST(SendReport, SeparatesThousandsAndCountsTheRestAsStopped) {
               " KT 폰디라 서버에 메시지 등록이 완료되었습니다.\r\n\r\n 등록대상: 1,234,567건\r\n"
               " 등록성공: 12,345건\r\n 등록실패: 1,000건\r\n 등록중지: 1,221,222건\r\n\r\n"
               " 걸린시간: 01:00:02");
+}
+
+TEST(SendReport, SaysFirstWhomTheUserHasToLookAfter) {
+    Sending s;
+    s.add_many(250);
+    s.carrier.results[{"submit", 1}] = 6;
+    s.carrier.at_submit = [submits = 0]() mutable {
+        if (++submits == 2) throw NoAnswer();
+    };
+    s.desktop.in_form<send::frmSendEndBox>(u"frmSendEndBox", [&](send::frmSendEndBox& box) {
+        EXPECT_EQ(utf8(box.Registered.caption()), "250명 중 50명을 등록했습니다.");
+        EXPECT_EQ(utf8(box.Failed.caption()), "⚠ 실패 100명: 목록에 선택된 채로 남아 있습니다.");
+        EXPECT_EQ(utf8(box.Unconfirmed.caption()), "⚠ 확인필요 100명: 발송결과에서 확인하여 주십시오.");
+        EXPECT_FALSE(box.Stopped.visible());
+        box.escape_pressed();
+    });
+    s.confirm();
+    s.click();
+    EXPECT_EQ(tests::utf8(s.desktop.notifications.at(0)),
+              "250명 중 50명을 등록했습니다.\n⚠ 실패 100명: 목록에 선택된 채로 남아 있습니다.\n"
+              "⚠ 확인필요 100명: 발송결과에서 확인하여 주십시오.");
 }
 
 }  // namespace

@@ -131,9 +131,16 @@ TEST_F(ControlTest, AnotherDayKeepsTheTimeOfDay) {
     form.DTP1.set_value(platform::make_time(2010, 3, 1, 13, 5, 7));
     auto& date = find<QDateEdit>("DTP1");
     EXPECT_EQ(date.date(), QDate(2010, 3, 1));
-    EXPECT_EQ(date.text(), "2010-03-01");
+    EXPECT_EQ(date.text(), "2010-03-01 (월)");
     date.setDate(QDate(2010, 2, 28));
     EXPECT_EQ(form.DTP1.value(), platform::make_time(2010, 2, 28, 13, 5, 7));
+    date.setFocus();
+    date.setSelectedSection(QDateTimeEdit::DaySection);
+    QTest::keyClicks(&date, "15");
+    EXPECT_EQ(form.DTP1.value(), platform::make_time(2010, 2, 15, 13, 5, 7));
+    date.setSelectedSection(QDateTimeEdit::YearSection);
+    QTest::keyClicks(&date, "20110301");
+    EXPECT_EQ(form.DTP1.value(), platform::make_time(2011, 3, 1, 13, 5, 7)) << "whatever its weekday";
     form.DTP1.set_value(platform::make_time(1969, 12, 31, 23, 0, 0));
     EXPECT_EQ(date.date(), QDate(1969, 12, 31));
 }

@@ -60,7 +60,8 @@ class FileDialogs : public DeskTest {
 
 TEST_F(FileDialogs, AnswerInTheProgramsPathsAndOpenWhereTheUserWasLast) {
     EXPECT_EQ(ask(open, entering(documents / "글.txt")), in_documents + "글.txt");
-    EXPECT_EQ(ask(save, entering("새 소리")), in_documents + "새 소리.wav") << "with the kind's ending";
+    EXPECT_EQ(ask(save, entering(documents / "새 소리")), in_documents + "새 소리.wav")
+        << "with the kind's ending";
     EXPECT_EQ(ask(save, entering("글.txt")), in_documents + "글.txt")
         << "taken names are the caller's matter";
     EXPECT_EQ(ask(open, cancel), "nothing");
@@ -69,6 +70,7 @@ TEST_F(FileDialogs, AnswerInTheProgramsPathsAndOpenWhereTheUserWasLast) {
     std::filesystem::create_directories(disk.application / "drive_c/temp");
     put(disk.application / "drive_c/temp/tmp.wav", "x");
     EXPECT_EQ(ask(open, entering(disk.application / "drive_c/temp/tmp.wav")), "c:\\temp\\tmp.wav");
+    EXPECT_EQ(ask(save, entering("글.txt")), in_documents + "글.txt") << "what it is asked for has its own";
 }
 
 TEST_F(FileDialogs, ShowTheFilesOfTheFilterAndTheNameThatWasChosenBefore) {

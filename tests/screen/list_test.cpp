@@ -1,12 +1,17 @@
+#include "machine/qt/widgets/column_widths.h"
 #include "tests/screen/screen_fixture.h"
 
 #include <QAccessible>
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTimer>
 #include <QTreeView>
+#include <QUrl>
 
 namespace tests {
 namespace {
@@ -121,6 +126,107 @@ TEST_F(ListTest, OnlyTheUserRaisesChecksWithMouseOrSpace) {
     EXPECT_EQ(list.checked_count(), 2u);
 }
 
+TEST_F(ListTest, TheHeadersBoxChecksAllRowsAndSpaceTheSelectedOnes) {
+    using platform::ListView;
+    std::vector<std::string> events;
+    list.CheckMany.connect([&](ListView::ManyRows rows, bool checked) {
+        events.push_back(std::string(rows == ListView::ManyRows::all ? "all " : "selected ") +
+                         (checked ? "on" : "off"));
+    });
+    list.ColumnClick.connect([&](int column) { events.push_back("column " + std::to_string(column)); });
+    auto& header = *view().header();
+    const auto click_header = [&](int x) {
+        QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, QPoint(x, header.height() / 2));
+    };
+    click_header(12);
+    list.set_checked(2, false);
+    settle();
+    click_header(12);
+    click_header(header.sectionSize(0) - 8);
+    click(1);
+    click(2, Qt::ShiftModifier);
+    QTest::keyClick(&view(), Qt::Key_Space);
+    EXPECT_EQ(events, (std::vector<std::string>{"all off", "all on", "column 1", "selected on"}));
+    EXPECT_EQ(list.checked_count(), 3u) << "whether the rows are checked is up to the handlers";
+}
+
+TEST_F(ListTest, ColumnsShareTheRoomUntilTheUserDragsThem) {
+    auto& header = *view().header();
+    machine::qt::ColumnWidths widths(header);
+    widths.set({"60", "*100", "*50"});
+    widths.fill(360);
+    const auto sizes = [&] {
+        return std::vector{header.sectionSize(0), header.sectionSize(1), header.sectionSize(2)};
+    };
+    const int fixed = sizes()[0];
+    EXPECT_EQ(sizes(), (std::vector{fixed, (360 - fixed) * 2 / 3, (360 - fixed) / 3}));
+    header.resizeSection(1, 100);
+    widths.fill(260);
+    EXPECT_EQ(header.length(), 260);
+    EXPECT_EQ(header.sectionSize(0), fixed);
+}
+
+TEST_F(ListTest, ATextIsEditedWhereItStandsAndShownAsTheHandlersLeaveIt) {
+    std::vector<std::string> edits;
+    list.CellEdited.connect([&](const platform::CellEdit& edit) {
+        edits.push_back(std::to_string(edit.row) + " " + std::to_string(edit.sub_item) + " " +
+                        platform::to_utf8(edit.text));
+        if (edit.text != u"3") list.set_sub_item(edit.row, edit.sub_item, edit.text);
+    });
+    const auto type = [&](const QString& text, Qt::Key end) {
+        settle();
+        auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        ASSERT_NE(editor, nullptr);
+        editor->selectAll();
+        QTest::keyClicks(editor, text);
+        QTest::keyClick(editor, end);
+        settle();
+    };
+    click(1);
+    QTest::keyClick(&view(), Qt::Key_Return);
+    type("2", Qt::Key_Return);
+    list.edit(2, 2);
+    type("3", Qt::Key_Return);
+    list.edit(3, 2);
+    type("4", Qt::Key_Escape);
+    EXPECT_EQ(edits, (std::vector<std::string>{"1 2 2", "2 2 3"}));
+    EXPECT_EQ(view().model()->index(1, 2).data().toString(), "2");
+    EXPECT_EQ(view().model()->index(2, 2).data().toString(), "010");
+}
+
+TEST_F(ListTest, LinesAndFilesAreDroppedOnAListThatHasAUseForThem) {
+    QMimeData lines, urls;
+    lines.setText("가\n나");
+    urls.setUrls({QUrl::fromLocalFile("/tmp/list.csv")});
+    const auto drop = [&](const QMimeData& data) {
+        QDragEnterEvent enter(place(1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(view().viewport(), &enter);
+        QDropEvent event(place(1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        if (enter.isAccepted()) QCoreApplication::sendEvent(view().viewport(), &event);
+    };
+    std::vector<std::string> dropped;
+    drop(lines);
+    list.Drop.connect([&](const platform::Dropped& what) {
+        dropped.push_back(platform::to_utf8(what.text));
+        for (const Text& file : what.files) dropped.push_back(platform::to_utf8(file));
+    });
+    drop(lines);
+    drop(urls);
+    EXPECT_EQ(dropped,
+              (std::vector<std::string>{"가\r\n나", "", platform::to_utf8(files.path_of("/tmp/list.csv"))}));
+}
+
+TEST_F(ListTest, AnEmptyListTellsWhatToDo) {
+    list.clear();
+    settle();
+    const QImage blank = view().grab().toImage();
+    list.set_placeholder(u"이름과 번호를 입력하십시오.");
+    settle();
+    EXPECT_NE(view().grab().toImage(), blank);
+    list.add_row(u"", {u"가"});
+    EXPECT_NE(view().grab().toImage(), blank);
+}
+
 TEST_F(ListTest, KeysColumnsAndButtonsReachTheHandlers) {
     std::vector<std::string> events;
     list.KeyDown.connect([&](KeyPressed& key) { events.push_back("down " + std::to_string(key.code)); });
@@ -167,8 +273,7 @@ TEST_F(ListTest, AMenuAskedForByAKeyOpensAtTheCurrentRow) {
         opened = menu->pos();
         QTest::keyClick(menu, Qt::Key_D);
     });
-    QContextMenuEvent menu_key(QContextMenuEvent::Keyboard, QPoint(), QPoint());
-    QCoreApplication::sendEvent(&view(), &menu_key);
+    QTest::keyClick(&view(), Qt::Key_F10, Qt::ShiftModifier);
     EXPECT_EQ(deleted, 1);
     const QRect row = view().visualRect(view().currentIndex());
     EXPECT_EQ(opened, view().viewport()->mapToGlobal(row.bottomLeft()));

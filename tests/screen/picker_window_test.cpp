@@ -67,7 +67,8 @@ TEST_F(PickerWindow, EveryWayToChooseAFolderRaisesOneClick) {
         std::vector<std::string> chosen;
         picker.TreeView1.NodeClick.connect(
             [&](platform::TreeNode& node) { chosen.push_back(utf8(node.tag())); });
-        EXPECT_TRUE(tree().hasFocus());
+        EXPECT_TRUE(find<QLineEdit>("Text1").hasFocus());
+        tree().setFocus();
         EXPECT_TRUE(chosen.empty()) << "the window opens with all cards, without a click";
         click_node(2);
         click_node(2);
@@ -129,6 +130,9 @@ TEST_F(PickerWindow, ARightClickAndTheMenuKeyOpenTheTreesMenu) {
 TEST_F(PickerWindow, EnterSearchesInTheSearchLineAndConfirmsElsewhere) {
     show([this] {
         auto& text = find<QLineEdit>("Text1");
+        QTest::keyClick(&text, Qt::Key_Down);
+        EXPECT_TRUE(list().hasFocus());
+        EXPECT_EQ(window().windowTitle(), "발송대상 선택-3/5/1");
         EXPECT_EQ(text.text(), "이름 또는 회사");
         EXPECT_EQ(text.palette().color(QPalette::Text), QColor(0x80, 0x80, 0x80));
         text.setFocus();

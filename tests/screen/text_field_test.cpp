@@ -107,6 +107,17 @@ TEST_F(TextFieldTest, APasteIsPlainTextAndOneChangeWithoutAKeyPress) {
     find<QLineEdit>("HText1_0").paste();
     settle();
     EXPECT_EQ(form.HText1.text(), u"가나다라") << "one line has no line ends";
+
+    std::vector<Text> lines;
+    form.HText1.LinesPasted.connect([&](const Text& pasted) { lines.push_back(pasted); });
+    for (const char* pasted : {"01012345678\n", "홍길동\t010\n", "가\n나"}) {
+        QGuiApplication::clipboard()->setText(pasted);
+        find<QLineEdit>("HText1_0").paste();
+        settle();
+        settle();
+    }
+    EXPECT_EQ(form.HText1.text(), u"가나다라01012345678") << "a single cell is no table";
+    EXPECT_EQ(lines, (std::vector<Text>{u"홍길동\t010\r\n", u"가\r\n나"}));
 }
 
 TEST_F(TextFieldTest, TextAndSelectionSetInCodeShowAndRaiseOneChange) {
@@ -115,14 +126,53 @@ TEST_F(TextFieldTest, TextAndSelectionSetInCodeShowAndRaiseOneChange) {
     EXPECT_EQ(edit().textCursor().position(), 0);
     form.mText1.select(3, 1);
     EXPECT_EQ(edit().textCursor().selectedText(), "나");
+    settle();
     form.mText1.paste(u"☎");
     EXPECT_EQ(edit().committed_text(), "가\n☎다");
     EXPECT_EQ(edit().textCursor().position(), 3);
     settle();
     EXPECT_EQ(changes, (std::vector<Text>{u"가\r\n나다", u"가\r\n☎다"}));
-    edit().undo();
+}
+
+TEST_F(TextFieldTest, WhatCodeWritesAtOnceIsOneStepToTakeBackAndToRedo) {
+    const auto press = [](const char* field, Qt::Key key) {
+        QTest::keyClick(&find(field), key, Qt::ControlModifier);
+        settle();
+    };
+    QTest::keyClicks(&edit(), "ab");
+    form.mText1.set_text(u"");
+    form.mText1.set_text(u"[길동]");
     settle();
-    EXPECT_EQ(form.mText1.text(), u"가\r\n나다");
+    press("mText1", Qt::Key_Z);
+    EXPECT_EQ(form.mText1.text(), u"ab");
+    press("mText1", Qt::Key_Y);
+    EXPECT_EQ(form.mText1.text(), u"[길동]");
+    form.mText1.Change.connect([this] { form.mText1.set_text(form.mText1.text().substr(0, 5)); });
+    edit().selectAll();
+    edit().insertPlainText("하나둘셋넷다섯");
+    settle();
+    EXPECT_EQ(edit().committed_text(), "하나둘셋넷") << "a handler cuts";
+    press("mText1", Qt::Key_Z);
+    EXPECT_EQ(form.mText1.text(), u"[길동]") << "not the text that was too long";
+
+    form.HText1.set_focus();
+    QTest::keyClicks(&find("HText1_0"), "Kim");
+    form.HText1.set_text(u"");
+    settle();
+    press("HText1_0", Qt::Key_Z);
+    EXPECT_EQ(form.HText1.text(), u"Kim");
+    press("HText1_0", Qt::Key_Y);
+    EXPECT_EQ(form.HText1.text(), u"");
+}
+
+TEST_F(TextFieldTest, MarksWhatCannotBeSent) {
+    edit().setProperty("marks_lost", true);
+    form.mText1.set_text(u"가\r\n나\U0001F600다☎\u2764");
+    ASSERT_EQ(edit().extraSelections().size(), 2);
+    EXPECT_EQ(edit().extraSelections()[0].cursor.selectedText(), "\U0001F600");
+    EXPECT_EQ(edit().extraSelections()[1].cursor.selectionStart(), 7);
+    form.mText1.set_text(u"가");
+    EXPECT_TRUE(edit().extraSelections().isEmpty());
 }
 
 TEST_F(TextFieldTest, AHandlerThatSetsTheTextAgainWins) {

@@ -44,6 +44,7 @@ class ScriptedDesktop : public platform::Desktop {
     std::vector<platform::Text> forms;
     platform::Text clipboard;
     platform::Text title;
+    std::vector<platform::Text> notifications;
     platform::Pointer pointer = platform::Pointer::normal;
     std::vector<const platform::Menu*> popups;
     /// The control below which the last menu opened.
@@ -70,8 +71,10 @@ class ScriptedDesktop : public platform::Desktop {
     platform::Text input_box(const platform::InputBox& box) override;
     void set_pointer(platform::Pointer shape) override { pointer = shape; }
     void set_clipboard(const platform::Text& text) override { clipboard = text; }
+    platform::Text clipboard_text() const override { return clipboard; }
     platform::Screen screen() const override { return screen_size; }
     void set_application_title(const platform::Text& text) override { title = text; }
+    void notify(const platform::Text& text) override { notifications.push_back(text); }
     void yield() override { during_yield(); }
     void paint() override { during_paint(); }
     std::unique_ptr<platform::InputWatch> watch_input() override;

@@ -1,5 +1,7 @@
 #include "machine/qt/binders/date_picker_binder.h"
 
+#include "machine/qt/widgets/day_calendar.h"
+
 #include <QDateEdit>
 #include <QEvent>
 
@@ -16,7 +18,8 @@ const QDate FIRST_DAY(1970, 1, 1);
 DatePickerBinder::DatePickerBinder(BoundForm& bound, platform::DatePicker& control, QDateEdit& edit)
     : BinderOf(bound, control, edit) {
     edit.setCalendarPopup(true);
-    edit.setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+    edit.setLocale(QLocale::Korean);
+    edit.setDisplayFormat(QStringLiteral("yyyy-MM-dd (ddd)"));
     // Turning the wheel must not bring the focus here.
     edit.setFocusPolicy(Qt::StrongFocus);
     show(Aspect::value);
@@ -29,8 +32,15 @@ void DatePickerBinder::show(Aspect aspect) {
     widget().setDate(FIRST_DAY.addDays(day.time_since_epoch().count()));
 }
 
-/// A wheel that is turned over the field without the focus is meant to scroll.
+/// A wheel that is turned over the field without the focus is meant to scroll. The calendar is made when the
+/// user comes near: at the start nobody sees it.
 bool DatePickerBinder::filter(QObject&, QEvent& event) {
+    if (!has_calendar_ && (event.type() == QEvent::Enter || event.type() == QEvent::FocusIn)) {
+        has_calendar_ = true;
+        auto* calendar = new DayCalendar;
+        calendar->setLocale(widget().locale());
+        widget().setCalendarWidget(calendar);
+    }
     if (event.type() != QEvent::Wheel || widget().hasFocus()) return false;
     event.ignore();
     return true;

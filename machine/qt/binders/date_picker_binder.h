@@ -15,6 +15,8 @@ class DatePickerBinder : public BinderOf<platform::DatePicker, QDateEdit> {
     void show(platform::Aspect aspect) override;
     bool filter(QObject& object, QEvent& event) override;
     void take_day();
+
+    bool has_calendar_ = false;
 };
 
 }  // namespace machine::qt

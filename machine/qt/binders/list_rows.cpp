@@ -7,6 +7,7 @@
 #include <QScopedValueRollback>
 #include <QTreeView>
 #include <algorithm>
+#include <utility>
 
 namespace machine::qt {
 
@@ -25,6 +26,7 @@ void ListRows::bring_up_to_date() {
     model_.tell_added_rows();
     if (first_changed_) model_.rows_changed(*first_changed_, last_changed_);
     first_changed_.reset();
+    model_.tell_checked_rows();
     if (selection_changed_) show_selection();
     if (to_show_) view_.scrollTo(model_.index(*to_show_, 0));
     to_show_.reset();
@@ -41,7 +43,8 @@ void ListRows::selection_changed() {
 }
 
 void ListRows::row_added() {
-    if (model_.rowCount() > 0) return gather();
+    gather();
+    if (model_.rowCount() > 0) return;
     model_.tell_added_rows();
     keep_current(0);
 }
@@ -64,6 +67,7 @@ void ListRows::rows_rearranged() {
     model_.end_rearranging();
     first_changed_.reset();
     to_show_.reset();
+    model_.tell_checked_rows();
     show_selection();
 }
 
@@ -76,8 +80,11 @@ void ListRows::row_changed(std::size_t row) {
 
 void ListRows::columns_changed() {
     model_.columns_changed();
+    widths_.resize(static_cast<std::size_t>(list_.column_count()));
     for (int column = 0; column < list_.column_count(); ++column) {
-        if (const int width = list_.column(column + 1).width; width > 0)
+        const int width = list_.column(column + 1).width;
+        // A width that the list has set before is the user's to change.
+        if (std::exchange(widths_[static_cast<std::size_t>(column)], width) != width && width > 0)
             view_.header()->resizeSection(column, to_pixels(width));
     }
 }
@@ -85,6 +92,11 @@ void ListRows::columns_changed() {
 void ListRows::make_visible(std::size_t row) {
     to_show_ = static_cast<int>(row);
     gather();
+}
+
+void ListRows::edit(std::size_t row, int sub_item) {
+    bring_up_to_date();
+    view_.edit(model_.index(static_cast<int>(row), sub_item));
 }
 
 void ListRows::gather() {

@@ -5,6 +5,7 @@
 
 #include <QItemSelection>
 #include <optional>
+#include <vector>
 
 class QTreeView;
 
@@ -36,6 +37,7 @@ class ListRows : public QObject, public platform::RowsView {
     void selection_changed() override;
     void columns_changed() override;
     void make_visible(std::size_t row) override;
+    void edit(std::size_t row, int sub_item) override;
 
   private:
     void gather();
@@ -57,6 +59,8 @@ class ListRows : public QObject, public platform::RowsView {
     std::optional<int> first_changed_;
     int last_changed_ = 0;
     std::optional<int> to_show_;
+    /// In twips, as the list has set them.
+    std::vector<int> widths_;
 };
 
 }  // namespace machine::qt

@@ -1,13 +1,20 @@
 #include "machine/qt/binders/list_view_binder.h"
 
+#include "machine/qt/binders/drops.h"
+#include "machine/qt/look/colours.h"
 #include "machine/qt/typing/conversion.h"
+#include "machine/qt/widgets/marked_cell.h"
 
-#include <QFontInfo>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QToolTip>
 #include <QTreeView>
+#include <utility>
 
 namespace machine::qt {
 
@@ -23,30 +30,19 @@ void set_up(QTreeView& view) {
     view.setSelectionBehavior(QAbstractItemView::SelectRows);
     view.setSelectionMode(view.property("singleSelection").toBool() ? QAbstractItemView::SingleSelection
                                                                     : QAbstractItemView::ExtendedSelection);
-    view.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view.setEditTriggers(QAbstractItemView::DoubleClicked);
     view.header()->setSectionsClickable(true);
     view.header()->setSectionsMovable(false);
-    // The screen's widths are for text of 12 pixels. Columns with "*" share what the others leave; columns of
-    // width 0 hold data for the handlers and are not shown.
-    const QStringList widths = view.property("columnWidths").toStringList();
-    for (int column = 0; column < widths.size(); ++column) {
-        if (widths[column] == u'*') {
-            view.header()->setSectionResizeMode(column, QHeaderView::Stretch);
-        } else if (widths[column] == u'0') {
-            view.setColumnHidden(column, true);
-        } else {
-            view.header()->resizeSection(column,
-                                         widths[column].toInt() * QFontInfo(view.font()).pixelSize() / 12);
-        }
-    }
+    view.setItemDelegate(new MarkedCell(&view));
 }
 
-/// Shows the whole text of a cell that is too narrow for it.
-void show_cut_text(QTreeView& view, const QHelpEvent& event) {
-    const QModelIndex index = view.indexAt(event.pos());
-    const QRect cell = view.visualRect(index);
-    if (!index.isValid() || view.sizeHintForIndex(index).width() <= cell.width()) return QToolTip::hideText();
-    QToolTip::showText(event.globalPos(), index.data().toString(), view.viewport(), cell);
+/// Whether the click is for the box in the header, not for the caption beside it.
+bool is_on_header_box(const QHeaderView& header, const QPoint& place) {
+    if (header.logicalIndexAt(place) != 0) return false;
+    const QStyle& style = *header.style();
+    const int box = style.pixelMetric(QStyle::PM_SmallIconSize, nullptr, &header) +
+                    2 * style.pixelMetric(QStyle::PM_HeaderMargin, nullptr, &header);
+    return place.x() - header.sectionViewportPosition(0) < box;
 }
 
 bool moves(const QKeyEvent& event) {
@@ -72,16 +68,26 @@ bool moves(const QKeyEvent& event) {
 }  // namespace
 
 ListViewBinder::ListViewBinder(BoundForm& bound, platform::ListView& control, QTreeView& view)
-    : BinderOf(bound, control, view), rows_(control, view) {
+    : BinderOf(bound, control, view), rows_(control, view), widths_(*view.header()) {
     control.attach_rows(&rows_);
     set_up(view);
+    widths_.set(view.property("columnWidths").toStringList());
+    view.setAcceptDrops(true);
+    if (control.check_boxes()) view.header()->viewport()->installEventFilter(this);
+    show(platform::Aspect::selection);
     connect(&rows_.model(), &ListViewModel::checked_by_user, this, [this](std::size_t row, bool checked) {
         act([&] { this->control().user_check(row, checked); });
     });
     connect(view.header(), &QHeaderView::sectionClicked, this,
             [this](int section) { act([&] { this->control().ColumnClick.raise(section + 1); }); });
-    connect(&view, &QTreeView::doubleClicked, this,
-            [this] { act([this] { this->control().DblClick.raise(); }); });
+    // The box that refuses a text must not stand while Qt takes the text out of its field.
+    connect(
+        &rows_.model(), &ListViewModel::edited_by_user, this,
+        [this](const platform::CellEdit& edit) { act([&] { this->control().CellEdited.raise(edit); }); },
+        Qt::QueuedConnection);
+    connect(&view, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (!(index.flags() & Qt::ItemIsEditable)) act([this] { this->control().DblClick.raise(); });
+    });
 }
 
 void ListViewBinder::release() {
@@ -90,18 +96,37 @@ void ListViewBinder::release() {
     WidgetBinder::release();
 }
 
+void ListViewBinder::show(platform::Aspect aspect) {
+    if (aspect == platform::Aspect::selection)
+        widget().setProperty("quietSelection", !control().shows_selection());
+    if (aspect == platform::Aspect::selection || aspect == platform::Aspect::rows)
+        widget().viewport()->update();
+}
+
 bool ListViewBinder::filter(QObject& object, QEvent& event) {
+    if (&object == widget().header()->viewport()) return click_header(event);
     switch (event.type()) {
         case QEvent::KeyPress:
+            // What a field in a cell leaves of its keys, such as the Enter that ends it, is not for the list.
+            if (is_editing()) return true;
             rows_.bring_up_to_date();
             return press_key(static_cast<QKeyEvent&>(event));
         case QEvent::KeyRelease:
             release_key(static_cast<QKeyEvent&>(event));
             return !is_bound_live();
         case QEvent::Resize:
-            if (&object == widget().viewport())
+            if (&object == widget().viewport()) {
+                widths_.fill(widget().viewport()->width());
                 control().user_resized(to_twips(widget().viewport()->width()));
+            }
             return false;
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+            return take_drag(static_cast<QDropEvent&>(event));
+        case QEvent::Drop:
+            return take_drop(static_cast<QDropEvent&>(event));
+        case QEvent::Paint:
+            return &object == widget().viewport() && control().row_count() == 0 && paint_placeholder();
         case QEvent::MouseButtonPress:
             rows_.bring_up_to_date();
             return false;
@@ -110,7 +135,7 @@ bool ListViewBinder::filter(QObject& object, QEvent& event) {
             return !is_bound_live();
         case QEvent::ToolTip:
             if (&object != widget().viewport()) return false;
-            show_cut_text(widget(), static_cast<QHelpEvent&>(event));
+            show_tip(static_cast<QHelpEvent&>(event));
             return true;
         case QEvent::ContextMenu:
             return open_menu(event, control().MouseUp);
@@ -124,6 +149,11 @@ bool ListViewBinder::filter(QObject& object, QEvent& event) {
 bool ListViewBinder::press_key(QKeyEvent& event) {
     if (moves(event)) return false;
     event.accept();
+    if (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier) {
+        // Not every keyboard has the key for the menu.
+        QContextMenuEvent menu(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+        return open_menu(menu, control().MouseUp);
+    }
     if (event.key() == Qt::Key_Space && control().check_boxes()) {
         toggle_check();
     } else if (event.key() == Qt::Key_Delete) {
@@ -132,7 +162,7 @@ bool ListViewBinder::press_key(QKeyEvent& event) {
     } else if (KeyPressed key{key_code(event)}; !key.swallowed()) {
         const bool is_enter = key.code == platform::KEY_ENTER;
         control().KeyPress.raise(key);
-        if (is_enter && !key.swallowed()) event.ignore();
+        if (is_enter && !key.swallowed() && !edit_current_row()) event.ignore();
     } else {
         event.ignore();
     }
@@ -145,11 +175,90 @@ void ListViewBinder::release_key(const QKeyEvent& event) {
     if (KeyPressed key{moving_key_code(event)}; !key.swallowed()) control().KeyUp.raise(key);
 }
 
+/// All selected rows take the new state of the current one.
 void ListViewBinder::toggle_check() {
-    const int row = widget().currentIndex().row();
-    if (row < 0) return;
-    const auto place = static_cast<std::size_t>(row);
-    control().user_check(place, !control().row(place).checked());
+    const QModelIndex current = widget().currentIndex();
+    if (!current.isValid()) return;
+    const auto place = static_cast<std::size_t>(current.row());
+    const bool checked = !control().row(place).checked();
+    const QItemSelection selection = widget().selectionModel()->selection();
+    const bool many = selection.size() > 1 || (selection.size() == 1 && selection.first().height() > 1);
+    if (many && selection.contains(current)) {
+        control().user_check_many(platform::ListView::ManyRows::selected, checked);
+    } else {
+        control().user_check(place, checked);
+    }
+}
+
+bool ListViewBinder::is_editing() const {
+    const QWidget* focus = QApplication::focusWidget();
+    return focus != nullptr && focus != &widget() && widget().isAncestorOf(focus);
+}
+
+/// False in a list whose texts stay as they are.
+bool ListViewBinder::edit_current_row() {
+    const QModelIndex current = widget().currentIndex();
+    for (int column = 0; column < control().column_count(); ++column) {
+        const QModelIndex cell = current.siblingAtColumn(column);
+        if (!(cell.flags() & Qt::ItemIsEditable)) continue;
+        widget().edit(cell);
+        return true;
+    }
+    return false;
+}
+
+bool ListViewBinder::take_drag(QDropEvent& event) {
+    if (!control().Drop.connected()) return false;
+    answer_drag(event, control().takes_input());
+    return true;
+}
+
+bool ListViewBinder::take_drop(QDropEvent& event) {
+    if (!take_drag(event) || !event.isAccepted()) return false;
+    const platform::Dropped dropped = dropped_by(event, bound().files);
+    act([&] { control().Drop.raise(dropped); });
+    return true;
+}
+
+/// A click on the box in the header checks or unchecks all rows. The header, which would sort, gets no part
+/// of it.
+bool ListViewBinder::click_header(const QEvent& event) {
+    const bool press =
+        event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+    if (!press && event.type() != QEvent::MouseButtonRelease) return false;
+    const auto& click = static_cast<const QMouseEvent&>(event);
+    if (click.button() != Qt::LeftButton) return false;
+    if (!press) return std::exchange(header_box_pressed_, false);
+    if (!is_on_header_box(*widget().header(), click.position().toPoint())) return false;
+    header_box_pressed_ = true;
+    rows_.bring_up_to_date();
+    const bool checked = rows_.model().checked_rows() != Qt::Checked;
+    act([&] { control().user_check_many(platform::ListView::ManyRows::all, checked); });
+    return true;
+}
+
+/// Shows the whole text of a cell that is too narrow for it, and why the row is marked.
+void ListViewBinder::show_tip(const QHelpEvent& event) {
+    const QModelIndex index = widget().indexAt(event.pos());
+    const QRect cell = widget().visualRect(index);
+    if (!index.isValid()) return QToolTip::hideText();
+    QStringList lines;
+    if (widget().sizeHintForIndex(index).width() > cell.width()) lines << index.data().toString();
+    const platform::Text reason = control().mark_reason(static_cast<std::size_t>(index.row()));
+    if (!reason.empty()) lines << to_qstring(reason);
+    QToolTip::showText(event.globalPos(), lines.join(u'\n'), widget().viewport(), cell);
+}
+
+/// Paints what an empty list tells; false when it tells nothing.
+bool ListViewBinder::paint_placeholder() {
+    if (control().placeholder().empty()) return false;
+    constexpr int AIR = 12;
+    QWidget& viewport = *widget().viewport();
+    QPainter painter(&viewport);
+    painter.setPen(colours_of(widget().palette()).muted);
+    painter.drawText(viewport.rect().adjusted(AIR, AIR, -AIR, -AIR), Qt::AlignCenter | Qt::TextWordWrap,
+                     to_qstring(control().placeholder()));
+    return true;
 }
 
 }  // namespace machine::qt

@@ -40,10 +40,14 @@ class ListViewModel : public QAbstractTableModel {
     void end_rearranging();
     void rows_changed(int first, int last);
     void columns_changed();
+    /// The header shows whether all rows are checked, some or none.
+    Qt::CheckState checked_rows() const;
+    void tell_checked_rows();
 
   signals:
     /// The user changed the row's check box.
     void checked_by_user(std::size_t row, bool checked);
+    void edited_by_user(const platform::CellEdit& edit);
 
   private:
     int rows_of_list() const { return static_cast<int>(list_->row_count()); }
@@ -52,6 +56,7 @@ class ListViewModel : public QAbstractTableModel {
     platform::ListView* list_;
     QList<QIcon> pictures_;
     int told_rows_;
+    Qt::CheckState told_checked_ = Qt::Unchecked;
 };
 
 }  // namespace machine::qt

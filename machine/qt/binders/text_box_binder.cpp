@@ -3,10 +3,13 @@
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/typing/field_events.h"
+#include "machine/qt/typing/undoing.h"
 #include "machine/qt/widgets/multiline_edit.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
+#include <algorithm>
 
 namespace machine::qt {
 
@@ -125,6 +128,10 @@ LineBinder::LineBinder(BoundForm& bound, TextBox& control, QLineEdit& edit) : Bi
 }
 
 bool LineBinder::filter(QObject&, QEvent& event) {
+    if (event.type() == QEvent::KeyPress) {
+        KeyPressed key{moving_key_code(static_cast<const QKeyEvent&>(event))};
+        if (key.code == platform::KEY_UP || key.code == platform::KEY_DOWN) control().KeyDown.raise(key);
+    }
     return filter_field_event(
         widget(), event, [this](KeyPressed& key) { press_key(key); },
         [this](bool begins) {
@@ -133,21 +140,47 @@ bool LineBinder::filter(QObject&, QEvent& event) {
         });
 }
 
-/// A paste may contain line ends, which do not belong in one line.
+/// A paste may contain line ends, which do not belong in one line. The control may have a use for them.
 void LineBinder::join_lines() {
+    if (const Text pasted = pasted_lines(); !pasted.empty()) {
+        write_back();
+        // The handler may open a window, for which the field must have done its work.
+        QMetaObject::invokeMethod(
+            this,
+            [this, pasted] {
+                if (is_live()) control().LinesPasted.raise(pasted);
+            },
+            Qt::QueuedConnection);
+        return;
+    }
     const auto one_line = [](const QString& text) { return to_lines(text).remove(u'\n'); };
     if (const QString text = widget().text(); has_edit() && text != one_line(text)) {
         const auto caret = one_line(text.left(widget().cursorPosition())).size();
         const QScopedValueRollback<bool> working(working_, true);
-        widget().setText(one_line(text));
+        write_undoably(widget(), one_line(text));
         widget().setCursorPosition(static_cast<int>(caret));
     }
     edited();
 }
 
+/// What a paste has brought when that is lines or cells of a table, which the control wants. A single cell
+/// ends with a line end too, and belongs in the field.
+Text LineBinder::pasted_lines() const {
+    const QString text = to_lines(widget().text());
+    if (!has_edit() || !control().LinesPasted.connected()) return {};
+    const QString before = shown_text(control().text());
+    // It ends at the caret, and before it stands what stood there before.
+    const qsizetype caret = to_lines(widget().text().left(widget().cursorPosition())).size();
+    const qsizetype alike = std::ranges::mismatch(text, before).in1 - text.begin();
+    const qsizetype begin = std::min(alike, before.size() - (text.size() - caret));
+    const QString pasted = text.mid(begin, caret - begin);
+    const bool cells = pasted.contains(u'\t') || pasted.trimmed().contains(u'\n');
+    return cells ? program_text(pasted) : Text();
+}
+
 QString LineBinder::widget_text() const { return widget().text(); }
 
-void LineBinder::write(const QString& text) { widget().setText(text); }
+void LineBinder::write(const QString& text) { write_undoably(widget(), text); }
 
 void LineBinder::select(int start, int end) {
     if (start == end) {

@@ -9,6 +9,7 @@
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QTreeView>
+#include <QUrl>
 
 namespace machine::qt {
 
@@ -48,6 +49,19 @@ QString first_folder() {
     return QDir(documents).exists() ? documents : QDir::homePath();
 }
 
+/// Where users keep what they send, as far as they have such folders.
+QList<QUrl> places() {
+    QList<QUrl> urls;
+    for (const auto place : {QStandardPaths::DesktopLocation, QStandardPaths::DocumentsLocation,
+                             QStandardPaths::DownloadLocation, QStandardPaths::HomeLocation}) {
+        const QUrl url = QUrl::fromLocalFile(QStandardPaths::writableLocation(place));
+        if (QDir(url.toLocalFile()).exists() && !urls.contains(url)) urls.append(url);
+    }
+    const QUrl computer(QStringLiteral("file:"));
+    urls.append(computer);
+    return urls;
+}
+
 /// Makes room for the places and for long names. The column of kinds is hidden: a file's name shows its kind.
 void arrange(QFileDialog& dialog) {
     constexpr int SIZE_COLUMN = 1;
@@ -69,20 +83,24 @@ void arrange(QFileDialog& dialog) {
 }  // namespace
 
 std::optional<Text> FileDialog::ask(const FileQuestion& question, QWidget* parent) {
-    // Qt's own dialog on every desktop: its words are Korean and it returns real paths.
+    const bool saves = question.purpose == FileQuestion::Purpose::save;
     QFileDialog dialog(parent, to_qstring(question.title));
     dialog.setObjectName(QStringLiteral("fileDialog"));
-    dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails |
-                      QFileDialog::DontConfirmOverwrite);
+    dialog.setOptions(QFileDialog::HideNameFilterDetails | QFileDialog::DontConfirmOverwrite);
+    // To open a file the desktop's own dialog, which the user knows. To save one Qt's: desktops would ask
+    // whether a taken name may be overwritten, and so does who opens this dialog.
+    dialog.setOption(QFileDialog::DontUseNativeDialog, saves);
     dialog.setViewMode(QFileDialog::Detail);
+    dialog.setSidebarUrls(places());
     arrange(dialog);
-    dialog.setDirectory(QDir(folder_).exists() && !folder_.isEmpty() ? folder_ : first_folder());
+    QString& folder = folders_[question.title];
+    dialog.setDirectory(QDir(folder).exists() && !folder.isEmpty() ? folder : first_folder());
 
     const std::vector<NameFilter> filters = filters_of(question.filter);
     QStringList shown;
     for (const NameFilter& filter : filters) shown.append(toolkit_filter(filter));
     dialog.setNameFilters(shown);
-    if (question.purpose == FileQuestion::Purpose::save) {
+    if (saves) {
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         if (!filters.empty()) dialog.setDefaultSuffix(suffix_of(filters.front().patterns.front()));
     } else {
@@ -96,7 +114,7 @@ std::optional<Text> FileDialog::ask(const FileQuestion& question, QWidget* paren
 
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     const QFileInfo chosen(dialog.selectedFiles().front());
-    folder_ = chosen.absolutePath();
+    folder = chosen.absolutePath();
     return files_.path_of(chosen.absoluteFilePath().toStdString());
 }
 

@@ -4,14 +4,15 @@
 #include "platform/ports/files.h"
 
 #include <QString>
+#include <map>
 #include <optional>
 
 class QWidget;
 
 namespace machine::qt {
 
-/// The dialog for a file's path. It opens in the folder of the last choice, at first in the documents'
-/// folder.
+/// The dialog for a file's path. It opens in the folder of the last choice under the same title, at first in
+/// the documents' folder.
 class FileDialog {
   public:
     /// The files have to outlive the dialog.
@@ -22,7 +23,8 @@ class FileDialog {
 
   private:
     platform::Files& files_;
-    QString folder_;
+    /// The folder of the last choice, by the dialog's title.
+    std::map<platform::Text, QString> folders_;
 };
 
 }  // namespace machine::qt

@@ -4,6 +4,7 @@
 #include "machine/qt/desktop/input_box.h"
 #include "machine/qt/desktop/long_work.h"
 #include "machine/qt/desktop/message_box.h"
+#include "machine/qt/desktop/notification.h"
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "platform/controls/bars.h"
@@ -152,6 +153,8 @@ void QtDesktop::set_pointer(Pointer pointer) {
 
 void QtDesktop::set_clipboard(const Text& text) { QGuiApplication::clipboard()->setText(to_qstring(text)); }
 
+Text QtDesktop::clipboard_text() const { return to_text(QGuiApplication::clipboard()->text()); }
+
 platform::Screen QtDesktop::screen() const {
     const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
     return {.left = to_twips(free.left()),
@@ -163,6 +166,12 @@ platform::Screen QtDesktop::screen() const {
 }
 
 void QtDesktop::set_application_title(const Text& title) { title_ = to_qstring(title); }
+
+void QtDesktop::notify(const Text& text) {
+    if (QGuiApplication::applicationState() == Qt::ApplicationActive) return;
+    QApplication::alert(front_window());
+    send_notification(title_, to_qstring(text));
+}
 
 void QtDesktop::yield() { QCoreApplication::processEvents(); }
 

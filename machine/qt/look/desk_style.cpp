@@ -176,6 +176,7 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
                 if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
                     QStyleOptionViewItem pale(*item);
                     pale.state.setFlag(State_Active, false);
+                    if (view->property("quietSelection").toBool()) pale.state.setFlag(State_Selected, false);
                     return QProxyStyle::drawControl(element, &pale, painter, widget);
                 }
             }

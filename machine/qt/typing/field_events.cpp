@@ -2,6 +2,7 @@
 
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
+#include "machine/qt/typing/undoing.h"
 
 #include <QFocusEvent>
 #include <QInputMethodEvent>
@@ -50,7 +51,11 @@ bool filter_field_event(QWidget& field, QEvent& event, const std::function<void(
     }
     working(true);
     const auto done = qScopeGuard([&] { working(false); });
-    static_cast<QObject&>(field).event(&event);
+    if (event.type() == QEvent::KeyPress && is_second_redo(static_cast<QKeyEvent&>(event))) {
+        redo(field);
+    } else {
+        static_cast<QObject&>(field).event(&event);
+    }
     return true;
 }
 

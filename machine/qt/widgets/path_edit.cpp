@@ -1,5 +1,8 @@
 #include "machine/qt/widgets/path_edit.h"
 
+#include "machine/qt/typing/conversion.h"
+#include "platform/formats/shown_path.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyleOptionFrame>
@@ -8,20 +11,20 @@
 namespace machine::qt {
 
 bool PathEdit::event(QEvent* event) {
-    if (event->type() != QEvent::ToolTip || !is_cut()) return QLineEdit::event(event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    if (event->type() != QEvent::ToolTip || text().isEmpty()) return QLineEdit::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), shown(), this);
     return true;
 }
 
 void PathEdit::paintEvent(QPaintEvent* event) {
-    if (hasFocus() || !is_cut()) return QLineEdit::paintEvent(event);
+    if (hasFocus() || text().isEmpty()) return QLineEdit::paintEvent(event);
     QStyleOptionFrame frame;
     initStyleOption(&frame);
     QPainter painter(this);
     style()->drawPrimitive(QStyle::PE_PanelLineEdit, &frame, &painter, this);
     const QRect place = text_place();
     style()->drawItemText(&painter, place, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
-                          fontMetrics().elidedText(text(), Qt::ElideMiddle, place.width()), QPalette::Text);
+                          fontMetrics().elidedText(shown(), Qt::ElideMiddle, place.width()), QPalette::Text);
 }
 
 QRect PathEdit::text_place() const {
@@ -32,6 +35,6 @@ QRect PathEdit::text_place() const {
     return style()->subElementRect(QStyle::SE_LineEditContents, &frame, this).adjusted(MARGIN, 0, -MARGIN, 0);
 }
 
-bool PathEdit::is_cut() const { return fontMetrics().horizontalAdvance(text()) > text_place().width(); }
+QString PathEdit::shown() const { return to_qstring(platform::shown_path(to_text(text()))); }
 
 }  // namespace machine::qt

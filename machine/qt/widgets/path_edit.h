@@ -4,13 +4,14 @@
 
 namespace machine::qt {
 
-/// A field for a path. While it has no focus, a path that is too long is cut in the middle, so that the
-/// file's name can be read; the tool tip shows it whole.
+/// A field for a path. While it has no focus it shows the file's name and behind it the folder, cut in the
+/// middle when that is too long; the tool tip shows it whole.
 class PathEdit : public QLineEdit {
     Q_OBJECT
 
   public:
-    using QLineEdit::QLineEdit;
+    /// A file that is dragged here is for the panel around the field: its path would go between the letters.
+    explicit PathEdit(QWidget* parent = nullptr) : QLineEdit(parent) { setAcceptDrops(false); }
 
   protected:
     bool event(QEvent* event) override;
@@ -18,7 +19,7 @@ class PathEdit : public QLineEdit {
 
   private:
     QRect text_place() const;
-    bool is_cut() const;
+    QString shown() const;
 };
 
 }  // namespace machine::qt

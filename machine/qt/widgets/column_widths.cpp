@@ -1,0 +1,57 @@
+#include "machine/qt/widgets/column_widths.h"
+
+#include <QFontInfo>
+#include <QGuiApplication>
+#include <QScopedValueRollback>
+#include <algorithm>
+
+namespace machine::qt {
+
+namespace {
+
+constexpr int WIDTH_TO_SHARE = 100;
+constexpr int NARROWEST = 40;
+
+}  // namespace
+
+ColumnWidths::ColumnWidths(QHeaderView& header) : header_(header) {
+    header.setSectionResizeMode(QHeaderView::Interactive);
+    connect(&header, &QHeaderView::sectionResized, this, &ColumnWidths::note_drag);
+}
+
+void ColumnWidths::set(const QStringList& widths) {
+    const int pixel_size = QFontInfo(header_.font()).pixelSize();
+    for (int column = 0; column < widths.size(); ++column) {
+        const bool shares = widths[column].startsWith(u'*');
+        const QString number = shares ? widths[column].mid(1) : widths[column];
+        const int width = number.isEmpty() ? WIDTH_TO_SHARE : number.toInt();
+        header_.setSectionHidden(column, width == 0);
+        header_.resizeSection(column, width * pixel_size / 12);
+        if (shares) sharing_.push_back(column);
+    }
+    if (!sharing_.empty()) header_.setStretchLastSection(false);
+}
+
+void ColumnWidths::fill(int room) {
+    int to_share = room + beyond_ - header_.length();
+    if (to_share == 0) return;
+    const QScopedValueRollback<bool> filling(filling_, true);
+    int shared = 0;
+    for (const int column : sharing_) shared += header_.sectionSize(column);
+    for (const int column : sharing_) {
+        const int width = header_.sectionSize(column);
+        const int share = shared == 0 ? 0 : to_share * width / shared;
+        header_.resizeSection(column, std::max(width + share, NARROWEST));
+        shared -= width;
+        to_share -= share;
+    }
+}
+
+/// A column that the user has made wider or narrower stays so when the list's size changes.
+void ColumnWidths::note_drag() {
+    if (filling_ || !(QGuiApplication::mouseButtons() & Qt::LeftButton)) return;
+    const auto* list = qobject_cast<const QAbstractScrollArea*>(header_.parent());
+    if (list != nullptr) beyond_ = header_.length() - list->viewport()->width();
+}
+
+}  // namespace machine::qt

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QCalendarWidget>
+
+namespace machine::qt {
+
+/// A calendar of the days that are still to come: today has a ring, days that are over cannot be chosen,
+/// Sundays are red and Saturdays blue.
+class DayCalendar : public QCalendarWidget {
+    Q_OBJECT
+
+  public:
+    explicit DayCalendar(QWidget* parent = nullptr);
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void paintCell(QPainter* painter, const QRect& cell, QDate date) const override;
+
+  private:
+    void colour_days();
+};
+
+}  // namespace machine::qt

@@ -1,0 +1,56 @@
+#include "machine/qt/widgets/marked_cell.h"
+
+#include "machine/qt/look/colours.h"
+#include "machine/qt/look/signs.h"
+#include "platform/controls/list_item.h"
+
+#include <QWidget>
+
+namespace machine::qt {
+
+using platform::RowMark;
+
+namespace {
+
+QColor colour_of(RowMark mark, const Colours& colours) {
+    switch (mark) {
+        case RowMark::failed:
+            return colours.failure;
+        case RowMark::uncertain:
+        case RowMark::unusable:
+            return colours.warning;
+        case RowMark::none:
+        case RowMark::done:
+            break;
+    }
+    return colours.muted;
+}
+
+QColor text_colour_when_selected(const QStyleOptionViewItem& option) {
+    const bool active =
+        (option.state & QStyle::State_Active) && option.widget != nullptr && option.widget->hasFocus();
+    return option.palette.color(active ? QPalette::Active : QPalette::Inactive, QPalette::HighlightedText);
+}
+
+}  // namespace
+
+void MarkedCell::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const auto mark = static_cast<RowMark>(index.data(MARK_ROLE).toInt());
+    if (mark == RowMark::none) return;
+    const Colours colours = colours_of(option->palette);
+    if (!index.data(SIGN_ROLE).toBool()) {
+        if (mark == RowMark::unusable) option->palette.setColor(QPalette::Text, colours.muted);
+        return;
+    }
+    const QColor colour = colour_of(mark, colours);
+    option->palette.setColor(QPalette::Text, colour);
+    const bool selected = option->state.testFlag(QStyle::State_Selected);
+    option->icon = sign_icon(mark == RowMark::done ? Sign::done : Sign::attention,
+                             selected ? text_colour_when_selected(*option) : colour);
+    const int side = option->fontMetrics.height();
+    option->decorationSize = QSize(side, side);
+    option->features |= QStyleOptionViewItem::HasDecoration;
+}
+
+}  // namespace machine::qt
