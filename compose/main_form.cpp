@@ -44,6 +44,7 @@ frmZent::frmZent(platform::Platform& platform, core::AppState& state, MainDoors 
       plus(*this, platform.desktop, voice.Frame1, subject, sender),
       fax(*this, platform, Cmd1),
       recipients(*this, platform, state, doors.pick_recipients),
+      recipient_exchange(*this, platform, recipients),
       recipient_outcomes(*this, platform, recipients),
       recipient_edits(*this, platform, recipients),
       schedule(*this, platform),

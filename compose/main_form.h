@@ -5,6 +5,7 @@
 #include "compose/message_kinds.h"
 #include "compose/plus_panel.h"
 #include "compose/recipient_list.h"
+#include "compose/recipients/exchange.h"
 #include "compose/recipients/outcomes.h"
 #include "compose/recipients/row_edits.h"
 #include "compose/reply_box.h"
@@ -111,6 +112,7 @@ class frmZent : public platform::Form {
     PlusPanel plus;
     FaxPanel fax;
     RecipientList recipients;
+    RecipientExchange recipient_exchange;
     RecipientOutcomes recipient_outcomes;
     RecipientEdits recipient_edits;
     SchedulePanel schedule;

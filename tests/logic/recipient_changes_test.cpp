@@ -1,3 +1,4 @@
+#include "compose/recipients/frmPasted.h"
 #include "tests/support/lists.h"
 #include "tests/support/main_window.h"
 
@@ -34,11 +35,76 @@ struct RecipientChanges : testing::Test, tests::MainWindow {
         }
         return shown;
     }
+    /// Lets the lines be read when the window opens, and the user do this with the report.
+    void in_report(const std::function<void(frmPasted&)>& act) {
+        desktop.in_form<frmPasted>(u"frmPasted", [this, act](frmPasted& window) {
+            clock.run_until([&] { return window.Command2.visible(); });
+            act(window);
+        });
+    }
+    static std::string report(const frmPasted& window) {
+        return utf8(window.Label1.caption()) + " " + utf8(window.Label2.caption());
+    }
 };
 
+using Pasted = RecipientChanges;
 using Undone = RecipientChanges;
 using Edited = RecipientChanges;
 using AfterAJob = RecipientChanges;
+
+TEST_F(Pasted, LinesBecomeRowsAndTheOthersCanBeCorrectedAndTriedAgain) {
+    add(u"가", u"01011112222");
+    in_report([&](frmPasted& window) {
+        EXPECT_EQ(
+            report(window),
+            "받는사람 2명을 추가했습니다. 이미 있는 번호 1줄 · 보낼 수 없는 번호 1줄 · 알아보지 못한 줄 1줄");
+        EXPECT_EQ(utf8(window.Text1.text()), "다:길동 02-555-1234\r\n라 010-33\r\n");
+        window.Text1.set_text(u"라 010-3333-4444\r\n");
+        window.Command1.Click.raise();
+        clock.run_until([&] { return window.Command2.visible(); });
+        EXPECT_EQ(report(window), "받는사람 1명을 추가했습니다. ");
+        EXPECT_FALSE(window.Text1.visible());
+        window.Command2.Click.raise();
+    });
+    const Text lines =
+        u"이름\t전화\t직위\r\n나:길동\t010-2222-3333\t과장\r\n가\t010-1111-2222\r\n\r\n"
+        u"다:길동 02-555-1234\r\n라 010-33\r\n마\t02-555-1234\t010-5555-6666";
+    form.recipients.HText1[1].LinesPasted.raise(lines);
+    EXPECT_EQ(rows(), (Rows{"*가/01011112222//부장/", "*나길동/01022223333//과장/", "*마/01055556666///",
+                            "*!라/01033334444///"}));
+    EXPECT_EQ(utf8(form.recipients.Label4.caption()), "전체>4>대상>4");
+}
+
+TEST_F(Pasted, OneLineComesInWithoutAReportAndAStopLeavesTheRestToTryAgain) {
+    desktop.clipboard = u"나 010-2222-3333\r\n";
+    form.recipient_exchange.mnuPaste.Click.raise();
+    EXPECT_EQ(rows(), (Rows{"*!나/01022223333///"}));
+
+    Text many;
+    for (int i = 0; i < 5000; ++i) many += u"가\t010" + platform::decimal(10'000'000 + i) + u"\n";
+    files.files[u"z:\\list.csv"] = platform::to_utf8(many);
+    desktop.in_form<frmPasted>(u"frmPasted", [this](frmPasted& window) {
+        clock.run_until([this] { return list.row_count() > 1; });
+        EXPECT_TRUE(desktop.question_stands()) << "no hand-over comes in between";
+        window.Command3.Click.raise();
+        EXPECT_EQ(report(window), "받는사람 2,000명을 추가했습니다. 읽지 않은 줄 3,000줄");
+        EXPECT_EQ(platform::split(window.Text1.text(), u'\n').size(), 3001u);
+        window.Command2.Click.raise();
+    });
+    list.Drop.raise({.text = {}, .files = {u"z:\\list.csv"}});
+    EXPECT_EQ(list.row_count(), 2001u);
+}
+
+TEST_F(Pasted, WhatIsCopiedPastesBackUnchanged) {
+    add(u"가 나", u"01011112222");
+    add(u"다", u"01033334444", u"등록성공", false);
+    list.select_all();
+    form.recipient_exchange.mnuCopy.Click.raise();
+    list.clear();
+    in_report([](frmPasted& window) { window.Command2.Click.raise(); });
+    form.recipient_exchange.mnuPaste.Click.raise();
+    EXPECT_EQ(rows(), (Rows{"*가 나/01011112222//부장/", "*!다/01033334444//부장/"}));
+}
 
 TEST_F(Undone, EachDeletionGivesItsRowsBackWhereTheyWere) {
     add(u"가", u"01000000001", u"등록실패");
