@@ -150,20 +150,18 @@ TEST_F(ListTest, TheHeadersBoxChecksAllRowsAndSpaceTheSelectedOnes) {
     EXPECT_EQ(list.checked_count(), 3u) << "whether the rows are checked is up to the handlers";
 }
 
-TEST_F(ListTest, ColumnsShareTheRoomUntilTheUserDragsThem) {
+TEST_F(ListTest, ColumnsShareTheRoomButStayWideEnoughToRead) {
     auto& header = *view().header();
     machine::qt::ColumnWidths widths(header);
     widths.set({"60", "*100", "*50"});
-    widths.fill(360);
     const auto sizes = [&] {
         return std::vector{header.sectionSize(0), header.sectionSize(1), header.sectionSize(2)};
     };
-    const int fixed = sizes()[0];
-    EXPECT_EQ(sizes(), (std::vector{fixed, (360 - fixed) * 2 / 3, (360 - fixed) / 3}));
-    header.resizeSection(1, 100);
-    widths.fill(260);
-    EXPECT_EQ(header.length(), 260);
-    EXPECT_EQ(header.sectionSize(0), fixed);
+    const std::vector<int> least = sizes();
+    widths.fill(header.length() + 60);
+    EXPECT_EQ(sizes(), (std::vector{least[0], least[1] + 40, least[2] + 20}));
+    widths.fill(100);
+    EXPECT_EQ(sizes(), least) << "narrower they could not be read";
 }
 
 TEST_F(ListTest, ATextIsEditedWhereItStandsAndShownAsTheHandlersLeaveIt) {

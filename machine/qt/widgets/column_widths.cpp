@@ -10,7 +10,6 @@ namespace machine::qt {
 namespace {
 
 constexpr int WIDTH_TO_SHARE = 100;
-constexpr int NARROWEST = 40;
 
 }  // namespace
 
@@ -24,32 +23,26 @@ void ColumnWidths::set(const QStringList& widths) {
     for (int column = 0; column < widths.size(); ++column) {
         const bool shares = widths[column].startsWith(u'*');
         const QString number = shares ? widths[column].mid(1) : widths[column];
-        const int width = number.isEmpty() ? WIDTH_TO_SHARE : number.toInt();
+        const int width = (number.isEmpty() ? WIDTH_TO_SHARE : number.toInt()) * pixel_size / 12;
         header_.setSectionHidden(column, width == 0);
-        header_.resizeSection(column, width * pixel_size / 12);
-        if (shares) sharing_.push_back(column);
+        header_.resizeSection(column, width);
+        if (shares) sharing_.push_back({column, width});
     }
     if (!sharing_.empty()) header_.setStretchLastSection(false);
 }
 
 void ColumnWidths::fill(int room) {
     const QScopedValueRollback<bool> filling(filling_, true);
-    share_out(room + beyond_ - header_.length());
-    // Columns that were narrow already have left their part to the others.
-    share_out(room + beyond_ - header_.length());
-}
-
-void ColumnWidths::share_out(int to_share) {
-    const auto shares = [&](int column) { return to_share > 0 || header_.sectionSize(column) > NARROWEST; };
+    int to_share = room + beyond_ - header_.length();
     int shared = 0;
-    for (const int column : sharing_) shared += shares(column) ? header_.sectionSize(column) : 0;
-    for (const int column : sharing_) {
-        if (!shares(column)) continue;
-        const int width = header_.sectionSize(column);
+    for (const Sharing& sharing : sharing_) shared += header_.sectionSize(sharing.column);
+    for (const Sharing& sharing : sharing_) {
+        const int width = header_.sectionSize(sharing.column);
         const int share = shared == 0 ? 0 : to_share * width / shared;
-        header_.resizeSection(column, std::max(width + share, std::min(width, NARROWEST)));
+        const int filled = std::max(width + share, std::min(width, sharing.least));
+        header_.resizeSection(sharing.column, filled);
         shared -= width;
-        to_share -= share;
+        to_share -= filled - width;
     }
 }
 

@@ -14,17 +14,22 @@ class ColumnWidths : public QObject {
     explicit ColumnWidths(QHeaderView& header);
 
     /// Sets the columns' widths for text of 12 pixels from a screen's list. A "*" before the width lets the
-    /// column share the room; a column of width 0 holds data for the handlers and is not shown.
+    /// column share the room, but not be narrower than that; a column of width 0 holds data for the handlers
+    /// and is not shown.
     void set(const QStringList& widths);
     /// Fills the room.
     void fill(int room);
 
   private:
-    void share_out(int to_share);
     void note_drag();
 
+    struct Sharing {
+        int column;
+        int least;
+    };
+
     QHeaderView& header_;
-    std::vector<int> sharing_;
+    std::vector<Sharing> sharing_;
     /// How much wider than the list the user has made its columns.
     int beyond_ = 0;
     bool filling_ = false;

@@ -48,7 +48,8 @@ void MarkedCell::initStyleOption(QStyleOptionViewItem* option, const QModelIndex
     const bool selected = option->state.testFlag(QStyle::State_Selected);
     option->icon = sign_icon(mark == RowMark::done ? Sign::done : Sign::attention,
                              selected ? text_colour_when_selected(*option) : colour);
-    const int side = option->fontMetrics.height();
+    // A row without a sign is as high as one with it.
+    const int side = option->fontMetrics.height() - 3;
     option->decorationSize = QSize(side, side);
     option->features |= QStyleOptionViewItem::HasDecoration;
 }
