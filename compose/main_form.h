@@ -5,6 +5,9 @@
 #include "compose/message_kinds.h"
 #include "compose/plus_panel.h"
 #include "compose/recipient_list.h"
+#include "compose/recipients/exchange.h"
+#include "compose/recipients/outcomes.h"
+#include "compose/recipients/row_edits.h"
 #include "compose/reply_box.h"
 #include "compose/schedule_panel.h"
 #include "compose/sender.h"
@@ -109,6 +112,9 @@ class frmZent : public platform::Form {
     PlusPanel plus;
     FaxPanel fax;
     RecipientList recipients;
+    RecipientExchange recipient_exchange;
+    RecipientOutcomes recipient_outcomes;
+    RecipientEdits recipient_edits;
     SchedulePanel schedule;
     ReplyBox reply;
     Session session;

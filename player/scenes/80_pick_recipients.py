@@ -3,9 +3,9 @@ from card_manager import hand_over
 from expect import expect
 
 # Between them stands a card without a mobile number.
-PICKED = [[True, "류예호", "01000000004", "", "Manager"], [True, "류예진", "01000000029", "", "과장"]]
+PICKED = [[True, "류예호", "010-0000-0004", "", "Manager"], [True, "류예진", "010-0000-0029", "", "과장"]]
 # A title with digits keeps only these.
-HANDED_OVER = [[True, "박새벽", "021112222", "", "3"], [True, "이름없음", "01033334444", "", "대리"]]
+HANDED_OVER = [[True, "박새벽", "02-111-2222", "", "3"], [True, "이름없음", "010-3333-4444", "", "대리"]]
 
 
 def play(desk):

@@ -2,6 +2,7 @@
 #include "compose/frmSet1.h"
 #include "compose/frmXTip.h"
 #include "compose/main_form.h"
+#include "compose/recipients/frmPasted.h"
 #include "gateway/frmAutoLogin.h"
 #include "gateway/frmZentLogin.h"
 #include "machine/qt/binders/screen_faults.h"
@@ -48,6 +49,7 @@ struct System : tests::WindowsOnDoubles {
         forms.push_back(std::make_unique<service::frmWeb>(platform, state));
         forms.push_back(std::make_unique<compose::frmSet1>(platform));
         forms.push_back(std::make_unique<compose::frmXTip>(platform));
+        forms.push_back(std::make_unique<compose::frmPasted>(platform, main.recipients, platform::Text()));
         forms.push_back(std::make_unique<send::frmSBox>(platform, state));
         forms.push_back(std::make_unique<send::frmZentSend>(platform, state, main, keeper));
         forms.push_back(std::make_unique<send::frmSendEndBox>(platform, main));

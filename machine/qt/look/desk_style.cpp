@@ -203,6 +203,9 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
             return 0;
         case PM_HeaderMargin:
             return HEADER_AIR;
+        case PM_FocusFrameHMargin:
+            // Texts stand below their captions. Qt adds one pixel.
+            return HEADER_AIR - 1;
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }

@@ -33,15 +33,21 @@ void ColumnWidths::set(const QStringList& widths) {
 }
 
 void ColumnWidths::fill(int room) {
-    int to_share = room + beyond_ - header_.length();
-    if (to_share == 0) return;
     const QScopedValueRollback<bool> filling(filling_, true);
+    share_out(room + beyond_ - header_.length());
+    // Columns that were narrow already have left their part to the others.
+    share_out(room + beyond_ - header_.length());
+}
+
+void ColumnWidths::share_out(int to_share) {
+    const auto shares = [&](int column) { return to_share > 0 || header_.sectionSize(column) > NARROWEST; };
     int shared = 0;
-    for (const int column : sharing_) shared += header_.sectionSize(column);
+    for (const int column : sharing_) shared += shares(column) ? header_.sectionSize(column) : 0;
     for (const int column : sharing_) {
+        if (!shares(column)) continue;
         const int width = header_.sectionSize(column);
         const int share = shared == 0 ? 0 : to_share * width / shared;
-        header_.resizeSection(column, std::max(width + share, NARROWEST));
+        header_.resizeSection(column, std::max(width + share, std::min(width, NARROWEST)));
         shared -= width;
         to_share -= share;
     }

@@ -20,6 +20,7 @@ class ColumnWidths : public QObject {
     void fill(int room);
 
   private:
+    void share_out(int to_share);
     void note_drag();
 
     QHeaderView& header_;
