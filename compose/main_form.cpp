@@ -44,6 +44,7 @@ frmZent::frmZent(platform::Platform& platform, core::AppState& state, MainDoors 
       plus(*this, platform.desktop, voice.Frame1, subject, sender),
       fax(*this, platform, Cmd1),
       recipients(*this, platform, state, doors.pick_recipients),
+      personal(*this, text, recipients),
       schedule(*this, platform),
       reply(*this, platform, voice.Frame1),
       session(*this, platform, state, Timer1),
@@ -157,6 +158,7 @@ void frmZent::show_panel(Panel panel) {
     text.Frame1.set_visible(panel == Panel::text);
     voice.Frame1.set_visible(panel == Panel::voice);
     fax.Frame1.set_visible(panel == Panel::fax);
+    personal.show();
 }
 
 /// Entering a kind discards what its text field held, even if that equals a new text.

@@ -3,6 +3,7 @@
 #include "compose/fax_panel.h"
 #include "compose/kept_draft_bar.h"
 #include "compose/message_kinds.h"
+#include "compose/personal/preview.h"
 #include "compose/plus_panel.h"
 #include "compose/recipient_list.h"
 #include "compose/reply_box.h"
@@ -109,6 +110,7 @@ class frmZent : public platform::Form {
     PlusPanel plus;
     FaxPanel fax;
     RecipientList recipients;
+    PersonalPreview personal;
     SchedulePanel schedule;
     ReplyBox reply;
     Session session;
