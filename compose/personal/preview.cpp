@@ -34,7 +34,7 @@ void PersonalPreview::show() {
 void PersonalPreview::show_row(std::size_t row) {
     const platform::ListView& list = recipients_.ListView1;
     const auto text = core::personal_text(platform::right_trim(text_.mText1.text()), list, row);
-    PreviewHead.set_caption(list.row(row).sub_item(RECIPIENT_NAME) + u": " +
+    PreviewHead.set_caption(list.row(row).sub_item(RECIPIENT_NAME) + Text(platform::CRLF) +
                             (text ? platform::decimal(core::BYTE_LEN(*text)) + u"Bytes, " +
                                         platform::decimal(core::count_pieces(*text, TEXT_LIMIT)) + u"건"
                                   : u"이름이 없어 발송되지 않습니다."));

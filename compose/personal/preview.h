@@ -11,7 +11,7 @@ class PersonalPreview : Room {
   public:
     PersonalPreview(platform::Form& form, TextPanel& text, RecipientList& recipients);
 
-    /// For whom the preview is, and how long his message is.
+    /// For whom the preview is, and below it how long the message is.
     platform::Label PreviewHead{form_, u"PreviewHead"};
     platform::TextBox Preview{form_, u"Preview"};
     platform::CommandButton Longest{form_, u"Longest", u"가장 긴 사람"};

@@ -25,19 +25,19 @@ TEST(PersonalPreview, ReadsAsTheRecipientOfTheRowWillReadIt) {
     s.type(Text(66, u'a') + u" {이름} {직위}");
     s.form.recipients.RECIPIENT_COUNT_CAPTION();
     const std::string a(66, 'a');
-    EXPECT_EQ(shown(s), "김민준: 82Bytes, 2건|" + a + " 김민준 대표이사");
+    EXPECT_EQ(shown(s), "김민준\r\n82Bytes, 2건|" + a + " 김민준 대표이사");
     list.user_selected_item(2);
     KeyPressed down{KEY_DOWN};
     list.KeyUp.raise(down);
-    EXPECT_EQ(shown(s), "박: 74Bytes, 1건|" + a + " 박 과장");
+    EXPECT_EQ(shown(s), "박\r\n74Bytes, 1건|" + a + " 박 과장");
     s.type(u"안녕하세요 {이름}");
-    EXPECT_EQ(shown(s), "박: 13Bytes, 1건|안녕하세요 박");
+    EXPECT_EQ(shown(s), "박\r\n13Bytes, 1건|안녕하세요 박");
     list.user_selected_item(1);
     list.MouseUp.raise(MouseButton::left);
-    EXPECT_EQ(shown(s), "이름없음: 이름이 없어 발송되지 않습니다.|");
+    EXPECT_EQ(shown(s), "이름없음\r\n이름이 없어 발송되지 않습니다.|");
     s.form.personal.Longest.Click.raise();
     EXPECT_EQ(list.selected_item(), 0u);
-    EXPECT_EQ(shown(s), "김민준: 17Bytes, 1건|안녕하세요 김민준");
+    EXPECT_EQ(shown(s), "김민준\r\n17Bytes, 1건|안녕하세요 김민준");
     s.form.choose(compose::MessageKind::fax);
     EXPECT_FALSE(s.form.personal.Preview.visible());
 }
