@@ -119,6 +119,7 @@ class UserEvent : private Event<Args...> {
     explicit UserEvent(const Control& control) : control_(control) {}
 
     using Event<Args...>::connect;
+    using Event<Args...>::connected;
 
     void raise(Args... args) const {
         if (control_.takes_input()) Event<Args...>::raise(args...);

@@ -14,6 +14,8 @@ class Event {
 
     void connect(Handler handler) { handlers_.push_back(std::move(handler)); }
 
+    bool connected() const { return !handlers_.empty(); }
+
     void raise(Args... args) const {
         for (const Handler& handler : handlers_) handler(args...);
     }

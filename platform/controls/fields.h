@@ -47,6 +47,9 @@ class TextBox : public Control {
     UserEvent<KeyPressed&> KeyPress{*this};
     /// Up and down in a field of one line, where they move nothing.
     UserEvent<KeyPressed&> KeyDown{*this};
+    /// The user pasted lines, or cells of a table, into a field of one line. With a handler they do not go
+    /// into the field.
+    UserEvent<const Text&> LinesPasted{*this};
 
   private:
     Text text_;

@@ -1,8 +1,18 @@
 #pragma once
 
+#include "platform/text/text.h"
+
+#include <vector>
+
 namespace platform {
 
 enum class MouseButton { left, right };
+
+/// What the user drags from another program onto a control: a text, or files by their paths.
+struct Dropped {
+    Text text;
+    std::vector<Text> files;
+};
 
 /// Character codes of the keys that handlers ask for.
 inline constexpr int KEY_CTRL_A = 1;

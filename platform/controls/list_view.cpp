@@ -52,19 +52,60 @@ void ListView::insert(std::size_t place, Row row) {
 }
 
 void ListView::remove_selected_rows() {
+    take_rows([](const ListItem& row) { return row.selected(); });
+}
+
+TakenRows ListView::take_rows(const std::function<bool(const ListItem& row)>& passes) {
+    TakenRows taken;
+    if (held_) return taken;
+    ++revision_;
+    if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
+    std::size_t place = 0;
+    for (Row& row : rows_.take_all()) {
+        if (passes(*row)) {
+            leave_out(*row);
+            taken.emplace_back(place, std::move(row));
+        } else {
+            rows_.insert(rows_.size(), std::move(row));
+        }
+        ++place;
+    }
+    if (rows_view_ != nullptr) rows_view_->rows_rearranged();
+    return taken;
+}
+
+void ListView::put_back(TakenRows rows) {
     if (held_) return;
     ++revision_;
     if (rows_view_ != nullptr) rows_view_->rows_about_to_be_rearranged();
-    if (selected_item_ != nullptr && selected_item_->selected()) selected_item_ = nullptr;
-    for (Row& row : rows_.take_all()) {
-        if (!row->selected()) {
-            rows_.insert(rows_.size(), std::move(row));
-            continue;
+    auto back = rows.begin();
+    const auto put_in_place = [&](bool at_end) {
+        while (back != rows.end() && (at_end || back->first <= rows_.size())) {
+            take_in(*back->second);
+            rows_.insert(rows_.size(), std::move(back->second));
+            ++back;
         }
-        if (row->checked()) --checked_count_;
-        if (index_) index_->remove(*row);
+    };
+    for (Row& row : rows_.take_all()) {
+        put_in_place(false);
+        rows_.insert(rows_.size(), std::move(row));
     }
+    put_in_place(true);
     if (rows_view_ != nullptr) rows_view_->rows_rearranged();
+    if (sorted_ && !filling_) sort(sort_key_, sort_order_);
+}
+
+void ListView::leave_out(ListItem& row) {
+    if (selected_item_ == &row) selected_item_ = nullptr;
+    row.selected_ = false;
+    if (row.checked()) --checked_count_;
+    if (index_) index_->remove(row);
+}
+
+void ListView::take_in(ListItem& row) {
+    if (row.checked()) ++checked_count_;
+    if (index_) index_->add(row);
+    mark(row);
 }
 
 void ListView::clear() {
@@ -162,6 +203,22 @@ void ListView::select_all() {
     for (std::size_t row = 0; row < rows_.size(); ++row) item(row).selected_ = true;
     if (selected_item_ == nullptr && rows_.size() > 0) selected_item_ = &item(0);
     if (rows_view_ != nullptr) rows_view_->selection_changed();
+}
+
+void ListView::deselect_all() {
+    for (std::size_t row = 0; row < rows_.size(); ++row) item(row).selected_ = false;
+    selected_item_ = nullptr;
+    if (rows_view_ != nullptr) rows_view_->selection_changed();
+}
+
+void ListView::go_to(std::size_t row) {
+    deselect_all();
+    select_item(row);
+    make_visible(row);
+}
+
+void ListView::edit(std::size_t row, int sub_item) const {
+    if (rows_view_ != nullptr && column(sub_item + 1).editable) rows_view_->edit(row, sub_item);
 }
 
 void ListView::make_visible(std::size_t row) const {

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace platform {
@@ -31,6 +32,18 @@ class RowsView {
     virtual void selection_changed() = 0;
     virtual void columns_changed() = 0;
     virtual void make_visible(std::size_t row) = 0;
+    /// Lets the user change a text of the row where it stands.
+    virtual void edit(std::size_t row, int sub_item) = 0;
+};
+
+/// Rows that have been taken out of a list, in their order, each with the place that it had.
+using TakenRows = std::vector<std::pair<std::size_t, Row>>;
+
+/// A text of a row as the user wants it.
+struct CellEdit {
+    std::size_t row;
+    int sub_item;
+    Text text;
 };
 
 /// A report list: columns, rows with an optional check box, one selected item and any number of selected
@@ -51,6 +64,8 @@ class ListView : public Control {
         bool signs = false;
         /// Whether the column is the one that matters now.
         bool in_use = false;
+        /// Whether the user may change the texts where they stand.
+        bool editable = false;
     };
 
     /// How the rows are marked.
@@ -97,6 +112,10 @@ class ListView : public Control {
     std::size_t add_row(Text text, std::vector<Text> sub_items, bool checked = false);
     /// Does nothing while the rows are held; neither do `clear` and `sort`.
     void remove_selected_rows();
+    /// The same for the rows that pass, which are returned so that they can be put back.
+    TakenRows take_rows(const std::function<bool(const ListItem& row)>& passes);
+    /// Puts rows back where they were or, in a list that is sorted, where they belong.
+    void put_back(TakenRows rows);
     void clear();
 
     void set_item_text(std::size_t row, Text text);
@@ -118,10 +137,15 @@ class ListView : public Control {
     /// Deselects the selected item, if there is one.
     void deselect_item();
     void select_all();
+    void deselect_all();
+    /// Selects the row alone and brings it into view.
+    void go_to(std::size_t row);
     void make_visible(std::size_t row) const;
     /// Whether the user sees which rows are selected; he need not where selecting was not his doing.
     bool shows_selection() const { return shows_selection_; }
     void show_selection(bool on) { assign(shows_selection_, on, Aspect::selection); }
+    /// Lets the user change a text of the row where it stands. CellEdited tells what came of it.
+    void edit(std::size_t row, int sub_item) const;
 
     /// The first row with a sub-item that begins with the text.
     std::optional<std::size_t> find_in_sub_items(TextView beginning) const;
@@ -153,6 +177,10 @@ class ListView : public Control {
     UserEvent<KeyPressed&> KeyUp{*this};
     UserEvent<MouseButton> MouseUp{*this};
     UserEvent<> DblClick{*this};
+    /// The list shows the text only if a handler sets it.
+    UserEvent<const CellEdit&> CellEdited{*this};
+    /// Without a handler nothing can be dropped here.
+    UserEvent<const Dropped&> Drop{*this};
     /// The width available for the columns has changed.
     Event<> Resize;
 
@@ -166,6 +194,8 @@ class ListView : public Control {
     std::size_t place_of(const Text& sort_text) const;
     void insert(std::size_t place, Row row);
     void mark(ListItem& row) const;
+    void leave_out(ListItem& row);
+    void take_in(ListItem& row);
 
     RowsView* rows_view_ = nullptr;
     std::vector<Column> columns_;

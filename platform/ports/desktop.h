@@ -98,6 +98,7 @@ class Desktop {
 
     virtual void set_pointer(Pointer pointer) = 0;
     virtual void set_clipboard(const Text& text) = 0;
+    virtual Text clipboard_text() const = 0;
     virtual Screen screen() const = 0;
     virtual void set_application_title(const Text& title) = 0;
     /// Tells a user who looks at another program that something long has ended. Anybody who sees the screen

@@ -3,11 +3,15 @@
 
 #include <QAccessible>
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTimer>
 #include <QTreeView>
+#include <QUrl>
 
 namespace tests {
 namespace {
@@ -160,6 +164,56 @@ TEST_F(ListTest, ColumnsShareTheRoomUntilTheUserDragsThem) {
     widths.fill(260);
     EXPECT_EQ(header.length(), 260);
     EXPECT_EQ(header.sectionSize(0), fixed);
+}
+
+TEST_F(ListTest, ATextIsEditedWhereItStandsAndShownAsTheHandlersLeaveIt) {
+    std::vector<std::string> edits;
+    list.CellEdited.connect([&](const platform::CellEdit& edit) {
+        edits.push_back(std::to_string(edit.row) + " " + std::to_string(edit.sub_item) + " " +
+                        platform::to_utf8(edit.text));
+        if (edit.text != u"3") list.set_sub_item(edit.row, edit.sub_item, edit.text);
+    });
+    const auto type = [&](const QString& text, Qt::Key end) {
+        settle();
+        auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        ASSERT_NE(editor, nullptr);
+        editor->selectAll();
+        QTest::keyClicks(editor, text);
+        QTest::keyClick(editor, end);
+        settle();
+    };
+    click(1);
+    QTest::keyClick(&view(), Qt::Key_Return);
+    type("2", Qt::Key_Return);
+    list.edit(2, 2);
+    type("3", Qt::Key_Return);
+    list.edit(3, 2);
+    type("4", Qt::Key_Escape);
+    EXPECT_EQ(edits, (std::vector<std::string>{"1 2 2", "2 2 3"}));
+    EXPECT_EQ(view().model()->index(1, 2).data().toString(), "2");
+    EXPECT_EQ(view().model()->index(2, 2).data().toString(), "010");
+}
+
+TEST_F(ListTest, LinesAndFilesAreDroppedOnAListThatHasAUseForThem) {
+    QMimeData lines, urls;
+    lines.setText("가\n나");
+    urls.setUrls({QUrl::fromLocalFile("/tmp/list.csv")});
+    const auto drop = [&](const QMimeData& data) {
+        QDragEnterEvent enter(place(1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(view().viewport(), &enter);
+        QDropEvent event(place(1), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        if (enter.isAccepted()) QCoreApplication::sendEvent(view().viewport(), &event);
+    };
+    std::vector<std::string> dropped;
+    drop(lines);
+    list.Drop.connect([&](const platform::Dropped& what) {
+        dropped.push_back(platform::to_utf8(what.text));
+        for (const Text& file : what.files) dropped.push_back(platform::to_utf8(file));
+    });
+    drop(lines);
+    drop(urls);
+    EXPECT_EQ(dropped,
+              (std::vector<std::string>{"가\r\n나", "", platform::to_utf8(files.path_of("/tmp/list.csv"))}));
 }
 
 TEST_F(ListTest, AnEmptyListTellsWhatToDo) {

@@ -34,7 +34,10 @@ class frmSample : public platform::Form {
     platform::OptionButton Option2{*this, u"Option2", u"예약전송"};
     platform::DatePicker DTP1{*this, u"DTP1"};
     platform::ListView ListView1{
-        *this, u"ListView1", {{.caption = u"선택"}, {.caption = u"이름"}, {.caption = u"번호"}}, true};
+        *this,
+        u"ListView1",
+        {{.caption = u"선택"}, {.caption = u"이름"}, {.caption = u"번호", .editable = true}},
+        true};
     platform::ProgressBar PBar1{*this, u"PBar1"};
     platform::CommandButton Command1{*this, u"Command1", u"보내기(&S)"};
     platform::CommandButton Command2{*this, u"Command2", u"종료"};

@@ -67,7 +67,7 @@ std::vector<QWidget*> tab_order(QWidget& window) {
 /// The widgets that the key visits from that one on, until it comes to one for the second time. Within a date
 /// it goes from field to field first.
 std::vector<QWidget*> visited(QWidget& window, QWidget& first, Qt::Key key) {
-    constexpr int MOST_FIELDS = 3;
+    constexpr int MOST_FIELDS = 4;
     std::vector<QWidget*> visited;
     first.setFocus();
     for (QWidget* now = &first; std::ranges::find(visited, now) == visited.end();

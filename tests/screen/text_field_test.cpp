@@ -107,6 +107,17 @@ TEST_F(TextFieldTest, APasteIsPlainTextAndOneChangeWithoutAKeyPress) {
     find<QLineEdit>("HText1_0").paste();
     settle();
     EXPECT_EQ(form.HText1.text(), u"가나다라") << "one line has no line ends";
+
+    std::vector<Text> lines;
+    form.HText1.LinesPasted.connect([&](const Text& pasted) { lines.push_back(pasted); });
+    for (const char* pasted : {"01012345678\n", "홍길동\t010\n", "가\n나"}) {
+        QGuiApplication::clipboard()->setText(pasted);
+        find<QLineEdit>("HText1_0").paste();
+        settle();
+        settle();
+    }
+    EXPECT_EQ(form.HText1.text(), u"가나다라01012345678") << "a single cell is no table";
+    EXPECT_EQ(lines, (std::vector<Text>{u"홍길동\t010\r\n", u"가\r\n나"}));
 }
 
 TEST_F(TextFieldTest, TextAndSelectionSetInCodeShowAndRaiseOneChange) {

@@ -71,6 +71,7 @@ class ScriptedDesktop : public platform::Desktop {
     platform::Text input_box(const platform::InputBox& box) override;
     void set_pointer(platform::Pointer shape) override { pointer = shape; }
     void set_clipboard(const platform::Text& text) override { clipboard = text; }
+    platform::Text clipboard_text() const override { return clipboard; }
     platform::Screen screen() const override { return screen_size; }
     void set_application_title(const platform::Text& text) override { title = text; }
     void notify(const platform::Text& text) override { notifications.push_back(text); }

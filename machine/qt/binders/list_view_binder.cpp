@@ -4,13 +4,16 @@
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/marked_cell.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPainter>
 #include <QToolTip>
 #include <QTreeView>
+#include <QUrl>
 #include <utility>
 
 namespace machine::qt {
@@ -27,7 +30,7 @@ void set_up(QTreeView& view) {
     view.setSelectionBehavior(QAbstractItemView::SelectRows);
     view.setSelectionMode(view.property("singleSelection").toBool() ? QAbstractItemView::SingleSelection
                                                                     : QAbstractItemView::ExtendedSelection);
-    view.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view.setEditTriggers(QAbstractItemView::DoubleClicked);
     view.header()->setSectionsClickable(true);
     view.header()->setSectionsMovable(false);
     view.setItemDelegate(new MarkedCell(&view));
@@ -69,6 +72,7 @@ ListViewBinder::ListViewBinder(BoundForm& bound, platform::ListView& control, QT
     control.attach_rows(&rows_);
     set_up(view);
     widths_.set(view.property("columnWidths").toStringList());
+    view.setAcceptDrops(true);
     if (control.check_boxes()) view.header()->viewport()->installEventFilter(this);
     show(platform::Aspect::selection);
     connect(&rows_.model(), &ListViewModel::checked_by_user, this, [this](std::size_t row, bool checked) {
@@ -76,8 +80,14 @@ ListViewBinder::ListViewBinder(BoundForm& bound, platform::ListView& control, QT
     });
     connect(view.header(), &QHeaderView::sectionClicked, this,
             [this](int section) { act([&] { this->control().ColumnClick.raise(section + 1); }); });
-    connect(&view, &QTreeView::doubleClicked, this,
-            [this] { act([this] { this->control().DblClick.raise(); }); });
+    // The box that refuses a text must not stand while Qt takes the text out of its field.
+    connect(
+        &rows_.model(), &ListViewModel::edited_by_user, this,
+        [this](const platform::CellEdit& edit) { act([&] { this->control().CellEdited.raise(edit); }); },
+        Qt::QueuedConnection);
+    connect(&view, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (!(index.flags() & Qt::ItemIsEditable)) act([this] { this->control().DblClick.raise(); });
+    });
 }
 
 void ListViewBinder::release() {
@@ -97,6 +107,8 @@ bool ListViewBinder::filter(QObject& object, QEvent& event) {
     if (&object == widget().header()->viewport()) return click_header(event);
     switch (event.type()) {
         case QEvent::KeyPress:
+            // What a field in a cell leaves of its keys, such as the Enter that ends it, is not for the list.
+            if (is_editing()) return true;
             rows_.bring_up_to_date();
             return press_key(static_cast<QKeyEvent&>(event));
         case QEvent::KeyRelease:
@@ -108,6 +120,11 @@ bool ListViewBinder::filter(QObject& object, QEvent& event) {
                 control().user_resized(to_twips(widget().viewport()->width()));
             }
             return false;
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+            return take_drag(static_cast<QDropEvent&>(event));
+        case QEvent::Drop:
+            return take_drop(static_cast<QDropEvent&>(event));
         case QEvent::Paint:
             return &object == widget().viewport() && control().row_count() == 0 && paint_placeholder();
         case QEvent::MouseButtonPress:
@@ -145,7 +162,7 @@ bool ListViewBinder::press_key(QKeyEvent& event) {
     } else if (KeyPressed key{key_code(event)}; !key.swallowed()) {
         const bool is_enter = key.code == platform::KEY_ENTER;
         control().KeyPress.raise(key);
-        if (is_enter && !key.swallowed()) event.ignore();
+        if (is_enter && !key.swallowed() && !edit_current_row()) event.ignore();
     } else {
         event.ignore();
     }
@@ -171,6 +188,43 @@ void ListViewBinder::toggle_check() {
     } else {
         control().user_check(place, checked);
     }
+}
+
+bool ListViewBinder::is_editing() const {
+    const QWidget* focus = QApplication::focusWidget();
+    return focus != nullptr && focus != &widget() && widget().isAncestorOf(focus);
+}
+
+/// False in a list whose texts stay as they are.
+bool ListViewBinder::edit_current_row() {
+    const QModelIndex current = widget().currentIndex();
+    for (int column = 0; column < control().column_count(); ++column) {
+        const QModelIndex cell = current.siblingAtColumn(column);
+        if (!(cell.flags() & Qt::ItemIsEditable)) continue;
+        widget().edit(cell);
+        return true;
+    }
+    return false;
+}
+
+bool ListViewBinder::take_drag(QDropEvent& event) {
+    if (!control().Drop.connected()) return false;
+    const bool usable = event.mimeData()->hasText() || event.mimeData()->hasUrls();
+    event.setDropAction(Qt::CopyAction);
+    event.setAccepted(usable && control().takes_input());
+    return true;
+}
+
+bool ListViewBinder::take_drop(QDropEvent& event) {
+    if (!take_drag(event) || !event.isAccepted()) return false;
+    platform::Dropped dropped;
+    for (const QUrl& url : event.mimeData()->urls()) {
+        if (url.isLocalFile())
+            dropped.files.push_back(bound().files.path_of(url.toLocalFile().toStdString()));
+    }
+    if (dropped.files.empty()) dropped.text = program_text(event.mimeData()->text());
+    act([&] { control().Drop.raise(dropped); });
+    return true;
 }
 
 /// A click on the box in the header checks or unchecks all rows. The header, which would sort, gets no part

@@ -5,6 +5,7 @@
 #include "machine/qt/widgets/column_widths.h"
 #include "platform/controls/list_view.h"
 
+class QDropEvent;
 class QHelpEvent;
 class QKeyEvent;
 class QTreeView;
@@ -26,6 +27,10 @@ class ListViewBinder : public BinderOf<platform::ListView, QTreeView, ItemViewBi
     bool press_key(QKeyEvent& event);
     void release_key(const QKeyEvent& event);
     void toggle_check();
+    bool is_editing() const;
+    bool edit_current_row();
+    bool take_drag(QDropEvent& event);
+    bool take_drop(QDropEvent& event);
     bool click_header(const QEvent& event);
     void show_tip(const QHelpEvent& event);
     bool paint_placeholder();

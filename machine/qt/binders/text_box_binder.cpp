@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
+#include <algorithm>
 
 namespace machine::qt {
 
@@ -139,8 +140,19 @@ bool LineBinder::filter(QObject&, QEvent& event) {
         });
 }
 
-/// A paste may contain line ends, which do not belong in one line.
+/// A paste may contain line ends, which do not belong in one line. The control may have a use for them.
 void LineBinder::join_lines() {
+    if (const Text pasted = pasted_lines(); !pasted.empty()) {
+        write_back();
+        // The handler may open a window, for which the field must have done its work.
+        QMetaObject::invokeMethod(
+            this,
+            [this, pasted] {
+                if (is_live()) control().LinesPasted.raise(pasted);
+            },
+            Qt::QueuedConnection);
+        return;
+    }
     const auto one_line = [](const QString& text) { return to_lines(text).remove(u'\n'); };
     if (const QString text = widget().text(); has_edit() && text != one_line(text)) {
         const auto caret = one_line(text.left(widget().cursorPosition())).size();
@@ -149,6 +161,21 @@ void LineBinder::join_lines() {
         widget().setCursorPosition(static_cast<int>(caret));
     }
     edited();
+}
+
+/// What a paste has brought when that is lines or cells of a table, which the control wants. A single cell
+/// ends with a line end too, and belongs in the field.
+Text LineBinder::pasted_lines() const {
+    const QString text = to_lines(widget().text());
+    if (!has_edit() || !control().LinesPasted.connected()) return {};
+    const QString before = shown_text(control().text());
+    // It ends at the caret, and before it stands what stood there before.
+    const qsizetype caret = to_lines(widget().text().left(widget().cursorPosition())).size();
+    const qsizetype alike = std::ranges::mismatch(text, before).in1 - text.begin();
+    const qsizetype begin = std::min(alike, before.size() - (text.size() - caret));
+    const QString pasted = text.mid(begin, caret - begin);
+    const bool cells = pasted.contains(u'\t') || pasted.trimmed().contains(u'\n');
+    return cells ? program_text(pasted) : Text();
 }
 
 QString LineBinder::widget_text() const { return widget().text(); }

@@ -69,6 +69,7 @@ class LineBinder : public BinderOf<platform::TextBox, QLineEdit, TextBoxBinder> 
     void select(int start, int end) override;
     Selection selection() const override;
     void join_lines();
+    platform::Text pasted_lines() const;
 
     bool working_ = false;
 };

@@ -153,6 +153,8 @@ void QtDesktop::set_pointer(Pointer pointer) {
 
 void QtDesktop::set_clipboard(const Text& text) { QGuiApplication::clipboard()->setText(to_qstring(text)); }
 
+Text QtDesktop::clipboard_text() const { return to_text(QGuiApplication::clipboard()->text()); }
+
 platform::Screen QtDesktop::screen() const {
     const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
     return {.left = to_twips(free.left()),

@@ -41,6 +41,7 @@ class QtDesktop : public platform::Desktop {
     platform::Text input_box(const platform::InputBox& box) override;
     void set_pointer(platform::Pointer pointer) override;
     void set_clipboard(const platform::Text& text) override;
+    platform::Text clipboard_text() const override;
     platform::Screen screen() const override;
     void set_application_title(const platform::Text& title) override;
     void notify(const platform::Text& text) override;
