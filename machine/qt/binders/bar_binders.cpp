@@ -105,7 +105,9 @@ void StatusBarBinder::show_panels() {
         panel.setVisible(!shown.text.empty());
         panel.setToolTip(to_qstring(shown.tool_tip));
         panel.setIcon(pictures.value(shown.picture - 1));
-        panel.setAccessibleName(to_qstring(shown.text.empty() ? shown.tool_tip : shown.text));
+        // A reader is told of every name that is set.
+        const QString name = to_qstring(shown.text.empty() ? shown.tool_tip : shown.text);
+        if (panel.accessibleName() != name) panel.setAccessibleName(name);
     }
 }
 
