@@ -5,6 +5,8 @@
 #include "core/boxes.h"
 #include "platform/error.h"
 
+#include <algorithm>
+
 namespace compose {
 
 using platform::Text;
@@ -39,19 +41,29 @@ FaxPanel::FaxPanel(platform::Form& form, platform::Platform& platform, platform:
     put_into(Frame1, {&FAX1, &FAXBttn1, &FAXBttn2});
     // A cancelled dialog ends the handler silently.
     FAXBttn1.Click.connect([this] { platform::ignore_errors([this] { add_document(); }); });
+    FAX1.Drop.connect([this](const platform::Dropped& dropped) {
+        const std::size_t room = DOCUMENT_LIMIT - FAX1.row_count();
+        // One box says that there are too many, however many.
+        for (std::size_t i = 0; i < std::min(dropped.files.size(), room + 1); ++i) take(dropped.files[i]);
+    });
     FAXBttn2.Click.connect([this] {
         if (remove_selected_rows(platform_.desktop, FAX1)) FAX_SIZE_CAPTION();
     });
 }
 
 void FaxPanel::add_document() {
-    if (FAX1.row_count() == DOCUMENT_LIMIT) {
-        core::warn(platform_.desktop, u"보낼 문서는 한번에 5개까지 첨부가 가능합니다.");
-        return;
-    }
+    if (FAX1.row_count() == DOCUMENT_LIMIT) return refuse_more();
     dialog_.set_up(u"팩스문서 열기", Text(DOCUMENT_FILTER));
     dialog_.show_open();
-    const Text& path = dialog_.file_name();
+    take(dialog_.file_name());
+}
+
+void FaxPanel::refuse_more() {
+    core::warn(platform_.desktop, u"보낼 문서는 한번에 5개까지 첨부가 가능합니다.");
+}
+
+void FaxPanel::take(const Text& path) {
+    if (FAX1.row_count() == DOCUMENT_LIMIT) return refuse_more();
     if (!is_fax_document(path)) {
         core::warn(platform_.desktop,
                    u"가능한 포맷이 아닙니다.\r\n\r\n문서파일:txt, doc, xls, ppt, hwp, gul\r\n"

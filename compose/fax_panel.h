@@ -33,6 +33,9 @@ class FaxPanel : Room {
 
   private:
     void add_document();
+    /// Adds the document if it can be faxed, or says why not.
+    void take(const platform::Text& path);
+    void refuse_more();
 
     platform::Platform& platform_;
     platform::CommonDialog& dialog_;

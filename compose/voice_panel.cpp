@@ -59,6 +59,7 @@ VoicePanel::VoicePanel(platform::Form& form, platform::Platform& platform, platf
     // A cancelled dialog ends a handler silently, and so does a failure on the way.
     TTSBttn0.Click.connect([this] { platform::ignore_errors([this] { save_recording(); }); });
     TTSBttn1.Click.connect([this] { platform::ignore_errors([this] { choose_sound_file(); }); });
+    Frame1.Drop.connect([this](const platform::Dropped& dropped) { take_dropped(dropped); });
     TTSBttn2.Click.connect([this] { TTSFileTxt.set_text(u""); });
     TTSBttn3.Click.connect([this] {
         translate_machine_path();
@@ -139,6 +140,13 @@ void VoicePanel::choose_sound_file() {
     dialog_.set_up(u"음성파일 선택", Text(WAV_FILTER));
     dialog_.show_open();
     TTSFileTxt.set_text(dialog_.file_name());
+}
+
+void VoicePanel::take_dropped(const platform::Dropped& dropped) {
+    if (dropped.files.size() != 1 || !platform::lower_case(dropped.files.front()).ends_with(u".wav"))
+        return core::warn(platform_.desktop, u"첨부할 WAV파일을 선택하여 주십시오.");
+    TabStrip2.select(3);
+    TTSFileTxt.set_text(dropped.files.front());
 }
 
 }  // namespace compose

@@ -60,6 +60,7 @@ class VoicePanel : Room {
     void ask_before_replacing(bool& may);
     void save_recording();
     void choose_sound_file();
+    void take_dropped(const platform::Dropped& dropped);
 
     platform::Platform& platform_;
     platform::CommonDialog& dialog_;

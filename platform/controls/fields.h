@@ -45,11 +45,11 @@ class TextBox : public Control {
     Event<> Change;
     /// Raised before a key changes the text. An input method and a paste raise none.
     UserEvent<KeyPressed&> KeyPress{*this};
-    /// Up and down in a field of one line, where they move nothing.
-    UserEvent<KeyPressed&> KeyDown{*this};
     /// The user pasted lines, or cells of a table, into a field of one line. With a handler they do not go
     /// into the field.
     UserEvent<const Text&> LinesPasted{*this};
+    /// Up and down in a field of one line, where they move nothing.
+    UserEvent<KeyPressed&> KeyDown{*this};
 
   private:
     Text text_;

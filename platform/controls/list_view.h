@@ -62,10 +62,10 @@ class ListView : public Control {
         Text (*shown)(TextView text) = nullptr;
         /// Whether the signs of the rows' marks stand here.
         bool signs = false;
-        /// Whether the column is the one that matters now.
-        bool in_use = false;
         /// Whether the user may change the texts where they stand.
         bool editable = false;
+        /// Whether the column is the one that matters now.
+        bool in_use = false;
     };
 
     /// How the rows are marked.
@@ -141,11 +141,11 @@ class ListView : public Control {
     /// Selects the row alone and brings it into view.
     void go_to(std::size_t row);
     void make_visible(std::size_t row) const;
+    /// Lets the user change a text of the row where it stands. CellEdited tells what came of it.
+    void edit(std::size_t row, int sub_item) const;
     /// Whether the user sees which rows are selected; he need not where selecting was not his doing.
     bool shows_selection() const { return shows_selection_; }
     void show_selection(bool on) { assign(shows_selection_, on, Aspect::selection); }
-    /// Lets the user change a text of the row where it stands. CellEdited tells what came of it.
-    void edit(std::size_t row, int sub_item) const;
 
     /// The first row with a sub-item that begins with the text.
     std::optional<std::size_t> find_in_sub_items(TextView beginning) const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/controls/control.h"
+#include "platform/controls/input.h"
 
 namespace platform {
 
@@ -12,6 +13,9 @@ class Frame : public Control {
     void accept(ControlVisitor& visitor) override;
 
     const Text& caption() const { return caption_; }
+
+    /// Without a handler nothing can be dropped here.
+    UserEvent<const Dropped&> Drop{*this};
 
   private:
     Text caption_;

@@ -71,6 +71,15 @@ TEST_F(FaxDocuments, AreRefusedInOtherFormatsTwiceOrWhenMoreThanFive) {
     EXPECT_EQ(desktop.file_questions.size(), 7u) << "before the dialog";
 }
 
+TEST_F(FaxDocuments, AreTakenWhenTheyAreDropped) {
+    std::vector<Text> dropped;
+    for (const auto* name : {u"1", u"2", u"3", u"4", u"5", u"6", u"7"})
+        dropped.push_back(u"z:\\" + Text(name) + u".txt");
+    desktop.expect_box(tests::refusal(u"보낼 문서는 한번에 5개까지 첨부가 가능합니다."));
+    form.fax.FAX1.Drop.raise({.text = {}, .files = dropped});
+    EXPECT_EQ(listed(), "z:\\1.txt|z:\\2.txt|z:\\3.txt|z:\\4.txt|z:\\5.txt|");
+}
+
 TEST_F(FaxDocuments, ShowTheirSizeInWholeKilobytesAndAtLeastOne) {
     const struct {
         std::size_t first, second;

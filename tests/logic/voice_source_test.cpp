@@ -147,4 +147,15 @@ TEST_F(VoiceSource, IsNotRecordedOverUnlessSavedOrSentOrTheUserAgrees) {
     EXPECT_EQ(record_again(), 5u) << "nobody is asked about what is sent";
 }
 
+TEST_F(VoiceSource, ASoundFileIsTakenWhenItIsDropped) {
+    form.choose(compose::MessageKind::voice);
+    form.voice.Frame1.Drop.raise({.text = {}, .files = {NAME}});
+    EXPECT_EQ(form.voice.TabStrip2.selected(), 3);
+    EXPECT_EQ(utf8(form.voice.TTSFileTxt.text()), utf8(NAME));
+    for (const std::vector<Text>& files : {std::vector<Text>{u"z:\\a.mp3"}, std::vector<Text>{NAME, NAME}}) {
+        desktop.expect_box(tests::refusal(u"첨부할 WAV파일을 선택하여 주십시오."));
+        form.voice.Frame1.Drop.raise({.text = {}, .files = files});
+    }
+}
+
 }  // namespace

@@ -158,11 +158,11 @@ TEST(AllScreens, HaveTheEmoticonsAsOneStopInWhichArrowsMove) {
     QTest::keyClick(window.focusWidget(), Qt::Key_Right);
     EXPECT_EQ(window.focusWidget(), emoticon(26));
     QTest::keyClick(window.focusWidget(), Qt::Key_Down);
-    EXPECT_EQ(window.focusWidget(), emoticon(24));
+    EXPECT_EQ(window.focusWidget(), emoticon(20));
     QTest::keyClick(window.focusWidget(), Qt::Key_Space);
-    EXPECT_EQ(platform::to_utf8(system.main.text.mText1.text()), "[](^0^) (~0~)");
+    EXPECT_EQ(platform::to_utf8(system.main.text.mText1.text()), "[]!(^_^)!(^_^)V");
     EXPECT_EQ(window.focusWidget()->objectName(), "mText1") << "where the user goes on writing";
-    emoticon(24)->setFocus();
+    emoticon(20)->setFocus();
     QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(window.focusWidget()->objectName(), "MySave");
     EXPECT_EQ(window.findChild<QWidget*>(QStringLiteral("STBar1_2"))->toolTip(), "가입자 정보변경");

@@ -25,13 +25,20 @@ class TypingIntoBoxes : public DeskTest {
         settle();
     }
 
-    /// As the keys arrive: wherever the focus is, a line end presses Enter.
-    static void type(const char* keys) {
-        for (const char* key = keys; *key != '\0'; ++key) {
+    /// As the keys arrive: wherever the focus is, a line end presses Enter, Hangul comes from an input method.
+    static void type(const QString& keys) {
+        for (const QChar key : keys) {
             QWidget* box = QApplication::activeModalWidget();
             QWidget* receiver = box != nullptr ? box->focusWidget() : QApplication::focusWidget();
-            ASSERT_NE(receiver, nullptr) << keys;
-            *key == '\n' ? QTest::keyClick(receiver, Qt::Key_Return) : QTest::keyClick(receiver, *key);
+            ASSERT_NE(receiver, nullptr);
+            if (key.unicode() < 128) {
+                key == u'\n' ? QTest::keyClick(receiver, Qt::Key_Return)
+                             : QTest::keyClick(receiver, key.toLatin1());
+            } else {
+                QInputMethodEvent syllable;
+                syllable.setCommitString(key);
+                QCoreApplication::sendEvent(receiver, &syllable);
+            }
         }
     }
     /// Types into the next box, which is still there afterwards, and gives it that answer.
@@ -41,7 +48,7 @@ class TypingIntoBoxes : public DeskTest {
             if (!std::exchange(is_next, false)) return;
             const QWidget* box = QApplication::activeModalWidget();
             type(keys);
-            EXPECT_TRUE(box->isVisible()) << "answered by " << keys;
+            EXPECT_TRUE(box->isVisible()) << "answered by what was typed";
         };
     }
 
@@ -57,24 +64,24 @@ TEST_F(TypingIntoBoxes, ALongTextIsAgreedToByNoBlankAndLosesNoLetter) {
         form.text.mText1.set_caret_to_end();
         form.text.mText1.set_focus();
         settle();
-        type_into_next("reen n\n", answer);
+        type_into_next("reen n\n한", answer);
         if (answer == QMessageBox::No) boxes.answers.push_back(QMessageBox::Ok);
         type("sc");
         settle();
         EXPECT_EQ(utf8(form.text.mText1.text()),
-                  utf8(before) + (answer == QMessageBox::Yes ? "screen n\r\n" : "s"));
+                  utf8(before) + (answer == QMessageBox::Yes ? "screen n\r\n한" : "s"));
     }
 }
 
 TEST_F(TypingIntoBoxes, ARefusedNumberComesBackSelectedAndIsNotMixedWithWhatFollows) {
     form.recipients.HText1[0].set_focus();
     settle();
-    type_into_next("Kim\n010-2222-3333\n", QMessageBox::Ok);
+    type_into_next("김철수\n010-2222-3333\n", QMessageBox::Ok);
     type("Hong\n010-1234\n");
     EXPECT_TRUE(form.recipients.HText1[1].has_focus());
     EXPECT_EQ(form.recipients.HText1[1].selection_length(), 7U);
     settle();
-    EXPECT_EQ(utf8(form.recipients.HText1[1].text()), "Kim") << "what was to be typed after the Enter";
+    EXPECT_EQ(utf8(form.recipients.HText1[1].text()), "김철수") << "what was to be typed after the Enter";
     type("010-1234-5678\n");
     EXPECT_EQ(utf8(form.recipients.ListView1.row(0).sub_item(compose::RECIPIENT_NUMBER)), "01012345678");
     EXPECT_EQ(form.recipients.ListView1.row_count(), 1U);

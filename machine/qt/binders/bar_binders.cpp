@@ -24,6 +24,13 @@ using platform::ToolBar;
 
 namespace {
 
+/// The buttons that follow stand at the other end of the bar.
+void add_free_room(QToolBar& bar) {
+    auto* room = new QWidget(&bar);
+    room->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar.addWidget(room);
+}
+
 /// The name of the widget for one part of a bar.
 QString part_name(const QObject& bar, int number) {
     return QStringLiteral("%1_%2").arg(bar.objectName()).arg(number);
@@ -66,6 +73,8 @@ void MenuBinder::click() {
 
 StatusBarBinder::StatusBarBinder(BoundForm& bound, StatusBar& control, QStatusBar& bar)
     : BinderOf(bound, control, bar) {
+    const QVariant panels_at_left = bar.property("panels_at_left");
+    const int at_left = panels_at_left.isValid() ? panels_at_left.toInt() : control.count();
     for (int number = 1; number <= control.count(); ++number) {
         auto* panel = new QToolButton(&bar);
         panel->setObjectName(part_name(bar, number));
@@ -75,7 +84,11 @@ StatusBarBinder::StatusBarBinder(BoundForm& bound, StatusBar& control, QStatusBa
         panel->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         panel->installEventFilter(this);
         connect(panel, &QToolButton::clicked, this, [this, number] { click(number, MouseButton::left); });
-        bar.addWidget(panel);
+        if (number <= at_left) {
+            bar.addWidget(panel);
+        } else {
+            bar.addPermanentWidget(panel);
+        }
         panels_.push_back(panel);
     }
     show_panels();
@@ -108,6 +121,9 @@ void StatusBarBinder::show_panels() {
         // A reader is told of every name that is set.
         const QString name = to_qstring(shown.text.empty() ? shown.tool_tip : shown.text);
         if (panel.accessibleName() != name) panel.setAccessibleName(name);
+        panel.setVisible(!shown.text.empty() || shown.picture != 0);
+        // Only the panels that lead somewhere say so in a tip.
+        panel.setCursor(shown.tool_tip.empty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
     }
 }
 
@@ -122,6 +138,8 @@ void StatusBarBinder::click(int number, MouseButton button) {
 TabStripBinder::TabStripBinder(BoundForm& bound, platform::TabStrip& control, QTabBar& bar)
     : BinderOf(bound, control, bar) {
     for (const platform::Text& caption : control.captions()) bar.addTab(to_qstring(caption));
+    // A bar that is not shown yet does not tell its splitter that it has grown.
+    bar.updateGeometry();
     show(Aspect::value);
     // A click counts on the chosen tab too. Its signal comes before the bar changes the tab, so a change that
     // the control does not know yet was made with a key.
@@ -162,9 +180,10 @@ ToolBarBinder::ToolBarBinder(BoundForm& bound, ToolBar& control, QToolBar& bar)
     const QStringList keys = bar.property("shortcuts").toStringList();
     for (int number = 1; number <= control.count(); ++number) {
         const ToolBar::Button& button = control.button(number);
+        if (button.caption.empty() && number > 1) add_free_room(bar);
         auto* action = new QAction(pictures.value(number - 1), to_qstring(button.caption), &bar);
         action->setObjectName(part_name(bar, number));
-        action->setSeparator(button.caption.empty());
+        action->setVisible(!button.caption.empty());
         action->setCheckable(button.in_group);
         if (const QString key = keys.value(number - 1); !key.isEmpty()) {
             action->setShortcut(QKeySequence(key));

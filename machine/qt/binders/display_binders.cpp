@@ -1,11 +1,13 @@
 #include "machine/qt/binders/display_binders.h"
 
+#include "machine/qt/binders/drops.h"
 #include "machine/qt/binders/key_of_caption.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/animation_player.h"
 #include "machine/qt/widgets/announced_label.h"
 #include "platform/error.h"
 
+#include <QDropEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -75,6 +77,17 @@ bool ImageBinder::filter(QObject&, QEvent& event) {
 FrameBinder::FrameBinder(BoundForm& bound, platform::Frame& control, QWidget& widget)
     : BinderOf(bound, control, widget) {
     if (auto* box = qobject_cast<QGroupBox*>(&widget)) box->setTitle(to_qstring(control.caption()));
+    widget.setAcceptDrops(control.Drop.connected());
+}
+
+bool FrameBinder::filter(QObject&, QEvent& event) {
+    const bool drags = event.type() == QEvent::DragEnter || event.type() == QEvent::DragMove;
+    if (!drags && event.type() != QEvent::Drop) return false;
+    auto& drop = static_cast<QDropEvent&>(event);
+    answer_drag(drop, control().Drop.connected() && control().takes_input());
+    if (drags || !drop.isAccepted()) return true;
+    act([&] { control().Drop.raise(dropped_by(drop, bound().files)); });
+    return true;
 }
 
 PictureBoxBinder::PictureBoxBinder(BoundForm& bound, platform::PictureBox& control, QFrame& frame)

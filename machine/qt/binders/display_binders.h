@@ -36,6 +36,9 @@ class ImageBinder : public BinderOf<platform::Image, QLabel> {
 class FrameBinder : public BinderOf<platform::Frame, QWidget> {
   public:
     FrameBinder(BoundForm& bound, platform::Frame& control, QWidget& widget);
+
+  private:
+    bool filter(QObject& object, QEvent& event) override;
 };
 
 class PictureBoxBinder : public BinderOf<platform::PictureBox, QFrame> {

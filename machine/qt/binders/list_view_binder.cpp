@@ -1,19 +1,19 @@
 #include "machine/qt/binders/list_view_binder.h"
 
+#include "machine/qt/binders/drops.h"
 #include "machine/qt/look/colours.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/marked_cell.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QPainter>
 #include <QToolTip>
 #include <QTreeView>
-#include <QUrl>
 #include <utility>
 
 namespace machine::qt {
@@ -209,20 +209,13 @@ bool ListViewBinder::edit_current_row() {
 
 bool ListViewBinder::take_drag(QDropEvent& event) {
     if (!control().Drop.connected()) return false;
-    const bool usable = event.mimeData()->hasText() || event.mimeData()->hasUrls();
-    event.setDropAction(Qt::CopyAction);
-    event.setAccepted(usable && control().takes_input());
+    answer_drag(event, control().takes_input());
     return true;
 }
 
 bool ListViewBinder::take_drop(QDropEvent& event) {
     if (!take_drag(event) || !event.isAccepted()) return false;
-    platform::Dropped dropped;
-    for (const QUrl& url : event.mimeData()->urls()) {
-        if (url.isLocalFile())
-            dropped.files.push_back(bound().files.path_of(url.toLocalFile().toStdString()));
-    }
-    if (dropped.files.empty()) dropped.text = program_text(event.mimeData()->text());
+    const platform::Dropped dropped = dropped_by(event, bound().files);
     act([&] { control().Drop.raise(dropped); });
     return true;
 }

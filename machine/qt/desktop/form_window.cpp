@@ -1,7 +1,7 @@
 #include "machine/qt/desktop/form_window.h"
 
-#include "machine/qt/desktop/dialog_frame.h"
 #include "machine/qt/desktop/panes.h"
+#include "machine/qt/desktop/screens.h"
 #include "machine/qt/typing/conversion.h"
 
 #include <QKeyEvent>

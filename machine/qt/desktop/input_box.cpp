@@ -1,6 +1,6 @@
 #include "machine/qt/desktop/input_box.h"
 
-#include "machine/qt/desktop/dialog_frame.h"
+#include "machine/qt/desktop/screens.h"
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/typing/field_events.h"

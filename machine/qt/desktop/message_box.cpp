@@ -1,6 +1,6 @@
 #include "machine/qt/desktop/message_box.h"
 
-#include "machine/qt/desktop/dialog_frame.h"
+#include "machine/qt/desktop/screens.h"
 #include "machine/qt/desktop/typing_rest.h"
 #include "machine/qt/look/late_icon.h"
 #include "machine/qt/typing/conversion.h"

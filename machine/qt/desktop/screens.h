@@ -9,6 +9,11 @@
 
 namespace machine::qt {
 
+/// The frame of a window that stands in front of another: it can be closed, but not minimised, which would
+/// take the whole program off the screen.
+inline constexpr Qt::WindowFlags DIALOG_FRAME =
+    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+
 /// Builds each form's window with its widgets from its compiled Designer file.
 class Screens {
   public:

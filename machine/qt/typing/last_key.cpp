@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QWidget>
 
 namespace machine::qt {
 
@@ -13,9 +14,11 @@ std::chrono::milliseconds LastKey::age() const {
     return since_.isValid() ? std::chrono::milliseconds(since_.elapsed()) : std::chrono::milliseconds::max();
 }
 
-bool LastKey::eventFilter(QObject*, QEvent* event) {
+bool LastKey::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
-        wrote_ = !written_by(static_cast<const QKeyEvent&>(*event)).isEmpty();
+        const auto* widget = qobject_cast<const QWidget*>(object);
+        wrote_ = widget != nullptr && widget->testAttribute(Qt::WA_InputMethodEnabled) &&
+                 !written_by(static_cast<const QKeyEvent&>(*event)).isEmpty();
         since_.start();
     } else if (event->type() == QEvent::InputMethod) {
         wrote_ = true;

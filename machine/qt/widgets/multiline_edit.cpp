@@ -47,6 +47,18 @@ void MultilineEdit::write(const QString& text) {
         this, [this] { joins_last_step_ = false; }, Qt::QueuedConnection);
 }
 
+QSize MultilineEdit::sizeHint() const {
+    QSize size = QPlainTextEdit::sizeHint();
+    const double margins = 2 * (document()->documentMargin() + frameWidth());
+    if (lines_ > 0) size.setHeight(lines_ * fontMetrics().lineSpacing() + static_cast<int>(margins) + 2);
+    return size;
+}
+
+QSize MultilineEdit::minimumSizeHint() const {
+    return lines_ > 0 ? QSize(QPlainTextEdit::minimumSizeHint().width(), sizeHint().height())
+                      : QPlainTextEdit::minimumSizeHint();
+}
+
 void MultilineEdit::keyPressEvent(QKeyEvent* event) {
     note_key();
     if (platform::KeyPressed key{key_code(*event)}; !key.swallowed()) {
@@ -77,6 +89,11 @@ bool MultilineEdit::viewportEvent(QEvent* event) {
     bool handled = false;
     work([&] { handled = QPlainTextEdit::viewportEvent(event); });
     return handled;
+}
+
+/// A file that is dragged here is for the panel around the field, not its path for the text.
+bool MultilineEdit::canInsertFromMimeData(const QMimeData* source) const {
+    return !source->hasUrls() && QPlainTextEdit::canInsertFromMimeData(source);
 }
 
 void MultilineEdit::insertFromMimeData(const QMimeData* source) {

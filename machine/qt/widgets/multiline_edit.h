@@ -15,6 +15,8 @@ class MultilineEdit : public QPlainTextEdit {
     Q_OBJECT
     /// Whether characters that the carrier cannot send are marked.
     Q_PROPERTY(bool marks_lost MEMBER marks_lost_)
+    /// How many lines the field is high; 0 for as many as there is room for.
+    Q_PROPERTY(int lines MEMBER lines_)
 
   public:
     explicit MultilineEdit(QWidget* parent = nullptr);
@@ -25,6 +27,9 @@ class MultilineEdit : public QPlainTextEdit {
     /// Changes the text to this one by replacing only what differs, so that the scroll position and undo
     /// survive.
     void write(const QString& text);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
   signals:
     /// A key that would change the text. If it is swallowed, the field does not get it.
@@ -39,6 +44,7 @@ class MultilineEdit : public QPlainTextEdit {
     void focusOutEvent(QFocusEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
+    bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
 
   private:
@@ -48,6 +54,7 @@ class MultilineEdit : public QPlainTextEdit {
     void mark_lost();
 
     bool marks_lost_ = false;
+    int lines_ = 0;
     int working_ = 0;
     /// Whether a write belongs to the last step that the user can take back.
     bool joins_last_step_ = false;

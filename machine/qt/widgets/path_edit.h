@@ -10,7 +10,8 @@ class PathEdit : public QLineEdit {
     Q_OBJECT
 
   public:
-    using QLineEdit::QLineEdit;
+    /// A file that is dragged here is for the panel around the field: its path would go between the letters.
+    explicit PathEdit(QWidget* parent = nullptr) : QLineEdit(parent) { setAcceptDrops(false); }
 
   protected:
     bool event(QEvent* event) override;
