@@ -32,6 +32,14 @@ QStyleOptionButton on_accent(const QStyleOptionButton& button) {
     return shown;
 }
 
+/// The rows chosen in a list that has not the keys are pale, so that the list that has them is seen.
+QStyleOptionViewItem in_view(const QStyleOptionViewItem& item, const QAbstractItemView& view) {
+    QStyleOptionViewItem shown(item);
+    if (!view.hasFocus()) shown.state.setFlag(QStyle::State_Active, false);
+    if (view.property("quietSelection").toBool()) shown.state.setFlag(QStyle::State_Selected, false);
+    return shown;
+}
+
 bool is_heading(const QWidget& widget) {
     return widget.property("look").toString() == QLatin1String("heading");
 }
@@ -193,15 +201,10 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
                 return draw_bar(*painter, *bar, element == CE_ProgressBarContents);
             break;
         case CE_ItemViewItem:
-            // The rows chosen in a list that has not the keys are pale, so that the list that has them is
-            // seen.
-            if (const auto* view = qobject_cast<const QAbstractItemView*>(widget);
-                view != nullptr && !view->hasFocus()) {
+            if (const auto* view = qobject_cast<const QAbstractItemView*>(widget); view != nullptr) {
                 if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
-                    QStyleOptionViewItem pale(*item);
-                    pale.state.setFlag(State_Active, false);
-                    if (view->property("quietSelection").toBool()) pale.state.setFlag(State_Selected, false);
-                    return QProxyStyle::drawControl(element, &pale, painter, widget);
+                    const QStyleOptionViewItem shown = in_view(*item, *view);
+                    return QProxyStyle::drawControl(element, &shown, painter, widget);
                 }
             }
             break;
