@@ -47,6 +47,7 @@ frmZent::frmZent(platform::Platform& platform, core::AppState& state, MainDoors 
       recipient_exchange(*this, platform, recipients),
       recipient_outcomes(*this, platform, recipients),
       recipient_edits(*this, platform, recipients),
+      personal(*this, text, recipients),
       schedule(*this, platform),
       reply(*this, platform, voice.Frame1),
       session(*this, platform, state, Timer1),
@@ -160,6 +161,7 @@ void frmZent::show_panel(Panel panel) {
     text.Frame1.set_visible(panel == Panel::text);
     voice.Frame1.set_visible(panel == Panel::voice);
     fax.Frame1.set_visible(panel == Panel::fax);
+    personal.show();
 }
 
 /// Entering a kind discards what its text field held, even if that equals a new text.

@@ -3,6 +3,7 @@
 #include "compose/fax_panel.h"
 #include "compose/kept_draft_bar.h"
 #include "compose/message_kinds.h"
+#include "compose/personal/preview.h"
 #include "compose/plus_panel.h"
 #include "compose/recipient_list.h"
 #include "compose/recipients/exchange.h"
@@ -115,6 +116,7 @@ class frmZent : public platform::Form {
     RecipientExchange recipient_exchange;
     RecipientOutcomes recipient_outcomes;
     RecipientEdits recipient_edits;
+    PersonalPreview personal;
     SchedulePanel schedule;
     ReplyBox reply;
     Session session;

@@ -49,6 +49,7 @@ void PlusPanel::mText2_Change() {
     subject_.follow(mText2.text());
     refuse_excess();
     mHLen2.set_caption(platform::decimal(core::BYTE_LEN(mText2.text())) + u"/80Byte");
+    gauge.show(mText2.text(), TEXT_LIMIT);
 }
 
 /// Shows that the text is too long and cuts it. The focus goes to the picture box around the field, which

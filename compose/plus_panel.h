@@ -3,6 +3,7 @@
 #include "compose/room.h"
 #include "compose/sender.h"
 #include "compose/subject.h"
+#include "core/byte_gauge.h"
 #include "platform/controls/displays.h"
 #include "platform/controls/fields.h"
 #include "platform/controls/panels.h"
@@ -20,6 +21,7 @@ class PlusPanel : Room {
     platform::PictureBox Picture2{form_, u"Picture2_1"};
     platform::TextBox mText2{form_, u"mText2"};
     platform::Label mHLen2{form_, u"mHLen2", u"0/80Byte"};
+    core::ByteGauge gauge{form_, u"mFill2", u"mNote2"};
 
     void mText2_Change();
 

@@ -118,6 +118,7 @@ void RecipientList::empty_fields() {
 void RecipientList::RECIPIENT_COUNT_CAPTION() {
     Label4.set_caption(u"전체>" + platform::decimal(ListView1.row_count()) + u">대상>" +
                        platform::decimal(ListView1.checked_count()));
+    Counted.raise();
 }
 
 void RecipientList::HText1_KeyPress(std::size_t index, KeyPressed& key) {

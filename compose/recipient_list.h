@@ -92,6 +92,8 @@ class RecipientList : Room {
 
     /// Shows how many rows there are and how many are checked.
     void RECIPIENT_COUNT_CAPTION();
+    /// The same was done: rows may have come, gone or changed.
+    platform::Event<> Counted;
 
   private:
     void connect();

@@ -118,6 +118,7 @@ void TextPanel::mText1_Change() {
     }
     const std::size_t bytes = core::BYTE_LEN(mText1.text());
     mHLen1.set_caption(platform::decimal(bytes) + u"Bytes");
+    gauge.show(mText1.text(), TEXT_LIMIT);
     // Below the limit the user is to be asked again; at exactly 80 bytes the answer still holds.
     if (bytes < TEXT_LIMIT) mText1.set_tag(u"");
     mHLen3.set_visible(bytes > TEXT_LIMIT);

@@ -3,6 +3,7 @@
 #include "compose/room.h"
 #include "compose/sender.h"
 #include "compose/subject.h"
+#include "core/byte_gauge.h"
 #include "platform/controls/buttons.h"
 #include "platform/controls/displays.h"
 #include "platform/controls/fields.h"
@@ -26,6 +27,7 @@ class TextPanel : Room {
     platform::TextBox mText1{form_, u"mText1"};
     platform::Label mHLen1{form_, u"mHLen1", u"0Bytes"};
     platform::Label mHLen3{form_, u"mHLen3", u"장문"};
+    core::ByteGauge gauge{form_, u"mFill1", u"mNote1"};
     platform::CheckBox Check1{form_, u"Check1", u"개별메시지"};
     platform::ComboBox Combo3{form_, u"Combo3"};
     platform::Label Label1_4;

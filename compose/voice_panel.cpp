@@ -97,6 +97,7 @@ void VoicePanel::ttsText_Change() {
         ttsText.select(caret, 0);
     }
     TTSHLen.set_caption(platform::decimal(core::BYTE_LEN(ttsText.text())) + u"/1000Byte");
+    gauge.show(ttsText.text(), TTS_LIMIT);
 }
 
 void VoicePanel::refuse_excess() {

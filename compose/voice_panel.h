@@ -2,6 +2,7 @@
 
 #include "compose/message_kinds.h"
 #include "compose/room.h"
+#include "core/byte_gauge.h"
 #include "platform/controls/bars.h"
 #include "platform/controls/buttons.h"
 #include "platform/controls/common_dialog.h"
@@ -30,6 +31,7 @@ class VoicePanel : Room {
                                         platform::Frame{form_, u"TPIC_2"}};
     platform::TextBox ttsText{form_, u"ttsText"};
     platform::Label TTSHLen{form_, u"TTSHLen", u"0/1000Byte"};
+    core::ByteGauge gauge{form_, u"TTSFill", u"TTSNote"};
     platform::Label Label1_0;
     platform::SoundRecorder RFK1;
     platform::Image TTSPic{form_, u"TTSPic"};

@@ -172,6 +172,28 @@ TEST(AllScreens, HaveTheEmoticonsAsOneStopInWhichArrowsMove) {
     settle();
 }
 
+TEST(AllScreens, HaveKeysForEveryPaneAndEveryKind) {
+    System system;
+    system.main.show();
+    settle();
+    system.main.choose(compose::MessageKind::text);
+    QWidget& window = window_of(system.main);
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(window.focusWidget(), key, modifiers);
+        return window.focusWidget()->objectName().toStdString();
+    };
+    for (const char* pane : {"HText1_0", "ListView1", "Option1", "Command1", "mText1"})
+        EXPECT_EQ(press(Qt::Key_F6), pane);
+    EXPECT_EQ(press(Qt::Key_F6, Qt::ShiftModifier), "Command1");
+    EXPECT_EQ(press(Qt::Key_3, Qt::ControlModifier), "ttsText");
+    EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), "FAXBttn1");
+    EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), "mText1");
+    EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier), "FAXBttn1");
+    EXPECT_EQ(press(Qt::Key_N, Qt::AltModifier), "HText1_0");
+    system.main.unload();
+    settle();
+}
+
 TEST(AllScreens, HaveAPictureOfItsOwnForEveryKindOfDocument) {
     System system;
     compose::frmZent& form = system.main;

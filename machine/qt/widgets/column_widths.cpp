@@ -1,5 +1,6 @@
 #include "machine/qt/widgets/column_widths.h"
 
+#include <QEvent>
 #include <QFontInfo>
 #include <QGuiApplication>
 #include <QScopedValueRollback>
@@ -16,16 +17,31 @@ constexpr int WIDTH_TO_SHARE = 100;
 ColumnWidths::ColumnWidths(QHeaderView& header) : header_(header) {
     header.setSectionResizeMode(QHeaderView::Interactive);
     connect(&header, &QHeaderView::sectionResized, this, &ColumnWidths::note_drag);
+    header.installEventFilter(this);
+}
+
+int ColumnWidths::text_size() const { return QFontInfo(header_.font()).pixelSize(); }
+
+/// The columns grow and shrink with the desktop's font.
+bool ColumnWidths::eventFilter(QObject*, QEvent* event) {
+    if (event->type() != QEvent::FontChange || text_size_ == 0) return false;
+    const QScopedValueRollback<bool> filling(filling_, true);
+    for (int column = 0; column < header_.count(); ++column) {
+        if (!header_.isSectionHidden(column))
+            header_.resizeSection(column, header_.sectionSize(column) * text_size() / text_size_);
+    }
+    text_size_ = text_size();
+    return false;
 }
 
 void ColumnWidths::set(const QStringList& widths) {
-    const int pixel_size = QFontInfo(header_.font()).pixelSize();
+    text_size_ = text_size();
     for (int column = 0; column < widths.size(); ++column) {
         const bool shares = widths[column].startsWith(u'*');
         const QString number = shares ? widths[column].mid(1) : widths[column];
-        const int width = (number.isEmpty() ? WIDTH_TO_SHARE : number.toInt()) * pixel_size / 12;
+        const int width = number.isEmpty() ? WIDTH_TO_SHARE : number.toInt();
         header_.setSectionHidden(column, width == 0);
-        header_.resizeSection(column, width);
+        header_.resizeSection(column, width * text_size_ / 12);
         if (shares) sharing_.push_back({column, width});
     }
     if (!sharing_.empty()) header_.setStretchLastSection(false);
@@ -39,7 +55,7 @@ void ColumnWidths::fill(int room) {
     for (const Sharing& sharing : sharing_) {
         const int width = header_.sectionSize(sharing.column);
         const int share = shared == 0 ? 0 : to_share * width / shared;
-        const int filled = std::max(width + share, std::min(width, sharing.least));
+        const int filled = std::max(width + share, std::min(width, sharing.least * text_size_ / 12));
         header_.resizeSection(sharing.column, filled);
         shared -= width;
         to_share -= filled - width;

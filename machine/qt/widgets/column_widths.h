@@ -20,16 +20,23 @@ class ColumnWidths : public QObject {
     /// Fills the room.
     void fill(int room);
 
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
   private:
     void note_drag();
+    int text_size() const;
 
     struct Sharing {
         int column;
+        /// For text of 12 pixels.
         int least;
     };
 
     QHeaderView& header_;
     std::vector<Sharing> sharing_;
+    /// Of the text for which the columns have their widths.
+    int text_size_ = 0;
     /// How much wider than the list the user has made its columns.
     int beyond_ = 0;
     bool filling_ = false;

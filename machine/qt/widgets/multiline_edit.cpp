@@ -55,7 +55,8 @@ QSize MultilineEdit::sizeHint() const {
 }
 
 QSize MultilineEdit::minimumSizeHint() const {
-    return lines_ > 0 ? QSize(QPlainTextEdit::minimumSizeHint().width(), sizeHint().height())
+    return lines_ > 0 ? QSize(QPlainTextEdit::minimumSizeHint().width(),
+                              sizeHint().height() - fontMetrics().lineSpacing())
                       : QPlainTextEdit::minimumSizeHint();
 }
 

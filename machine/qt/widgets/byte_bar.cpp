@@ -1,0 +1,38 @@
+#include "machine/qt/widgets/byte_bar.h"
+
+#include "machine/qt/look/colours.h"
+
+#include <QPainter>
+
+namespace machine::qt {
+
+namespace {
+
+constexpr int HEIGHT = 4;
+/// In hundredths: a few syllables more and the message is full.
+constexpr int NEARLY_FULL = 90;
+
+}  // namespace
+
+ByteBar::ByteBar(QWidget* parent) : QProgressBar(parent) {
+    setTextVisible(false);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+QSize ByteBar::sizeHint() const { return {10 * HEIGHT, HEIGHT}; }
+
+void ByteBar::paintEvent(QPaintEvent*) {
+    const Colours colours = colours_of(palette());
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    QRectF bar(rect());
+    painter.setBrush(colours.line);
+    painter.drawRoundedRect(bar, HEIGHT / 2.0, HEIGHT / 2.0);
+    if (value() == 0) return;
+    bar.setWidth(qMax<double>(HEIGHT, bar.width() * value() / 100));
+    painter.setBrush(value() >= NEARLY_FULL ? colours.warning : colours.success);
+    painter.drawRoundedRect(bar, HEIGHT / 2.0, HEIGHT / 2.0);
+}
+
+}  // namespace machine::qt
