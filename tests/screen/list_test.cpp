@@ -214,6 +214,14 @@ TEST_F(ListTest, LinesAndFilesAreDroppedOnAListThatHasAUseForThem) {
               (std::vector<std::string>{"가\r\n나", "", platform::to_utf8(files.path_of("/tmp/list.csv"))}));
 }
 
+TEST_F(ListTest, ASignMakesNoRowHigher) {
+    const int height = view().sizeHintForIndex(view().model()->index(0, 2)).height();
+    list.set_marking(
+        {.mark_of = [](const platform::ListItem&) { return platform::RowMark::failed; }, .reason_of = {}});
+    settle();
+    EXPECT_EQ(view().sizeHintForIndex(view().model()->index(0, 2)).height(), height);
+}
+
 TEST_F(ListTest, AnEmptyListTellsWhatToDo) {
     list.clear();
     settle();

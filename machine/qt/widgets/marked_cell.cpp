@@ -5,6 +5,7 @@
 #include "platform/controls/list_item.h"
 
 #include <QWidget>
+#include <algorithm>
 
 namespace machine::qt {
 
@@ -34,6 +35,13 @@ QColor text_colour_when_selected(const QStyleOptionViewItem& option) {
 
 }  // namespace
 
+/// A row without a sign is as high as one with it.
+QSize MarkedCell::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    constexpr int AIR = 8;
+    const QSize needed = QStyledItemDelegate::sizeHint(option, index);
+    return {needed.width(), std::max(needed.height(), option.fontMetrics.height() + AIR)};
+}
+
 void MarkedCell::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     const auto mark = static_cast<RowMark>(index.data(MARK_ROLE).toInt());
@@ -48,8 +56,7 @@ void MarkedCell::initStyleOption(QStyleOptionViewItem* option, const QModelIndex
     const bool selected = option->state.testFlag(QStyle::State_Selected);
     option->icon = sign_icon(mark == RowMark::done ? Sign::done : Sign::attention,
                              selected ? text_colour_when_selected(*option) : colour);
-    // A row without a sign is as high as one with it.
-    const int side = option->fontMetrics.height() - 3;
+    const int side = option->fontMetrics.height() - 2;
     option->decorationSize = QSize(side, side);
     option->features |= QStyleOptionViewItem::HasDecoration;
 }
