@@ -45,7 +45,9 @@ struct DesktopMachine {
     machine::qt::LateRecorder recorder;
     machine::qt::LateInternet internet;
     machine::qt::Screens screens = machine::qt::program_screens();
-    machine::qt::QtDesktop desktop{screens, files};
+    machine::qt::QtDesktop desktop{
+        screens, files,
+        QString::fromStdString(files.machine_path(files.windows_directory()) + "/layout.ini")};
     platform::Platform platform;
 };
 

@@ -47,7 +47,7 @@ FaxPanel::FaxPanel(platform::Form& form, platform::Platform& platform, platform:
         for (std::size_t i = 0; i < std::min(dropped.files.size(), room + 1); ++i) take(dropped.files[i]);
     });
     FAXBttn2.Click.connect([this] {
-        if (remove_selected_rows(platform_.desktop, FAX1)) FAX_SIZE_CAPTION();
+        if (!remove_selected_rows(platform_.desktop, FAX1).empty()) FAX_SIZE_CAPTION();
     });
 }
 

@@ -6,6 +6,9 @@
 #include "compose/personal/preview.h"
 #include "compose/plus_panel.h"
 #include "compose/recipient_list.h"
+#include "compose/recipients/exchange.h"
+#include "compose/recipients/outcomes.h"
+#include "compose/recipients/row_edits.h"
 #include "compose/reply_box.h"
 #include "compose/schedule_panel.h"
 #include "compose/sender.h"
@@ -110,6 +113,9 @@ class frmZent : public platform::Form {
     PlusPanel plus;
     FaxPanel fax;
     RecipientList recipients;
+    RecipientExchange recipient_exchange;
+    RecipientOutcomes recipient_outcomes;
+    RecipientEdits recipient_edits;
     PersonalPreview personal;
     SchedulePanel schedule;
     ReplyBox reply;

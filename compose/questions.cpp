@@ -2,6 +2,8 @@
 
 #include "core/boxes.h"
 
+#include <algorithm>
+
 namespace compose {
 
 using platform::BoxIcon;
@@ -19,12 +21,14 @@ void show_text_is_cut(platform::Desktop& desktop) {
                u"입력 초과");
 }
 
-bool remove_selected_rows(platform::Desktop& desktop, platform::ListView& list) {
-    if (!list.selected_item()) return false;
+platform::TakenRows remove_selected_rows(platform::Desktop& desktop, platform::ListView& list) {
+    if (!list.selected_item()) return {};
     if (!core::ask(desktop, u"선택한 목록을 삭제하시겠습니까?", u"삭제 확인", BoxIcon::exclamation))
-        return false;
-    list.remove_selected_rows();
-    return true;
+        return {};
+    platform::TakenRows removed = list.take_rows(&platform::ListItem::selected);
+    if (!removed.empty() && list.row_count() > 0)
+        list.go_to(std::min(removed.front().first, list.row_count() - 1));
+    return removed;
 }
 
 }  // namespace compose

@@ -13,7 +13,8 @@ bool ask_for_long_text(platform::Desktop& desktop, platform::TextView yes);
 /// Shows that a text above TEXT_LIMIT is cut.
 void show_text_is_cut(platform::Desktop& desktop);
 
-/// Asks whether to remove the selected rows, and removes them after a yes. Returns whether it has.
-bool remove_selected_rows(platform::Desktop& desktop, platform::ListView& list);
+/// Asks whether to remove the selected rows, and removes them after a yes; the row that takes their place is
+/// selected then. Returns the rows that went.
+platform::TakenRows remove_selected_rows(platform::Desktop& desktop, platform::ListView& list);
 
 }  // namespace compose

@@ -1,7 +1,7 @@
 #include "compose/recipient_list.h"
 
 #include "compose/questions.h"
-#include "compose/recipient_status.h"
+#include "compose/recipients/status.h"
 #include "core/boxes.h"
 #include "platform/controls/list_columns.h"
 #include "platform/error.h"
@@ -20,6 +20,11 @@ constexpr std::size_t LONG_LIST = 500;
 
 }  // namespace
 
+Text typed_name(platform::TextView name) {
+    Text typed = platform::remove_all(core::without_separators(name), u" ");
+    return typed.empty() ? Text(NO_NAME) : typed;
+}
+
 RecipientList::RecipientList(platform::Form& form, platform::Platform& platform, core::AppState& state,
                              std::function<void()> pick)
     : Room(form),
@@ -30,10 +35,9 @@ RecipientList::RecipientList(platform::Form& form, platform::Platform& platform,
     PBar1.hide();
     Command7.set_enabled(pick_ != nullptr);
     mnusubpopup1.set_enabled(pick_ != nullptr);
-    ListView1.set_placeholder(
-        u"이름과 번호를 입력하고 Enter를 누르거나\n명함DB에서 불러오거나, 표에서 복사한 줄을 "
-        u"붙여넣으십시오.");
+    ListView1.set_placeholder(u"이름과 번호를 입력하고 Enter\n또는 표에서 복사한 줄 붙여넣기 (Ctrl+V)");
     mark_rows();
+    mnuUndoDelete.set_enabled(false);
     connect();
 }
 
@@ -62,6 +66,7 @@ void RecipientList::connect() {
     mnusubpopup4.Click.connect([this] { CHECK_SELECTED_ITEMS(true); });
     mnusubpopup5.Click.connect([this] { CHECK_SELECTED_ITEMS(false); });
     mnusubpopup9.Click.connect([this] { remove_selected(); });
+    mnuUndoDelete.Click.connect([this] { undo_deletion(); });
 }
 
 void RecipientList::set_kind(const KindOfMessage& kind) {
@@ -150,20 +155,30 @@ bool RecipientList::settle_typed() {
 bool RecipientList::add_typed() {
     const Text number = core::DIGITS_ONLY(HText1[1].text());
     HText1[1].set_text(number);
-    const Text number_caption(kind_->number.caption);
-    if (number.empty()) return refuse_number(number_caption + u"를(을) 입력하여 주십시오!");
+    if (number.empty()) return refuse_number(refusal_of(number));
 
     // Before the number is checked: a few digits that begin a listed number are a duplicate, not a short
     // number.
     if (point_at_duplicate(number)) return false;
-    if (const platform::TextView fault = fault_of_number(*kind_, number); !fault.empty())
-        return refuse_number(wrong_number(number_caption, number, fault));
+    if (Text refusal = refusal_of(number); !refusal.empty()) return refuse_number(std::move(refusal));
 
-    add(platform::remove_all(core::without_separators(HText1[0].text()), u" "), number, {});
+    add(typed_name(HText1[0].text()), number, {});
     empty_fields();
     RECIPIENT_COUNT_CAPTION();
     HText1[0].set_focus();
     return true;
+}
+
+Text RecipientList::refusal_of(const Text& digits) const {
+    const Text caption(kind_->number.caption);
+    if (digits.empty()) return caption + u"를(을) 입력하여 주십시오!";
+    const platform::TextView fault = fault_of_number(*kind_, digits);
+    return fault.empty() ? Text() : wrong_number(caption, digits, fault);
+}
+
+Text RecipientList::duplicate_text() const {
+    // Deliberately the caption of column 2, the name, though numbers were compared: support knows the box so.
+    return u"이미 동일한 " + ListView1.column(2).caption + u"가 존재합니다.";
 }
 
 bool RecipientList::refuse_number(Text text) {
@@ -184,14 +199,46 @@ bool RecipientList::point_at_duplicate(const Text& number) {
     ListView1.deselect_item();
     ListView1.make_visible(*hit);
     ListView1.select_item(*hit);
-    // Deliberately the caption of column 2, the name, though numbers were compared: support knows the box so.
-    core::warn(platform_.desktop, u"이미 동일한 " + ListView1.column(2).caption + u"가 존재합니다.");
+    core::warn(platform_.desktop, duplicate_text());
     return_number();
     return true;
 }
 
-void RecipientList::remove_selected() {
-    if (remove_selected_rows(platform_.desktop, ListView1)) RECIPIENT_COUNT_CAPTION();
+void RecipientList::remove_selected() { note_deletion(remove_selected_rows(platform_.desktop, ListView1)); }
+
+void RecipientList::take_away(const std::function<bool(const ListItem& row)>& passes) {
+    note_deletion(ListView1.take_rows(passes));
+}
+
+void RecipientList::note_deletion(platform::TakenRows rows) {
+    if (rows.empty()) return;
+    deletions_.push_back(std::move(rows));
+    mnuUndoDelete.set_enabled(true);
+    RECIPIENT_COUNT_CAPTION();
+}
+
+void RecipientList::forget_deletions() {
+    deletions_.clear();
+    mnuUndoDelete.set_enabled(false);
+}
+
+/// Who has been listed anew meanwhile does not come back a second time.
+void RecipientList::undo_deletion() {
+    if (deletions_.empty()) return;
+    platform::TakenRows rows = std::move(deletions_.back());
+    deletions_.pop_back();
+    mnuUndoDelete.set_enabled(!deletions_.empty());
+    std::erase_if(rows, [this](const auto& row) {
+        return ListView1.find_in_sub_items(row.second->sub_item(RECIPIENT_NUMBER)).has_value();
+    });
+    if (rows.empty()) return;
+    std::vector<const ListItem*> back;
+    for (const auto& [place, row] : rows) back.push_back(row.get());
+    ListView1.put_back(std::move(rows));
+    ListView1.go_to(back.front()->position());
+    for (const ListItem* row : back) ListView1.user_select(row->position(), true);
+    ListView1.select_item(back.front()->position());
+    RECIPIENT_COUNT_CAPTION();
 }
 
 void RecipientList::pick_recipients() {

@@ -14,6 +14,7 @@
 
 #include <array>
 #include <functional>
+#include <vector>
 
 namespace compose {
 
@@ -27,6 +28,9 @@ inline constexpr int RECIPIENT_TITLE = 4;
 inline constexpr int RECIPIENT_PIECES = 5;
 
 using core::NO_NAME;
+
+/// A name as a row takes it from the user.
+platform::Text typed_name(platform::TextView name);
 
 /// The recipients: typed, picked from the cards, or handed over by the card manager.
 class RecipientList : Room {
@@ -44,10 +48,10 @@ class RecipientList : Room {
     platform::ListView ListView1{form_,
                                  u"ListView1",
                                  {{.caption = u"선택"},
-                                  {.caption = u"이름"},
-                                  {.caption = u"문자보낼번호", .shown = core::with_hyphens},
+                                  {.caption = u"이름", .editable = true},
+                                  {.caption = u"문자보낼번호", .shown = core::with_hyphens, .editable = true},
                                   {.caption = u"상태", .signs = true},
-                                  {.caption = u"직위"}},
+                                  {.caption = u"직위", .editable = true}},
                                  true};
     platform::ProgressBar PBar1{form_, u"PBar1"};
     platform::Label Label4{form_, u"Label4", u"전체> 대상>"};
@@ -58,9 +62,11 @@ class RecipientList : Room {
     platform::Menu mnusubpopup4{form_, u"mnusubpopup4", u"선택(&S)"};
     platform::Menu mnusubpopup5{form_, u"mnusubpopup5", u"선택취소(&C)"};
     platform::Menu mnusubpopup9{form_, u"mnusubpopup9", u"삭제(&D)"};
+    platform::Menu mnuUndoDelete{form_, u"mnuUndoDelete", u"삭제 되돌리기(&Z)"};
 
     /// Sets the kind of message whose numbers are typed from now on, and marks the rows that it cannot reach.
     void set_kind(const KindOfMessage& kind);
+    const KindOfMessage& kind() const { return *kind_; }
 
     /// Adds a checked row, selected and in view: at the end or, in a sorted list, in its place. Returns false
     /// and adds nothing when a listed number begins with this one: it counts as a duplicate. An empty name
@@ -73,6 +79,16 @@ class RecipientList : Room {
 
     /// Empties the fields in which a recipient is typed.
     void empty_fields();
+
+    /// Why the digits cannot be typed as a number for the kind; empty when they can.
+    platform::Text refusal_of(const platform::Text& digits) const;
+    /// What the user reads about a number that is listed already.
+    platform::Text duplicate_text() const;
+
+    /// Removes the rows that pass, as the user's deletion that can be undone.
+    void take_away(const std::function<bool(const platform::ListItem& row)>& passes);
+    /// From now on no deletion before this can be undone: its rows belong to a draft that is gone or sent.
+    void forget_deletions();
 
     /// Shows how many rows there are and how many are checked.
     void RECIPIENT_COUNT_CAPTION();
@@ -90,6 +106,8 @@ class RecipientList : Room {
     void return_number();
     bool point_at_duplicate(const platform::Text& number);
     void remove_selected();
+    void note_deletion(platform::TakenRows rows);
+    void undo_deletion();
     void pick_recipients();
     void CHECK_SELECTED_ITEMS(bool checked);
     void check_rows(platform::ListView::ManyRows rows, bool checked);
@@ -100,6 +118,8 @@ class RecipientList : Room {
     core::AppState& state_;
     std::function<void()> pick_;
     const KindOfMessage* kind_;
+    /// What the user has deleted, the last deletion at the end.
+    std::vector<platform::TakenRows> deletions_;
 };
 
 }  // namespace compose

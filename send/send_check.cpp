@@ -109,7 +109,7 @@ void refuse_row(const Platform& platform, frmZent& form, std::size_t row, const 
     form.recipients.PBar1.hide();
     platform.desktop.set_pointer(platform::Pointer::normal);
     core::warn(platform.desktop, fault);
-    form.recipients.ListView1.make_visible(row);
+    form.recipients.ListView1.go_to(row);
     form.recipients.ListView1.set_focus();
 }
 
@@ -207,6 +207,7 @@ void check_and_send(Platform& platform, AppState& state, frmZent& form, drafts::
     form.Timer1.set_enabled(false);
     if (confirmed(platform, state, form, carrier, *recipients, documents) && settle_pieces(platform, form) &&
         drafts.ready_for_job()) {
+        form.recipients.forget_deletions();
         frmZentSend job(platform, state, form, drafts);
         job.load();
         job.set_caption(Text(carrier.name));
@@ -217,6 +218,7 @@ void check_and_send(Platform& platform, AppState& state, frmZent& form, drafts::
         platform.desktop.set_pointer(platform::Pointer::normal);
         // The same text often goes to the next people.
         form.recipients.HText1[0].set_focus();
+        form.recipient_outcomes.go_to_first_left();
     }
     form.Timer1.set_enabled(true);
 }

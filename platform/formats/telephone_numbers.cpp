@@ -9,6 +9,9 @@ namespace {
 constexpr TextView COUNTRY = u"82";
 constexpr std::size_t SHORTEST = 9;
 constexpr std::size_t LONGEST = 12;
+/// With everything that is dialled before it from abroad. A line of digits alone must not be read again and
+/// again.
+constexpr std::size_t MOST_DIGITS = LONGEST + 4;
 /// Of a number like 1588-0000.
 constexpr std::size_t WITHOUT_AREA = 8;
 
@@ -44,7 +47,7 @@ struct Run {
 Run run_from(TextView text, std::size_t begin) {
     Run run{.end = begin, .digits = {}, .plus = text[begin] == u'+'};
     std::size_t at = run.plus ? begin + 1 : begin;
-    for (bool blank = false; at < text.size(); ++at) {
+    for (bool blank = false; at < text.size() && run.digits.size() <= MOST_DIGITS; ++at) {
         if (is_digit(text[at])) {
             // A blank may stand in a number, but behind a whole one the next begins.
             if (blank && is_number(dialled(run.digits, run.plus), false)) break;

@@ -28,5 +28,5 @@ def play(desk):
     desk.carrier.expect(
         registration(TEXT, "[길동상사] 안녕하세요. 오", SENT_TO, sms_content=WORDS, callback="0212345678")
     )
-    rows = [[False, name, digits, "등록성공", ""] for name, digits in SENT_TO]
+    rows = [[False, name, number, "등록성공", ""] for name, number in RECIPIENTS]
     expect("the recipients", desk.rows("받는사람 목록", main), rows)

@@ -3,9 +3,9 @@ from card_manager import hand_over
 from expect import expect
 
 # Between them stands a card without a mobile number.
-PICKED = [[True, "류예호", "01000000004", "", "Manager"], [True, "류예진", "01000000029", "", "과장"]]
+PICKED = [[True, "류예호", "010-0000-0004", "", "Manager"], [True, "류예진", "010-0000-0029", "", "과장"]]
 # A title with digits keeps only these.
-HANDED_OVER = [[True, "박새벽", "021112222", "", "3"], [True, "이름없음", "01033334444", "", "대리"]]
+HANDED_OVER = [[True, "박새벽", "02-111-2222", "", "3"], [True, "이름없음", "010-3333-4444", "", "대리"]]
 
 
 def play(desk):
@@ -29,7 +29,7 @@ def play(desk):
         desk.window(f"발송대상 선택-135/11/{chosen}")
     desk.picture("picker-search")
     desk.keys("alt+a")
-    desk.find("2명 추가 · 이미 있음 0명 · 번호 없음 1명", "label", picker)
+    desk.find("2명 추가 · 이미 있음 0명 · 번호 없음 1명", "alert", picker)
     desk.keys("Escape")
     desk.gone("발송대상 선택-")
     desk.find("전체>2>대상>2", "label", main)

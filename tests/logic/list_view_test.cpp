@@ -137,7 +137,8 @@ TEST_F(Lists, FindingAgreesWithAWalkOverAllRowsAfterAnyChanges) {
             list.set_sub_item(below(rows), static_cast<int>(1 + below(5)), text());
         } else if (act < 80) {
             for (std::size_t n = below(4); n > 0; --n) list.user_select(below(rows), true);
-            list.remove_selected_rows();
+            TakenRows taken = list.take_rows(&ListItem::selected);
+            if (below(2) == 0) list.put_back(std::move(taken));
         } else if (act < 82) {
             list.sort(static_cast<int>(below(5)), below(2) == 0 ? Order::ascending : Order::descending);
         } else if (act == 82 && below(200) == 0) {

@@ -2,6 +2,7 @@
 #include "compose/frmSet1.h"
 #include "compose/frmXTip.h"
 #include "compose/main_form.h"
+#include "compose/recipients/frmPasted.h"
 #include "gateway/frmAutoLogin.h"
 #include "gateway/frmZentLogin.h"
 #include "machine/qt/binders/screen_faults.h"
@@ -48,6 +49,7 @@ struct System : tests::WindowsOnDoubles {
         forms.push_back(std::make_unique<service::frmWeb>(platform, state));
         forms.push_back(std::make_unique<compose::frmSet1>(platform));
         forms.push_back(std::make_unique<compose::frmXTip>(platform));
+        forms.push_back(std::make_unique<compose::frmPasted>(platform, main.recipients, platform::Text()));
         forms.push_back(std::make_unique<send::frmSBox>(platform, state));
         forms.push_back(std::make_unique<send::frmZentSend>(platform, state, main, keeper));
         forms.push_back(std::make_unique<send::frmSendEndBox>(platform, main));
@@ -168,6 +170,28 @@ TEST(AllScreens, HaveTheEmoticonsAsOneStopInWhichArrowsMove) {
     QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(window.focusWidget()->objectName(), "MySave");
     EXPECT_EQ(window.findChild<QWidget*>(QStringLiteral("STBar1_2"))->toolTip(), "가입자 정보변경");
+    system.main.unload();
+    settle();
+}
+
+TEST(AllScreens, HaveKeysForEveryPaneAndEveryKind) {
+    System system;
+    system.main.show();
+    settle();
+    system.main.choose(compose::MessageKind::text);
+    QWidget& window = window_of(system.main);
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(window.focusWidget(), key, modifiers);
+        return window.focusWidget()->objectName().toStdString();
+    };
+    for (const char* pane : {"HText1_0", "ListView1", "Option1", "Command1", "mText1"})
+        EXPECT_EQ(press(Qt::Key_F6), pane);
+    EXPECT_EQ(press(Qt::Key_F6, Qt::ShiftModifier), "Command1");
+    EXPECT_EQ(press(Qt::Key_3, Qt::ControlModifier), "ttsText");
+    EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), "FAXBttn1");
+    EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), "mText1");
+    EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier), "FAXBttn1");
+    EXPECT_EQ(press(Qt::Key_N, Qt::AltModifier), "HText1_0");
     system.main.unload();
     settle();
 }

@@ -87,6 +87,27 @@ TEST_F(SavedTextsWindow, AnUnfinishedSyllableIsPartOfANewCategorysName) {
     run();
 }
 
+TEST_F(SavedTextsWindow, PaintsARowAsChosenOnlyWhenItsTextIsInTheFields) {
+    put(first / "가.txt", "x");
+    log_in();
+    in_main([](QWidget& window) { press(window, "MyMsgBttn"); });
+    in_box([](QWidget& window) {
+        const auto ground = [&] {
+            QTreeView& view = list(window, "ListView2");
+            const QPoint place = view.visualRect(view.model()->index(0, 1)).topRight() - QPoint(8, -4);
+            return view.viewport()->grab().toImage().pixelColor(place).lightness();
+        };
+        constexpr int STRONG = 150;
+        list(window, "ListView2").setFocus();
+        EXPECT_GT(ground(), STRONG) << "nobody has chosen it";
+        click_row(window, "ListView2", 0);
+        EXPECT_LT(ground(), STRONG);
+        QTest::keyClick(&window, Qt::Key_Escape);
+    });
+    in_main([](QWidget& window) { window.close(); });
+    run();
+}
+
 TEST_F(SavedTextsWindow, SavingAndApplyingATextKeepsEveryCharacter) {
     std::string all;
     for (unsigned unit = 0x20; unit < 0x10000; ++unit) {

@@ -25,7 +25,8 @@ class TypingIntoBoxes : public DeskTest {
         settle();
     }
 
-    /// As the keys arrive: wherever the focus is, a line end presses Enter, Hangul comes from an input method.
+    /// As the keys arrive: wherever the focus is, a line end presses Enter, Hangul comes from an input
+    /// method.
     static void type(const QString& keys) {
         for (const QChar key : keys) {
             QWidget* box = QApplication::activeModalWidget();

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 
 namespace tests {
@@ -26,13 +27,18 @@ TEST_F(WindowTest, FormAndWindowKeepEachOtherUpToDate) {
     form.set_caption(u"폰디라[문자메시지]");
     EXPECT_EQ(frame.windowTitle(), "폰디라[문자메시지]");
     form.set_minimum_size(744, 493);
-    EXPECT_EQ(frame.minimumSize(), QSize(744, 493));
-    form.move({.left = 150, .top = 300, .width = 12000, .height = 9000});
-    EXPECT_EQ(frame.geometry().size(), QSize(800, 600));
-    frame.resize(810, 620);
+    EXPECT_EQ(frame.minimumSize(), QSize(744, frame.minimumSizeHint().height())) << "no control is cut";
+    form.move({.left = 150, .top = 300, .width = 11250, .height = 10800});
+    EXPECT_EQ(frame.geometry().size(), QSize(750, 720));
+    frame.resize(760, 730);
     settle();
-    EXPECT_EQ(form.placement().width, 12150);
-    EXPECT_EQ(form.placement().height, 9300);
+    EXPECT_EQ(form.placement().width, 11400);
+    EXPECT_EQ(form.placement().height, 10950);
+    const QRect area = frame.screen()->availableGeometry();
+    for (const int far : {-30000, 30000}) {
+        form.move({.left = far, .top = far, .width = 60000, .height = 60000});
+        EXPECT_TRUE(area.contains(frame.geometry())) << "a place kept on a larger screen";
+    }
     form.set_window_state(platform::WindowState::maximised);
     EXPECT_TRUE(frame.isMaximized());
 }

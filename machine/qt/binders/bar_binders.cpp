@@ -118,7 +118,9 @@ void StatusBarBinder::show_panels() {
         panel.setVisible(!shown.text.empty());
         panel.setToolTip(to_qstring(shown.tool_tip));
         panel.setIcon(pictures.value(shown.picture - 1));
-        panel.setAccessibleName(to_qstring(shown.text.empty() ? shown.tool_tip : shown.text));
+        // A reader is told of every name that is set.
+        const QString name = to_qstring(shown.text.empty() ? shown.tool_tip : shown.text);
+        if (panel.accessibleName() != name) panel.setAccessibleName(name);
         panel.setVisible(!shown.text.empty() || shown.picture != 0);
         // Only the panels that lead somewhere say so in a tip.
         panel.setCursor(shown.tool_tip.empty() ? Qt::ArrowCursor : Qt::PointingHandCursor);

@@ -4,6 +4,7 @@
 #include "machine/qt/binders/key_of_caption.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/animation_player.h"
+#include "machine/qt/widgets/announced_label.h"
 #include "platform/error.h"
 
 #include <QDropEvent>
@@ -40,8 +41,9 @@ LabelBinder::LabelBinder(BoundForm& bound, platform::Label& control, QLabel& lab
 }
 
 void LabelBinder::show(Aspect aspect) {
-    if (aspect == Aspect::caption)
-        widget().setText(caption_with_key(widget(), shown_text(control().caption())));
+    if (aspect != Aspect::caption) return;
+    widget().setText(caption_with_key(widget(), shown_text(control().caption())));
+    if (auto* announced = qobject_cast<AnnouncedLabel*>(&widget())) announced->announce();
 }
 
 bool LabelBinder::filter(QObject&, QEvent& event) {

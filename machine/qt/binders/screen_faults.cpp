@@ -35,11 +35,16 @@ bool holds_controls(const QWidget& widget) {
     return CONTAINERS.contains(kind);
 }
 
+bool takes_the_keys(const QObject& object) {
+    const auto* widget = qobject_cast<const QWidget*>(&object);
+    return widget != nullptr && (widget->focusPolicy() & Qt::TabFocus) != 0;
+}
+
 bool is_worked_with(const QObject& object) {
     return qobject_cast<const QAbstractButton*>(&object) || qobject_cast<const QLineEdit*>(&object) ||
            qobject_cast<const MultilineEdit*>(&object) || qobject_cast<const QComboBox*>(&object) ||
            qobject_cast<const QDateEdit*>(&object) || qobject_cast<const QTabBar*>(&object) ||
-           qobject_cast<const QTreeView*>(&object);
+           qobject_cast<const QTreeView*>(&object) || takes_the_keys(object);
 }
 
 bool has_accessible_name(QObject& object) {

@@ -4,9 +4,14 @@
 #include "machine/qt/desktop/screens.h"
 #include "machine/qt/typing/conversion.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QScreen>
+#include <QStyle>
 #include <QTimer>
+#include <QWidget>
+#include <algorithm>
 #include <utility>
 
 namespace machine::qt {
@@ -22,6 +27,23 @@ constexpr int LONGEST_WAIT_FOR_PAINT = 2000;
 WindowState state_of(const QWidget& window) {
     if (window.isMinimized()) return WindowState::minimised;
     return window.isMaximized() ? WindowState::maximised : WindowState::normal;
+}
+
+/// The place moved and cut so that the window and its frame lie in the work area of the screen under its
+/// middle: one kept on a larger screen or at another scale could not be reached.
+QRect in_work_area(const QWidget& window, QRect place) {
+    const QScreen* screen = QGuiApplication::screenAt(place.center());
+    if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+    const int edge = window.style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QRect area = screen->availableGeometry();
+    place.setSize(place.size().boundedTo(area.size() - QSize(2 * edge, title + edge)));
+    const auto moved = [](int start, int size, int first, int room) {
+        return std::max(std::min(start, first + room - size), first);
+    };
+    place.moveTo(moved(place.left(), place.width() + 2 * edge, area.left(), area.width()),
+                 moved(place.top(), place.height() + title + edge, area.top(), area.height()));
+    return place;
 }
 
 Qt::WindowStates toolkit_state(WindowState state) {
@@ -90,17 +112,24 @@ void FormWindow::caption_changed() { window_.setWindowTitle(to_qstring(form_.cap
 void FormWindow::placement_changed() {
     const QScopedValueRollback<bool> placing(placing_, true);
     // When only the state changes, the desktop keeps the place.
-    if (const Placement& place = form_.placement(); place != placed_) {
-        window_.resize(to_pixels(place.width), to_pixels(place.height));
-        window_.move(to_pixels(place.left), to_pixels(place.top));
-        placed_ = place;
+    if (const Placement& wanted = form_.placement(); wanted != placed_) {
+        const QRect shown = in_work_area(window_, {to_pixels(wanted.left), to_pixels(wanted.top),
+                                                   to_pixels(wanted.width), to_pixels(wanted.height)});
+        window_.resize(shown.size());
+        window_.move(shown.topLeft());
+        placed_ = wanted;
     }
     window_.setWindowState(toolkit_state(form_.window_state()));
 }
 
+/// As small as the form wants, but with a large font no smaller than what it shows. Before it is shown, it
+/// has panels that will be hidden.
 void FormWindow::minimum_size_changed() {
     const QSize size(form_.minimum_width(), form_.minimum_height());
-    if (!size.isEmpty()) window_.setMinimumSize(size);
+    if (size.isEmpty()) return;
+    const QSize most = in_work_area(window_, QRect(QPoint(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX))).size();
+    const QSize contents = window_.isVisible() ? window_.minimumSizeHint() : QSize();
+    window_.setMinimumSize(size.expandedTo(contents).boundedTo(most));
 }
 
 void FormWindow::fit_contents() {
@@ -125,6 +154,9 @@ bool FormWindow::eventFilter(QObject*, QEvent* event) {
             return false;
         case QEvent::WindowActivate:
             activate_again();
+            return false;
+        case QEvent::LayoutRequest:
+            minimum_size_changed();
             return false;
         case QEvent::Move:
         case QEvent::Resize:

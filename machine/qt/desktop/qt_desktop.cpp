@@ -44,8 +44,8 @@ void give_back_focus(QWidget* window) {
 
 }  // namespace
 
-QtDesktop::QtDesktop(const Screens& screens, platform::Files& files)
-    : screens_(screens), files_(files), file_dialog_(files) {
+QtDesktop::QtDesktop(const Screens& screens, platform::Files& files, const QString& layout_file)
+    : screens_(screens), files_(files), file_dialog_(files), layout_(layout_file) {
     load_pictures();
     QObject::connect(&closing_, &QTimer::timeout, [this] { close_front_window(); });
 }
@@ -71,7 +71,9 @@ void QtDesktop::close_all() {
 
 void QtDesktop::prepare(Form& form) {
     QWidget* window = screens_.build(form.name()).release();
+    layout_.restore_size(*window);
     windows_[&form] = new FormWindow(form, *window, files_);
+    layout_.restore_parts(*window);
 }
 
 void QtDesktop::show(Form& form) {
@@ -94,7 +96,9 @@ void QtDesktop::close(Form& form) {
     if (found == windows_.end()) return;
     const QPointer<FormWindow> window = found->second;
     windows_.erase(found);
-    if (window != nullptr) window->close();
+    if (window == nullptr) return;
+    layout_.keep(window->window());
+    window->close();
 }
 
 void QtDesktop::popup_menu(Form& form, Menu& menu) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "machine/qt/desktop/file_dialog.h"
+#include "machine/qt/desktop/kept_layout.h"
 #include "machine/qt/desktop/screens.h"
 #include "machine/qt/typing/last_key.h"
 #include "platform/ports/desktop.h"
@@ -19,8 +20,9 @@ class FormWindow;
 /// The desktop with Qt: each form has a window, made when the form is loaded.
 class QtDesktop : public platform::Desktop {
   public:
-    /// Both have to outlive the desktop.
-    QtDesktop(const Screens& screens, platform::Files& files);
+    /// Screens and files have to outlive the desktop. What the user makes of the windows' insides is kept in
+    /// the layout file, if it has a name.
+    QtDesktop(const Screens& screens, platform::Files& files, const QString& layout_file = {});
     ~QtDesktop() override;
 
     /// Runs the program until the form is closed.
@@ -59,6 +61,7 @@ class QtDesktop : public platform::Desktop {
     const Screens& screens_;
     platform::Files& files_;
     FileDialog file_dialog_;
+    KeptLayout layout_;
     LastKey last_key_;
     std::map<const platform::Form*, QPointer<FormWindow>> windows_;
     QString title_;

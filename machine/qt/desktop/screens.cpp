@@ -3,6 +3,7 @@
 #include "ui_frmAbout.h"
 #include "ui_frmAutoLogin.h"
 #include "ui_frmMyMsgBox.h"
+#include "ui_frmPasted.h"
 #include "ui_frmPondiraReg.h"
 #include "ui_frmSBox.h"
 #include "ui_frmSendEndBox.h"
@@ -37,6 +38,7 @@ Screens program_screens() {
     screens.add<Ui::frmPondiraReg, QDialog>(u"frmPondiraReg");
     screens.add<Ui::frmSet1, QDialog>(u"frmSet1");
     screens.add<Ui::frmXTip, QDialog>(u"frmXTip");
+    screens.add<Ui::frmPasted, QDialog>(u"frmPasted");
     screens.add<Ui::frmSBox, QDialog>(u"frmSBox");
     screens.add<Ui::frmZentSend, QDialog>(u"frmZentSend");
     screens.add<Ui::frmSendEndBox, QDialog>(u"frmSendEndBox");

@@ -5,6 +5,7 @@
 #include "machine/qt/look/shapes.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QFrame>
 #include <QPainter>
 #include <QPushButton>
@@ -29,6 +30,25 @@ QStyleOptionButton on_accent(const QStyleOptionButton& button) {
                            button.palette.color(QPalette::Active, QPalette::HighlightedText));
     if (!shown.icon.isNull()) shown.icon = QIcon(shown.icon.pixmap(shown.iconSize, QIcon::Selected));
     return shown;
+}
+
+/// The rows chosen in a list that has not the keys are pale, so that the list that has them is seen.
+QStyleOptionViewItem in_view(const QStyleOptionViewItem& item, const QAbstractItemView& view) {
+    QStyleOptionViewItem shown(item);
+    if (!view.hasFocus()) shown.state.setFlag(QStyle::State_Active, false);
+    if (view.property("quietSelection").toBool()) shown.state.setFlag(QStyle::State_Selected, false);
+    return shown;
+}
+
+bool is_heading(const QWidget& widget) {
+    return widget.property("look").toString() == QLatin1String("heading");
+}
+
+void write_as_heading(QWidget& widget) {
+    QFont font = widget.font();
+    font.setBold(true);
+    font.setPointSizeF(QFontInfo(QApplication::font()).pointSizeF() * HEADING_SIZE);
+    widget.setFont(font);
 }
 
 void draw_header(QPainter& painter, const QStyleOptionHeader& header) {
@@ -71,17 +91,29 @@ void DeskStyle::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
     const QString look = widget->property("look").toString();
     if (look.isEmpty()) return;
-    if (look == QLatin1String("heading") || look == QLatin1String("strong")) {
+    if (is_heading(*widget)) {
+        write_as_heading(*widget);
+        if (widget->parentWidget() != nullptr) widget->parentWidget()->installEventFilter(this);
+    }
+    if (look == QLatin1String("strong")) {
         QFont font = widget->font();
         font.setBold(true);
-        if (look == QLatin1String("heading")) font.setPointSizeF(font.pointSizeF() * HEADING_SIZE);
         widget->setFont(font);
-        return;
     }
     if (look == QLatin1String("link")) widget->setForegroundRole(QPalette::Link);
     if (look == QLatin1String("muted")) widget->setForegroundRole(MUTED_TEXT);
     if (look == QLatin1String("failure")) widget->setForegroundRole(FAILURE_TEXT);
     if (look == QLatin1String("warning")) widget->setForegroundRole(WARNING_TEXT);
+}
+
+/// Headings alone have a size of their own, which does not follow the desktop's font by itself.
+bool DeskStyle::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::FontChange) {
+        for (QWidget* child : object->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+            if (is_heading(*child)) write_as_heading(*child);
+        }
+    }
+    return QProxyStyle::eventFilter(object, event);
 }
 
 QSize DeskStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
@@ -169,15 +201,10 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
                 return draw_bar(*painter, *bar, element == CE_ProgressBarContents);
             break;
         case CE_ItemViewItem:
-            // The rows chosen in a list that has not the keys are pale, so that the list that has them is
-            // seen.
-            if (const auto* view = qobject_cast<const QAbstractItemView*>(widget);
-                view != nullptr && !view->hasFocus()) {
+            if (const auto* view = qobject_cast<const QAbstractItemView*>(widget); view != nullptr) {
                 if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
-                    QStyleOptionViewItem pale(*item);
-                    pale.state.setFlag(State_Active, false);
-                    if (view->property("quietSelection").toBool()) pale.state.setFlag(State_Selected, false);
-                    return QProxyStyle::drawControl(element, &pale, painter, widget);
+                    const QStyleOptionViewItem shown = in_view(*item, *view);
+                    return QProxyStyle::drawControl(element, &shown, painter, widget);
                 }
             }
             break;
@@ -203,6 +230,9 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
             return 0;
         case PM_HeaderMargin:
             return HEADER_AIR;
+        case PM_FocusFrameHMargin:
+            // Texts stand below their captions. Qt adds one pixel.
+            return HEADER_AIR - 1;
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
     }

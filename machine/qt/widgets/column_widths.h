@@ -19,11 +19,18 @@ class ColumnWidths : public QObject {
     /// Fills the room.
     void fill(int room);
 
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
   private:
+    void share_out(int to_share);
     void note_drag();
+    int text_size() const;
 
     QHeaderView& header_;
     std::vector<int> sharing_;
+    /// Of the text for which the columns have their widths.
+    int text_size_ = 0;
     /// How much wider than the list the user has made its columns.
     int beyond_ = 0;
     bool filling_ = false;

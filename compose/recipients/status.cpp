@@ -1,4 +1,4 @@
-#include "compose/recipient_status.h"
+#include "compose/recipients/status.h"
 
 #include "gateway/gateway.h"
 
