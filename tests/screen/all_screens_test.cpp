@@ -107,8 +107,6 @@ TEST(AllScreens, ShowTheMainWindowWholeAtItsSmallest) {
     QWidget& window = window_of(form);
     const QSize smallest = window.minimumSize();
     ASSERT_EQ(smallest, QSize(744, 493));
-    for (const std::size_t widest : {0, 1, 2, 3, 6, 7})
-        form.text.recent.add(form.text.mBttn1[widest].caption());
     form.text.Check1.set_checked(true);
     form.schedule.Option2.set_chosen(true);
     QWidget& panel = *window.findChild<QWidget*>(QStringLiteral("_messagePanel"));
