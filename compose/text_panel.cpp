@@ -51,6 +51,7 @@ TextPanel::TextPanel(platform::Form& form, platform::Platform& platform, Subject
           u"수신인의 이름 또는 선택필드가 비워있는 경우 발송되지 않으니 반드시 확인하시기 바랍니다.(수신인 "
           u"이름+선택필드+메시지내용이 80Byte가 넘으면 입력된 전체 메시지를 80Byte씩 나누어 전송하게 "
           u"됩니다)"),
+      recent(form, platform, Frame1, [this](const Text& text) { insert(text); }),
       platform_(platform),
       subject_(subject),
       sender_(sender) {
@@ -58,7 +59,10 @@ TextPanel::TextPanel(platform::Form& form, platform::Platform& platform, Subject
         platform::CommandButton& button =
             mBttn1.emplace_back(form, u"mBttn1_" + platform::decimal(emoticon.index), Text(emoticon.caption));
         button.set_container(Frame1);
-        button.Click.connect([this, &button] { insert(button.caption()); });
+        button.Click.connect([this, &button] {
+            insert(button.caption());
+            recent.add(button.caption());
+        });
     }
     put_into(Frame1, {&Picture2, &MyMsgBttn, &MySave, &Check1, &Combo3});
     put_into(Picture2, {&mText1});
@@ -80,6 +84,7 @@ TextPanel::TextPanel(platform::Form& form, platform::Platform& platform, Subject
 }
 
 void TextPanel::start() {
+    recent.load();
     mText1.set_text(sender_.sender_tag());
     mText1_Change();
     mText1.set_caret_to_end();

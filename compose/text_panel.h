@@ -1,5 +1,6 @@
 #pragma once
 
+#include "compose/characters/recent.h"
 #include "compose/room.h"
 #include "compose/sender.h"
 #include "compose/subject.h"
@@ -33,6 +34,7 @@ class TextPanel : Room {
     platform::Label Label1_4;
     /// The emoticons, numbered downwards from 27 in the order of the screen.
     std::deque<platform::CommandButton> mBttn1;
+    RecentCharacters recent;
     platform::CommandButton MyMsgBttn{form_, u"MyMsgBttn", u"내 모음함"};
     platform::CommandButton MySave{form_, u"MySave", u"내 모음함에 저장"};
 

@@ -44,6 +44,9 @@ inline constexpr Setting SENDER_NUMBER_LEFT{application, u"SET", u"ZENTUserPhone
 /// The menu's check mark for a check at the start. It is kept and never read: no check runs at the start.
 inline constexpr Setting UPDATE_CHECK_AT_START{application, u"SET", u"STARTUPDATECHECK"};
 
+/// The characters that were inserted last, with "|" between them.
+inline constexpr Setting RECENT_CHARACTERS{application, u"SET", u"RECENTCHARACTERS"};
+
 /// The least lead of a schedule in minutes, and its row in the list that the user chooses it from.
 inline constexpr Setting SCHEDULE_LEAD{application, u"SET", u"P_TIME", u"30"};
 inline constexpr Setting SCHEDULE_LEAD_ROW{application, u"SET", u"P_TIME_SET", u"2"};

@@ -271,6 +271,25 @@ TEST_F(Personalised, APlaceholderIsPastedAndStaysChosenInTheList) {
     EXPECT_EQ(form.text.Combo3.list_index(), 2);
 }
 
+TEST_F(Personalised, TheCharactersInsertedLastStandInFrontAlsoTheNextTime) {
+    const auto shown = [](const compose::frmZent& window) {
+        std::string captions;
+        for (const platform::CommandButton& button : window.text.recent.Recent)
+            if (button.visible()) captions += utf8(button.caption()) + " ";
+        return captions;
+    };
+    EXPECT_EQ(shown(form), "");
+    for (const std::size_t place : {4, 8, 4, 9, 10, 11, 12, 13}) form.text.mBttn1[place].Click.raise();
+    EXPECT_EQ(shown(form), "♣ ♠ ♤ ◀ ▶ ♡ ") << "those that stand there stay";
+    form.text.mText1.set_text(u"");
+    form.text.recent.Recent[2].Click.raise();
+    EXPECT_EQ(utf8(form.text.mText1.text()), "♤");
+    compose::frmZent later(platform, state, {});
+    EXPECT_EQ(shown(later), "");
+    later.choose(compose::MessageKind::text);
+    EXPECT_EQ(shown(later), shown(form));
+}
+
 // Sender and reply number.
 
 TEST_F(SenderName, ANewOneReplacesTheOldOneInTheTextAndIsSaved) {
