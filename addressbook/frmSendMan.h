@@ -129,8 +129,8 @@ class frmSendMan : public platform::Form {
     struct PickedCells {
         int number, company, title;
     };
-    enum class Pick { added, listed, without_number };
-    Pick pick_row(const platform::ListItem& row, const PickedCells& cells);
+    /// Whether the row has become a recipient.
+    bool pick_row(const platform::ListItem& row, const PickedCells& cells);
 
     platform::Platform& platform_;
     core::AppState& state_;

@@ -86,34 +86,35 @@ void frmSendMan::SENDLIST_ADD() {
     const PickedCells cells{.number = sub_item_of(Combo2.text(), ListView2),
                             .company = sub_item_of(u"회사", ListView2),
                             .title = sub_item_of(u"직위", ListView2)};
-    int added = 0, listed = 0, without_number = 0;
+    std::size_t added = 0;
     platform_.desktop.set_pointer(platform::Pointer::hourglass);
     show_progress();
     for (std::size_t row = 0; row < ListView2.row_count(); ++row) {
         if (!ListView2.row(row).selected()) continue;
         platform::ignore_errors([&] {
-            const Pick pick = pick_row(ListView2.row(row), cells);
-            ++(pick == Pick::added ? added : pick == Pick::listed ? listed : without_number);
+            if (pick_row(ListView2.row(row), cells)) ++added;
         });
         PBar1.set_progress(row + 1, ListView2.row_count());
         platform_.desktop.paint();
     }
     hide_progress();
-    const auto people = [](int number) { return platform::format_number(number, u"#,##0명"); };
-    Added.set_caption(people(added) + u" 추가 · 이미 있음 " + people(listed) + u" · 번호 없음 " +
-                      people(without_number));
+    // What was left out is deliberately not counted: the cards show it before they are picked.
+    const auto people = [](std::size_t number) {
+        return platform::format_number(static_cast<double>(number), u"#,##0명");
+    };
+    Added.set_caption(people(added) + u" 추가 · 받는사람 " + people(recipients_.ListView1.row_count()));
 }
 
-frmSendMan::Pick frmSendMan::pick_row(const ListItem& row, const PickedCells& cells) {
+bool frmSendMan::pick_row(const ListItem& row, const PickedCells& cells) {
     Text name = platform::trim(row.text());
     if (name.empty()) name = platform::trim(row.sub_item(cells.company));
     const Text number = core::DIGITS_ONLY(row.sub_item(cells.number));
-    if (platform::leading_number(number) == 0) return Pick::without_number;
+    if (platform::leading_number(number) == 0) return false;
     if (!recipients_.add(platform::blanks_for_nul(std::move(name)), number,
                          platform::blanks_for_nul(row.sub_item(cells.title))))
-        return Pick::listed;
+        return false;
     state_.forms.gDialogConfirmed = true;
-    return Pick::added;
+    return true;
 }
 
 }  // namespace addressbook

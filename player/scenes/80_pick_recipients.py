@@ -29,7 +29,7 @@ def play(desk):
         desk.window(f"발송대상 선택-135/11/{chosen}")
     desk.picture("picker-search")
     desk.keys("alt+a")
-    desk.find("2명 추가 · 이미 있음 0명 · 번호 없음 1명", "alert", picker)
+    desk.find("2명 추가", "alert", picker)
     desk.keys("Escape")
     desk.gone("발송대상 선택-")
     desk.find("전체>2>대상>2", "label", main)

@@ -52,7 +52,7 @@ struct Picker : testing::Test, tests::Picking {
     }
 };
 
-TEST_F(Picker, SaysWhatBecameOfTheRowsThatWereAdded) {
+TEST_F(Picker, SaysHowManyRowsBecameRecipients) {
     found = {{.name = u"가", .cellphone = u"010-1111-2222"},
              {.name = u"나", .cellphone = u"없음"},
              {.name = u"다", .cellphone = u"010-1111-2222"}};
@@ -66,7 +66,7 @@ TEST_F(Picker, SaysWhatBecameOfTheRowsThatWereAdded) {
         picker.ListView2.KeyPress.raise(ctrl_a);
         EXPECT_EQ(utf8(picker.Counts.caption()), "전체 2명 · 목록 3명 · 선택 3명");
         picker.Command2[1].Click.raise();
-        EXPECT_EQ(utf8(picker.Added.caption()), "1명 추가 · 이미 있음 1명 · 번호 없음 1명");
+        EXPECT_EQ(utf8(picker.Added.caption()), "1명 추가 · 받는사람 1명");
     });
     pick(VOICE, [](frmSendMan& picker) {
         picker.Combo2.user_choose(1);
