@@ -215,11 +215,13 @@ class Desk:
     def schedule(self, main):
         """Schedules the draft for the last minute of an hour, years ahead; returns that time in the carrier's spelling."""
         self.tick(self.find("예약전송", "check box", main))
-        self.give_focus(self.find("발송예약 시간", "spin button", main))
+        date = self.find("발송예약 시간", "spin button", main)
+        self.give_focus(date)
+        # Shortly before midnight the earliest schedule is tomorrow's.
+        year, month, day = map(int, re.match(r"(\d+)-(\d+)-(\d+)", self.text_of(date)).groups())
         # Four years ahead every date of this year exists, 29 February too.
         self.keys("Home", "Up", "Up", "Up", "Up", "End", "Tab", "Home", "Tab", "End")
-        today = datetime.date.today()
-        return today.replace(year=today.year + 4).strftime("%Y%m%d005900")
+        return datetime.date(year + 4, month, day).strftime("%Y%m%d005900")
 
     def send_at_once(self, main):
         """Chooses to send the draft at once."""
