@@ -159,12 +159,13 @@ TEST(AllScreens, HaveTheEmoticonsAsOneStopInWhichArrowsMove) {
     emoticon(27)->setFocus();
     QTest::keyClick(window.focusWidget(), Qt::Key_Right);
     EXPECT_EQ(window.focusWidget(), emoticon(26));
+    QTest::keyClick(window.focusWidget(), Qt::Key_Left);
     QTest::keyClick(window.focusWidget(), Qt::Key_Down);
-    EXPECT_EQ(window.focusWidget(), emoticon(20));
+    EXPECT_EQ(window.focusWidget(), emoticon(21));
     QTest::keyClick(window.focusWidget(), Qt::Key_Space);
-    EXPECT_EQ(platform::to_utf8(system.main.text.mText1.text()), "[]!(^_^)!(^_^)V");
+    EXPECT_EQ(platform::to_utf8(system.main.text.mText1.text()), "[]<@_@>");
     EXPECT_EQ(window.focusWidget()->objectName(), "mText1") << "where the user goes on writing";
-    emoticon(20)->setFocus();
+    emoticon(21)->setFocus();
     QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(window.focusWidget()->objectName(), "MySave");
     EXPECT_EQ(window.findChild<QWidget*>(QStringLiteral("STBar1_2"))->toolTip(), "가입자 정보변경");
