@@ -145,6 +145,7 @@ void frmZent::show_kind() {
 }
 
 void frmZent::focus_content() {
+    subject.await_text();
     const KindOfMessage& kind = kind_of(*this);
     if (kind.with_text) return plus.mText2.set_focus();
     switch (kind.panel) {
@@ -186,7 +187,10 @@ void frmZent::Form_Escape() {
 
 void frmZent::open_by_button(int index) {
     if (index >= FIRST_KIND_BUTTON && index < RESULTS_BUTTON - 1) {
-        TabStrip1.select(index - FIRST_KIND_BUTTON + 1);
+        // Not the chosen kind again: a key pressed by mistake would empty the text.
+        const int kind = index - FIRST_KIND_BUTTON + 1;
+        if (kind == TabStrip1.selected()) return focus_content();
+        TabStrip1.select(kind);
     } else if (index == RESULTS_BUTTON) {
         session.KTSMS_LINK(service::PAGE_RESULTS);
     } else if (index == INBOX_BUTTON) {

@@ -23,7 +23,7 @@ PlusPanel::PlusPanel(platform::Form& form, platform::Desktop& desktop, platform:
     mText2.Change.connect([this] { mText2_Change(); });
     // On every key, backspace too.
     mText2.KeyPress.connect([this](platform::KeyPressed&) { refuse_excess(); });
-    mText2.LostFocus.connect([this] { subject_.freeze(); });
+    mText2.LostFocus.connect([this] { subject_.freeze_behind_text(); });
     Picture2.GotFocus.connect([this] { mText2.set_focus(); });
 }
 

@@ -16,6 +16,7 @@ Subject::Subject(platform::Form& form) : Room(form) {
 }
 
 void Subject::follow(const Text& body, std::size_t limit) {
+    text_awaited_ = false;
     if (platform::trim(subjectText.text()).size() >= LENGTH || !subjectText.tag().empty()) return;
     // Deliberately first whole, then cut: what is too long a subject at its first writing fixes it, and later
     // changes of the text leave the cut one alone.
@@ -26,6 +27,10 @@ void Subject::follow(const Text& body, std::size_t limit) {
 
 void Subject::freeze() {
     if (!platform::trim(subjectText.text()).empty()) fix();
+}
+
+void Subject::freeze_behind_text() {
+    if (!text_awaited_) freeze();
 }
 
 void Subject::subject_changed() {

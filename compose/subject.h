@@ -23,6 +23,10 @@ class Subject : Room {
 
     /// Fixes a subject that is not empty.
     void freeze();
+    /// The same when the user leaves the text, unless he was only led there and has written nothing.
+    void freeze_behind_text();
+    /// The user is led into the text.
+    void await_text() { text_awaited_ = true; }
 
     // Fixes the subject: texts that the program writes must not change it.
     void fix() { subjectText.set_tag(u"END"); }
@@ -36,6 +40,8 @@ class Subject : Room {
 
   private:
     void subject_changed();
+
+    bool text_awaited_ = false;
 };
 
 }  // namespace compose

@@ -74,7 +74,7 @@ TextPanel::TextPanel(platform::Form& form, platform::Platform& platform, Subject
 
     mText1.Change.connect([this] { mText1_Change(); });
     mText1.KeyPress.connect([this](KeyPressed& key) { mText1_KeyPress(key); });
-    mText1.LostFocus.connect([this] { subject_.freeze(); });
+    mText1.LostFocus.connect([this] { subject_.freeze_behind_text(); });
     Picture2.GotFocus.connect([this] { mText1.set_focus(); });
     Check1.Click.connect([this] { switch_personal(); });
     Combo3.Click.connect([this] {

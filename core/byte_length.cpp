@@ -6,24 +6,32 @@ namespace core {
 
 using platform::Text;
 
+namespace {
+
+/// How many characters at the beginning fit into that many bytes.
+std::size_t fitting_length(platform::TextView text, std::size_t limit) {
+    std::size_t bytes = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        bytes += platform::cp949_bytes(text[i]);
+        if (bytes > limit) return i;
+    }
+    return text.size();
+}
+
+}  // namespace
+
 std::size_t BYTE_LEN(platform::TextView text) { return platform::cp949_length(text); }
 
 Text LLL(Text& text, std::size_t limit) {
     text = platform::right_trim(text);
-    std::size_t bytes = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        bytes += platform::cp949_bytes(text[i]);
-        if (bytes > limit) return text.substr(0, i);
-    }
-    return text;
+    return text.substr(0, fitting_length(text, limit));
 }
 
-int count_pieces(Text text, std::size_t limit) {
+int count_pieces(platform::TextView text, std::size_t limit) {
+    const Text trimmed = platform::right_trim(text);
     int pieces = 0;
-    for (text = platform::right_trim(text); !text.empty(); ++pieces) {
-        const std::size_t piece = LLL(text, limit).size();
-        text = platform::right_trim(text.substr(piece));
-    }
+    for (platform::TextView rest = trimmed; !rest.empty(); ++pieces)
+        rest.remove_prefix(fitting_length(rest, limit));
     return pieces;
 }
 

@@ -14,6 +14,6 @@ std::size_t BYTE_LEN(platform::TextView text);
 platform::Text LLL(platform::Text& text, std::size_t limit);
 
 /// How many messages of at most `limit` bytes the text goes in.
-int count_pieces(platform::Text text, std::size_t limit);
+int count_pieces(platform::TextView text, std::size_t limit);
 
 }  // namespace core

@@ -39,9 +39,12 @@ bool receive_frame(int socket, WipedBytes& frame, const GoesOn& goes_on) {
     frame.resize(CHUNK_BYTES);
     std::size_t received = 0;
     std::optional<std::size_t> whole;
+    // Who does not wait on still takes an answer that has come meanwhile: what it tells is done.
+    bool gives_up = false;
     while (!whole || received < *whole) {
         const ssize_t got = ::recv(socket, frame.data() + received, frame.size() - received, 0);
-        if (got == 0 || (got < 0 && !tries_again(goes_on))) return false;
+        if (got == 0 || (got < 0 && gives_up)) return false;
+        if (got < 0) gives_up = !tries_again(goes_on);
         if (got > 0) received += static_cast<std::size_t>(got);
         if (whole || received < FRAME_HEAD) continue;
         const auto length = payload_length(frame.view().substr(0, received));

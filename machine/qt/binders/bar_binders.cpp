@@ -80,7 +80,6 @@ StatusBarBinder::StatusBarBinder(BoundForm& bound, StatusBar& control, QStatusBa
         panel->setObjectName(part_name(bar, number));
         panel->setAutoRaise(true);
         panel->setFocusPolicy(Qt::TabFocus);
-        panel->setCursor(Qt::PointingHandCursor);
         panel->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         panel->installEventFilter(this);
         connect(panel, &QToolButton::clicked, this, [this, number] { click(number, MouseButton::left); });
@@ -115,7 +114,6 @@ void StatusBarBinder::show_panels() {
         const StatusBar::Panel& shown = control().panel(static_cast<int>(i) + 1);
         QToolButton& panel = *panels_[i];
         panel.setText(to_qstring(shown.text));
-        panel.setVisible(!shown.text.empty());
         panel.setToolTip(to_qstring(shown.tool_tip));
         panel.setIcon(pictures.value(shown.picture - 1));
         // A reader is told of every name that is set.

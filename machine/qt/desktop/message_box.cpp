@@ -138,7 +138,12 @@ BoxAnswer MessageBox::ask() {
     return cautious_answer(buttons_);
 }
 
-QString MessageBox::typed_ahead() const { return typing_rest_.text(); }
+/// Without an Enter at the end, which was an early answer.
+QString MessageBox::typed_ahead() const {
+    QString text = typing_rest_.text();
+    while (text.endsWith(u'\n')) text.chop(1);
+    return text;
+}
 
 void MessageBox::paintEvent(QPaintEvent* event) {
     QMessageBox::paintEvent(event);
