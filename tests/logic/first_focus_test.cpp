@@ -68,6 +68,20 @@ TEST_F(FirstFocus, IsTheTextBehindWhatIsThereAfterEachStep) {
     }
 }
 
+TEST_F(FirstFocus, InTheTextFixesNoSubjectAndTheKeyOfTheChosenKindEmptiesNothing) {
+    form.choose(MessageKind::text);
+    form.subject.subjectText.set_text(u"지난 제목");
+    form.subject.follow_again();
+    form.recipients.HText1[0].set_focus();
+    form.text.mText1.set_focus();
+    form.text.mText1.user_edit(u"새 글", 3);
+    EXPECT_EQ(utf8(form.subject.subjectText.text()), "새 글");
+    form.recipients.HText1[0].set_focus();
+    form.Toolbar1.ButtonClick.raise(compose::FIRST_KIND_BUTTON);
+    EXPECT_EQ(utf8(form.text.mText1.text()), "새 글");
+    EXPECT_EQ(focused(), "mText1");
+}
+
 TEST_F(FirstFocus, IsTheListAfterPickingUnlessNobodyWasPicked) {
     form.Command1.set_focus();
     form.recipients.Command7.Click.raise();

@@ -1,5 +1,6 @@
 #include "machine/carrier/hosted_carrier_library.h"
 
+#include "machine/carrier/frame_socket.h"
 #include "machine/posix/process.h"
 #include "platform/error.h"
 #include "tests/parts/carrier_client.h"
@@ -8,6 +9,8 @@
 #include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 namespace {
 
@@ -16,6 +19,21 @@ using machine::carrier::HostedCarrierLibrary;
 namespace fs = std::filesystem;
 
 constexpr const char* LIBRARY = "x_msggate_d.so";
+
+TEST(FrameSocket, TakesAnAnswerThatComesWhileTheUserIsAskedWhetherToWait) {
+    int ends[2] = {};
+    ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0, ends), 0);
+    const std::string_view frame("\2\0\0\0ok", 6);
+    machine::carrier::WipedBytes received;
+    const auto ask = [&] {
+        EXPECT_EQ(write(ends[1], frame.data(), frame.size()), 6);
+        return false;
+    };
+    EXPECT_TRUE(machine::carrier::receive_frame(ends[0], received, ask));
+    EXPECT_EQ(machine::carrier::payload_of(received), "ok");
+    EXPECT_FALSE(machine::carrier::receive_frame(ends[0], received, [] { return false; }));
+    for (const int end : ends) close(end);
+}
 
 /// The product's side of the library, with the stand-in's library in the current directory.
 class HostedCarrierLibraryTest : public tests::CarrierTest {
