@@ -132,11 +132,11 @@ void frmSendMan::PICK_STATUS_SHOW() {
 }
 
 void frmSendMan::show_counts() {
-    int selected = 0;
+    std::size_t selected = 0;
     for (std::size_t row = 0; row < ListView2.row_count(); ++row) selected += ListView2.row(row).selected();
-    const auto people = [](double number) { return platform::format_number(number, u"#,##0명"); };
-    Counts.set_caption(u"전체 " + people(total_) + u" · 목록 " +
-                       people(static_cast<double>(ListView2.row_count())) + u" · 선택 " + people(selected));
+    Counts.set_caption(u"전체 " + platform::counted(static_cast<std::size_t>(total_), u"명 · 목록 ") +
+                       platform::counted(ListView2.row_count(), u"명 · 선택 ") +
+                       platform::counted(selected, u"명"));
 }
 
 /// The order is kept for the next opening.

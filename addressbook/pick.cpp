@@ -99,10 +99,8 @@ void frmSendMan::SENDLIST_ADD() {
     }
     hide_progress();
     // What was left out is deliberately not counted: the cards show it before they are picked.
-    const auto people = [](std::size_t number) {
-        return platform::format_number(static_cast<double>(number), u"#,##0명");
-    };
-    Added.set_caption(people(added) + u" 추가 · 받는사람 " + people(recipients_.ListView1.row_count()));
+    Added.set_caption(platform::counted(added, u"명 추가 · 받는사람 ") +
+                      platform::counted(recipients_.ListView1.row_count(), u"명"));
 }
 
 bool frmSendMan::pick_row(const ListItem& row, const PickedCells& cells) {

@@ -104,9 +104,7 @@ void frmMyMsgBox::show_found() {
 }
 
 void frmMyMsgBox::show_count() {
-    const auto in_words = [](std::size_t texts) {
-        return platform::format_number(static_cast<double>(texts), u"#,##0개");
-    };
+    const auto in_words = [](std::size_t texts) { return platform::counted(texts, u"개"); };
     const std::size_t found = ListView2.row_count();
     const std::size_t all = search_.all();
     FoundCount.set_caption(found == all ? in_words(all) : in_words(all) + u" 중 " + in_words(found));

@@ -14,7 +14,7 @@ milliseconds time_left(Steps steps, milliseconds elapsed, milliseconds waits) {
     return step * std::max(steps.all - steps.done, 0);
 }
 
-Text people(int count) { return platform::format_number(count, u"#,##0명"); }
+Text people(int count) { return platform::counted(static_cast<std::size_t>(count), u"명"); }
 
 Text about(milliseconds time) {
     const auto seconds = std::max<long long>(std::chrono::ceil<std::chrono::seconds>(time).count(), 1);

@@ -12,15 +12,11 @@ namespace {
 /// Few enough that the window keeps painted and its button works.
 constexpr std::size_t LINES_A_TICK = 2000;
 
-Text count(std::size_t number, platform::TextView unit) {
-    return platform::format_number(static_cast<double>(number), u"#,##0") + Text(unit);
-}
-
 Text details(const PastedRecipients& pasted) {
     Text text;
     const auto add = [&text](platform::TextView what, std::size_t lines) {
         if (lines == 0) return;
-        text += Text(text.empty() ? u"" : u" · ") + Text(what) + u" " + count(lines, u"줄");
+        text += Text(text.empty() ? u"" : u" · ") + Text(what) + u" " + platform::counted(lines, u"줄");
     };
     add(u"이미 있는 번호", pasted.listed_before());
     add(u"보낼 수 없는 번호", pasted.refused());
@@ -60,7 +56,7 @@ void frmPasted::begin(Text text) {
     question_.emplace(desktop());
     filled_.emplace(recipients_.ListView1);
     Label1.set_caption(u"받는사람을 가져오는 중입니다...");
-    Label2.set_caption(count(pasted_->line_count(), u"줄"));
+    Label2.set_caption(platform::counted(pasted_->line_count(), u"줄"));
     Label3.hide();
     Text1.hide();
     Command1.hide();
@@ -89,7 +85,7 @@ void frmPasted::stop() {
 void frmPasted::report() {
     PBar1.hide();
     Command3.hide();
-    Label1.set_caption(u"받는사람 " + count(pasted_->added(), u"명을 추가했습니다."));
+    Label1.set_caption(u"받는사람 " + platform::counted(pasted_->added(), u"명을 추가했습니다."));
     Label2.set_caption(details(*pasted_));
     const Text left_over = pasted_->left_over();
     Text1.set_text(left_over);

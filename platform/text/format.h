@@ -10,6 +10,9 @@ namespace platform {
 /// a comma between placeholders asks for commas between thousands. Beyond 15 digits a number shows zeros.
 Text format_number(double number, TextView pattern);
 
+/// A number with its unit, as one counts things: "1,234명".
+Text counted(std::size_t number, TextView unit);
+
 /// The layout "0000-####-####" of a service number: digits fill it from the right, the first group is padded
 /// with zeros and grows when there are more. A `#` place without a digit stays empty though the hyphens stay,
 /// so that a short number is not mistaken for one with zeros: 5 gives "0000--5". A text that is no number,

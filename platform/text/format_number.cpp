@@ -84,6 +84,10 @@ Text format_number(double number, TextView pattern) {
     return out += pattern.substr(end);
 }
 
+Text counted(std::size_t number, TextView unit) {
+    return format_number(static_cast<double>(number), u"#,##0") + Text(unit);
+}
+
 Text format_service_number(TextView value) {
     constexpr std::size_t GROUP = 4;
     const auto number = text_as_number(value);
