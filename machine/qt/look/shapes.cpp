@@ -128,8 +128,12 @@ void draw_check_box(QPainter& painter, const QStyleOption& option) {
     const QColor accent = enabled ? colours_of(option.palette).accent : strong_edge(option);
     const int side = std::min(option.rect.width(), option.rect.height());
     const QRectF box = QStyle::alignedRect(option.direction, Qt::AlignCenter, {side, side}, option.rect);
-    draw_box(painter, box, on ? QBrush(accent) : QBrush(option.palette.color(QPalette::Base)),
-             on ? accent : strong_edge(option), 1, 3);
+    // On a chosen row the ground has the accent too.
+    const bool on_accent = is(option, QStyle::State_Selected) && is(option, QStyle::State_Active);
+    const QColor edge = on_accent ? option.palette.color(QPalette::Active, QPalette::HighlightedText)
+                        : on      ? accent
+                                  : strong_edge(option);
+    draw_box(painter, box, on ? QBrush(accent) : QBrush(option.palette.color(QPalette::Base)), edge, 1, 3);
     if (!on) return;
     const Smooth smooth(painter);
     QPainterPath mark;
