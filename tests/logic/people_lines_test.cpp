@@ -63,6 +63,21 @@ TEST(PeopleLines, ArriveInTheManyWaysInWhichPeopleWriteThem) {
     for (const auto& [line, person] : lines) EXPECT_EQ(read(line), person) << line;
 }
 
+TEST(PeopleLines, OfSeveralNumbersTheLikeliestComesFirstAndNoOtherFigureIsTakenForOne) {
+    const std::pair<const char*, const char*> lines[] = {
+        {"길동상사\t110-81-12345\t홍길동\t010-1234-5678", "길동상사/01012345678/홍길동"},
+        {"홍길동 110-81-12345 010-1234-5678", "홍길동/01012345678/"},
+        {"길동상사\t1588-0000\t010-1234-5678", "길동상사/01012345678+15880000/"},
+        {"홍길동\t19801231\t1012345678", "홍길동/01012345678/"},
+        {"사업자번호,이름,휴대폰(필수)\n110-81-12345,홍길동,1012345678\n110-81-12345,김길동,",
+         "- | 홍길동/01012345678/ | ?"},
+        {"이름,은행계좌,비고,담당자 휴대폰번호\n홍길동,012-345678-901,02-555-1234,1012345678\n"
+         "김길동,012-345678-901,02-555-1234,",
+         "- | 홍길동/01012345678+025551234/ | 김길동/025551234/"},
+    };
+    for (const auto& [line, person] : lines) EXPECT_EQ(read(line), person) << line;
+}
+
 TEST(PeopleLines, AFileIsReadInTheEncodingThatItHas) {
     const Text text = u"홍길동\t010-1234-5678\n";
     std::string little, big;
