@@ -73,10 +73,10 @@ std::vector<Text> likeliest_first(std::vector<TelephoneNumber> numbers, bool may
 }  // namespace
 
 PeopleLines::Line PeopleLines::read(TextView line, ListedPerson& person) {
-    if (line.find_first_not_of(u" \t") == TextView::npos) return Line::nobody;
+    if (line.find_first_not_of(u" \t") == TextView::npos) return Line::blank;
     const std::optional<char16_t> separator = separator_of(line);
     std::vector<Text> fields = separator ? fields_of(line, *separator) : std::vector{Text(line)};
-    if (!begun_ && read_captions(fields)) return Line::nobody;
+    if (!begun_ && read_captions(fields)) return Line::captions;
     begun_ = true;
 
     person = {.name = {}, .numbers = take_numbers_out_of(fields), .title = {}};

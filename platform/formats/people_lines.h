@@ -21,12 +21,7 @@ struct ListedPerson {
 /// columns tells which of them hold names, titles and numbers.
 class PeopleLines {
   public:
-    enum class Line {
-        person,
-        /// Blank, or the captions of the columns.
-        nobody,
-        not_understood
-    };
+    enum class Line { person, blank, captions, not_understood };
 
     /// Reads the next line; `person` is set for one that names a person.
     Line read(TextView line, ListedPerson& person);

@@ -21,7 +21,7 @@ std::string read(const std::string& lines) {
         ListedPerson person;
         const PeopleLines::Line kind = people.read(line, person);
         if (!all.empty()) all += " | ";
-        if (kind == PeopleLines::Line::nobody) all += "-";
+        if (kind == PeopleLines::Line::blank || kind == PeopleLines::Line::captions) all += "-";
         if (kind == PeopleLines::Line::not_understood) all += "?";
         if (kind != PeopleLines::Line::person) continue;
         std::string numbers;
