@@ -14,9 +14,11 @@ enum class Column {
     other_number
 };
 
+/// In a table the last word tells: "담당자 연락처" as "연락처".
 Column column_under(TextView caption);
 
-/// Whether the text is the caption of names or telephone numbers, not one of them.
+/// Whether the whole text is the caption of names or telephone numbers. People and companies have parts of
+/// such words in their names.
 bool is_caption(TextView text);
 
 }  // namespace platform
