@@ -22,7 +22,10 @@ void PastedRecipients::read(std::size_t lines) {
 void PastedRecipients::read_line(TextView line) {
     platform::ListedPerson person;
     switch (people_.read(line, person)) {
-        case platform::PeopleLines::Line::nobody:
+        case platform::PeopleLines::Line::blank:
+            return;
+        case platform::PeopleLines::Line::captions:
+            captions_ = Text(line) + Text(platform::CRLF);
             return;
         case platform::PeopleLines::Line::person:
             return take_in(person, line);
@@ -49,9 +52,12 @@ void PastedRecipients::take_in(const platform::ListedPerson& person, TextView li
 }
 
 Text PastedRecipients::left_over() const {
-    if (at_end()) return left_over_;
-    const auto unread = static_cast<std::size_t>(lines_[lines_read_].data() - text_.data());
-    return left_over_ + platform::replace_all(TextView(text_).substr(unread), u"\n", platform::CRLF);
+    Text left_over = left_over_;
+    if (!at_end()) {
+        const auto unread = static_cast<std::size_t>(lines_[lines_read_].data() - text_.data());
+        left_over += platform::replace_all(TextView(text_).substr(unread), u"\n", platform::CRLF);
+    }
+    return left_over.empty() ? Text() : captions_ + left_over;
 }
 
 }  // namespace compose

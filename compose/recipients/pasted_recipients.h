@@ -25,7 +25,8 @@ class PastedRecipients {
     std::size_t refused() const { return refused_; }
     std::size_t not_understood() const { return not_understood_; }
 
-    /// The lines that nobody came in with, but for those listed before, and those not read yet.
+    /// The lines that nobody came in with, but for those listed before, and those not read yet; under the
+    /// captions of their columns, without which they would be read differently.
     platform::Text left_over() const;
 
   private:
@@ -37,6 +38,7 @@ class PastedRecipients {
     std::vector<platform::TextView> lines_;
     std::size_t lines_read_ = 0;
     platform::PeopleLines people_;
+    platform::Text captions_;
     platform::Text left_over_;
     std::size_t added_ = 0;
     std::size_t listed_before_ = 0;

@@ -3,22 +3,12 @@
 #include "platform/formats/telephone_numbers.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
+#include <optional>
 
 namespace platform {
 
 namespace {
-
-constexpr std::array<TextView, 5> NAME_CAPTIONS = {u"이름", u"성명", u"성함", u"받는사람", u"name"};
-constexpr std::array<TextView, 5> TITLE_CAPTIONS = {u"직위", u"직책", u"직급", u"title", u"position"};
-constexpr std::array<TextView, 10> NUMBER_CAPTIONS = {u"번호",   u"전화",  u"휴대", u"핸드폰", u"연락처",
-                                                      u"모바일", u"phone", u"tel",  u"mobile", u"hp"};
-
-template <std::size_t N>
-bool has_one_of(TextView text, const std::array<TextView, N>& words) {
-    const Text lower = lower_case(text);
-    return std::ranges::any_of(words, [&](TextView word) { return contains(lower, word); });
-}
 
 /// Signs between a name and a number that belong to neither.
 Text without_signs_at_ends(TextView text) {
@@ -31,10 +21,6 @@ Text without_signs_at_ends(TextView text) {
 bool has_letters(TextView text) {
     return std::ranges::any_of(
         text, [](char16_t c) { return c > 0x7F || (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); });
-}
-
-bool is_caption(TextView text) {
-    return has_one_of(text, NUMBER_CAPTIONS) || has_one_of(text, NAME_CAPTIONS);
 }
 
 /// Nothing when the line is one field.
@@ -72,29 +58,33 @@ std::vector<Text> fields_of(TextView line, char16_t separator) {
     return fields;
 }
 
+/// A guess is as good as nothing beside a likelier number.
+std::vector<Text> likeliest_first(std::vector<TelephoneNumber> numbers, bool may_guess) {
+    std::ranges::stable_sort(numbers, {}, &TelephoneNumber::likelihood);
+    const bool guesses_alone = !numbers.empty() && numbers.front().likelihood == Likelihood::guessed;
+    std::vector<Text> digits;
+    for (TelephoneNumber& number : numbers) {
+        if (number.likelihood != Likelihood::guessed || (may_guess && guesses_alone))
+            digits.push_back(std::move(number.digits));
+    }
+    return digits;
+}
+
 }  // namespace
 
 PeopleLines::Line PeopleLines::read(TextView line, ListedPerson& person) {
-    if (line.find_first_not_of(u" \t") == TextView::npos) return Line::nobody;
+    if (line.find_first_not_of(u" \t") == TextView::npos) return Line::blank;
     const std::optional<char16_t> separator = separator_of(line);
     std::vector<Text> fields = separator ? fields_of(line, *separator) : std::vector{Text(line)};
-    if (!begun_ && read_captions(fields)) return Line::nobody;
+    if (!begun_ && read_captions(fields)) return Line::captions;
     begun_ = true;
 
-    person = {};
-    for (Text& field : fields) {
-        const std::size_t before = person.numbers.size();
-        field = take_numbers(field, person.numbers);
-        if (person.numbers.size() > before) field = without_signs_at_ends(field);
-    }
+    person = {.name = {}, .numbers = take_numbers_out_of(fields), .title = {}};
     if (person.numbers.empty()) return Line::not_understood;
     if (!separator) fields = fields_of(fields.front(), u' ');
-    const auto at = [&](std::optional<std::size_t> column) {
-        return column && *column < fields.size() ? fields[*column] : Text();
-    };
-    if (columns_.name) {
-        person.name = at(columns_.name);
-        person.title = at(columns_.title);
+    if (knows(Column::name)) {
+        person.name = field_under(Column::name, fields);
+        person.title = field_under(Column::title, fields);
         return Line::person;
     }
     for (Text& field : fields) {
@@ -112,21 +102,35 @@ PeopleLines::Line PeopleLines::read(TextView line, ListedPerson& person) {
 /// Whether the first line holds captions instead of a person.
 bool PeopleLines::read_captions(const std::vector<Text>& fields) {
     begun_ = true;
-    std::vector<Text> numbers;
+    std::vector<TelephoneNumber> numbers;
     for (const Text& field : fields) take_numbers(field, numbers);
-    if (!numbers.empty() || fields.size() < 2) return false;
-    const auto column_of = [&](const auto& captions) {
-        const auto found = std::ranges::find_if(fields, [&](const Text& field) {
-            return has_one_of(field, captions) && !has_one_of(field, NUMBER_CAPTIONS);
-        });
-        return found == fields.end() ? std::nullopt
-                                     : std::optional(static_cast<std::size_t>(found - fields.begin()));
-    };
-    columns_ = {.name = column_of(NAME_CAPTIONS), .title = column_of(TITLE_CAPTIONS)};
-    const bool has_number_caption =
-        std::ranges::any_of(fields, [](const Text& field) { return has_one_of(field, NUMBER_CAPTIONS); });
-    if (!columns_.name || !has_number_caption) columns_ = {};
-    return columns_.name || has_number_caption;
+    if (!numbers.empty() || fields.size() < 2 || std::ranges::none_of(fields, is_caption)) return false;
+    std::ranges::transform(fields, std::back_inserter(columns_), column_under);
+    return true;
+}
+
+bool PeopleLines::knows(Column column) const { return std::ranges::find(columns_, column) != columns_.end(); }
+
+Text PeopleLines::field_under(Column column, const std::vector<Text>& fields) const {
+    const auto at = static_cast<std::size_t>(std::ranges::find(columns_, column) - columns_.begin());
+    return at < fields.size() ? fields[at] : Text();
+}
+
+/// A line of one field was typed, and is no row of the table.
+std::vector<Text> PeopleLines::take_numbers_out_of(std::vector<Text>& fields) const {
+    const bool row = fields.size() > 1;
+    std::vector<TelephoneNumber> numbers;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        const Column column = row && i < columns_.size() ? columns_[i] : Column::unknown;
+        if (column == Column::other_number) continue;
+        const std::size_t before = numbers.size();
+        Text rest = take_numbers(fields[i], numbers);
+        if (numbers.size() > before) rest = without_signs_at_ends(rest);
+        fields[i] = std::move(rest);
+        if (column != Column::telephone) continue;
+        for (std::size_t n = before; n < numbers.size(); ++n) numbers[n].likelihood = Likelihood::captioned;
+    }
+    return likeliest_first(std::move(numbers), !row || !knows(Column::telephone));
 }
 
 }  // namespace platform

@@ -12,8 +12,7 @@ constexpr std::size_t LONGEST = 12;
 /// With everything that is dialled before it from abroad. A line of digits alone must not be read again and
 /// again.
 constexpr std::size_t MOST_DIGITS = LONGEST + 4;
-/// Of a number like 1588-0000.
-constexpr std::size_t WITHOUT_AREA = 8;
+constexpr std::size_t SERVICE_LENGTH = 8;
 
 bool is_digit(char16_t c) { return c >= u'0' && c <= u'9'; }
 
@@ -30,8 +29,13 @@ Text dialled(Text digits, bool plus) {
     return digits;
 }
 
+/// Dates of birth begin with 19, months with 10 to 12.
+bool is_service(TextView digits) {
+    return digits.size() == SERVICE_LENGTH && digits[0] == u'1' && digits[1] >= u'4' && digits[1] <= u'8';
+}
+
 bool is_number(TextView digits, bool alone) {
-    if (digits.size() == WITHOUT_AREA) return digits.front() == u'1';
+    if (is_service(digits)) return true;
     const bool fits = digits.size() >= SHORTEST && digits.size() <= LONGEST;
     // Among words, dates and sums have as many digits.
     return fits && (alone || digits.front() == u'0');
@@ -64,6 +68,12 @@ Run run_from(TextView text, std::size_t begin) {
     return run;
 }
 
+Likelihood likelihood_of(const Run& run, TextView digits) {
+    if (is_service(digits)) return Likelihood::service;
+    const bool as_dialled = run.digits.starts_with(u'0') || (run.plus && run.digits.starts_with(COUNTRY));
+    return as_dialled ? Likelihood::dialled : Likelihood::guessed;
+}
+
 /// Where the group of digits ends that begins there.
 std::size_t end_of_group(TextView text, std::size_t begin) {
     while (begin < text.size() && is_digit(text[begin])) ++begin;
@@ -79,7 +89,7 @@ bool may_begin(TextView text, std::size_t at) {
 
 }  // namespace
 
-Text take_numbers(TextView text, std::vector<Text>& numbers) {
+Text take_numbers(TextView text, std::vector<TelephoneNumber>& numbers) {
     Text rest;
     const bool all_number = std::ranges::all_of(
         text, [](char16_t c) { return is_digit(c) || is_between_digits(c) || c == u'+'; });
@@ -89,7 +99,8 @@ Text take_numbers(TextView text, std::vector<Text>& numbers) {
             const Run run = run_from(text, at);
             Text digits = dialled(run.digits, run.plus);
             if (is_number(digits, all_number)) {
-                numbers.push_back(std::move(digits));
+                const Likelihood likelihood = likelihood_of(run, digits);
+                numbers.push_back({std::move(digits), likelihood});
                 rest += u' ';
                 at = run.end;
                 continue;

@@ -21,7 +21,7 @@ std::string read(const std::string& lines) {
         ListedPerson person;
         const PeopleLines::Line kind = people.read(line, person);
         if (!all.empty()) all += " | ";
-        if (kind == PeopleLines::Line::nobody) all += "-";
+        if (kind == PeopleLines::Line::blank || kind == PeopleLines::Line::captions) all += "-";
         if (kind == PeopleLines::Line::not_understood) all += "?";
         if (kind != PeopleLines::Line::person) continue;
         std::string numbers;
@@ -58,7 +58,26 @@ TEST(PeopleLines, ArriveInTheManyWaysInWhichPeopleWriteThem) {
         {"안녕하세요, 홍길동입니다", "?"},
         {"회사,이름,휴대폰,직책\n길동상사,홍길동,010-1234-5678,부장\n길동상사,,010-1111-2222",
          "- | 홍길동/01012345678/부장 | /01011112222/"},
+        {"홍길동, 대표, Hotel\n김길동, 010-1234-5678", "? | 김길동/01012345678/"},
+        {"길동휴대폰;Hana Surname\n김길동;010-1234-5678", "? | 김길동/01012345678/"},
+        {"No.;고객 이름;연락처 1;*휴대폰 번호(필수)\n1;홍길동;;1012345678", "- | 홍길동/01012345678/"},
+        {"홍길동 Hotel 010-1234-5678", "홍길동/01012345678/Hotel"},
         {"번호\t성함\n010-1234-5678\t홍길동", "- | 홍길동/01012345678/"},
+    };
+    for (const auto& [line, person] : lines) EXPECT_EQ(read(line), person) << line;
+}
+
+TEST(PeopleLines, OfSeveralNumbersTheLikeliestComesFirstAndNoOtherFigureIsTakenForOne) {
+    const std::pair<const char*, const char*> lines[] = {
+        {"길동상사\t110-81-12345\t홍길동\t010-1234-5678", "길동상사/01012345678/홍길동"},
+        {"홍길동 110-81-12345 010-1234-5678", "홍길동/01012345678/"},
+        {"길동상사\t1588-0000\t010-1234-5678", "길동상사/01012345678+15880000/"},
+        {"홍길동\t19801231\t1012345678", "홍길동/01012345678/"},
+        {"사업자번호,이름,휴대폰(필수)\n110-81-12345,홍길동,1012345678\n110-81-12345,김길동,",
+         "- | 홍길동/01012345678/ | ?"},
+        {"이름,은행계좌,비고,담당자 휴대폰번호\n홍길동,012-345678-901,02-555-1234,1012345678\n"
+         "김길동,012-345678-901,02-555-1234,",
+         "- | 홍길동/01012345678+025551234/ | 김길동/025551234/"},
     };
     for (const auto& [line, person] : lines) EXPECT_EQ(read(line), person) << line;
 }

@@ -3,7 +3,10 @@
 #include "tests/screen/screen_fixture.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
 
 namespace tests {
@@ -107,17 +110,53 @@ TEST_F(TextFieldTest, APasteIsPlainTextAndOneChangeWithoutAKeyPress) {
     find<QLineEdit>("HText1_0").paste();
     settle();
     EXPECT_EQ(form.HText1.text(), u"가나다라") << "one line has no line ends";
+}
 
+TEST_F(TextFieldTest, LinesThatAFieldOfOneLineHasAHandlerForNeverEnterIt) {
+    auto& field = find<QLineEdit>("HText1_0");
     std::vector<Text> lines;
     form.HText1.LinesPasted.connect([&](const Text& pasted) { lines.push_back(pasted); });
-    for (const char* pasted : {"01012345678\n", "홍길동\t010\n", "가\n나"}) {
-        QGuiApplication::clipboard()->setText(pasted);
-        find<QLineEdit>("HText1_0").paste();
+    form.HText1.set_focus();
+    QTest::keyClicks(&field, "Kim");
+    const auto press = [&](Qt::Key key) {
+        QTest::keyClick(&field, key, Qt::ControlModifier);
         settle();
         settle();
-    }
-    EXPECT_EQ(form.HText1.text(), u"가나다라01012345678") << "a single cell is no table";
-    EXPECT_EQ(lines, (std::vector<Text>{u"홍길동\t010\r\n", u"가\r\n나"}));
+    };
+    const auto paste_from_menu = [&] {
+        QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(1, 1), field.mapToGlobal(QPoint(1, 1)));
+        QCoreApplication::sendEvent(&field, &asked);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        for (QAction* action : menu->actions())
+            if (action->text().startsWith(QLineEdit::tr("&Paste"))) action->trigger();
+        menu->close();
+        settle();
+        settle();
+    };
+    QString many;
+    for (int i = 0; i < 5000; ++i) many += QString("홍길동\t010-1234-%1\n").arg(i, 4, 10, QChar(u'0'));
+    QGuiApplication::clipboard()->setText(many);
+    press(Qt::Key_V);
+    paste_from_menu();
+    QMimeData dragged;
+    dragged.setText(many);
+    QDragEnterEvent enter(QPoint(1, 1), Qt::MoveAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&field, &enter);
+    QDropEvent drop(QPointF(1, 1), Qt::CopyAction | Qt::MoveAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&field, &drop);
+    settle();
+    EXPECT_TRUE(lines == std::vector<Text>(3, machine::qt::program_text(many)));
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction) << "the other program keeps its text";
+    press(Qt::Key_Z);
+    EXPECT_EQ(form.HText1.text(), u"") << "the user takes back what he typed";
+    EXPECT_EQ(lines.size(), 3u);
+
+    QGuiApplication::clipboard()->setText("01012345678\n");
+    press(Qt::Key_V);
+    paste_from_menu();
+    EXPECT_EQ(form.HText1.text(), u"0101234567801012345678") << "a single cell is no table";
+    EXPECT_EQ(lines.size(), 3u);
 }
 
 TEST_F(TextFieldTest, TextAndSelectionSetInCodeShowAndRaiseOneChange) {

@@ -1,15 +1,17 @@
 #include "machine/qt/binders/text_box_binder.h"
 
+#include "machine/qt/binders/drops.h"
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/typing/field_events.h"
+#include "machine/qt/typing/insertions.h"
 #include "machine/qt/typing/undoing.h"
 #include "machine/qt/widgets/multiline_edit.h"
 
-#include <QKeyEvent>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
-#include <algorithm>
 
 namespace machine::qt {
 
@@ -128,6 +130,7 @@ LineBinder::LineBinder(BoundForm& bound, TextBox& control, QLineEdit& edit) : Bi
 }
 
 bool LineBinder::filter(QObject&, QEvent& event) {
+    if (control().LinesPasted.connected() && divert_lines(event)) return true;
     if (event.type() == QEvent::KeyPress) {
         KeyPressed key{moving_key_code(static_cast<const QKeyEvent&>(event))};
         if (key.code == platform::KEY_UP || key.code == platform::KEY_DOWN) control().KeyDown.raise(key);
@@ -140,19 +143,42 @@ bool LineBinder::filter(QObject&, QEvent& event) {
         });
 }
 
-/// A paste may contain line ends, which do not belong in one line. The control may have a use for them.
-void LineBinder::join_lines() {
-    if (const Text pasted = pasted_lines(); !pasted.empty()) {
-        write_back();
-        // The handler may open a window, for which the field must have done its work.
-        QMetaObject::invokeMethod(
-            this,
-            [this, pasted] {
-                if (is_live()) control().LinesPasted.raise(pasted);
-            },
-            Qt::QueuedConnection);
-        return;
+/// Whether the field must not see the event. It would cut a long list short, and bring it back when the user
+/// takes back what he typed.
+bool LineBinder::divert_lines(QEvent& event) {
+    if (event.type() == QEvent::ContextMenu) {
+        const auto paste = [this] {
+            if (is_live() && !take_lines(text_to_paste())) widget().paste();
+        };
+        open_menu(widget(), static_cast<QContextMenuEvent&>(event).globalPos(), paste);
+        return true;
     }
+    if (!take_lines(text_to_insert(event))) return false;
+    if (event.type() == QEvent::Drop) {
+        answer_drag(static_cast<QDropEvent&>(event), true);
+        // The field has shown a caret where the text would go.
+        QDragLeaveEvent over;
+        static_cast<QObject&>(widget()).event(&over);
+    }
+    event.accept();
+    return true;
+}
+
+bool LineBinder::take_lines(const QString& text) {
+    const QString lines = to_lines(text);
+    if (!is_table(lines)) return false;
+    // The handler may open a window, for which the field must have done its work.
+    QMetaObject::invokeMethod(
+        this,
+        [this, pasted = program_text(lines)] {
+            if (is_live()) control().LinesPasted.raise(pasted);
+        },
+        Qt::QueuedConnection);
+    return true;
+}
+
+/// What comes into the field may contain line ends, which do not belong in one line.
+void LineBinder::join_lines() {
     const auto one_line = [](const QString& text) { return to_lines(text).remove(u'\n'); };
     if (const QString text = widget().text(); has_edit() && text != one_line(text)) {
         const auto caret = one_line(text.left(widget().cursorPosition())).size();
@@ -161,21 +187,6 @@ void LineBinder::join_lines() {
         widget().setCursorPosition(static_cast<int>(caret));
     }
     edited();
-}
-
-/// What a paste has brought when that is lines or cells of a table, which the control wants. A single cell
-/// ends with a line end too, and belongs in the field.
-Text LineBinder::pasted_lines() const {
-    const QString text = to_lines(widget().text());
-    if (!has_edit() || !control().LinesPasted.connected()) return {};
-    const QString before = shown_text(control().text());
-    // It ends at the caret, and before it stands what stood there before.
-    const qsizetype caret = to_lines(widget().text().left(widget().cursorPosition())).size();
-    const qsizetype alike = std::ranges::mismatch(text, before).in1 - text.begin();
-    const qsizetype begin = std::min(alike, before.size() - (text.size() - caret));
-    const QString pasted = text.mid(begin, caret - begin);
-    const bool cells = pasted.contains(u'\t') || pasted.trimmed().contains(u'\n');
-    return cells ? program_text(pasted) : Text();
 }
 
 QString LineBinder::widget_text() const { return widget().text(); }

@@ -68,8 +68,10 @@ class LineBinder : public BinderOf<platform::TextBox, QLineEdit, TextBoxBinder> 
     void write(const QString& text) override;
     void select(int start, int end) override;
     Selection selection() const override;
+    bool divert_lines(QEvent& event);
+    /// Whether the text is lines that the control wants; it gets them soon.
+    bool take_lines(const QString& text);
     void join_lines();
-    platform::Text pasted_lines() const;
 
     bool working_ = false;
 };
