@@ -6,6 +6,8 @@
 #include "platform/controls/list_columns.h"
 #include "platform/error.h"
 
+#include <unordered_set>
+
 namespace compose {
 
 using platform::KeyPressed;
@@ -222,15 +224,17 @@ void RecipientList::forget_deletions() {
     mnuUndoDelete.set_enabled(false);
 }
 
-/// Who has been listed anew meanwhile does not come back a second time.
+/// Whose number has been listed anew meanwhile does not come back a second time.
 void RecipientList::undo_deletion() {
     if (deletions_.empty()) return;
     platform::TakenRows rows = std::move(deletions_.back());
     deletions_.pop_back();
     mnuUndoDelete.set_enabled(!deletions_.empty());
-    std::erase_if(rows, [this](const auto& row) {
-        return ListView1.find_in_sub_items(row.second->sub_item(RECIPIENT_NUMBER)).has_value();
-    });
+    std::unordered_set<Text> listed;
+    for (std::size_t row = 0; row < ListView1.row_count(); ++row)
+        listed.insert(ListView1.row(row).sub_item(RECIPIENT_NUMBER));
+    std::erase_if(rows,
+                  [&](const auto& row) { return listed.contains(row.second->sub_item(RECIPIENT_NUMBER)); });
     if (rows.empty()) return;
     std::vector<const ListItem*> back;
     for (const auto& [place, row] : rows) back.push_back(row.get());

@@ -131,6 +131,11 @@ TEST_F(Undone, EachDeletionGivesItsRowsBackWhereTheyWere) {
     ASSERT_TRUE(form.recipients.add(u"마", u"01000000004", u""));
     form.recipients.mnuUndoDelete.Click.raise();
     EXPECT_EQ(list.row_count(), 4u) << "nobody is listed twice";
+
+    remove(3);
+    add(u"바", u"0100000000456");
+    form.recipients.mnuUndoDelete.Click.raise();
+    EXPECT_EQ(list.row_count(), 5u) << "a longer number is another one";
     EXPECT_FALSE(form.recipients.mnuUndoDelete.enabled());
 
     remove(1);
