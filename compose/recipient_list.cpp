@@ -20,6 +20,11 @@ namespace {
 /// Above this many rows a run over the list shows its progress.
 constexpr std::size_t LONG_LIST = 500;
 
+bool may_be_registered(const ListItem& row) {
+    const Outcome outcome = outcome_of(row.sub_item(RECIPIENT_STATUS));
+    return outcome == Outcome::registered || outcome == Outcome::unconfirmed;
+}
+
 }  // namespace
 
 Text typed_name(platform::TextView name) {
@@ -51,8 +56,10 @@ void RecipientList::connect() {
     HBttn2.Click.connect([this] { remove_selected(); });
     Command7.Click.connect([this] { pick_recipients(); });
     ListView1.ItemCheck.connect([this](std::size_t row) { row_checked(row); });
-    ListView1.CheckMany.connect(
-        [this](platform::ListView::ManyRows rows, bool checked) { check_rows(rows, checked); });
+    ListView1.CheckMany.connect([this](platform::ListView::ManyRows rows, bool checked) {
+        rows == platform::ListView::ManyRows::all ? check_all(checked)
+                                                  : check_rows(&ListItem::selected, checked);
+    });
     ListView1.ColumnClick.connect([this](int column) { sort_by(column); });
     ListView1.KeyDown.connect([this](KeyPressed& key) {
         if (key.code == platform::KEY_DELETE) remove_selected();
@@ -255,17 +262,31 @@ void RecipientList::pick_recipients() {
 }
 
 void RecipientList::CHECK_SELECTED_ITEMS(bool checked) {
-    if (ListView1.selected_item()) check_rows(platform::ListView::ManyRows::selected, checked);
+    if (ListView1.selected_item()) check_rows(&ListItem::selected, checked);
 }
 
-void RecipientList::check_rows(platform::ListView::ManyRows which, bool checked) {
+/// A row that is checked already keeps its status. Who is or may be registered is checked after a yes alone:
+/// the message would reach him twice.
+void RecipientList::check_all(bool checked) {
+    std::size_t again = 0;
+    for (std::size_t row = 0; row < ListView1.row_count(); ++row)
+        again += !ListView1.row(row).checked() && may_be_registered(ListView1.row(row));
+    const bool with_them = !checked || again == 0 || ask_to_check_again(platform_.desktop, again);
+    check_rows(
+        [&](const ListItem& row) {
+            return row.checked() != checked && (with_them || !may_be_registered(row));
+        },
+        checked);
+}
+
+void RecipientList::check_rows(const std::function<bool(const ListItem& row)>& passes, bool checked) {
     const std::size_t rows = ListView1.row_count();
     if (rows > LONG_LIST) {
         PBar1.set_value(0);
         PBar1.show();
     }
     for (std::size_t row = 0; row < rows; ++row) {
-        if (which == platform::ListView::ManyRows::all || ListView1.row(row).selected()) {
+        if (passes(ListView1.row(row))) {
             ListView1.set_checked(row, checked);
             if (checked) ListView1.set_sub_item(row, RECIPIENT_STATUS, u"");
         }

@@ -110,7 +110,8 @@ class RecipientList : Room {
     void undo_deletion();
     void pick_recipients();
     void CHECK_SELECTED_ITEMS(bool checked);
-    void check_rows(platform::ListView::ManyRows rows, bool checked);
+    void check_all(bool checked);
+    void check_rows(const std::function<bool(const platform::ListItem& row)>& passes, bool checked);
     void row_checked(std::size_t row);
     void sort_by(int column);
 

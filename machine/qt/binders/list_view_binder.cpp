@@ -221,16 +221,15 @@ bool ListViewBinder::take_drop(QDropEvent& event) {
 }
 
 /// A click on the box in the header checks or unchecks all rows. The header, which would sort, gets no part
-/// of it.
+/// of it. The handlers may ask the user something, so the click is over before they run.
 bool ListViewBinder::click_header(const QEvent& event) {
     const bool press =
         event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
     if (!press && event.type() != QEvent::MouseButtonRelease) return false;
     const auto& click = static_cast<const QMouseEvent&>(event);
     if (click.button() != Qt::LeftButton) return false;
-    if (!press) return std::exchange(header_box_pressed_, false);
-    if (!is_on_header_box(*widget().header(), click.position().toPoint())) return false;
-    header_box_pressed_ = true;
+    if (press) return header_box_pressed_ = is_on_header_box(*widget().header(), click.position().toPoint());
+    if (!std::exchange(header_box_pressed_, false)) return false;
     rows_.bring_up_to_date();
     const bool checked = rows_.model().checked_rows() != Qt::Checked;
     act([&] { control().user_check_many(platform::ListView::ManyRows::all, checked); });
