@@ -46,7 +46,6 @@ frmZent::frmZent(platform::Platform& platform, core::AppState& state, MainDoors 
       recipients(*this, platform, state, doors.pick_recipients),
       recipient_exchange(*this, platform, recipients),
       recipient_outcomes(*this, platform, recipients),
-      recipient_edits(*this, platform, recipients),
       personal(*this, text, recipients),
       schedule(*this, platform),
       reply(*this, platform, voice.Frame1),
@@ -217,8 +216,8 @@ void frmZent::start_anew() {
     plus.start();
     voice.ttsText.set_text(u"");
     voice.ttsText_Change();
+    recipients.leave_draft();
     recipients.ListView1.clear();
-    recipients.forget_deletions();
     // FAXFileSize1 keeps the old list's size until the next document is added or deleted.
     fax.FAX1.clear();
     voice.TTSFileTxt.set_text(u"");

@@ -8,7 +8,6 @@
 #include "compose/recipient_list.h"
 #include "compose/recipients/exchange.h"
 #include "compose/recipients/outcomes.h"
-#include "compose/recipients/row_edits.h"
 #include "compose/reply_box.h"
 #include "compose/schedule_panel.h"
 #include "compose/sender.h"
@@ -115,7 +114,6 @@ class frmZent : public platform::Form {
     RecipientList recipients;
     RecipientExchange recipient_exchange;
     RecipientOutcomes recipient_outcomes;
-    RecipientEdits recipient_edits;
     PersonalPreview personal;
     SchedulePanel schedule;
     ReplyBox reply;

@@ -21,6 +21,16 @@ void show_text_is_cut(platform::Desktop& desktop) {
                u"입력 초과");
 }
 
+bool ask_to_check_again(platform::Desktop& desktop, std::size_t recipients) {
+    return core::ask(
+        desktop,
+        u"이미 등록되었거나(등록성공) 등록되었을 수 있는(확인필요) 받는사람이 " +
+            platform::decimal(recipients) +
+            u"명 있습니다.\r\n\r\n이 받는사람에게도 다시 보내도록 선택하시겠습니까?\r\n\r\n[아니오]를 "
+            u"선택하시면 나머지 받는사람만 선택합니다.",
+        u"선택 확인", BoxIcon::question, platform::BoxAnswer::no);
+}
+
 platform::TakenRows remove_selected_rows(platform::Desktop& desktop, platform::ListView& list) {
     if (!list.selected_item()) return {};
     if (!core::ask(desktop, u"선택한 목록을 삭제하시겠습니까?", u"삭제 확인", BoxIcon::exclamation))

@@ -6,6 +6,9 @@
 #include "platform/controls/list_columns.h"
 #include "platform/error.h"
 
+#include <algorithm>
+#include <unordered_set>
+
 namespace compose {
 
 using platform::KeyPressed;
@@ -18,12 +21,12 @@ namespace {
 /// Above this many rows a run over the list shows its progress.
 constexpr std::size_t LONG_LIST = 500;
 
-}  // namespace
-
-Text typed_name(platform::TextView name) {
-    Text typed = platform::remove_all(core::without_separators(name), u" ");
-    return typed.empty() ? Text(NO_NAME) : typed;
+bool may_be_registered(const ListItem& row) {
+    const Outcome outcome = outcome_of(row.sub_item(RECIPIENT_STATUS));
+    return outcome == Outcome::registered || outcome == Outcome::unconfirmed;
 }
+
+}  // namespace
 
 RecipientList::RecipientList(platform::Form& form, platform::Platform& platform, core::AppState& state,
                              std::function<void()> pick)
@@ -38,6 +41,8 @@ RecipientList::RecipientList(platform::Form& form, platform::Platform& platform,
     ListView1.set_placeholder(u"이름과 번호를 입력하고 Enter\n또는 표에서 복사한 줄 붙여넣기 (Ctrl+V)");
     mark_rows();
     mnuUndoDelete.set_enabled(false);
+    Changing.hide();
+    Changing.set_tool_tip(u"추가 또는 Enter를 누르면 선택한 줄이 바뀝니다. 그만두려면 Esc를 누르십시오.");
     connect();
 }
 
@@ -49,15 +54,16 @@ void RecipientList::connect() {
     HBttn2.Click.connect([this] { remove_selected(); });
     Command7.Click.connect([this] { pick_recipients(); });
     ListView1.ItemCheck.connect([this](std::size_t row) { row_checked(row); });
-    ListView1.CheckMany.connect(
-        [this](platform::ListView::ManyRows rows, bool checked) { check_rows(rows, checked); });
+    ListView1.CheckMany.connect([this](platform::ListView::ManyRows rows, bool checked) {
+        rows == platform::ListView::ManyRows::all ? check_all(checked)
+                                                  : check_rows(&ListItem::selected, checked);
+    });
     ListView1.ColumnClick.connect([this](int column) { sort_by(column); });
     ListView1.KeyDown.connect([this](KeyPressed& key) {
         if (key.code == platform::KEY_DELETE) remove_selected();
     });
-    ListView1.KeyPress.connect([this](KeyPressed& key) {
-        if (key.code == platform::KEY_CTRL_A) ListView1.select_all();
-    });
+    ListView1.KeyPress.connect([this](KeyPressed& key) { ListView1_KeyPress(key); });
+    ListView1.DblClick.connect([this] { change_selected(); });
     ListView1.MouseUp.connect([this](platform::MouseButton button) {
         if (button == platform::MouseButton::right) platform_.desktop.popup_menu(form_, mnuSubPopup);
     });
@@ -65,11 +71,20 @@ void RecipientList::connect() {
     mnusubpopup7.Click.connect([this] { ListView1.select_all(); });
     mnusubpopup4.Click.connect([this] { CHECK_SELECTED_ITEMS(true); });
     mnusubpopup5.Click.connect([this] { CHECK_SELECTED_ITEMS(false); });
+    mnuEditRow.Click.connect([this] { change_selected(); });
     mnusubpopup9.Click.connect([this] { remove_selected(); });
     mnuUndoDelete.Click.connect([this] { undo_deletion(); });
 }
 
+void RecipientList::ListView1_KeyPress(KeyPressed& key) {
+    if (key.code == platform::KEY_CTRL_A) ListView1.select_all();
+    if (key.code != platform::KEY_ENTER || !ListView1.selected_item()) return;
+    key.swallow();
+    change_selected();
+}
+
 void RecipientList::set_kind(const KindOfMessage& kind) {
+    give_up_change();
     kind_ = &kind;
     ListView1.set_column_caption(RECIPIENT_NUMBER + 1, Text(kind.number.caption));
     Label2_5.set_caption(Text(kind.number.caption) + u":");
@@ -111,97 +126,10 @@ bool RecipientList::add(Text name, const Text& number, Text title) {
     return true;
 }
 
-void RecipientList::empty_fields() {
-    for (platform::TextBox& field : HText1) field.set_text(u"");
-}
-
 void RecipientList::RECIPIENT_COUNT_CAPTION() {
     Label4.set_caption(u"전체>" + platform::decimal(ListView1.row_count()) + u">대상>" +
                        platform::decimal(ListView1.checked_count()));
     Counted.raise();
-}
-
-void RecipientList::HText1_KeyPress(std::size_t index, KeyPressed& key) {
-    if (key.code != platform::KEY_ENTER) return;
-    key.swallow();
-    if (index == 0) {
-        HText1[1].set_focus();
-    } else {
-        add_typed();
-    }
-}
-
-bool RecipientList::settle_typed() {
-    const Text number = core::DIGITS_ONLY(HText1[1].text());
-    if (number.empty()) return true;
-    const platform::StandingQuestion question(platform_.desktop);
-    switch (platform_.desktop.message_box({.text = u"입력만 하고 추가하지 않은 받는사람이 있습니다.\r\n\r\n" +
-                                                   platform::trim(HText1[0].text() + u" " + number) +
-                                                   u"\r\n\r\n받는사람에 추가하고 보내시겠습니까?",
-                                           .icon = platform::BoxIcon::question,
-                                           .buttons = platform::BoxButtons::yes_no_cancel,
-                                           .default_answer = platform::BoxAnswer::yes})) {
-        case platform::BoxAnswer::yes:
-            return add_typed();
-        case platform::BoxAnswer::no:
-            return true;
-        default:
-            return_number();
-            return false;
-    }
-}
-
-/// Returns whether somebody was added.
-bool RecipientList::add_typed() {
-    const Text number = core::DIGITS_ONLY(HText1[1].text());
-    HText1[1].set_text(number);
-    if (number.empty()) return refuse_number(refusal_of(number));
-
-    // Before the number is checked: a few digits that begin a listed number are a duplicate, not a short
-    // number.
-    if (point_at_duplicate(number)) return false;
-    if (Text refusal = refusal_of(number); !refusal.empty()) return refuse_number(std::move(refusal));
-
-    add(typed_name(HText1[0].text()), number, {});
-    empty_fields();
-    RECIPIENT_COUNT_CAPTION();
-    HText1[0].set_focus();
-    return true;
-}
-
-Text RecipientList::refusal_of(const Text& digits) const {
-    const Text caption(kind_->number.caption);
-    if (digits.empty()) return caption + u"를(을) 입력하여 주십시오!";
-    const platform::TextView fault = fault_of_number(*kind_, digits);
-    return fault.empty() ? Text() : wrong_number(caption, digits, fault);
-}
-
-Text RecipientList::duplicate_text() const {
-    // Deliberately the caption of column 2, the name, though numbers were compared: support knows the box so.
-    return u"이미 동일한 " + ListView1.column(2).caption + u"가 존재합니다.";
-}
-
-bool RecipientList::refuse_number(Text text) {
-    core::warn(platform_.desktop, std::move(text));
-    return_number();
-    return false;
-}
-
-/// Selected, so that the next number replaces it instead of being written in front of it.
-void RecipientList::return_number() {
-    HText1[1].set_focus();
-    HText1[1].select_all();
-}
-
-bool RecipientList::point_at_duplicate(const Text& number) {
-    const auto hit = ListView1.find_in_sub_items(number);
-    if (!hit) return false;
-    ListView1.deselect_item();
-    ListView1.make_visible(*hit);
-    ListView1.select_item(*hit);
-    core::warn(platform_.desktop, duplicate_text());
-    return_number();
-    return true;
 }
 
 void RecipientList::remove_selected() { note_deletion(remove_selected_rows(platform_.desktop, ListView1)); }
@@ -212,25 +140,30 @@ void RecipientList::take_away(const std::function<bool(const ListItem& row)>& pa
 
 void RecipientList::note_deletion(platform::TakenRows rows) {
     if (rows.empty()) return;
+    if (std::ranges::any_of(rows, [this](const auto& row) { return row.second.get() == changed_row_; }))
+        give_up_change();
     deletions_.push_back(std::move(rows));
     mnuUndoDelete.set_enabled(true);
     RECIPIENT_COUNT_CAPTION();
 }
 
-void RecipientList::forget_deletions() {
+void RecipientList::leave_draft() {
+    give_up_change();
     deletions_.clear();
     mnuUndoDelete.set_enabled(false);
 }
 
-/// Who has been listed anew meanwhile does not come back a second time.
+/// Whose number has been listed anew meanwhile does not come back a second time.
 void RecipientList::undo_deletion() {
     if (deletions_.empty()) return;
     platform::TakenRows rows = std::move(deletions_.back());
     deletions_.pop_back();
     mnuUndoDelete.set_enabled(!deletions_.empty());
-    std::erase_if(rows, [this](const auto& row) {
-        return ListView1.find_in_sub_items(row.second->sub_item(RECIPIENT_NUMBER)).has_value();
-    });
+    std::unordered_set<Text> listed;
+    for (std::size_t row = 0; row < ListView1.row_count(); ++row)
+        listed.insert(ListView1.row(row).sub_item(RECIPIENT_NUMBER));
+    std::erase_if(rows,
+                  [&](const auto& row) { return listed.contains(row.second->sub_item(RECIPIENT_NUMBER)); });
     if (rows.empty()) return;
     std::vector<const ListItem*> back;
     for (const auto& [place, row] : rows) back.push_back(row.get());
@@ -251,17 +184,31 @@ void RecipientList::pick_recipients() {
 }
 
 void RecipientList::CHECK_SELECTED_ITEMS(bool checked) {
-    if (ListView1.selected_item()) check_rows(platform::ListView::ManyRows::selected, checked);
+    if (ListView1.selected_item()) check_rows(&ListItem::selected, checked);
 }
 
-void RecipientList::check_rows(platform::ListView::ManyRows which, bool checked) {
+/// A row that is checked already keeps its status. Who is or may be registered is checked after a yes alone:
+/// the message would reach him twice.
+void RecipientList::check_all(bool checked) {
+    std::size_t again = 0;
+    for (std::size_t row = 0; row < ListView1.row_count(); ++row)
+        again += !ListView1.row(row).checked() && may_be_registered(ListView1.row(row));
+    const bool with_them = !checked || again == 0 || ask_to_check_again(platform_.desktop, again);
+    check_rows(
+        [&](const ListItem& row) {
+            return row.checked() != checked && (with_them || !may_be_registered(row));
+        },
+        checked);
+}
+
+void RecipientList::check_rows(const std::function<bool(const ListItem& row)>& passes, bool checked) {
     const std::size_t rows = ListView1.row_count();
     if (rows > LONG_LIST) {
         PBar1.set_value(0);
         PBar1.show();
     }
     for (std::size_t row = 0; row < rows; ++row) {
-        if (which == platform::ListView::ManyRows::all || ListView1.row(row).selected()) {
+        if (passes(ListView1.row(row))) {
             ListView1.set_checked(row, checked);
             if (checked) ListView1.set_sub_item(row, RECIPIENT_STATUS, u"");
         }

@@ -26,6 +26,8 @@ inline constexpr int RECIPIENT_TITLE = 4;
 /// Has no column: which pieces of the text are registered for the recipient (see send/pieces.h). The list's
 /// tag says of which text.
 inline constexpr int RECIPIENT_PIECES = 5;
+/// Begins that tag when the text is a different one for each recipient.
+inline constexpr platform::TextView PERSONAL_TEXT = u"개별:";
 
 using core::NO_NAME;
 
@@ -33,6 +35,8 @@ using core::NO_NAME;
 platform::Text typed_name(platform::TextView name);
 
 /// The recipients: typed, picked from the cards, or handed over by the card manager.
+///
+/// Two files: the list (recipient_list.cpp), and the fields by it (recipient_list_typing.cpp).
 class RecipientList : Room {
   public:
     /// `pick` opens the picker; without one its button and its menu entry are grey.
@@ -41,6 +45,8 @@ class RecipientList : Room {
 
     std::array<platform::TextBox, 2> HText1{platform::TextBox{form_, u"HText1_0"},
                                             platform::TextBox{form_, u"HText1_1"}};
+    /// Stands by the fields while they have a row of the list that the user is changing.
+    platform::Label Changing{form_, u"Changing", u"고치는 중"};
     platform::Label Label2_5{form_, u"Label2_5"};
     platform::CommandButton HBttn1{form_, u"HBttn1", u"추가"};
     platform::CommandButton HBttn2{form_, u"HBttn2", u"삭제"};
@@ -48,10 +54,10 @@ class RecipientList : Room {
     platform::ListView ListView1{form_,
                                  u"ListView1",
                                  {{.caption = u"선택"},
-                                  {.caption = u"이름", .editable = true},
-                                  {.caption = u"문자보낼번호", .shown = core::with_hyphens, .editable = true},
+                                  {.caption = u"이름"},
+                                  {.caption = u"문자보낼번호", .shown = core::with_hyphens},
                                   {.caption = u"상태", .signs = true},
-                                  {.caption = u"직위", .editable = true}},
+                                  {.caption = u"직위"}},
                                  true};
     platform::ProgressBar PBar1{form_, u"PBar1"};
     platform::Label Label4{form_, u"Label4", u"전체> 대상>"};
@@ -61,6 +67,7 @@ class RecipientList : Room {
     platform::Menu mnusubpopup7{form_, u"mnusubpopup7", u"전체선택(&A)"};
     platform::Menu mnusubpopup4{form_, u"mnusubpopup4", u"선택(&S)"};
     platform::Menu mnusubpopup5{form_, u"mnusubpopup5", u"선택취소(&C)"};
+    platform::Menu mnuEditRow{form_, u"mnuEditRow", u"고치기(&E)"};
     platform::Menu mnusubpopup9{form_, u"mnusubpopup9", u"삭제(&D)"};
     platform::Menu mnuUndoDelete{form_, u"mnuUndoDelete", u"삭제 되돌리기(&Z)"};
 
@@ -77,18 +84,14 @@ class RecipientList : Room {
     /// user wants to go back, or when the number is refused.
     bool settle_typed();
 
-    /// Empties the fields in which a recipient is typed.
+    /// Empties the fields in which a recipient is typed; a row that is being changed there stays as it is.
     void empty_fields();
-
-    /// Why the digits cannot be typed as a number for the kind; empty when they can.
-    platform::Text refusal_of(const platform::Text& digits) const;
-    /// What the user reads about a number that is listed already.
-    platform::Text duplicate_text() const;
 
     /// Removes the rows that pass, as the user's deletion that can be undone.
     void take_away(const std::function<bool(const platform::ListItem& row)>& passes);
-    /// From now on no deletion before this can be undone: its rows belong to a draft that is gone or sent.
-    void forget_deletions();
+    /// To be called when the draft goes or is sent: no deletion before this can be undone then, and the row
+    /// that is being changed stays as it is.
+    void leave_draft();
 
     /// Shows how many rows there are and how many are checked.
     void RECIPIENT_COUNT_CAPTION();
@@ -102,15 +105,22 @@ class RecipientList : Room {
     platform::RowMark mark_of(const platform::ListItem& row) const;
     void HText1_KeyPress(std::size_t index, platform::KeyPressed& key);
     bool add_typed();
+    platform::Text refusal_of(const platform::Text& digits) const;
     bool refuse_number(platform::Text text);
     void return_number();
     bool point_at_duplicate(const platform::Text& number);
+    void change_selected();
+    void give_up_change();
+    bool is_as_listed(const platform::Text& number) const;
+    void take_change(const platform::Text& number);
+    void ListView1_KeyPress(platform::KeyPressed& key);
     void remove_selected();
     void note_deletion(platform::TakenRows rows);
     void undo_deletion();
     void pick_recipients();
     void CHECK_SELECTED_ITEMS(bool checked);
-    void check_rows(platform::ListView::ManyRows rows, bool checked);
+    void check_all(bool checked);
+    void check_rows(const std::function<bool(const platform::ListItem& row)>& passes, bool checked);
     void row_checked(std::size_t row);
     void sort_by(int column);
 
@@ -118,6 +128,8 @@ class RecipientList : Room {
     core::AppState& state_;
     std::function<void()> pick_;
     const KindOfMessage* kind_;
+    /// The row that the user is changing in the fields; null while they are for a new one.
+    const platform::ListItem* changed_row_ = nullptr;
     /// What the user has deleted, the last deletion at the end.
     std::vector<platform::TakenRows> deletions_;
 };

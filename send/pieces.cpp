@@ -31,7 +31,7 @@ Text share_of(TextView pieces) {
 Text text_in_pieces(const compose::frmZent& form) {
     if (kind_of(form).kind != compose::MessageKind::text) return {};
     const Text text = platform::right_trim(form.text.mText1.text());
-    if (form.text.Check1.checked() && core::has_placeholder(text)) return u"개별:" + text;
+    if (form.text.Check1.checked() && core::has_placeholder(text)) return Text(compose::PERSONAL_TEXT) + text;
     return core::BYTE_LEN(text) > compose::TEXT_LIMIT ? text : Text();
 }
 

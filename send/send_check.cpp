@@ -207,7 +207,7 @@ void check_and_send(Platform& platform, AppState& state, frmZent& form, drafts::
     form.Timer1.set_enabled(false);
     if (confirmed(platform, state, form, carrier, *recipients, documents) && settle_pieces(platform, form) &&
         drafts.ready_for_job()) {
-        form.recipients.forget_deletions();
+        form.recipients.leave_draft();
         frmZentSend job(platform, state, form, drafts);
         job.load();
         job.set_caption(Text(carrier.name));

@@ -217,20 +217,16 @@ void ListView::go_to(std::size_t row) {
     make_visible(row);
 }
 
-void ListView::edit(std::size_t row, int sub_item) const {
-    if (rows_view_ != nullptr && column(sub_item + 1).editable) rows_view_->edit(row, sub_item);
-}
-
 void ListView::make_visible(std::size_t row) const {
     if (rows_view_ != nullptr) rows_view_->make_visible(row);
 }
 
-std::optional<std::size_t> ListView::find_in_sub_items(TextView beginning) const {
+std::optional<std::size_t> ListView::find_in_sub_items(TextView beginning, const ListItem* besides) const {
     if (!index_) {
         index_.emplace();
         for (std::size_t row = 0; row < rows_.size(); ++row) index_->add(rows_[row]);
     }
-    const ListItem* found = index_->first_row(beginning);
+    const ListItem* found = index_->first_row(beginning, besides);
     if (found == nullptr) return std::nullopt;
     return found->position();
 }

@@ -32,19 +32,10 @@ class RowsView {
     virtual void selection_changed() = 0;
     virtual void columns_changed() = 0;
     virtual void make_visible(std::size_t row) = 0;
-    /// Lets the user change a text of the row where it stands.
-    virtual void edit(std::size_t row, int sub_item) = 0;
 };
 
 /// Rows that have been taken out of a list, in their order, each with the place that it had.
 using TakenRows = std::vector<std::pair<std::size_t, Row>>;
-
-/// A text of a row as the user wants it.
-struct CellEdit {
-    std::size_t row;
-    int sub_item;
-    Text text;
-};
 
 /// A report list: columns, rows with an optional check box, one selected item and any number of selected
 /// rows.
@@ -62,8 +53,6 @@ class ListView : public Control {
         Text (*shown)(TextView text) = nullptr;
         /// Whether the signs of the rows' marks stand here.
         bool signs = false;
-        /// Whether the user may change the texts where they stand.
-        bool editable = false;
         /// Whether the column is the one that matters now.
         bool in_use = false;
     };
@@ -141,14 +130,12 @@ class ListView : public Control {
     /// Selects the row alone and brings it into view.
     void go_to(std::size_t row);
     void make_visible(std::size_t row) const;
-    /// Lets the user change a text of the row where it stands. CellEdited tells what came of it.
-    void edit(std::size_t row, int sub_item) const;
     /// Whether the user sees which rows are selected; he need not where selecting was not his doing.
     bool shows_selection() const { return shows_selection_; }
     void show_selection(bool on) { assign(shows_selection_, on, Aspect::selection); }
 
-    /// The first row with a sub-item that begins with the text.
-    std::optional<std::size_t> find_in_sub_items(TextView beginning) const;
+    /// The first row with a sub-item that begins with the text, other than `besides`.
+    std::optional<std::size_t> find_in_sub_items(TextView beginning, const ListItem* besides = nullptr) const;
 
     /// 0 is the item text.
     int sort_key() const { return sort_key_; }
@@ -177,8 +164,6 @@ class ListView : public Control {
     UserEvent<KeyPressed&> KeyUp{*this};
     UserEvent<MouseButton> MouseUp{*this};
     UserEvent<> DblClick{*this};
-    /// The list shows the text only if a handler sets it.
-    UserEvent<const CellEdit&> CellEdited{*this};
     /// Without a handler nothing can be dropped here.
     UserEvent<const Dropped&> Drop{*this};
     /// The width available for the columns has changed.

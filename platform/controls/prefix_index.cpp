@@ -72,9 +72,9 @@ void PrefixIndex::remove(const ListItem& row, int column) {
     if (!text.empty()) buckets_.at(text.front()).remove(Entry(row, column));
 }
 
-const ListItem* PrefixIndex::first_row(TextView prefix) {
+const ListItem* PrefixIndex::first_row(TextView prefix, const ListItem* besides) {
     const auto found = prefix.empty() ? buckets_.end() : buckets_.find(prefix.front());
-    return found == buckets_.end() ? nullptr : found->second.first_row(Prefix(prefix));
+    return found == buckets_.end() ? nullptr : found->second.first_row(Prefix(prefix), besides);
 }
 
 void PrefixIndex::Bucket::remove(const Entry& entry) {
@@ -89,7 +89,7 @@ void PrefixIndex::Bucket::remove(const Entry& entry) {
     }
 }
 
-const ListItem* PrefixIndex::Bucket::first_row(const Prefix& prefix) {
+const ListItem* PrefixIndex::Bucket::first_row(const Prefix& prefix, const ListItem* besides) {
     sort_waiting();
     if (chunks_.empty()) return nullptr;
     const auto before = [&](const Entry& entry) { return entry.begins_before(prefix); };
@@ -107,7 +107,7 @@ const ListItem* PrefixIndex::Bucket::first_row(const Prefix& prefix) {
         }
         if (!entry->begins_with(prefix)) break;
         const std::size_t position = entry->row->position();
-        if (first == nullptr || position < first_position) {
+        if (entry->row != besides && (first == nullptr || position < first_position)) {
             first = entry->row;
             first_position = position;
         }

@@ -30,9 +30,9 @@ class PrefixIndex {
     /// Removes all sub-items of a row.
     void remove(const ListItem& row);
 
-    /// Of the rows with a sub-item that begins with `prefix`, the one that stands first in the list; null
-    /// when there is none.
-    const ListItem* first_row(TextView prefix);
+    /// Of the rows with a sub-item that begins with `prefix`, other than `besides`, the one that stands first
+    /// in the list; null when there is none.
+    const ListItem* first_row(TextView prefix, const ListItem* besides);
 
   private:
     /// The first characters of a text, padded with zeros; four in each number, the first in the highest bits.
@@ -73,7 +73,7 @@ class PrefixIndex {
       public:
         void add(const Entry& entry) { waiting_.push_back(entry); }
         void remove(const Entry& entry);
-        const ListItem* first_row(const Prefix& prefix);
+        const ListItem* first_row(const Prefix& prefix, const ListItem* besides);
 
       private:
         void sort_waiting();

@@ -17,6 +17,8 @@ using Rows = std::vector<std::string>;
 
 struct RecipientChanges : testing::Test, tests::MainWindow {
     ListView& list = form.recipients.ListView1;
+    platform::TextBox& name = form.recipients.HText1[0];
+    platform::TextBox& number = form.recipients.HText1[1];
 
     void SetUp() override { compose_as(u"홍길동"); }
 
@@ -49,7 +51,7 @@ struct RecipientChanges : testing::Test, tests::MainWindow {
 
 using Pasted = RecipientChanges;
 using Undone = RecipientChanges;
-using Edited = RecipientChanges;
+using Changed = RecipientChanges;
 using AfterAJob = RecipientChanges;
 
 TEST_F(Pasted, LinesBecomeRowsAndTheOthersCanBeCorrectedAndTriedAgain) {
@@ -133,41 +135,111 @@ TEST_F(Undone, EachDeletionGivesItsRowsBackWhereTheyWere) {
     ASSERT_TRUE(form.recipients.add(u"마", u"01000000004", u""));
     form.recipients.mnuUndoDelete.Click.raise();
     EXPECT_EQ(list.row_count(), 4u) << "nobody is listed twice";
+
+    remove(3);
+    add(u"바", u"0100000000456");
+    form.recipients.mnuUndoDelete.Click.raise();
+    EXPECT_EQ(list.row_count(), 5u) << "a longer number is another one";
     EXPECT_FALSE(form.recipients.mnuUndoDelete.enabled());
 
     remove(1);
-    form.recipients.forget_deletions();
+    form.recipients.leave_draft();
     EXPECT_FALSE(form.recipients.mnuUndoDelete.enabled());
 }
 
-TEST_F(Edited, ARowTakesWhatCouldBeTypedAndKeepsWhatItHadOtherwise) {
-    add(u"가", u"01011112222", u"등록성공");
-    add(u"나", u"01033334444");
+TEST_F(Changed, ARowTakesInItsPlaceWhatCouldBeTypedAndKeepsWhatItHadOtherwise) {
     const std::string wrong =
         "문자보낼번호 '0101234' 오류입니다.\r\n\r\n(동일 통화지역도 만드시 지역번호(DDD)를 입력하여 "
         "주십시오.)";
+    const std::string listed = "이미 동일한 이름가 존재합니다.";
+    const std::string before = "홍 길동/01011112222/2/3 등록/부장/ #1#2#/3";
     const struct {
-        int sub_item;
-        const char16_t* text;
-        std::string box;
-        std::string row;
-    } edits[] = {
-        {RECIPIENT_NAME, u"홍 길:동", "", "홍길동/01011112222/등록성공/부장/"},
-        {RECIPIENT_NAME, u" ", "", "이름없음/01011112222/등록성공/부장/"},
-        {RECIPIENT_TITLE, u" 이사 ", "", "이름없음/01011112222/등록성공/이사/"},
-        {RECIPIENT_NUMBER, u"010-1111-2222", "", "이름없음/01011112222/등록성공/이사/"},
-        {RECIPIENT_NUMBER, u"010-1234", wrong, "이름없음/01011112222/등록성공/이사/"},
-        {RECIPIENT_NUMBER, u"010-3333-4444", "이미 동일한 이름가 존재합니다.",
-         "이름없음/01011112222/등록성공/이사/"},
-        {RECIPIENT_NUMBER, u"", "문자보낼번호를(을) 입력하여 주십시오!",
-         "이름없음/01011112222/등록성공/이사/"},
-        {RECIPIENT_NUMBER, u"010-5555-6666", "", "이름없음/01055556666//이사/"},
+        const char16_t *name, *number, *tag;
+        std::string box, row;
+    } changes[] = {
+        {u"홍 길동", u"010-1111-2222", u"개별:{이름}", "", before},
+        {u"김:유 신", u"01011112222", u"긴 메시지", "", "김유신/01011112222/2/3 등록/부장/ #1#2#/3"},
+        {u"김유신", u"01011112222", u"개별:{이름}", "", "김유신/01011112222//부장/ "},
+        {u" ", u"010-5555-6666", u"긴 메시지", "", "이름없음/01055556666//부장/ "},
+        {u"홍 길동", u"010-5555-6666", u"긴 메시지", "", "홍 길동/01055556666//부장/ "},
+        {u"김", u"010-1234", u"", wrong, before},
+        {u"김", u"", u"", "문자보낼번호를(을) 입력하여 주십시오!", before},
+        {u"김", u"0103333", u"", listed, before},
+        {u"김", u"010-3333-4444", u"", listed, before},
+        {u"김", u"0101111", u"", "문자보낼번호 '0101111'" + wrong.substr(wrong.find(" 오류")), before},
     };
-    for (const auto& edit : edits) {
-        if (!edit.box.empty()) desktop.expect_box(tests::refusal(platform::from_utf8(edit.box)));
-        list.CellEdited.raise({0, edit.sub_item, edit.text});
-        EXPECT_EQ(rows()[0], "*" + edit.row);
+    for (const auto& change : changes) {
+        SCOPED_TRACE(utf8(change.name) + "/" + utf8(change.number));
+        list.clear();
+        add(u"나", u"01033334444");
+        add(u"홍 길동", u"01011112222", u"2/3 등록");
+        list.set_sub_item(1, RECIPIENT_PIECES, u"#1#2#/3");
+        list.set_tag(change.tag);
+        list.select_item(1);
+        form.recipients.mnuEditRow.Click.raise();
+        EXPECT_EQ(utf8(name.text() + u"/" + number.text()), "홍 길동/01011112222");
+        EXPECT_TRUE(name.has_focus() && name.selection_length() == 4 && form.recipients.Changing.visible());
+        name.set_text(change.name);
+        number.set_text(change.number);
+        if (!change.box.empty()) desktop.expect_box(tests::refusal(platform::from_utf8(change.box)));
+        tests::press(number, u'\r');
+        EXPECT_EQ(rows()[1].substr(rows()[1].find_first_not_of("*!")) + " " +
+                      utf8(list.row(1).sub_item(RECIPIENT_PIECES)),
+                  change.row);
+        EXPECT_EQ(form.recipients.Changing.visible(), !change.box.empty());
+        EXPECT_TRUE(!change.box.empty() || (list.has_focus() && list.selected_item() == 1u));
+        form.recipients.empty_fields();
+        EXPECT_EQ(list.row_count(), 2u);
     }
+}
+
+TEST_F(Changed, TheChangeIsGivenUpWhenTheDraftOrTheRowGoesOnWithoutIt) {
+    const std::vector<std::function<void()>> ends = {
+        [&] { form.escape_pressed(); },
+        [&] { form.choose(MessageKind::plus); },
+        [&] { form.recipients.leave_draft(); },
+        [&] {
+            desktop.expect_box(tests::DELETE_ROWS, BoxAnswer::yes);
+            form.recipients.HBttn2.Click.raise();
+        },
+    };
+    const std::vector<std::function<void()>> ways = {
+        [&] {
+            platform::KeyPressed enter{platform::KEY_ENTER};
+            list.KeyPress.raise(enter);
+            EXPECT_TRUE(enter.swallowed()) << "or it would press the window's default button";
+        },
+        [&] { list.DblClick.raise(); },
+    };
+    for (std::size_t i = 0; i < ends.size(); ++i) {
+        list.clear();
+        add(u"가", u"01011112222");
+        list.select_item(0);
+        ways[i % ways.size()]();
+        name.set_text(u"나");
+        ends[i]();
+        EXPECT_TRUE(name.text().empty() && number.text().empty() && !form.recipients.Changing.visible()) << i;
+        name.set_text(u"다");
+        number.set_text(u"01055556666");
+        form.recipients.HBttn1.Click.raise();
+        EXPECT_EQ(rows().back(), "*!다/01055556666///") << "the fields are for a new one";
+    }
+}
+
+TEST_F(Changed, BeforeAJobOnlyAChangeThatWasBegunIsAskedAbout) {
+    add(u"가", u"01011112222");
+    list.select_item(0);
+    form.recipients.mnuEditRow.Click.raise();
+    EXPECT_TRUE(form.recipients.settle_typed());
+    name.set_text(u"나");
+    desktop.expect_box({.text = u"고치기만 하고 목록에 반영하지 않은 받는사람이 있습니다.\r\n\r\n나 "
+                                u"01011112222\r\n\r\n이대로 고치고 보내시겠습니까?",
+                        .icon = platform::BoxIcon::question,
+                        .buttons = platform::BoxButtons::yes_no_cancel,
+                        .default_answer = BoxAnswer::yes},
+                       BoxAnswer::yes);
+    EXPECT_TRUE(form.recipients.settle_typed());
+    EXPECT_EQ(rows(), (Rows{"*!나/01011112222//부장/"}));
 }
 
 TEST_F(AfterAJob, TheFailedRowsAreFoundCopiedAndTheDoneOnesTakenAway) {

@@ -184,12 +184,30 @@ TEST_F(Checking, ProgressShowsAboveFiveHundredRowsOnly) {
     EXPECT_FALSE(form.recipients.PBar1.visible());
 }
 
-TEST_F(Checking, TheBoxInTheHeaderChecksEveryRow) {
+TEST_F(Checking, TheBoxInTheHeaderChecksWhoIsRegisteredAfterAYesAlone) {
+    const auto check_all = [&] {
+        form.recipients.ListView1.user_check_many(platform::ListView::ManyRows::all, true);
+    };
+    const platform::MessageBox question{
+        .text =
+            u"이미 등록되었거나(등록성공) 등록되었을 수 있는(확인필요) 받는사람이 2명 있습니다.\r\n\r\n이 "
+            u"받는사람에게도 다시 보내도록 선택하시겠습니까?\r\n\r\n[아니오]를 선택하시면 나머지 "
+            u"받는사람만 선택합니다.",
+        .icon = platform::BoxIcon::question,
+        .title = u"선택 확인",
+        .buttons = platform::BoxButtons::yes_no,
+        .default_answer = BoxAnswer::no};
     add(u"가", u"010", u"등록성공", false);
     add(u"나", u"011", u"등록실패", true);
-    form.recipients.ListView1.user_check_many(platform::ListView::ManyRows::all, true);
-    EXPECT_EQ(rows(), (Rows{"*가 010", "*나 011"}));
-    EXPECT_EQ(counts(), "전체>2>대상>2");
+    add(u"다", u"012", u"등록실패", false);
+    add(u"라", u"013", u"확인필요", false);
+    desktop.expect_box(question, BoxAnswer::no);
+    check_all();
+    EXPECT_EQ(rows(), (Rows{"가 010 등록성공", "*나 011 등록실패", "*다 012", "라 013 확인필요"}));
+    EXPECT_EQ(counts(), "전체>4>대상>2");
+    desktop.expect_box(question, BoxAnswer::yes);
+    check_all();
+    EXPECT_EQ(rows(), (Rows{"*가 010", "*나 011 등록실패", "*다 012", "*라 013"}));
 }
 
 TEST_F(Recipients, ARowIsMarkedByItsStatusAndOtherwiseByWhetherTheKindReachesIt) {

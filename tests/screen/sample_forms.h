@@ -36,7 +36,7 @@ class frmSample : public platform::Form {
     platform::ListView ListView1{
         *this,
         u"ListView1",
-        {{.caption = u"선택"}, {.caption = u"이름"}, {.caption = u"번호", .signs = true, .editable = true}},
+        {{.caption = u"선택"}, {.caption = u"이름"}, {.caption = u"번호", .signs = true}},
         true};
     platform::ProgressBar PBar1{*this, u"PBar1"};
     platform::CommandButton Command1{*this, u"Command1", u"보내기(&S)"};

@@ -94,11 +94,6 @@ void ListRows::make_visible(std::size_t row) {
     gather();
 }
 
-void ListRows::edit(std::size_t row, int sub_item) {
-    bring_up_to_date();
-    view_.edit(model_.index(static_cast<int>(row), sub_item));
-}
-
 void ListRows::gather() {
     if (gathering_) return;
     gathering_ = true;

@@ -37,7 +37,6 @@ class ListRows : public QObject, public platform::RowsView {
     void selection_changed() override;
     void columns_changed() override;
     void make_visible(std::size_t row) override;
-    void edit(std::size_t row, int sub_item) override;
 
   private:
     void gather();

@@ -5,7 +5,6 @@
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/widgets/marked_cell.h"
 
-#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QHeaderView>
@@ -30,7 +29,7 @@ void set_up(QTreeView& view) {
     view.setSelectionBehavior(QAbstractItemView::SelectRows);
     view.setSelectionMode(view.property("singleSelection").toBool() ? QAbstractItemView::SingleSelection
                                                                     : QAbstractItemView::ExtendedSelection);
-    view.setEditTriggers(QAbstractItemView::DoubleClicked);
+    view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.header()->setSectionsClickable(true);
     view.header()->setSectionsMovable(false);
     view.setItemDelegate(new MarkedCell(&view));
@@ -80,13 +79,9 @@ ListViewBinder::ListViewBinder(BoundForm& bound, platform::ListView& control, QT
     });
     connect(view.header(), &QHeaderView::sectionClicked, this,
             [this](int section) { act([&] { this->control().ColumnClick.raise(section + 1); }); });
-    // The box that refuses a text must not stand while Qt takes the text out of its field.
-    connect(
-        &rows_.model(), &ListViewModel::edited_by_user, this,
-        [this](const platform::CellEdit& edit) { act([&] { this->control().CellEdited.raise(edit); }); },
-        Qt::QueuedConnection);
+    // Two quick clicks on a row's box are just that.
     connect(&view, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
-        if (!(index.flags() & Qt::ItemIsEditable)) act([this] { this->control().DblClick.raise(); });
+        if (!(index.flags() & Qt::ItemIsUserCheckable)) act([this] { this->control().DblClick.raise(); });
     });
 }
 
@@ -107,8 +102,6 @@ bool ListViewBinder::filter(QObject& object, QEvent& event) {
     if (&object == widget().header()->viewport()) return click_header(event);
     switch (event.type()) {
         case QEvent::KeyPress:
-            // What a field in a cell leaves of its keys, such as the Enter that ends it, is not for the list.
-            if (is_editing()) return true;
             rows_.bring_up_to_date();
             return press_key(static_cast<QKeyEvent&>(event));
         case QEvent::KeyRelease:
@@ -162,7 +155,7 @@ bool ListViewBinder::press_key(QKeyEvent& event) {
     } else if (KeyPressed key{key_code(event)}; !key.swallowed()) {
         const bool is_enter = key.code == platform::KEY_ENTER;
         control().KeyPress.raise(key);
-        if (is_enter && !key.swallowed() && !edit_current_row()) event.ignore();
+        if (is_enter && !key.swallowed()) event.ignore();
     } else {
         event.ignore();
     }
@@ -190,23 +183,6 @@ void ListViewBinder::toggle_check() {
     }
 }
 
-bool ListViewBinder::is_editing() const {
-    const QWidget* focus = QApplication::focusWidget();
-    return focus != nullptr && focus != &widget() && widget().isAncestorOf(focus);
-}
-
-/// False in a list whose texts stay as they are.
-bool ListViewBinder::edit_current_row() {
-    const QModelIndex current = widget().currentIndex();
-    for (int column = 0; column < control().column_count(); ++column) {
-        const QModelIndex cell = current.siblingAtColumn(column);
-        if (!(cell.flags() & Qt::ItemIsEditable)) continue;
-        widget().edit(cell);
-        return true;
-    }
-    return false;
-}
-
 bool ListViewBinder::take_drag(QDropEvent& event) {
     if (!control().Drop.connected()) return false;
     answer_drag(event, control().takes_input());
@@ -221,16 +197,15 @@ bool ListViewBinder::take_drop(QDropEvent& event) {
 }
 
 /// A click on the box in the header checks or unchecks all rows. The header, which would sort, gets no part
-/// of it.
+/// of it. The handlers may ask the user something, so the click is over before they run.
 bool ListViewBinder::click_header(const QEvent& event) {
     const bool press =
         event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
     if (!press && event.type() != QEvent::MouseButtonRelease) return false;
     const auto& click = static_cast<const QMouseEvent&>(event);
     if (click.button() != Qt::LeftButton) return false;
-    if (!press) return std::exchange(header_box_pressed_, false);
-    if (!is_on_header_box(*widget().header(), click.position().toPoint())) return false;
-    header_box_pressed_ = true;
+    if (press) return header_box_pressed_ = is_on_header_box(*widget().header(), click.position().toPoint());
+    if (!std::exchange(header_box_pressed_, false)) return false;
     rows_.bring_up_to_date();
     const bool checked = rows_.model().checked_rows() != Qt::Checked;
     act([&] { control().user_check_many(platform::ListView::ManyRows::all, checked); });

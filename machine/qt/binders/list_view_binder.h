@@ -27,8 +27,6 @@ class ListViewBinder : public BinderOf<platform::ListView, QTreeView, ItemViewBi
     bool press_key(QKeyEvent& event);
     void release_key(const QKeyEvent& event);
     void toggle_check();
-    bool is_editing() const;
-    bool edit_current_row();
     bool take_drag(QDropEvent& event);
     bool take_drop(QDropEvent& event);
     bool click_header(const QEvent& event);

@@ -28,7 +28,6 @@ QVariant ListViewModel::data(const QModelIndex& index, int role) const {
         const platform::Text& text = row.sub_item(index.column());
         return to_qstring(column.shown == nullptr ? text : column.shown(text));
     }
-    if (role == Qt::EditRole) return to_qstring(row.sub_item(index.column()));
     if (role == MARK_ROLE) return static_cast<int>(row.mark());
     if (role == SIGN_ROLE) return column.signs;
     if (role == Qt::DecorationRole && index.column() == 0) return picture(row);
@@ -44,15 +43,8 @@ QVariant ListViewModel::picture(const ListItem& row) const {
 }
 
 bool ListViewModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-    if (list_ == nullptr || !index.isValid()) return false;
-    const auto row = static_cast<std::size_t>(index.row());
-    if (role == Qt::CheckStateRole && index.column() == 0) {
-        emit checked_by_user(row, value.toInt() == Qt::Checked);
-    } else if (role == Qt::EditRole && value != data(index, role)) {
-        emit edited_by_user({row, index.column(), to_text(value.toString())});
-    } else {
-        return false;
-    }
+    if (list_ == nullptr || role != Qt::CheckStateRole || index.column() != 0) return false;
+    emit checked_by_user(static_cast<std::size_t>(index.row()), value.toInt() == Qt::Checked);
     return true;
 }
 
@@ -85,7 +77,6 @@ Qt::CheckState ListViewModel::checked_rows() const {
 Qt::ItemFlags ListViewModel::flags(const QModelIndex& index) const {
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
     if (list_ != nullptr && list_->check_boxes() && index.column() == 0) flags |= Qt::ItemIsUserCheckable;
-    if (list_ != nullptr && list_->column(index.column() + 1).editable) flags |= Qt::ItemIsEditable;
     return flags;
 }
 

@@ -47,7 +47,6 @@ class ListViewModel : public QAbstractTableModel {
   signals:
     /// The user changed the row's check box.
     void checked_by_user(std::size_t row, bool checked);
-    void edited_by_user(const platform::CellEdit& edit);
 
   private:
     int rows_of_list() const { return static_cast<int>(list_->row_count()); }
