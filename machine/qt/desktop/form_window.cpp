@@ -29,20 +29,19 @@ WindowState state_of(const QWidget& window) {
     return window.isMaximized() ? WindowState::maximised : WindowState::normal;
 }
 
-/// The place moved and cut so that the window and its frame lie in the work area of the screen under its
+/// The place moved and cut so that the window and its title lie in the work area of the screen under its
 /// middle: one kept on a larger screen or at another scale could not be reached.
 QRect in_work_area(const QWidget& window, QRect place) {
     const QScreen* screen = QGuiApplication::screenAt(place.center());
     if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-    const int edge = window.style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
     const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
     const QRect area = screen->availableGeometry();
-    place.setSize(place.size().boundedTo(area.size() - QSize(2 * edge, title + edge)));
+    place.setSize(place.size().boundedTo(area.size() - QSize(0, title)));
     const auto moved = [](int start, int size, int first, int room) {
         return std::max(std::min(start, first + room - size), first);
     };
-    place.moveTo(moved(place.left(), place.width() + 2 * edge, area.left(), area.width()),
-                 moved(place.top(), place.height() + title + edge, area.top(), area.height()));
+    place.moveTo(moved(place.left(), place.width(), area.left(), area.width()),
+                 moved(place.top(), place.height() + title, area.top(), area.height()));
     return place;
 }
 
