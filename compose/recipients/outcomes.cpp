@@ -14,9 +14,11 @@ using platform::Text;
 
 namespace {
 
-bool has_failed(const ListItem& row) { return row.mark() == platform::RowMark::failed; }
+bool has_failed(const ListItem& row) { return outcome_of(row.sub_item(RECIPIENT_STATUS)) == Outcome::failed; }
 
-bool is_done(const ListItem& row) { return row.mark() == platform::RowMark::done; }
+bool is_done(const ListItem& row) {
+    return outcome_of(row.sub_item(RECIPIENT_STATUS)) == Outcome::registered;
+}
 
 std::size_t count(const ListView& list, bool (*passes)(const ListItem&)) {
     std::size_t rows = 0;

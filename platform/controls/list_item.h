@@ -37,7 +37,6 @@ class ListItem {
     int small_icon() const { return small_icon_; }
     bool checked() const { return checked_; }
     bool selected() const { return selected_; }
-    RowMark mark() const { return mark_; }
     /// Position in the list, counted from 0.
     std::size_t position() const;
 
@@ -53,7 +52,6 @@ class ListItem {
     int small_icon_ = 0;
     bool checked_ = false;
     bool selected_ = false;
-    RowMark mark_ = RowMark::none;
 };
 
 }  // namespace platform

@@ -35,7 +35,6 @@ std::size_t ListView::add_row(Text text, std::vector<Text> sub_items, bool check
     added->checked_ = checked;
     if (checked) ++checked_count_;
     if (index_) index_->add(*added);
-    mark(*added);
     if (sorted_ && !filling_) added->sort_text_ = lower_case(added->sub_item(sort_key_));
     const bool at_end = !sorted_ || held_ || filling_;
     const std::size_t place = at_end ? rows_.size() : place_of(added->sort_text_);
@@ -105,7 +104,6 @@ void ListView::leave_out(ListItem& row) {
 void ListView::take_in(ListItem& row) {
     if (row.checked()) ++checked_count_;
     if (index_) index_->add(row);
-    mark(row);
 }
 
 void ListView::clear() {
@@ -138,7 +136,6 @@ void ListView::set_sub_item(std::size_t row, int sub_item, Text text) {
     if (index_) index_->remove(changed, sub_item);
     changed.sub_items_[static_cast<std::size_t>(sub_item - 1)] = std::move(text);
     if (index_) index_->add(changed, sub_item);
-    mark(changed);
     if (rows_view_ != nullptr) rows_view_->row_changed(row);
 }
 
@@ -166,15 +163,13 @@ void ListView::use_column(int number, Text (*shown)(TextView text)) {
 
 void ListView::set_marking(Marking marking) {
     marking_ = std::move(marking);
-    for (std::size_t row = 0; row < rows_.size(); ++row) {
-        const RowMark before = item(row).mark_;
-        mark(item(row));
-        if (item(row).mark_ != before && rows_view_ != nullptr) rows_view_->row_changed(row);
-    }
+    if (rows_view_ == nullptr || rows_.size() == 0) return;
+    rows_view_->row_changed(0);
+    rows_view_->row_changed(rows_.size() - 1);
 }
 
-void ListView::mark(ListItem& row) const {
-    if (marking_.mark_of) row.mark_ = marking_.mark_of(row);
+RowMark ListView::mark(std::size_t row) const {
+    return marking_.mark_of ? marking_.mark_of(rows_[row]) : RowMark::none;
 }
 
 Text ListView::mark_reason(std::size_t row) const {

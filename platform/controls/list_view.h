@@ -114,8 +114,10 @@ class ListView : public Control {
     void set_checked(std::size_t row, bool checked);
     std::size_t checked_count() const { return checked_count_; }
 
-    /// Marks all rows, and from then on every row whose texts change.
+    /// Says from now on how the rows are marked.
     void set_marking(Marking marking);
+    /// Found out each time it is asked for, because only the rows on the screen are.
+    RowMark mark(std::size_t row) const;
     /// What the user reads about the row's mark.
     Text mark_reason(std::size_t row) const;
 
@@ -178,7 +180,6 @@ class ListView : public Control {
     bool stands_before(const Text& sort_text, const Text& other) const;
     std::size_t place_of(const Text& sort_text) const;
     void insert(std::size_t place, Row row);
-    void mark(ListItem& row) const;
     void leave_out(ListItem& row);
     void take_in(ListItem& row);
 

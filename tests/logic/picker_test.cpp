@@ -58,8 +58,8 @@ TEST_F(Picker, SaysHowManyRowsBecameRecipients) {
              {.name = u"다", .cellphone = u"010-1111-2222"}};
     pick(TEXT, [&](frmSendMan& picker) {
         EXPECT_EQ(utf8(picker.Counts.caption()), "전체 2명 · 목록 3명 · 선택 0명");
-        EXPECT_EQ(picker.ListView2.row(0).mark(), platform::RowMark::none);
-        EXPECT_EQ(picker.ListView2.row(1).mark(), platform::RowMark::unusable);
+        EXPECT_EQ(picker.ListView2.mark(0), platform::RowMark::none);
+        EXPECT_EQ(picker.ListView2.mark(1), platform::RowMark::unusable);
         EXPECT_TRUE(picker.ListView2.column(4).in_use);
         EXPECT_EQ(utf8(picker.ListView2.column(4).shown(u"없음")), "번호 없음");
         platform::KeyPressed ctrl_a{platform::KEY_CTRL_A};
@@ -72,7 +72,7 @@ TEST_F(Picker, SaysHowManyRowsBecameRecipients) {
         picker.Combo2.user_choose(1);
         EXPECT_TRUE(picker.ListView2.column(4).in_use) << "the company's number";
         EXPECT_FALSE(picker.ListView2.column(3).in_use);
-        EXPECT_EQ(picker.ListView2.row(0).mark(), platform::RowMark::unusable) << "a mobile number alone";
+        EXPECT_EQ(picker.ListView2.mark(0), platform::RowMark::unusable) << "a mobile number alone";
     });
 }
 

@@ -225,11 +225,11 @@ TEST_F(Recipients, ARowIsMarkedByItsStatusAndOtherwiseByWhetherTheKindReachesIt)
     platform::ListView& list = form.recipients.ListView1;
     for (const auto& person : people) add(u"가", person.number, person.status);
     for (std::size_t row = 0; row < std::size(people); ++row)
-        EXPECT_EQ(list.row(row).mark(), people[row].as_text) << row;
+        EXPECT_EQ(list.mark(row), people[row].as_text) << row;
     EXPECT_EQ(utf8(list.mark_reason(1)), TEXT_ONLY);
     form.choose(compose::MessageKind::fax);
     for (std::size_t row = 0; row < std::size(people); ++row)
-        EXPECT_EQ(list.row(row).mark(), people[row].as_fax) << row;
+        EXPECT_EQ(list.mark(row), people[row].as_fax) << row;
     EXPECT_EQ(utf8(list.mark_reason(0)), NO_FAX);
     EXPECT_EQ(utf8(list.mark_reason(3)), "");
 }

@@ -28,7 +28,7 @@ QVariant ListViewModel::data(const QModelIndex& index, int role) const {
         const platform::Text& text = row.sub_item(index.column());
         return to_qstring(column.shown == nullptr ? text : column.shown(text));
     }
-    if (role == MARK_ROLE) return static_cast<int>(row.mark());
+    if (role == MARK_ROLE) return static_cast<int>(list_->mark(static_cast<std::size_t>(index.row())));
     if (role == SIGN_ROLE) return column.signs;
     if (role == Qt::DecorationRole && index.column() == 0) return picture(row);
     if (role == Qt::CheckStateRole && index.column() == 0 && list_->check_boxes()) {
