@@ -17,6 +17,8 @@ namespace {
 
 /// Input of the user does not interrupt the filling of the list before this many rows.
 constexpr std::size_t FILLED_ANYHOW = 200;
+/// Looking at the clock for each row takes longer than a fifth of the rows' own time.
+constexpr std::size_t ROWS_BETWEEN_LOOKS = 20;
 /// A list of up to this many records is filled without showing progress.
 constexpr int QUICK_LIST = 100;
 
@@ -81,6 +83,9 @@ void frmSendMan::CARD_LIST_FILL(platform::CardRecordset& recordset) {
     platform_.desktop.set_pointer(platform::Pointer::hourglass);
     const int records = recordset.record_count();
     if (records > QUICK_LIST) show_progress();
+    sub_item_fields_.clear();
+    for (int column = 2; column <= ListView2.column_count(); ++column)
+        sub_item_fields_.push_back(field_of(ListView2.column(column).caption));
     fill_with(recordset, records);
     LISTVIEW2HDR_RESET();
     PICK_STATUS_SHOW();
@@ -91,11 +96,14 @@ void frmSendMan::fill_with(platform::CardRecordset& recordset, int records) {
     const platform::FilledList filling(ListView2);
     const auto user = platform_.desktop.watch_input();
     for (; !recordset.end_of_file(); recordset.move_next()) {
-        // Deliberately silent: a user who goes on working does not wait for the rest of a long list.
-        if (ListView2.row_count() > FILLED_ANYHOW && user->input_waits()) break;
+        const std::size_t rows = ListView2.row_count();
+        if (rows % ROWS_BETWEEN_LOOKS == 1) {
+            // Deliberately silent: a user who goes on working does not wait for the rest of a long list.
+            if (rows > FILLED_ANYHOW && user->input_waits()) break;
+            PBar1.set_progress(rows, static_cast<std::size_t>(records));
+            platform_.desktop.paint();
+        }
         LISTVIEW2_ADD(recordset);
-        PBar1.set_progress(ListView2.row_count(), static_cast<std::size_t>(records));
-        platform_.desktop.paint();
     }
 }
 
@@ -106,11 +114,8 @@ void frmSendMan::LISTVIEW2_ADD(const platform::CardRecordset& TemTable) {
         return text;
     };
     std::vector<Text> sub_items;
-    sub_items.reserve(static_cast<std::size_t>(ListView2.column_count()));
-    for (int column = 2; column <= ListView2.column_count(); ++column) {
-        const TextView field = field_of(ListView2.column(column).caption);
-        sub_items.push_back(field.empty() ? Text() : read(field));
-    }
+    sub_items.reserve(sub_item_fields_.size());
+    for (const TextView field : sub_item_fields_) sub_items.push_back(field.empty() ? Text() : read(field));
     ListView2.add_row(read(u"fullname"), std::move(sub_items));
 }
 

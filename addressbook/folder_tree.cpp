@@ -6,8 +6,8 @@
 #include "platform/error.h"
 #include "platform/text/number.h"
 
+#include <cstdint>
 #include <exception>
-#include <random>
 
 namespace addressbook {
 
@@ -64,11 +64,11 @@ void frmSendMan::connect_folders() {
 Text frmSendMan::CreateGUID() {
     Text guid;
     try {
-        std::random_device device;
-        for (int byte = 0; byte < 16; ++byte) {
+        if (!guids_) guids_.emplace();
+        for (int word = 0; word < 4; ++word) {
             constexpr TextView DIGITS = u"0123456789ABCDEF";
-            const unsigned value = device() & 0xFF;
-            guid += {DIGITS[value / 16], DIGITS[value % 16]};
+            const std::uint32_t bits = (*guids_)();
+            for (int shift = 28; shift >= 0; shift -= 4) guid += DIGITS[bits >> shift & 0xF];
         }
     } catch (const std::exception&) {
         platform_.desktop.message_box({.text = u"Error While creating GUID!"});

@@ -14,7 +14,9 @@
 
 #include <array>
 #include <optional>
+#include <random>
 #include <unordered_map>
+#include <vector>
 
 namespace addressbook {
 
@@ -72,7 +74,7 @@ class frmSendMan : public platform::Form {
     /// Replaces the list's rows by those of the recordset; stops early when the user goes on working.
     void CARD_LIST_FILL(platform::CardRecordset& recordset);
     void fill_with(platform::CardRecordset& recordset, int records);
-    /// Adds the current record.
+    /// Adds the current record while the list is filled.
     void LISTVIEW2_ADD(const platform::CardRecordset& TemTable);
     /// Gives all columns the same width.
     void LISTVIEW2HDR_RESET();
@@ -140,8 +142,12 @@ class frmSendMan : public platform::Form {
     bool activated_ = false;
     /// The row that was selected because it begins with what is in the search field.
     std::optional<std::size_t> typed_row_;
+    /// The fields behind the list's columns from the second on; empty where a column stays empty.
+    std::vector<platform::TextView> sub_item_fields_;
     /// The cards that the last Group_Recount found.
     std::int32_t total_ = 0;
+    /// Where CreateGUID takes its bits from; opened once, because opening takes longer than the bits.
+    std::optional<std::random_device> guids_;
     /// The first node of each number, as T_INDEX finds it.
     std::unordered_map<double, const platform::TreeNode*> first_folder_;
 };
