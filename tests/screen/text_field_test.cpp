@@ -107,9 +107,13 @@ TEST_F(TextFieldTest, APasteIsPlainTextAndOneChangeWithoutAKeyPress) {
     EXPECT_TRUE(codes.empty());
 
     form.HText1.set_focus();
-    find<QLineEdit>("HText1_0").paste();
+    auto& line = find<QLineEdit>("HText1_0");
+    QTest::keyClick(&line, Qt::Key_V, Qt::ControlModifier);
     settle();
     EXPECT_EQ(form.HText1.text(), u"가나다라") << "one line has no line ends";
+    QTest::keyClick(&line, Qt::Key_Z, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(form.HText1.text(), u"") << "and none comes back when the paste is taken back";
 }
 
 TEST_F(TextFieldTest, LinesThatAFieldOfOneLineHasAHandlerForNeverEnterIt) {

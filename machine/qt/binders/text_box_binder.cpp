@@ -20,6 +20,12 @@ using platform::KeyPressed;
 using platform::Text;
 using platform::TextBox;
 
+namespace {
+
+QString one_line(const QString& text) { return to_lines(text).remove(u'\n'); }
+
+}  // namespace
+
 TextBoxBinder::TextBoxBinder(BoundForm& bound, TextBox& control, QWidget& widget)
     : BinderOf(bound, control, widget) {
     if (control.text_colour()) show_colour();
@@ -130,7 +136,7 @@ LineBinder::LineBinder(BoundForm& bound, TextBox& control, QLineEdit& edit) : Bi
 }
 
 bool LineBinder::filter(QObject&, QEvent& event) {
-    if (control().LinesPasted.connected() && divert_lines(event)) return true;
+    if (divert_lines(event)) return true;
     if (event.type() == QEvent::KeyPress) {
         KeyPressed key{moving_key_code(static_cast<const QKeyEvent&>(event))};
         if (key.code == platform::KEY_UP || key.code == platform::KEY_DOWN) control().KeyDown.raise(key);
@@ -143,30 +149,37 @@ bool LineBinder::filter(QObject&, QEvent& event) {
         });
 }
 
-/// Whether the field must not see the event. It would cut a long list short, and bring it back when the user
-/// takes back what he typed.
+/// Whether the field must not see the event: it would take lines in as they are, cut a long list short, and
+/// bring the line ends back when the user takes back what he pasted.
 bool LineBinder::divert_lines(QEvent& event) {
     if (event.type() == QEvent::ContextMenu) {
-        const auto paste = [this] {
-            if (is_live() && !take_lines(text_to_paste())) widget().paste();
-        };
-        open_menu(widget(), static_cast<QContextMenuEvent&>(event).globalPos(), paste);
+        open_menu(widget(), static_cast<QContextMenuEvent&>(event).globalPos(), [this] {
+            if (is_live()) insert(text_to_paste());
+        });
         return true;
     }
-    if (!take_lines(text_to_insert(event))) return false;
+    const QString text = text_to_insert(event);
+    if (widget().isReadOnly() || (text == one_line(text) && !is_table(text))) return false;
     if (event.type() == QEvent::Drop) {
-        answer_drag(static_cast<QDropEvent&>(event), true);
+        auto& drop = static_cast<QDropEvent&>(event);
+        answer_drag(drop, true);
         // The field has shown a caret where the text would go.
         QDragLeaveEvent over;
         static_cast<QObject&>(widget()).event(&over);
+        widget().setCursorPosition(widget().cursorPositionAt(drop.position().toPoint()));
     }
+    insert(text);
     event.accept();
     return true;
 }
 
+void LineBinder::insert(const QString& text) {
+    if (!take_lines(text)) widget().insert(one_line(text));
+}
+
 bool LineBinder::take_lines(const QString& text) {
     const QString lines = to_lines(text);
-    if (!is_table(lines)) return false;
+    if (!control().LinesPasted.connected() || !is_table(lines)) return false;
     // The handler may open a window, for which the field must have done its work.
     QMetaObject::invokeMethod(
         this,
@@ -177,9 +190,8 @@ bool LineBinder::take_lines(const QString& text) {
     return true;
 }
 
-/// What comes into the field may contain line ends, which do not belong in one line.
+/// A text of the program's may contain line ends, which do not stay when it is edited.
 void LineBinder::join_lines() {
-    const auto one_line = [](const QString& text) { return to_lines(text).remove(u'\n'); };
     if (const QString text = widget().text(); has_edit() && text != one_line(text)) {
         const auto caret = one_line(text.left(widget().cursorPosition())).size();
         const QScopedValueRollback<bool> working(working_, true);

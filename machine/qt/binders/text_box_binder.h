@@ -69,6 +69,7 @@ class LineBinder : public BinderOf<platform::TextBox, QLineEdit, TextBoxBinder> 
     void select(int start, int end) override;
     Selection selection() const override;
     bool divert_lines(QEvent& event);
+    void insert(const QString& text);
     /// Whether the text is lines that the control wants; it gets them soon.
     bool take_lines(const QString& text);
     void join_lines();
