@@ -12,11 +12,11 @@ using platform::Text;
 
 namespace {
 
-// What the user is asked about the recipient in the fields before a job.
+// What the user is asked about the recipient in the fields, before a job or before another takes his place.
 constexpr platform::TextView TYPED_LEFT = u"입력만 하고 추가하지 않은 받는사람이 있습니다.\r\n\r\n";
-constexpr platform::TextView TYPED_QUESTION = u"\r\n\r\n받는사람에 추가하고 보내시겠습니까?";
+constexpr platform::TextView TYPED_QUESTION = u"\r\n\r\n받는사람에 추가하시겠습니까?";
 constexpr platform::TextView CHANGE_LEFT = u"고치기만 하고 목록에 반영하지 않은 받는사람이 있습니다.\r\n\r\n";
-constexpr platform::TextView CHANGE_QUESTION = u"\r\n\r\n이대로 고치고 보내시겠습니까?";
+constexpr platform::TextView CHANGE_QUESTION = u"\r\n\r\n이대로 고치시겠습니까?";
 
 /// The number as the user may type it anew.
 Text number_of(const ListItem& recipient) { return core::DIGITS_ONLY(recipient.sub_item(RECIPIENT_NUMBER)); }
@@ -119,10 +119,12 @@ bool RecipientList::point_at_duplicate(const Text& number) {
 }
 
 void RecipientList::change_selected() {
-    const auto row = ListView1.selected_item();
-    if (!row) return;
-    ListView1.go_to(*row);
-    changed_row_ = &ListView1.row(*row);
+    const auto selected = ListView1.selected_item();
+    if (!selected) return;
+    const ListItem& row = ListView1.row(*selected);
+    if (!settle_typed()) return;
+    ListView1.go_to(row.position());
+    changed_row_ = &row;
     Changing.show();
     HText1[0].set_text(changed_row_->sub_item(RECIPIENT_NAME));
     HText1[1].set_text(changed_row_->sub_item(RECIPIENT_NUMBER));
