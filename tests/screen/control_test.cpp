@@ -143,6 +143,12 @@ TEST_F(ControlTest, AnotherDayKeepsTheTimeOfDay) {
     EXPECT_EQ(form.DTP1.value(), platform::make_time(2011, 3, 1, 13, 5, 7)) << "whatever its weekday";
     form.DTP1.set_value(platform::make_time(1969, 12, 31, 23, 0, 0));
     EXPECT_EQ(date.date(), QDate(1969, 12, 31));
+
+    QTest::keyClick(&date, Qt::Key_Down, Qt::AltModifier);
+    QWidget* calendar = QApplication::activePopupWidget();
+    ASSERT_NE(calendar, nullptr) << "the key that opens every list opens the calendar";
+    EXPECT_EQ(date.date(), QDate(1969, 12, 31));
+    calendar->close();
 }
 
 TEST_F(ControlTest, TheWheelChangesOnlyTheChoiceThatHasTheFocus) {

@@ -2,8 +2,12 @@
 
 #include "machine/qt/widgets/day_calendar.h"
 
+#include <QCoreApplication>
 #include <QDateEdit>
-#include <QEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 
 namespace machine::qt {
 
@@ -12,6 +16,26 @@ using platform::Aspect;
 namespace {
 
 const QDate FIRST_DAY(1970, 1, 1);
+
+/// Lists are opened by these keys; Qt's date field would take one of them for a step of the year.
+bool opens_calendar(const QKeyEvent& key) {
+    return key.key() == Qt::Key_F4 || (key.key() == Qt::Key_Down && key.modifiers() == Qt::AltModifier);
+}
+
+/// Qt opens the calendar for a press on the arrow alone.
+void open_calendar(QDateEdit& edit) {
+    QStyleOptionComboBox option;
+    option.initFrom(&edit);
+    option.editable = true;
+    option.subControls = QStyle::SC_All;
+    const QPointF arrow =
+        edit.style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, &edit)
+            .center();
+    QMouseEvent press(QEvent::MouseButtonPress, arrow, edit.mapToGlobal(arrow), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&edit, &press);
+}
 
 }  // namespace
 
@@ -40,6 +64,10 @@ bool DatePickerBinder::filter(QObject&, QEvent& event) {
         auto* calendar = new DayCalendar;
         calendar->setLocale(widget().locale());
         widget().setCalendarWidget(calendar);
+    }
+    if (event.type() == QEvent::KeyPress && opens_calendar(static_cast<const QKeyEvent&>(event))) {
+        open_calendar(widget());
+        return true;
     }
     if (event.type() != QEvent::Wheel || widget().hasFocus()) return false;
     event.ignore();
