@@ -78,10 +78,9 @@ Paths::Parts Paths::parts_of(TextView path) const {
 
     Parts parts{application_directory_, {}};
     if (path.size() >= 2 && path[1] == u':') {
-        const Text drive = platform::lower_case(path.substr(0, 1));
-        if (drive == u"z") {
+        if (path[0] == u'z' || path[0] == u'Z') {
             parts.drive.clear();
-        } else if (drive == u"c") {
+        } else if (path[0] == u'c' || path[0] == u'C') {
             parts.drive = drive_c();
         } else {
             throw RuntimeError(ErrorNumber::path_not_found);

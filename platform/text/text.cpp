@@ -84,6 +84,7 @@ Text trim(TextView text) {
 Text replace_all(TextView text, TextView what, TextView with) {
     if (what.empty()) return Text(text);
     Text out;
+    out.reserve(text.size());
     std::size_t done = 0;
     for (auto at = text.find(what); at != TextView::npos; at = text.find(what, done)) {
         out.append(text.substr(done, at - done)).append(with);
@@ -110,7 +111,16 @@ std::vector<TextView> split(TextView text, char16_t separator) {
     return pieces;
 }
 
-Text with_line_feeds(TextView text) { return replace_all(replace_all(text, CRLF, u"\n"), u"\r", u"\n"); }
+Text with_line_feeds(TextView text) {
+    Text out;
+    out.reserve(text.size());
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const bool line_end = text[at] == u'\r';
+        out += line_end ? u'\n' : text[at];
+        if (line_end && text.substr(at + 1).starts_with(u'\n')) ++at;
+    }
+    return out;
+}
 
 bool contains(TextView text, TextView what) { return text.find(what) != TextView::npos; }
 
