@@ -29,9 +29,7 @@ void open_calendar(QDateEdit& edit) {
     option.editable = true;
     option.subControls = QStyle::SC_All;
     const QPointF arrow =
-        edit.style()
-            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, &edit)
-            .center();
+        edit.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, &edit).center();
     QMouseEvent press(QEvent::MouseButtonPress, arrow, edit.mapToGlobal(arrow), Qt::LeftButton,
                       Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&edit, &press);
