@@ -26,7 +26,10 @@ void frmZentSend::SEND_LONG_BATCHES() {
         const std::size_t expected = expected_pieces(mText1.text());
         Batch batch;
         int batches = 0;
-        for (int piece = 1; piece <= job.all_pieces; ++piece) batches += count_batches(RecipientRows, piece);
+        for (int piece = 1; piece <= job.all_pieces; ++piece) {
+            batches += count_batches(RecipientRows, piece);
+            platform_.desktop.paint();
+        }
         begin_progress(job, batches, Unit::batch);
         while (!mText1.text().empty()) {
             next_piece(job);
