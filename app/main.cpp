@@ -6,10 +6,12 @@
 #include "machine/qt/desktop/qt_application.h"
 #include "machine/qt/desktop/qt_clock.h"
 #include "machine/qt/look/desk_style.h"
+#include "machine/qt/look/desktop_settings.h"
 #include "machine/qt/look/korean.h"
 #include "machine/qt/look/late_icon.h"
 #include "platform/error.h"
 
+#include <QDBusConnection>
 #include <QLocale>
 
 int main(int argc, char** argv) {
@@ -17,7 +19,8 @@ int main(int argc, char** argv) {
     machine::posix::take_file_size_limit_as_full_disk();
     machine::qt::QtApplication qt(argc, argv);
     QApplication::setStyle(new machine::qt::DeskStyle);
-    machine::qt::use_font_with_hangul();
+    machine::qt::use_font_with_hangul(QApplication::font());
+    const machine::qt::DesktopSettings desktop_settings(QDBusConnection::sessionBus());
     QApplication::setWindowIcon(machine::qt::late_icon(QStringLiteral("app")));
     QApplication::setQuitOnLastWindowClosed(false);
     // Days and months are Korean like everything else, whatever the machine's language is.

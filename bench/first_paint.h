@@ -48,7 +48,7 @@ class FirstPaint : public QObject {
 /// Shows the program, put together as in app/main.cpp, with the folder as its application directory.
 inline void show_program(const std::string& folder) {
     QApplication::setStyle(new machine::qt::DeskStyle);
-    machine::qt::use_font_with_hangul();
+    machine::qt::use_font_with_hangul(QApplication::font());
     QApplication::setWindowIcon(machine::qt::late_icon(QStringLiteral("app")));
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale(QLocale::Korean, QLocale::SouthKorea));

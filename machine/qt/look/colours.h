@@ -24,6 +24,9 @@ Colours colours_of(const QPalette& palette);
 /// Whether the desktop shows light text on dark windows.
 bool is_dark(const QPalette& palette);
 
+/// Whether the desktop shows pure white and black alone, for users who see badly. Nothing is pale there.
+bool is_high_contrast(const QPalette& palette);
+
 /// The colour at that share of the way from one colour to another: 0 is `from`, 1 is `to`.
 QColor between(const QColor& from, const QColor& to, double share);
 
@@ -38,5 +41,12 @@ inline constexpr QPalette::ColorRole WARNING_TEXT = QPalette::LinkVisited;
 /// The desktop's palette made fit to read: an accent where the desktop has none of its own, pale selections
 /// in windows and lists without the focus, disabled texts that still can be read.
 void make_readable(QPalette& palette);
+
+/// Whether the accent is the program's own, because the desktop had none.
+bool has_own_colours(const QPalette& palette);
+
+/// The program's own colours, fit to read. The light ones are a palette without colours, which stands for the
+/// one that the program begins with.
+QPalette own_palette(bool dark, bool high_contrast);
 
 }  // namespace machine::qt

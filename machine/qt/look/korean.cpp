@@ -103,18 +103,18 @@ QString KoreanTranslator::translate(const char* context, const char* source, con
     return QString();
 }
 
-void use_font_with_hangul() {
-    QFont font = QApplication::font();
+void use_font_with_hangul(QFont font) {
     const auto has_hangul = [](const QString& family) {
         return QFontDatabase::writingSystems(family).contains(QFontDatabase::Korean);
     };
-    if (has_hangul(QFontInfo(font).family())) return;
-    for (const char* family : {"Noto Sans CJK KR", "Noto Sans KR", "NanumGothic"}) {
-        if (!has_hangul(QLatin1String(family))) continue;
-        font.setFamily(QLatin1String(family));
-        QApplication::setFont(font);
-        return;
+    if (!has_hangul(QFontInfo(font).family())) {
+        for (const char* family : {"Noto Sans CJK KR", "Noto Sans KR", "NanumGothic"}) {
+            if (!has_hangul(QLatin1String(family))) continue;
+            font.setFamily(QLatin1String(family));
+            break;
+        }
     }
+    if (font != QApplication::font()) QApplication::setFont(font);
 }
 
 }  // namespace machine::qt

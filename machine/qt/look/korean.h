@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QTranslator>
 
 namespace machine::qt {
@@ -17,8 +18,8 @@ class KoreanTranslator : public QTranslator {
                       int number) const override;
 };
 
-/// Chooses a font that has Hangul when the desktop's own has none; otherwise every line would mix characters
-/// of two fonts. To be called when the application exists.
-void use_font_with_hangul();
+/// Makes it the application's font. One without Hangul gives way to one that has it, of the same size;
+/// otherwise every line would mix characters of two fonts. To be called when the application exists.
+void use_font_with_hangul(QFont font);
 
 }  // namespace machine::qt

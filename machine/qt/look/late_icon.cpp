@@ -97,7 +97,7 @@ class PictureEngine : public QIconEngine {
         if (mode == QIcon::Selected) {
             draw_in(ACCENT_LINES, palette.color(QPalette::Active, QPalette::HighlightedText));
             draw_in(PLAIN_LINES, palette.color(QPalette::Active, QPalette::HighlightedText));
-        } else if (is_dark(palette)) {
+        } else if (is_dark(palette) || is_high_contrast(palette)) {
             draw_in(ACCENT_LINES, palette.color(QPalette::Active, QPalette::Link));
             draw_in(PLAIN_LINES, colours_of(palette).muted);
         }

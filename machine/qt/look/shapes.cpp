@@ -49,9 +49,10 @@ QColor edge_of(const QStyleOption& option) {
     return colours.line;
 }
 
-/// Half way between text and ground, so that an empty box is seen on every window and list.
+/// Between text and ground, so that an empty box is seen on every window and list.
 QColor strong_edge(const QStyleOption& option) {
-    return between(option.palette.color(QPalette::Text), option.palette.color(QPalette::Base), 0.5);
+    const double paler = is_high_contrast(option.palette) ? 0.2 : 0.5;
+    return between(option.palette.color(QPalette::Text), option.palette.color(QPalette::Base), paler);
 }
 
 QColor pressed_on(const QStyleOption& option, const QColor& ground) {

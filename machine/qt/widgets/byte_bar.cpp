@@ -27,7 +27,9 @@ void ByteBar::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     QRectF bar(rect());
-    painter.setBrush(colours.line);
+    // In high contrast the line itself would look like the part that is full.
+    const double paler = is_high_contrast(palette()) ? 0.7 : 0.0;
+    painter.setBrush(between(colours.line, palette().color(QPalette::Window), paler));
     painter.drawRoundedRect(bar, HEIGHT / 2.0, HEIGHT / 2.0);
     if (value() == 0) return;
     bar.setWidth(qMax<double>(HEIGHT, bar.width() * value() / 100));

@@ -1,5 +1,6 @@
 #include "machine/qt/widgets/column_text.h"
 
+#include <QEvent>
 #include <QFontMetricsF>
 #include <QSyntaxHighlighter>
 #include <QTextBlock>
@@ -31,7 +32,12 @@ class LabelBlanks : public QSyntaxHighlighter {
 
 }  // namespace
 
-ColumnText::ColumnText(QWidget* parent) : MultilineEdit(parent) { new LabelBlanks(*this); }
+ColumnText::ColumnText(QWidget* parent) : MultilineEdit(parent), blanks_(*new LabelBlanks(*this)) {}
+
+void ColumnText::changeEvent(QEvent* event) {
+    MultilineEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange) blanks_.rehighlight();
+}
 
 QSize ColumnText::sizeHint() const {
     constexpr int MOST_SYLLABLES = 36;

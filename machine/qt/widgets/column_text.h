@@ -2,6 +2,8 @@
 
 #include "machine/qt/widgets/multiline_edit.h"
 
+class QSyntaxHighlighter;
+
 namespace machine::qt {
 
 /// Lines of a label, a colon and a value, at a height that shows them all. The labels are padded for a font
@@ -14,6 +16,12 @@ class ColumnText : public MultilineEdit {
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void changeEvent(QEvent* event) override;
+
+  private:
+    QSyntaxHighlighter& blanks_;
 };
 
 }  // namespace machine::qt

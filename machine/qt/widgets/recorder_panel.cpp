@@ -5,15 +5,14 @@
 #include "ui_RecorderPanel.h"
 
 #include <QAccessible>
+#include <QEvent>
 
 namespace machine::qt {
 
 RecorderPanel::RecorderPanel(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::RecorderPanel>()) {
     ui_->setupUi(this);
     setFocusProxy(ui_->_record);
-    // Time and messages change all the time; nothing around them should move.
-    ui_->_recordTime->setMinimumWidth(ui_->_recordTime->sizeHint().width());
-    ui_->_recordMessage->setMinimumHeight(2 * ui_->_recordMessage->fontMetrics().lineSpacing());
+    make_room();
 }
 
 RecorderPanel::~RecorderPanel() = default;
@@ -31,6 +30,18 @@ void RecorderPanel::show_recorder(const platform::SoundRecorder& recorder) {
         QAccessible::updateAccessibility(&said);
     }
     ui_->_recordWarning->setVisible(recorder.message_warns());
+}
+
+void RecorderPanel::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) make_room();
+}
+
+/// Time and messages change all the time; nothing around them should move.
+void RecorderPanel::make_room() {
+    const QFontMetrics metrics = fontMetrics();
+    ui_->_recordTime->setMinimumWidth(metrics.horizontalAdvance(ui_->_recordTime->text()));
+    ui_->_recordMessage->setMinimumHeight(2 * metrics.lineSpacing());
 }
 
 /// Moves the focus from a button that becomes disabled to the first enabled one, so that the same key starts,

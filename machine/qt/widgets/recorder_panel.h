@@ -31,11 +31,15 @@ class RecorderPanel : public QWidget {
     QAbstractButton& stop_button() const;
     QAbstractButton& play_button() const;
 
+  protected:
+    void changeEvent(QEvent* event) override;
+
   private:
     struct ButtonState {
         QPushButton* button;
         bool enabled;
     };
+    void make_room();
     void show_buttons(std::initializer_list<ButtonState> buttons);
 
     std::unique_ptr<Ui::RecorderPanel> ui_;
