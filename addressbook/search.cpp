@@ -43,7 +43,10 @@ void frmSendMan::connect_search() {
     Text1.KeyDown.connect([this](const platform::KeyPressed& key) {
         if (key.code == platform::KEY_DOWN) go_to_rows();
     });
-    Text1.Change.connect([this] { go_to_typed(); });
+    Text1.Change.connect([this] {
+        if (Text1.text() != HINT) Text1.set_text_colour(std::nullopt);
+        go_to_typed();
+    });
     Command1.Click.connect([this] { search(); });
     Command5.Click.connect([this] { list_all_cards(); });
 }

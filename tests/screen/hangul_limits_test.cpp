@@ -23,8 +23,6 @@
 namespace tests {
 namespace {
 
-using compose::MessageKind::plus;
-using compose::MessageKind::text;
 using platform::Text;
 
 /// What an input method does when the field ends a composition, or when the focus leaves the text fields.

@@ -67,8 +67,19 @@ TEST_F(PickerWindow, EveryWayToChooseAFolderRaisesOneClick) {
         std::vector<std::string> chosen;
         picker.TreeView1.NodeClick.connect(
             [&](platform::TreeNode& node) { chosen.push_back(utf8(node.tag())); });
-        EXPECT_TRUE(find<QLineEdit>("Text1").hasFocus());
+        auto& search = find<QLineEdit>("Text1");
+        EXPECT_TRUE(search.hasFocus());
+        const auto colour = [&] { return search.palette().color(QPalette::Text).name().toStdString(); };
+        EXPECT_EQ(colour(), QApplication::palette().color(QPalette::Text).name().toStdString())
+            << "what is typed is no hint";
         tree().setFocus();
+        EXPECT_EQ(colour(), "#808080");
+        // As assistive programs write.
+        search.setText("Kim");
+        settle();
+        EXPECT_NE(colour(), "#808080");
+        search.clear();
+        settle();
         EXPECT_TRUE(chosen.empty()) << "the window opens with all cards, without a click";
         click_node(2);
         click_node(2);

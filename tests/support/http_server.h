@@ -7,6 +7,7 @@
 #include <mutex>
 #include <set>
 #include <string>
+#include <utility>
 #include <string_view>
 #include <thread>
 #include <vector>
@@ -42,7 +43,7 @@ class HttpServer {
 
     /// A server that sends these bytes.
     static std::function<void(HttpClient&)> sending(std::string bytes) {
-        return [bytes](HttpClient& client) { client.send(bytes); };
+        return [bytes = std::move(bytes)](HttpClient& client) { client.send(bytes); };
     }
 
     int port() const { return port_; }

@@ -89,7 +89,7 @@ struct Sending : TestPlatform {
     void stop_at_pause(std::size_t n) {
         at_pause(n, [](send::frmZentSend& job) { job.Command1.Click.raise(); });
     }
-    void at_pause(std::size_t n, std::function<void(send::frmZentSend&)> act) {
+    void at_pause(std::size_t n, const std::function<void(send::frmZentSend&)>& act) {
         desktop.in_form<send::frmZentSend>(u"frmZentSend", [=, this](send::frmZentSend& job) {
             clock.during_pause = [=, this, &job] {
                 if (clock.pauses.size() == n) act(job);
