@@ -4,6 +4,7 @@
 #include "core/paths.h"
 #include "core/personal_text.h"
 #include "platform/text/cp949.h"
+#include "platform/text/format.h"
 #include "send/batch.h"
 #include "send/pace.h"
 
@@ -43,6 +44,7 @@ void add_personal_texts(Forecast& forecast, const compose::frmZent& form) {
         add_text(forecast, *text);
         forecast.submits += core::count_pieces(*text, compose::TEXT_LIMIT);
     }
+    forecast.messages = static_cast<std::size_t>(forecast.submits);
 }
 
 void add_attachments(Forecast& forecast, const gateway::UmsMessage& message, Content content) {
@@ -81,6 +83,8 @@ Forecast forecast_of(const compose::frmZent& form, const gateway::UmsMessage& me
         if (carrier.sms) add_text(forecast, message.s_sms_content);
         const int passes = carrier.content == Content::text ? std::max(forecast.most_messages, 1) : 1;
         forecast.submits = count_batches(form.recipients.ListView1, 0) * passes;
+        forecast.messages =
+            form.recipients.ListView1.checked_count() * static_cast<std::size_t>(forecast.most_messages);
     }
     add_attachments(forecast, message, carrier.content);
     forecast.pauses = milliseconds(pauses.after_success + pauses.before_unbind) * forecast.submits;
@@ -96,6 +100,8 @@ Text amount_in_words(const Forecast& forecast) {
                 Text(CRLF) + u"한 사람에 " +
                 (differ ? platform::decimal(forecast.fewest_messages) + u"~" : Text()) +
                 platform::decimal(forecast.most_messages) + u"건" + Text(CRLF);
+        if (forecast.most_messages > 1)
+            words += u"모두 " + platform::counted(forecast.messages, u"건") + Text(CRLF);
     }
     words += forecast.one_by_one ? Text(u"한 사람씩 등록")
                                  : platform::decimal(forecast.submits) + u"묶음으로 등록";

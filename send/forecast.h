@@ -17,6 +17,8 @@ struct Forecast {
     /// How many messages the text is for one recipient: for most of them the same number.
     int fewest_messages = 0;
     int most_messages = 0;
+    /// For all recipients together.
+    std::size_t messages = 0;
     /// Recipients who get nothing because the text has a place for their name and they have none.
     int nameless = 0;
     /// How many registrations the carrier is asked for, and how long the job pauses between them.

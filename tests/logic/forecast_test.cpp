@@ -43,7 +43,7 @@ TEST(Forecast, TellsWhoGetsWhatInHowManyMessagesAndHowLongItTakes) {
              s.type(Text(81, u'a'));
              s.add_many(101);
          },
-         "101명\r\n바로 발송\r\n81Bytes\r\n한 사람에 2건\r\n4묶음으로 등록\r\n약 4초\r\n"
+         "101명\r\n바로 발송\r\n81Bytes\r\n한 사람에 2건\r\n모두 202건\r\n4묶음으로 등록\r\n약 4초\r\n"
          "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa"},
         {"a personal text",
          [](Sending& s) {
@@ -53,7 +53,7 @@ TEST(Forecast, TellsWhoGetsWhatInHowManyMessagesAndHowLongItTakes) {
              s.add(u"김민준", u"01022223333", true, u"대표이사");
              s.add(u"박", u"01033334444");
          },
-         "3명\r\n바로 발송\r\n최대 84Bytes\r\n한 사람에 1~2건\r\n한 사람씩 등록\r\n약 2초\r\n"
+         "3명\r\n바로 발송\r\n최대 84Bytes\r\n한 사람에 1~2건\r\n모두 3건\r\n한 사람씩 등록\r\n약 2초\r\n"
          "이름이 없는 1명에게는 발송되지 않습니다.\r\n"
          "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa김민준대표이사"},
         {"a text with a voice on a day to come",
