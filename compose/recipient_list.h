@@ -107,7 +107,7 @@ class RecipientList : Room {
     bool add_typed();
     platform::Text refusal_of(const platform::Text& digits) const;
     bool refuse_number(platform::Text text);
-    void return_number();
+    void go_to_number();
     bool point_at_duplicate(const platform::Text& number);
     void change_selected();
     void give_up_change();

@@ -32,7 +32,7 @@ void RecipientList::HText1_KeyPress(std::size_t index, KeyPressed& key) {
     if (key.code != platform::KEY_ENTER) return;
     key.swallow();
     if (index == 0) {
-        HText1[1].set_focus();
+        go_to_number();
     } else {
         add_typed();
     }
@@ -60,7 +60,7 @@ bool RecipientList::settle_typed() {
         case platform::BoxAnswer::no:
             return true;
         default:
-            return_number();
+            go_to_number();
             return false;
     }
 }
@@ -96,12 +96,13 @@ Text RecipientList::refusal_of(const Text& digits) const {
 
 bool RecipientList::refuse_number(Text text) {
     core::warn(platform_.desktop, std::move(text));
-    return_number();
+    go_to_number();
     return false;
 }
 
-/// Selected, so that the next number replaces it instead of being written in front of it.
-void RecipientList::return_number() {
+/// What is in the field is selected, so that the next number replaces it instead of being written in front of
+/// it.
+void RecipientList::go_to_number() {
     HText1[1].set_focus();
     HText1[1].select_all();
 }
@@ -114,7 +115,7 @@ bool RecipientList::point_at_duplicate(const Text& number) {
     ListView1.select_item(*hit);
     // Deliberately the caption of column 2, the name, though numbers were compared: support knows the box so.
     core::warn(platform_.desktop, u"이미 동일한 " + ListView1.column(2).caption + u"가 존재합니다.");
-    return_number();
+    go_to_number();
     return true;
 }
 
@@ -128,7 +129,6 @@ void RecipientList::change_selected() {
     Changing.show();
     HText1[0].set_text(changed_row_->sub_item(RECIPIENT_NAME));
     HText1[1].set_text(changed_row_->sub_item(RECIPIENT_NUMBER));
-    HText1[1].select_all();
     HText1[0].set_focus();
     HText1[0].select_all();
 }
