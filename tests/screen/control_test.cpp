@@ -62,6 +62,12 @@ TEST_F(ControlTest, ChecksAndOptionsShowWhatTheirHandlersSet) {
     EXPECT_TRUE(find<QRadioButton>("Option2").isChecked());
     EXPECT_FALSE(find<QRadioButton>("Option1").isChecked());
     EXPECT_FALSE(find<QCheckBox>("Check1").isChecked());
+
+    events.clear();
+    find<QCheckBox>("Check1").toggle();
+    find<QRadioButton>("Option1").toggle();
+    settle();
+    EXPECT_EQ(events, (std::vector<std::string>{"on", "1"})) << "as a screen reader does it, without a click";
 }
 
 TEST_F(ControlTest, CombosShowTheirRowsAndRaiseAClickForEachChoice) {

@@ -67,11 +67,21 @@ CheckBoxBinder::CheckBoxBinder(BoundForm& bound, platform::CheckBox& control, QC
     : BinderOf(bound, control, box) {
     set_caption(control.caption());
     box.setChecked(control.checked());
-    connect(&box, &QCheckBox::clicked, this, [this](bool checked) {
-        act([&] { this->control().user_check(checked); });
-        // Qt has ticked the box already; the control may have refused.
-        if (is_bound_live()) show(Aspect::value);
-    });
+    connect(&box, &QCheckBox::clicked, this, &CheckBoxBinder::take);
+    // A screen reader toggles without a click.
+    connect(
+        &box, &QCheckBox::toggled, this,
+        [this] {
+            if (is_bound_live() && widget().isChecked() != this->control().checked())
+                take(widget().isChecked());
+        },
+        Qt::QueuedConnection);
+}
+
+void CheckBoxBinder::take(bool checked) {
+    act([&] { control().user_check(checked); });
+    // Qt has ticked the box already; the control may have refused.
+    if (is_bound_live()) show(Aspect::value);
 }
 
 void CheckBoxBinder::show(Aspect aspect) {
@@ -85,10 +95,19 @@ OptionButtonBinder::OptionButtonBinder(BoundForm& bound, platform::OptionButton&
     // The handlers switch the others of the group off.
     button.setAutoExclusive(false);
     button.setChecked(control.chosen());
-    connect(&button, &QRadioButton::clicked, this, [this] {
-        act([this] { this->control().user_choose(); });
-        widget().setChecked(!is_bound_live() || this->control().chosen());
-    });
+    connect(&button, &QRadioButton::clicked, this, &OptionButtonBinder::take);
+    // A screen reader toggles without a click.
+    connect(
+        &button, &QRadioButton::toggled, this,
+        [this] {
+            if (is_bound_live() && widget().isChecked() != this->control().chosen()) take();
+        },
+        Qt::QueuedConnection);
+}
+
+void OptionButtonBinder::take() {
+    act([this] { control().user_choose(); });
+    widget().setChecked(!is_bound_live() || control().chosen());
 }
 
 /// The arrow keys choose the next of the group, as everywhere. Qt does so only in groups that it switches

@@ -36,6 +36,7 @@ class CheckBoxBinder : public BinderOf<platform::CheckBox, QCheckBox, ButtonBind
     CheckBoxBinder(BoundForm& bound, platform::CheckBox& control, QCheckBox& box);
 
   private:
+    void take(bool checked);
     void show(platform::Aspect aspect) override;
 };
 
@@ -44,6 +45,7 @@ class OptionButtonBinder : public BinderOf<platform::OptionButton, QRadioButton,
     OptionButtonBinder(BoundForm& bound, platform::OptionButton& control, QRadioButton& button);
 
   private:
+    void take();
     void show(platform::Aspect aspect) override;
     bool filter(QObject& object, QEvent& event) override;
 };
