@@ -42,13 +42,17 @@ class TypingIntoBoxes : public DeskTest {
             }
         }
     }
-    /// Types into the next box, which is still there afterwards, and gives it that answer.
-    void type_into_next(const char* keys, QMessageBox::StandardButton answer) {
+    /// Types into the next box, then once more after a pause; the box is still there afterwards and gets that
+    /// answer.
+    void type_into_next(const char* keys, QMessageBox::StandardButton answer, const char* later = "") {
         boxes.answers = {answer};
-        boxes.meanwhile = [keys, is_next = true]() mutable {
+        boxes.meanwhile = [keys, later, is_next = true]() mutable {
             if (!std::exchange(is_next, false)) return;
-            const QWidget* box = QApplication::activeModalWidget();
+            const auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
             type(keys);
+            QTest::keyClick(box->focusWidget(), Qt::Key_Escape);
+            EXPECT_TRUE(*later == 0 || QTest::qWaitFor([&] { return box->defaultButton()->hasFocus(); }));
+            type(later);
             EXPECT_TRUE(box->isVisible()) << "answered by what was typed";
         };
     }
@@ -65,12 +69,12 @@ TEST_F(TypingIntoBoxes, ALongTextIsAgreedToByNoBlankAndLosesNoLetter) {
         form.text.mText1.set_caret_to_end();
         form.text.mText1.set_focus();
         settle();
-        type_into_next("reen n\n한", answer);
+        type_into_next("reen n\n한", answer, " and w");
         if (answer == QMessageBox::No) boxes.answers.push_back(QMessageBox::Ok);
         type("sc");
         settle();
         EXPECT_EQ(utf8(form.text.mText1.text()),
-                  utf8(before) + (answer == QMessageBox::Yes ? "screen n\r\n한" : "s"));
+                  utf8(before) + (answer == QMessageBox::Yes ? "screen n\r\n한 and w" : "s"));
     }
 }
 

@@ -7,9 +7,9 @@
 #include <mutex>
 #include <set>
 #include <string>
-#include <utility>
 #include <string_view>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace tests {

@@ -73,17 +73,26 @@ QString picture_of(BoxIcon icon) {
     return {};
 }
 
-/// Ignores keys with Ctrl. With some input methods Ctrl alone ends the syllable, which may open a question,
-/// and the rest of the shortcut would answer it.
-class ShortcutsAreNoAnswers : public QObject {
+/// Keeps keys from a button that are no answers. With some input methods Ctrl alone ends the syllable, which
+/// may open a question, and the rest of the shortcut would answer it. A blank is one more character of a text
+/// that the box has interrupted.
+class KeysThatAreNoAnswers : public QObject {
   public:
-    using QObject::QObject;
+    KeysThatAreNoAnswers(MessageBox& box, TypingRest* interrupted)
+        : QObject(&box), interrupted_(interrupted) {}
 
   protected:
     bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() != QEvent::KeyPress) return false;
-        return (static_cast<QKeyEvent&>(*event).modifiers() & Qt::ControlModifier) != 0;
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        if ((key.modifiers() & Qt::ControlModifier) != 0) return true;
+        if (interrupted_ == nullptr || key.key() != Qt::Key_Space) return false;
+        interrupted_->keep(key.text());
+        return true;
     }
+
+  private:
+    TypingRest* interrupted_;
 };
 
 /// Not into another modal window that the handlers have opened meanwhile: it was not typed for that.
@@ -99,7 +108,11 @@ void type_later(QWidget& parent, const QString& text) {
 
 MessageBox::MessageBox(const platform::MessageBox& box, const QString& application_title,
                        const LastKey& last_key, QWidget* parent)
-    : QMessageBox(parent), buttons_(box.buttons), last_key_(last_key), typing_rest_(*new TypingRest(*this)) {
+    : QMessageBox(parent),
+      buttons_(box.buttons),
+      last_key_(last_key),
+      about_the_text_(last_key.wrote()),
+      typing_rest_(*new TypingRest(*this)) {
     setWindowFlags(DIALOG_FRAME);
     setObjectName(QStringLiteral("messageBox"));
     setWindowTitle(box.title.empty() ? application_title : to_qstring(box.title));
@@ -117,11 +130,11 @@ MessageBox::MessageBox(const platform::MessageBox& box, const QString& applicati
 
 void MessageBox::add_buttons(const platform::MessageBox& box) {
     setStandardButtons(buttons_of(box.buttons));
-    auto* shortcuts = new ShortcutsAreNoAnswers(this);
+    auto* keys = new KeysThatAreNoAnswers(*this, about_the_text_ ? &typing_rest_ : nullptr);
     for (const Answer& answer : ANSWERS) {
         QAbstractButton* pressed = button(answer.button);
         if (pressed == nullptr) continue;
-        pressed->installEventFilter(shortcuts);
+        pressed->installEventFilter(keys);
         pressed->setText(QString::fromUtf8(answer.caption));
         if (answer.answer == box.default_answer) setDefaultButton(answer.button);
         if (answer.answer == cautious_answer(box.buttons)) setEscapeButton(answer.button);
@@ -152,17 +165,17 @@ void MessageBox::paintEvent(QPaintEvent* event) {
 
 /// A letter alone presses no button: it may be the last of a word that was meant for a field.
 void MessageBox::keyPressEvent(QKeyEvent* event) {
-    if (written_by(*event).isEmpty()) QMessageBox::keyPressEvent(event);
+    const QString written = written_by(*event);
+    if (written.isEmpty()) return QMessageBox::keyPressEvent(event);
+    if (about_the_text_) typing_rest_.keep(written);
 }
 
 BoxAnswer ask(const platform::MessageBox& box, const QString& application_title, const LastKey& last_key,
               QWidget* parent) {
     const QPointer<QWidget> behind(parent);
-    // What a character led to is about the text itself: unless the user agrees, no more of it is wanted.
-    const bool about_the_text = last_key.wrote();
     MessageBox shown(box, application_title, last_key, parent);
     const BoxAnswer answer = shown.ask();
-    const bool wanted = answer == BoxAnswer::yes || (answer == BoxAnswer::ok && !about_the_text);
+    const bool wanted = answer == BoxAnswer::yes || (answer == BoxAnswer::ok && !shown.is_about_the_text());
     if (wanted && behind != nullptr) type_later(*behind, shown.typed_ahead());
     return answer;
 }

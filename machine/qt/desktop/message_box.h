@@ -22,7 +22,11 @@ class MessageBox : public QMessageBox {
     /// Shows the box and waits for the answer.
     platform::BoxAnswer ask();
 
-    /// What the user typed before the box took keys; a line end stands for Enter, a tab for Tab.
+    /// Whether a character that the user wrote has led to the box. Unless he agrees, no more of the text is
+    /// wanted.
+    bool is_about_the_text() const { return about_the_text_; }
+
+    /// What the user typed that was no answer; a line end stands for Enter, a tab for Tab.
     QString typed_ahead() const;
 
   protected:
@@ -34,6 +38,7 @@ class MessageBox : public QMessageBox {
 
     platform::BoxButtons buttons_;
     const LastKey& last_key_;
+    bool about_the_text_;
     TypingRest& typing_rest_;
 };
 

@@ -31,11 +31,14 @@ bool TypingRest::event(QEvent* event) {
         case QEvent::ShortcutOverride:
             event->accept();
             return true;
-        case QEvent::KeyPress:
-            keep_key(static_cast<const QKeyEvent&>(*event));
-            wait_on();
+        case QEvent::KeyPress: {
+            const auto& key = static_cast<const QKeyEvent&>(*event);
+            keep_key(key);
+            // Whoever wants to be rid of the box does not type for the field behind it.
+            if (key.key() != Qt::Key_Escape) wait_on();
             event->accept();
             return true;
+        }
         default:
             return QWidget::event(event);
     }
