@@ -121,6 +121,8 @@ class frmZentSend : public platform::Form {
     void begin_progress(SendJob& job, int steps, Unit unit);
     void step_done(SendJob& job);
     void show_progress(const SendJob& job);
+    /// In the title, so that the task bar has it: what the bar in the window shows.
+    void show_percentage();
 
     // Recipients in batches: send_batches.cpp.
     void pass_over_rows(SendJob& job, Batch& batch, PassOptions options);

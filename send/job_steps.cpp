@@ -93,6 +93,7 @@ Text frmZentSend::submit(SendJob& job, const std::vector<std::size_t>& rows, boo
                          platform::TextView without_call) {
     wait_cursor();
     if (job.kind == nullptr) return Text(without_call);
+    show_percentage();
     drafts_.before_submit(rows);
     Text result = gateway_.UMS_SEND_START(job.message);
     take_answer(job, rows, decides, result);

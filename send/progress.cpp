@@ -36,6 +36,10 @@ void frmZentSend::show_progress(const SendJob& job) {
         left = u"묶음 " + platform::decimal(job.steps.done + 1) + u"/" + platform::decimal(job.steps.all) +
                u" · " + left;
     Remaining.set_caption(left);
+    show_percentage();
+}
+
+void frmZentSend::show_percentage() {
     set_caption(platform::decimal(PBar1.value()) + u"% · " + kind_name_);
 }
 
