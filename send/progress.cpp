@@ -39,8 +39,6 @@ void frmZentSend::show_progress(const SendJob& job) {
     show_percentage();
 }
 
-void frmZentSend::show_percentage() {
-    set_caption(platform::decimal(PBar1.value()) + u"% · " + kind_name_);
-}
+void frmZentSend::show_percentage() { set_caption(platform::decimal(PBar1.value()) + u"% · " + kind_name_); }
 
 }  // namespace send
