@@ -200,6 +200,14 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
             if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option))
                 return draw_bar(*painter, *bar, element == CE_ProgressBarContents);
             break;
+        case CE_ProgressBarLabel:
+            if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option)) {
+                // The part that is done stays dark while another window is active.
+                QStyleOptionProgressBar shown(*bar);
+                shown.palette.setCurrentColorGroup(QPalette::Active);
+                return QProxyStyle::drawControl(element, &shown, painter, widget);
+            }
+            break;
         case CE_ItemViewItem:
             if (const auto* view = qobject_cast<const QAbstractItemView*>(widget); view != nullptr) {
                 if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
