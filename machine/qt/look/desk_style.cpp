@@ -28,7 +28,14 @@ QStyleOptionButton on_accent(const QStyleOptionButton& button) {
     QStyleOptionButton shown(button);
     shown.palette.setColor(QPalette::ButtonText,
                            button.palette.color(QPalette::Active, QPalette::HighlightedText));
-    if (!shown.icon.isNull()) shown.icon = QIcon(shown.icon.pixmap(shown.iconSize, QIcon::Selected));
+    if (!shown.icon.isNull()) shown.icon = icon_in_mode(shown.icon, QIcon::Selected);
+    return shown;
+}
+
+QStyleOptionMenuItem in_menu(const QStyleOptionMenuItem& item) {
+    QStyleOptionMenuItem shown(item);
+    const bool on_accent = item.state.testFlags(QStyle::State_Selected | QStyle::State_Enabled);
+    if (on_accent && !shown.icon.isNull()) shown.icon = icon_in_mode(shown.icon, QIcon::Selected);
     return shown;
 }
 
@@ -174,6 +181,12 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
             if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
                 button != nullptr && is_filled(*button) && (button->state & State_Enabled)) {
                 const QStyleOptionButton shown = on_accent(*button);
+                return QProxyStyle::drawControl(element, &shown, painter, widget);
+            }
+            break;
+        case CE_MenuItem:
+            if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
+                const QStyleOptionMenuItem shown = in_menu(*item);
                 return QProxyStyle::drawControl(element, &shown, painter, widget);
             }
             break;
