@@ -44,6 +44,8 @@ QStyleOptionViewItem in_view(const QStyleOptionViewItem& item, const QAbstractIt
     QStyleOptionViewItem shown(item);
     if (!view.hasFocus()) shown.state.setFlag(QStyle::State_Active, false);
     if (view.property("quietSelection").toBool()) shown.state.setFlag(QStyle::State_Selected, false);
+    if (!shown.state.testFlag(QStyle::State_Active) && !shown.icon.isNull())
+        shown.icon = icon_in_mode(shown.icon, QIcon::Normal);
     return shown;
 }
 
