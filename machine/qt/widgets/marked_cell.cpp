@@ -32,6 +32,13 @@ void write_in(QPalette& palette, const QColor& colour) {
     palette.setColor(QPalette::Inactive, QPalette::HighlightedText, colour);
 }
 
+void write_muted(QPalette& palette, const Colours& colours) {
+    constexpr double PALER = 0.3;
+    write_in(palette, colours.muted);
+    const QColor on_accent = palette.color(QPalette::Active, QPalette::HighlightedText);
+    palette.setColor(QPalette::Active, QPalette::HighlightedText, between(on_accent, colours.accent, PALER));
+}
+
 }  // namespace
 
 /// A row without a sign is as high as one with it.
@@ -47,7 +54,7 @@ void MarkedCell::initStyleOption(QStyleOptionViewItem* option, const QModelIndex
     if (mark == RowMark::none) return;
     const Colours colours = colours_of(option->palette);
     if (!index.data(SIGN_ROLE).toBool()) {
-        if (mark == RowMark::unusable) option->palette.setColor(QPalette::Text, colours.muted);
+        if (mark == RowMark::unusable) write_muted(option->palette, colours);
         return;
     }
     const QColor colour = colour_of(mark, colours);
