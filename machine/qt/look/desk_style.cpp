@@ -169,7 +169,7 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         case PE_IndicatorArrowDown:
             return draw_arrow(*painter, *option, option->rect);
         case PE_IndicatorArrowUp:
-            return draw_arrow(*painter, *option, option->rect, true);
+            return draw_arrow(*painter, *option, option->rect, Qt::UpArrow);
         default:
             break;
     }
@@ -239,11 +239,23 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
 
 void DeskStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                    QPainter* painter, const QWidget* widget) const {
-    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
-    if (control != CC_ComboBox || combo == nullptr || !combo->frame)
-        return QProxyStyle::drawComplexControl(control, option, painter, widget);
-    draw_field(*painter, *combo);
-    draw_arrow(*painter, *combo, proxy()->subControlRect(control, combo, SC_ComboBoxArrow, widget));
+    const auto place_of = [&](SubControl part) {
+        return proxy()->subControlRect(control, option, part, widget);
+    };
+    if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        control == CC_ComboBox && combo != nullptr && combo->frame) {
+        draw_field(*painter, *combo);
+        return draw_arrow(*painter, *combo, place_of(SC_ComboBoxArrow));
+    }
+    if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        control == CC_ScrollBar && bar != nullptr) {
+        const bool upright = bar->orientation == Qt::Vertical;
+        draw_scroll_bar(*painter, *bar, place_of(SC_ScrollBarSlider));
+        draw_arrow(*painter, *bar, place_of(SC_ScrollBarSubLine), upright ? Qt::UpArrow : Qt::LeftArrow);
+        return draw_arrow(*painter, *bar, place_of(SC_ScrollBarAddLine),
+                          upright ? Qt::DownArrow : Qt::RightArrow);
+    }
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
 int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

@@ -109,18 +109,33 @@ void draw_field(QPainter& painter, const QStyleOption& option) {
              focus ? colours_of(option.palette).accent : edge_of(option), focus ? FOCUS_LINE : 1);
 }
 
-void draw_arrow(QPainter& painter, const QStyleOption& option, const QRect& place, bool up) {
+void draw_arrow(QPainter& painter, const QStyleOption& option, const QRect& place, Qt::ArrowType direction,
+                QPalette::ColorRole text) {
     const Smooth smooth(painter);
-    const QPointF middle = QRectF(place).center();
-    const double height = up ? -2 : 2;
-    QPainterPath arrow(middle + QPointF(-4, -height));
-    arrow.lineTo(middle + QPointF(0, height));
-    arrow.lineTo(middle + QPointF(4, -height));
+    painter.translate(QRectF(place).center());
+    painter.rotate(direction == Qt::UpArrow      ? 180
+                   : direction == Qt::LeftArrow  ? 90
+                   : direction == Qt::RightArrow ? -90
+                                                 : 0);
     const bool enabled = is(option, QStyle::State_Enabled);
-    painter.setPen(QPen(enabled ? option.palette.color(QPalette::Text) : strong_edge(option), 1.5,
-                        Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawPath(arrow);
+    painter.setPen(QPen(enabled ? option.palette.color(text) : strong_edge(option), 1.5, Qt::SolidLine,
+                        Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF({{-4, -2}, {0, 2}, {4, -2}}));
+}
+
+void draw_scroll_bar(QPainter& painter, const QStyleOptionSlider& bar, const QRect& thumb) {
+    const QColor text = bar.palette.color(QPalette::WindowText);
+    const QColor ground = bar.palette.color(QPalette::Window);
+    painter.fillRect(bar.rect, between(ground, text, 0.04));
+    if (!is(bar, QStyle::State_Enabled) || bar.minimum == bar.maximum) return;
+    const bool under_mouse = is(bar, QStyle::State_MouseOver) || is(bar, QStyle::State_Sunken);
+    const bool darker = under_mouse && bar.activeSubControls.testFlag(QStyle::SC_ScrollBarSlider);
+    const double paler = is_high_contrast(bar.palette) ? 0.2 : 0.55;
+    const QColor colour = between(text, ground, darker ? paler / 2 : paler);
+    const bool upright = bar.orientation == Qt::Vertical;
+    const QRectF shown =
+        QRectF(thumb).adjusted(upright ? 3 : 1, upright ? 1 : 3, upright ? -3 : -1, upright ? -1 : -3);
+    draw_box(painter, shown, colour, colour);
 }
 
 void draw_check_box(QPainter& painter, const QStyleOption& option) {

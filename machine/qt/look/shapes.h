@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QPalette>
 #include <QRect>
 
 class QPainter;
 class QStyleOption;
+class QStyleOptionSlider;
 
 namespace machine::qt {
 
@@ -23,8 +25,12 @@ void draw_edge(QPainter& painter, const QStyleOption& option);
 /// A field to type into or choose from, with its ground.
 void draw_field(QPainter& painter, const QStyleOption& option);
 
-/// A small arrow that points down, or up.
-void draw_arrow(QPainter& painter, const QStyleOption& option, const QRect& place, bool up = false);
+/// A small arrow in the colour of texts on that control.
+void draw_arrow(QPainter& painter, const QStyleOption& option, const QRect& place,
+                Qt::ArrowType direction = Qt::DownArrow, QPalette::ColorRole text = QPalette::Text);
+
+/// A scroll bar without its arrows: a quiet track and a thumb that stands out.
+void draw_scroll_bar(QPainter& painter, const QStyleOptionSlider& bar, const QRect& thumb);
 
 void draw_check_box(QPainter& painter, const QStyleOption& option);
 void draw_radio_button(QPainter& painter, const QStyleOption& option);

@@ -68,7 +68,8 @@ QIcon sign_icon(Sign sign, const QColor& colour, const QColor& colour_when_selec
         painter.translate(place.topLeft());
         painter.scale(place.width() / 16.0, place.height() / 16.0);
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(mode == QIcon::Selected ? colour_when_selected : colour, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(QPen(mode == QIcon::Selected ? colour_when_selected : colour, 1.6, Qt::SolidLine,
+                            Qt::RoundCap, Qt::RoundJoin));
         painter.drawPath(path_of(sign));
         painter.restore();
     }));
