@@ -167,9 +167,13 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         case PE_IndicatorRadioButton:
             return draw_radio_button(*painter, *option);
         case PE_IndicatorArrowDown:
-            return draw_arrow(*painter, *option, option->rect);
+            return draw_arrow(*painter, *option, option->rect, Qt::DownArrow, QPalette::ButtonText);
         case PE_IndicatorArrowUp:
-            return draw_arrow(*painter, *option, option->rect, Qt::UpArrow);
+            return draw_arrow(*painter, *option, option->rect, Qt::UpArrow, QPalette::ButtonText);
+        case PE_IndicatorArrowLeft:
+            return draw_arrow(*painter, *option, option->rect, Qt::LeftArrow, QPalette::ButtonText);
+        case PE_IndicatorArrowRight:
+            return draw_arrow(*painter, *option, option->rect, Qt::RightArrow, QPalette::ButtonText);
         default:
             break;
     }
@@ -254,6 +258,13 @@ void DeskStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
         draw_arrow(*painter, *bar, place_of(SC_ScrollBarSubLine), upright ? Qt::UpArrow : Qt::LeftArrow);
         return draw_arrow(*painter, *bar, place_of(SC_ScrollBarAddLine),
                           upright ? Qt::DownArrow : Qt::RightArrow);
+    }
+    if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+        control == CC_ToolButton && button != nullptr) {
+        // Qt would draw the arrow of its menu on its caption.
+        QStyleOptionToolButton shown(*button);
+        shown.features.setFlag(QStyleOptionToolButton::HasMenu, false);
+        return QProxyStyle::drawComplexControl(control, &shown, painter, widget);
     }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }

@@ -2,8 +2,10 @@
 
 #include "machine/qt/look/colours.h"
 
+#include <QBoxLayout>
 #include <QEvent>
 #include <QPainter>
+#include <QSpinBox>
 #include <QTextCharFormat>
 #include <QToolButton>
 
@@ -20,7 +22,28 @@ DayCalendar::DayCalendar(QWidget* parent) : QCalendarWidget(parent) {
         button->setIcon({});
         button->setArrowType(arrow);
     }
+    put_year_first();
+    // The edge is drawn here.
+    setContentsMargins(1, 1, 1, 1);
     colour_days();
+}
+
+/// As dates are written in Korean, "2026년 11월". Qt begins with the month.
+void DayCalendar::put_year_first() {
+    auto* month = findChild<QToolButton*>(QStringLiteral("qt_calendar_monthbutton"));
+    auto* year = findChild<QSpinBox*>(QStringLiteral("qt_calendar_yearedit"));
+    if (month == nullptr || year == nullptr) return;
+    year->setSuffix(QStringLiteral("년"));
+    if (auto* bar = qobject_cast<QBoxLayout*>(month->parentWidget()->layout()); bar != nullptr) {
+        bar->removeWidget(month);
+        bar->insertWidget(bar->indexOf(year) + 1, month);
+    }
+}
+
+void DayCalendar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(colours_of(palette()).line);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void DayCalendar::showEvent(QShowEvent* event) {
