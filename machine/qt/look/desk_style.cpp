@@ -49,6 +49,12 @@ QStyleOptionViewItem in_view(const QStyleOptionViewItem& item, const QAbstractIt
     return shown;
 }
 
+/// Whether the panel is the edge of the field with the focus, which has none of its own.
+bool surrounds_focus(const QWidget* panel) {
+    const auto* field = qobject_cast<const QAbstractScrollArea*>(QApplication::focusWidget());
+    return field != nullptr && field->parentWidget() == panel && field->frameShape() == QFrame::NoFrame;
+}
+
 bool is_heading(const QWidget& widget) {
     return widget.property("look").toString() == QLatin1String("heading");
 }
@@ -159,8 +165,11 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
             break;
         }
         case PE_FrameLineEdit:
-        case PE_Frame:
-            return draw_edge(*painter, *option);
+        case PE_Frame: {
+            QStyleOption edge(*option);
+            if (surrounds_focus(widget)) edge.state |= State_HasFocus;
+            return draw_edge(*painter, edge);
+        }
         case PE_IndicatorCheckBox:
         case PE_IndicatorItemViewItemCheck:
             return draw_check_box(*painter, *option);

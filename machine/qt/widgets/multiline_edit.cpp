@@ -74,9 +74,20 @@ void MultilineEdit::inputMethodEvent(QInputMethodEvent* event) {
     work([&] { QPlainTextEdit::inputMethodEvent(event); });
 }
 
+void MultilineEdit::focusInEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusInEvent(event);
+    show_focus_around();
+}
+
 void MultilineEdit::focusOutEvent(QFocusEvent* event) {
     if (event->reason() != Qt::PopupFocusReason) commit_composition(*this);
     QPlainTextEdit::focusOutEvent(event);
+    show_focus_around();
+}
+
+/// The edge of a field that has none of its own is that of the panel around it.
+void MultilineEdit::show_focus_around() {
+    if (frameShape() == NoFrame && parentWidget() != nullptr) parentWidget()->update();
 }
 
 void MultilineEdit::changeEvent(QEvent* event) {
