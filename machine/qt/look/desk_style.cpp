@@ -164,6 +164,11 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
             if (frame != nullptr && frame->lineWidth > 0) return draw_field(*painter, *option);
             break;
         }
+        case PE_FrameGroupBox:
+            if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+                frame != nullptr && frame->features.testFlag(QStyleOptionFrame::Flat))
+                return;
+            return draw_edge(*painter, *option);
         case PE_FrameLineEdit:
         case PE_Frame: {
             QStyleOption edge(*option);
