@@ -6,6 +6,7 @@
 #include <QPainterPath>
 #include <QStyle>
 #include <QStyleOption>
+#include <algorithm>
 
 namespace machine::qt {
 
@@ -193,6 +194,34 @@ void draw_tab(QPainter& painter, const QStyleOption& option, bool chosen) {
     painter.drawLine(place.bottomLeft() - QPointF(0, 0.5), place.bottomRight() - QPointF(0, 0.5));
     if (!chosen) return;
     painter.fillRect(QRectF(place.left() + 6, place.bottom() - 3, place.width() - 12, 3), accent);
+}
+
+void draw_header(QPainter& painter, const QStyleOptionHeader& header) {
+    const Colours colours = colours_of(header.palette);
+    painter.fillRect(header.rect, header.palette.color(QPalette::AlternateBase));
+    painter.fillRect(QRect(header.rect.bottomLeft(), QSize(header.rect.width(), 1)), colours.line);
+    const bool last =
+        header.position == QStyleOptionHeader::End || header.position == QStyleOptionHeader::OnlyOneSection;
+    if (!last)
+        painter.fillRect(header.rect.right(), header.rect.top() + 4, 1, header.rect.height() - 8,
+                         colours.line);
+}
+
+void draw_bar(QPainter& painter, const QStyleOptionProgressBar& bar, bool done) {
+    QRectF place = bar.rect;
+    const double round = std::min(place.height() / 2, 4.0);
+    const Colours colours = colours_of(bar.palette);
+    if (done) {
+        const double range = std::max(1, bar.maximum - bar.minimum);
+        place.setWidth(place.width() * (bar.progress - bar.minimum) / range);
+        if (place.width() <= 0) return;
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(done ? colours.accent : between(colours.line, bar.palette.color(QPalette::Window), 0.4));
+    painter.drawRoundedRect(place, round, round);
+    painter.restore();
 }
 
 }  // namespace machine::qt

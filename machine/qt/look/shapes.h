@@ -5,6 +5,8 @@
 
 class QPainter;
 class QStyleOption;
+class QStyleOptionHeader;
+class QStyleOptionProgressBar;
 class QStyleOptionSlider;
 
 namespace machine::qt {
@@ -37,5 +39,11 @@ void draw_radio_button(QPainter& painter, const QStyleOption& option);
 
 /// A tab of a row of tabs; the chosen one has a line of the accent.
 void draw_tab(QPainter& painter, const QStyleOption& option, bool chosen);
+
+/// A section of a list's header.
+void draw_header(QPainter& painter, const QStyleOptionHeader& header);
+
+/// A bar of progress, or its part that is done.
+void draw_bar(QPainter& painter, const QStyleOptionProgressBar& bar, bool done);
 
 }  // namespace machine::qt
