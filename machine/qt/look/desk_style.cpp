@@ -55,6 +55,10 @@ bool surrounds_focus(const QWidget* panel) {
     return field != nullptr && field->parentWidget() == panel && field->frameShape() == QFrame::NoFrame;
 }
 
+QPalette::ColorRole role_of_text(const QWidget* widget) {
+    return widget != nullptr ? widget->foregroundRole() : QPalette::Text;
+}
+
 bool is_heading(const QWidget& widget) {
     return widget.property("look").toString() == QLatin1String("heading");
 }
@@ -152,13 +156,13 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         case PE_IndicatorRadioButton:
             return draw_radio_button(*painter, *option);
         case PE_IndicatorArrowDown:
-            return draw_arrow(*painter, *option, option->rect, Qt::DownArrow, QPalette::ButtonText);
+            return draw_arrow(*painter, *option, option->rect, Qt::DownArrow, role_of_text(widget));
         case PE_IndicatorArrowUp:
-            return draw_arrow(*painter, *option, option->rect, Qt::UpArrow, QPalette::ButtonText);
+            return draw_arrow(*painter, *option, option->rect, Qt::UpArrow, role_of_text(widget));
         case PE_IndicatorArrowLeft:
-            return draw_arrow(*painter, *option, option->rect, Qt::LeftArrow, QPalette::ButtonText);
+            return draw_arrow(*painter, *option, option->rect, Qt::LeftArrow, role_of_text(widget));
         case PE_IndicatorArrowRight:
-            return draw_arrow(*painter, *option, option->rect, Qt::RightArrow, QPalette::ButtonText);
+            return draw_arrow(*painter, *option, option->rect, Qt::RightArrow, role_of_text(widget));
         default:
             break;
     }

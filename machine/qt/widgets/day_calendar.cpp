@@ -21,6 +21,7 @@ DayCalendar::DayCalendar(QWidget* parent) : QCalendarWidget(parent) {
         if (button == nullptr) continue;
         button->setIcon({});
         button->setArrowType(arrow);
+        button->setForegroundRole(QPalette::HighlightedText);
     }
     put_year_first();
     // The edge is drawn here.
@@ -31,13 +32,20 @@ DayCalendar::DayCalendar(QWidget* parent) : QCalendarWidget(parent) {
 /// As dates are written in Korean, "2026년 11월". Qt begins with the month.
 void DayCalendar::put_year_first() {
     auto* month = findChild<QToolButton*>(QStringLiteral("qt_calendar_monthbutton"));
-    auto* year = findChild<QSpinBox*>(QStringLiteral("qt_calendar_yearedit"));
-    if (month == nullptr || year == nullptr) return;
-    year->setSuffix(QStringLiteral("년"));
-    if (auto* bar = qobject_cast<QBoxLayout*>(month->parentWidget()->layout()); bar != nullptr) {
-        bar->removeWidget(month);
-        bar->insertWidget(bar->indexOf(year) + 1, month);
-    }
+    auto* year = findChild<QToolButton*>(QStringLiteral("qt_calendar_yearbutton"));
+    auto* typed_year = findChild<QSpinBox*>(QStringLiteral("qt_calendar_yearedit"));
+    if (month == nullptr || year == nullptr || typed_year == nullptr) return;
+    // The button shows the text of the field into which the year is typed.
+    typed_year->setSuffix(QStringLiteral("년"));
+    year->setText(typed_year->text());
+    auto* bar = qobject_cast<QBoxLayout*>(month->parentWidget()->layout());
+    if (bar == nullptr) return;
+    const int first = bar->indexOf(month);
+    const int second = bar->indexOf(year);
+    bar->removeWidget(year);
+    bar->insertWidget(first, year);
+    bar->removeWidget(month);
+    bar->insertWidget(second, month);
 }
 
 void DayCalendar::paintEvent(QPaintEvent*) {
