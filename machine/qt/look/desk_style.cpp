@@ -244,9 +244,10 @@ void DeskStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
         control == CC_ScrollBar && bar != nullptr) {
         const bool upright = bar->orientation == Qt::Vertical;
         draw_scroll_bar(*painter, *bar, place_of(SC_ScrollBarSlider));
-        draw_arrow(*painter, *bar, place_of(SC_ScrollBarSubLine), upright ? Qt::UpArrow : Qt::LeftArrow);
+        draw_arrow(*painter, *bar, place_of(SC_ScrollBarSubLine), upright ? Qt::UpArrow : Qt::LeftArrow,
+                   MUTED_TEXT);
         return draw_arrow(*painter, *bar, place_of(SC_ScrollBarAddLine),
-                          upright ? Qt::DownArrow : Qt::RightArrow);
+                          upright ? Qt::DownArrow : Qt::RightArrow, MUTED_TEXT);
     }
     if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
         control == CC_ToolButton && button != nullptr) {
