@@ -49,10 +49,9 @@ QStyleOptionViewItem in_view(const QStyleOptionViewItem& item, const QAbstractIt
     return shown;
 }
 
-/// Whether the panel is the edge of the field with the focus, which has none of its own.
 bool surrounds_focus(const QWidget* panel) {
-    const auto* field = qobject_cast<const QAbstractScrollArea*>(QApplication::focusWidget());
-    return field != nullptr && field->parentWidget() == panel && field->frameShape() == QFrame::NoFrame;
+    const QWidget* field = QApplication::focusWidget();
+    return panel != nullptr && field != nullptr && edge_around(*field) == panel;
 }
 
 QPalette::ColorRole role_of_text(const QWidget* widget) {
@@ -71,6 +70,17 @@ void write_as_heading(QWidget& widget) {
 }
 
 }  // namespace
+
+QWidget* edge_around(const QWidget& field) {
+    const auto has_no_edge = [](const QWidget* widget) {
+        const auto* frame = qobject_cast<const QFrame*>(widget);
+        return frame != nullptr && frame->frameShape() == QFrame::NoFrame;
+    };
+    if (!has_no_edge(&field) || qobject_cast<const QAbstractScrollArea*>(&field) == nullptr) return nullptr;
+    QWidget* panel = field.parentWidget();
+    while (has_no_edge(panel)) panel = panel->parentWidget();
+    return panel;
+}
 
 void DeskStyle::polish(QPalette& palette) {
     QProxyStyle::polish(palette);

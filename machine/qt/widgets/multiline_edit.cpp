@@ -1,6 +1,7 @@
 #include "machine/qt/widgets/multiline_edit.h"
 
 #include "machine/qt/look/colours.h"
+#include "machine/qt/look/desk_style.h"
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/typing/undoing.h"
@@ -85,9 +86,8 @@ void MultilineEdit::focusOutEvent(QFocusEvent* event) {
     show_focus_around();
 }
 
-/// The edge of a field that has none of its own is that of the panel around it.
 void MultilineEdit::show_focus_around() {
-    if (frameShape() == NoFrame && parentWidget() != nullptr) parentWidget()->update();
+    if (QWidget* panel = edge_around(*this); panel != nullptr) panel->update();
 }
 
 void MultilineEdit::changeEvent(QEvent* event) {
