@@ -7,6 +7,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QFrame>
+#include <QGroupBox>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
@@ -47,6 +48,12 @@ QStyleOptionViewItem in_view(const QStyleOptionViewItem& item, const QAbstractIt
     if (!shown.state.testFlag(QStyle::State_Active) && !shown.icon.isNull())
         shown.icon = icon_in_mode(shown.icon, QIcon::Normal);
     return shown;
+}
+
+QRect below_title(const QGroupBox& group) {
+    constexpr int AIR = 3;
+    const int title = group.title().isEmpty() ? 0 : group.fontMetrics().height();
+    return group.rect().adjusted(0, title + AIR, 0, 0);
 }
 
 bool surrounds_focus(const QWidget* panel) {
@@ -150,14 +157,11 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
             break;
         }
         case PE_FrameGroupBox:
-            if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
-                frame != nullptr && frame->features.testFlag(QStyleOptionFrame::Flat))
-                return;
-            return draw_edge(*painter, *option);
         case PE_FrameLineEdit:
         case PE_Frame: {
             QStyleOption edge(*option);
             if (surrounds_focus(widget)) edge.state |= State_HasFocus;
+            if (const auto* group = qobject_cast<const QGroupBox*>(widget)) edge.rect = below_title(*group);
             return draw_edge(*painter, edge);
         }
         case PE_IndicatorCheckBox:
