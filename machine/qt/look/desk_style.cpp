@@ -1,6 +1,7 @@
 #include "machine/qt/look/desk_style.h"
 
 #include "machine/qt/look/colours.h"
+#include "machine/qt/look/edges.h"
 #include "machine/qt/look/late_icon.h"
 #include "machine/qt/look/shapes.h"
 
@@ -50,17 +51,6 @@ QStyleOptionViewItem in_view(const QStyleOptionViewItem& item, const QAbstractIt
     return shown;
 }
 
-QRect below_title(const QGroupBox& group) {
-    constexpr int AIR = 3;
-    const int title = group.title().isEmpty() ? 0 : group.fontMetrics().height();
-    return group.rect().adjusted(0, title + AIR, 0, 0);
-}
-
-bool surrounds_focus(const QWidget* panel) {
-    const QWidget* field = QApplication::focusWidget();
-    return panel != nullptr && field != nullptr && edge_around(*field) == panel;
-}
-
 QPalette::ColorRole role_of_text(const QWidget* widget) {
     return widget != nullptr ? widget->foregroundRole() : QPalette::Text;
 }
@@ -77,17 +67,6 @@ void write_as_heading(QWidget& widget) {
 }
 
 }  // namespace
-
-QWidget* edge_around(const QWidget& field) {
-    const auto has_no_edge = [](const QWidget* widget) {
-        const auto* frame = qobject_cast<const QFrame*>(widget);
-        return frame != nullptr && frame->frameShape() == QFrame::NoFrame;
-    };
-    if (!has_no_edge(&field) || qobject_cast<const QAbstractScrollArea*>(&field) == nullptr) return nullptr;
-    QWidget* panel = field.parentWidget();
-    while (has_no_edge(panel)) panel = panel->parentWidget();
-    return panel;
-}
 
 void DeskStyle::polish(QPalette& palette) {
     QProxyStyle::polish(palette);
@@ -160,8 +139,9 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         case PE_FrameLineEdit:
         case PE_Frame: {
             QStyleOption edge(*option);
-            if (surrounds_focus(widget)) edge.state |= State_HasFocus;
-            if (const auto* group = qobject_cast<const QGroupBox*>(widget)) edge.rect = below_title(*group);
+            if (shows_focus_within(widget)) edge.state |= State_HasFocus;
+            if (const auto* group = qobject_cast<const QGroupBox*>(widget))
+                edge.rect = edge_below_title(*group);
             return draw_edge(*painter, edge);
         }
         case PE_IndicatorCheckBox:

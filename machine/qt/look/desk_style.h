@@ -33,8 +33,4 @@ class DeskStyle : public QProxyStyle {
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
 };
 
-/// The panel whose edge shows the focus of a field of several lines that has no edge of its own; null where
-/// it has one.
-QWidget* edge_around(const QWidget& field);
-
 }  // namespace machine::qt

@@ -1,7 +1,7 @@
 #include "machine/qt/widgets/multiline_edit.h"
 
 #include "machine/qt/look/colours.h"
-#include "machine/qt/look/desk_style.h"
+#include "machine/qt/look/edges.h"
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/typing/undoing.h"
