@@ -129,7 +129,7 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         case PE_FrameFocusRect:
             // A button shows the focus by its edge.
             if (qobject_cast<const QPushButton*>(widget) != nullptr) return;
-            break;
+            return draw_focus(*painter, *option);
         case PE_PanelLineEdit: {
             const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
             if (frame != nullptr && frame->lineWidth > 0) return draw_field(*painter, *option);

@@ -103,6 +103,16 @@ void draw_edge(QPainter& painter, const QStyleOption& option) {
              1, ROUND - 1);
 }
 
+void draw_focus(QPainter& painter, const QStyleOption& option) {
+    const QColor accent = colours_of(option.palette).accent;
+    const auto* focus = qstyleoption_cast<const QStyleOptionFocusRect*>(&option);
+    // On a chosen row the ground has the accent too.
+    const bool on_accent = focus != nullptr && focus->backgroundColor.rgb() == accent.rgb();
+    const QColor text = option.palette.color(QPalette::Active, QPalette::HighlightedText);
+    draw_box(painter, option.rect, Qt::NoBrush, on_accent ? between(text, accent, 0.3) : accent, 1,
+             ROUND - 1);
+}
+
 void draw_field(QPainter& painter, const QStyleOption& option) {
     const bool enabled = is(option, QStyle::State_Enabled);
     const bool focus = has_focus(option);

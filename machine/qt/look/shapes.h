@@ -24,6 +24,9 @@ void draw_flat_button(QPainter& painter, const QStyleOption& option);
 /// The edge of a field, list or panel.
 void draw_edge(QPainter& painter, const QStyleOption& option);
 
+/// The line around what has the focus: the row of a list, the caption of a check box.
+void draw_focus(QPainter& painter, const QStyleOption& option);
+
 /// A field to type into or choose from, with its ground.
 void draw_field(QPainter& painter, const QStyleOption& option);
 
