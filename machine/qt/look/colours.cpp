@@ -15,7 +15,7 @@ constexpr QRgb ACCENT_ON_DARK = qRgb(0x78, 0xAE, 0xF5);
 constexpr double READABLE_DISABLED = 3.2;
 constexpr double READABLE_DISABLED_IN_HIGH_CONTRAST = 7;
 constexpr double PALE = 0.82;
-constexpr double PALE_IN_HIGH_CONTRAST = 0.6;
+constexpr double PALE_IN_HIGH_CONTRAST = 0.7;
 
 double luminance(const QColor& colour) {
     const auto linear = [](double share) {
