@@ -7,10 +7,12 @@
 #include "machine/qt/typing/typed_text.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QStyle>
+#include <algorithm>
 
 namespace machine::qt {
 
@@ -126,6 +128,23 @@ MessageBox::MessageBox(const platform::MessageBox& box, const QString& applicati
     }
     typing_rest_.setAccessibleName(text());
     add_buttons(box);
+    make_room_for_title();
+}
+
+/// Wide enough for the title beside the frame's own buttons, and never tiny. Qt fits the box to its text
+/// alone and lets nobody else set its size, but respects what lies in its layout.
+void MessageBox::make_room_for_title() {
+    constexpr int FRAMES_BUTTONS = 96;
+    constexpr int LEAST_HEIGHTS_OF_LINES = 24;
+    auto* grid = qobject_cast<QGridLayout*>(layout());
+    if (grid == nullptr) return;
+    QFont font = QApplication::font("QMdiSubWindowTitleBar");
+    font.setBold(true);
+    const int title = QFontMetrics(font).horizontalAdvance(windowTitle()) + FRAMES_BUTTONS;
+    const int width = std::max(title, LEAST_HEIGHTS_OF_LINES * fontMetrics().height());
+    const QMargins margins = grid->contentsMargins();
+    grid->addItem(new QSpacerItem(width - margins.left() - margins.right(), 0), grid->rowCount(), 0, 1,
+                  grid->columnCount());
 }
 
 void MessageBox::add_buttons(const platform::MessageBox& box) {

@@ -35,6 +35,7 @@ class MessageBox : public QMessageBox {
 
   private:
     void add_buttons(const platform::MessageBox& box);
+    void make_room_for_title();
 
     platform::BoxButtons buttons_;
     const LastKey& last_key_;

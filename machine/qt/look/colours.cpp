@@ -15,6 +15,7 @@ constexpr QRgb ACCENT_ON_DARK = qRgb(0x78, 0xAE, 0xF5);
 constexpr double READABLE_DISABLED = 3.2;
 constexpr double READABLE_DISABLED_IN_HIGH_CONTRAST = 7;
 constexpr double PALE = 0.82;
+constexpr double PALE_IN_HIGH_CONTRAST = 0.7;
 
 double luminance(const QColor& colour) {
     const auto linear = [](double share) {
@@ -119,7 +120,8 @@ void make_readable(QPalette& palette) {
     palette.setColor(QPalette::HighlightedText, white_reads ? Qt::white : Qt::black);
 
     const QColor base = palette.color(QPalette::Active, QPalette::Base);
-    palette.setColor(QPalette::Inactive, QPalette::Highlight, between(highlight, base, PALE));
+    const double pale = is_high_contrast(palette) ? PALE_IN_HIGH_CONTRAST : PALE;
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, between(highlight, base, pale));
     palette.setColor(QPalette::Inactive, QPalette::HighlightedText,
                      palette.color(QPalette::Active, QPalette::Text));
 

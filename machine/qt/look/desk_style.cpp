@@ -1,12 +1,14 @@
 #include "machine/qt/look/desk_style.h"
 
 #include "machine/qt/look/colours.h"
+#include "machine/qt/look/edges.h"
 #include "machine/qt/look/late_icon.h"
 #include "machine/qt/look/shapes.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QFrame>
+#include <QGroupBox>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
@@ -28,7 +30,14 @@ QStyleOptionButton on_accent(const QStyleOptionButton& button) {
     QStyleOptionButton shown(button);
     shown.palette.setColor(QPalette::ButtonText,
                            button.palette.color(QPalette::Active, QPalette::HighlightedText));
-    if (!shown.icon.isNull()) shown.icon = QIcon(shown.icon.pixmap(shown.iconSize, QIcon::Selected));
+    if (!shown.icon.isNull()) shown.icon = icon_in_mode(shown.icon, QIcon::Selected);
+    return shown;
+}
+
+QStyleOptionMenuItem in_menu(const QStyleOptionMenuItem& item) {
+    QStyleOptionMenuItem shown(item);
+    const bool on_accent = item.state.testFlags(QStyle::State_Selected | QStyle::State_Enabled);
+    if (on_accent && !shown.icon.isNull()) shown.icon = icon_in_mode(shown.icon, QIcon::Selected);
     return shown;
 }
 
@@ -37,7 +46,13 @@ QStyleOptionViewItem in_view(const QStyleOptionViewItem& item, const QAbstractIt
     QStyleOptionViewItem shown(item);
     if (!view.hasFocus()) shown.state.setFlag(QStyle::State_Active, false);
     if (view.property("quietSelection").toBool()) shown.state.setFlag(QStyle::State_Selected, false);
+    if (!shown.state.testFlag(QStyle::State_Active) && !shown.icon.isNull())
+        shown.icon = icon_in_mode(shown.icon, QIcon::Normal);
     return shown;
+}
+
+QPalette::ColorRole role_of_text(const QWidget* widget) {
+    return widget != nullptr ? widget->foregroundRole() : QPalette::Text;
 }
 
 bool is_heading(const QWidget& widget) {
@@ -49,35 +64,6 @@ void write_as_heading(QWidget& widget) {
     font.setBold(true);
     font.setPointSizeF(QFontInfo(QApplication::font()).pointSizeF() * HEADING_SIZE);
     widget.setFont(font);
-}
-
-void draw_header(QPainter& painter, const QStyleOptionHeader& header) {
-    const Colours colours = colours_of(header.palette);
-    painter.fillRect(header.rect, header.palette.color(QPalette::AlternateBase));
-    painter.fillRect(QRect(header.rect.bottomLeft(), QSize(header.rect.width(), 1)), colours.line);
-    const bool last =
-        header.position == QStyleOptionHeader::End || header.position == QStyleOptionHeader::OnlyOneSection;
-    if (!last)
-        painter.fillRect(header.rect.right(), header.rect.top() + 4, 1, header.rect.height() - 8,
-                         colours.line);
-}
-
-/// A bar of progress, or its part that is done.
-void draw_bar(QPainter& painter, const QStyleOptionProgressBar& bar, bool done) {
-    QRectF place = bar.rect;
-    const double round = std::min(place.height() / 2, 4.0);
-    const Colours colours = colours_of(bar.palette);
-    if (done) {
-        const double range = std::max(1, bar.maximum - bar.minimum);
-        place.setWidth(place.width() * (bar.progress - bar.minimum) / range);
-        if (place.width() <= 0) return;
-    }
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(done ? colours.accent : between(colours.line, bar.palette.color(QPalette::Window), 0.4));
-    painter.drawRoundedRect(place, round, round);
-    painter.restore();
 }
 
 }  // namespace
@@ -143,24 +129,34 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         case PE_FrameFocusRect:
             // A button shows the focus by its edge.
             if (qobject_cast<const QPushButton*>(widget) != nullptr) return;
-            break;
+            return draw_focus(*painter, *option);
         case PE_PanelLineEdit: {
             const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
             if (frame != nullptr && frame->lineWidth > 0) return draw_field(*painter, *option);
             break;
         }
+        case PE_FrameGroupBox:
         case PE_FrameLineEdit:
-        case PE_Frame:
-            return draw_edge(*painter, *option);
+        case PE_Frame: {
+            QStyleOption edge(*option);
+            if (shows_focus_within(widget)) edge.state |= State_HasFocus;
+            if (const auto* group = qobject_cast<const QGroupBox*>(widget))
+                edge.rect = edge_below_title(*group);
+            return draw_edge(*painter, edge);
+        }
         case PE_IndicatorCheckBox:
         case PE_IndicatorItemViewItemCheck:
             return draw_check_box(*painter, *option);
         case PE_IndicatorRadioButton:
             return draw_radio_button(*painter, *option);
         case PE_IndicatorArrowDown:
-            return draw_arrow(*painter, *option, option->rect);
+            return draw_arrow(*painter, *option, option->rect, Qt::DownArrow, role_of_text(widget));
         case PE_IndicatorArrowUp:
-            return draw_arrow(*painter, *option, option->rect, true);
+            return draw_arrow(*painter, *option, option->rect, Qt::UpArrow, role_of_text(widget));
+        case PE_IndicatorArrowLeft:
+            return draw_arrow(*painter, *option, option->rect, Qt::LeftArrow, role_of_text(widget));
+        case PE_IndicatorArrowRight:
+            return draw_arrow(*painter, *option, option->rect, Qt::RightArrow, role_of_text(widget));
         default:
             break;
     }
@@ -174,6 +170,12 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
             if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
                 button != nullptr && is_filled(*button) && (button->state & State_Enabled)) {
                 const QStyleOptionButton shown = on_accent(*button);
+                return QProxyStyle::drawControl(element, &shown, painter, widget);
+            }
+            break;
+        case CE_MenuItem:
+            if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
+                const QStyleOptionMenuItem shown = in_menu(*item);
                 return QProxyStyle::drawControl(element, &shown, painter, widget);
             }
             break;
@@ -200,6 +202,14 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
             if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option))
                 return draw_bar(*painter, *bar, element == CE_ProgressBarContents);
             break;
+        case CE_ProgressBarLabel:
+            if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option)) {
+                // The part that is done stays dark while another window is active.
+                QStyleOptionProgressBar shown(*bar);
+                shown.palette.setCurrentColorGroup(QPalette::Active);
+                return QProxyStyle::drawControl(element, &shown, painter, widget);
+            }
+            break;
         case CE_ItemViewItem:
             if (const auto* view = qobject_cast<const QAbstractItemView*>(widget); view != nullptr) {
                 if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
@@ -216,11 +226,31 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
 
 void DeskStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                    QPainter* painter, const QWidget* widget) const {
-    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
-    if (control != CC_ComboBox || combo == nullptr || !combo->frame)
-        return QProxyStyle::drawComplexControl(control, option, painter, widget);
-    draw_field(*painter, *combo);
-    draw_arrow(*painter, *combo, proxy()->subControlRect(control, combo, SC_ComboBoxArrow, widget));
+    const auto place_of = [&](SubControl part) {
+        return proxy()->subControlRect(control, option, part, widget);
+    };
+    if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        control == CC_ComboBox && combo != nullptr && combo->frame) {
+        draw_field(*painter, *combo);
+        return draw_arrow(*painter, *combo, place_of(SC_ComboBoxArrow));
+    }
+    if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        control == CC_ScrollBar && bar != nullptr) {
+        const bool upright = bar->orientation == Qt::Vertical;
+        draw_scroll_bar(*painter, *bar, place_of(SC_ScrollBarSlider));
+        draw_arrow(*painter, *bar, place_of(SC_ScrollBarSubLine), upright ? Qt::UpArrow : Qt::LeftArrow,
+                   MUTED_TEXT);
+        return draw_arrow(*painter, *bar, place_of(SC_ScrollBarAddLine),
+                          upright ? Qt::DownArrow : Qt::RightArrow, MUTED_TEXT);
+    }
+    if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+        control == CC_ToolButton && button != nullptr) {
+        // Qt would draw the arrow of its menu on its caption.
+        QStyleOptionToolButton shown(*button);
+        shown.features.setFlag(QStyleOptionToolButton::HasMenu, false);
+        return QProxyStyle::drawComplexControl(control, &shown, painter, widget);
+    }
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
 int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

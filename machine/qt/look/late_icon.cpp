@@ -9,6 +9,7 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 #include <QVariant>
+#include <optional>
 #include <utility>
 
 namespace machine::qt {
@@ -17,19 +18,21 @@ namespace {
 
 class LateIconEngine : public QIconEngine {
   public:
-    explicit LateIconEngine(std::function<QIcon()> make) : make_(std::move(make)) {}
+    /// With a mode, the icon is drawn in that one alone.
+    explicit LateIconEngine(std::function<QIcon()> make, std::optional<QIcon::Mode> mode = std::nullopt)
+        : make_(std::move(make)), mode_(mode) {}
 
     void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State state) override {
-        icon().paint(painter, place, Qt::AlignCenter, mode, state);
+        icon().paint(painter, place, Qt::AlignCenter, mode_.value_or(mode), state);
     }
 
     /// The size is in the screen's own pixels.
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        return icon().pixmap(size, 1.0, mode, state);
+        return icon().pixmap(size, 1.0, mode_.value_or(mode), state);
     }
 
     QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        return icon().actualSize(size, mode, state);
+        return icon().actualSize(size, mode_.value_or(mode), state);
     }
 
     QIconEngine* clone() const override { return new LateIconEngine(*this); }
@@ -41,6 +44,7 @@ class LateIconEngine : public QIconEngine {
     }
 
     std::function<QIcon()> make_;
+    std::optional<QIcon::Mode> mode_;
     QIcon icon_;
 };
 
@@ -112,6 +116,10 @@ class PictureEngine : public QIconEngine {
 QIcon late_icon(std::function<QIcon()> make) { return QIcon(new LateIconEngine(std::move(make))); }
 
 QIcon late_icon(const QString& name) { return QIcon(new PictureEngine(name)); }
+
+QIcon icon_in_mode(const QIcon& icon, QIcon::Mode mode) {
+    return QIcon(new LateIconEngine([icon] { return icon; }, mode));
+}
 
 QList<QIcon> pictures_of(const QObject& widget) {
     QList<QIcon> pictures;

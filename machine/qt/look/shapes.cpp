@@ -6,6 +6,7 @@
 #include <QPainterPath>
 #include <QStyle>
 #include <QStyleOption>
+#include <algorithm>
 
 namespace machine::qt {
 
@@ -102,6 +103,16 @@ void draw_edge(QPainter& painter, const QStyleOption& option) {
              1, ROUND - 1);
 }
 
+void draw_focus(QPainter& painter, const QStyleOption& option) {
+    const QColor accent = colours_of(option.palette).accent;
+    const auto* focus = qstyleoption_cast<const QStyleOptionFocusRect*>(&option);
+    // On a chosen row the ground has the accent too.
+    const bool on_accent = focus != nullptr && focus->backgroundColor.rgb() == accent.rgb();
+    const QColor text = option.palette.color(QPalette::Active, QPalette::HighlightedText);
+    draw_box(painter, option.rect, Qt::NoBrush, on_accent ? between(text, accent, 0.3) : accent, 1,
+             ROUND - 1);
+}
+
 void draw_field(QPainter& painter, const QStyleOption& option) {
     const bool enabled = is(option, QStyle::State_Enabled);
     const bool focus = has_focus(option);
@@ -109,18 +120,33 @@ void draw_field(QPainter& painter, const QStyleOption& option) {
              focus ? colours_of(option.palette).accent : edge_of(option), focus ? FOCUS_LINE : 1);
 }
 
-void draw_arrow(QPainter& painter, const QStyleOption& option, const QRect& place, bool up) {
+void draw_arrow(QPainter& painter, const QStyleOption& option, const QRect& place, Qt::ArrowType direction,
+                QPalette::ColorRole text) {
     const Smooth smooth(painter);
-    const QPointF middle = QRectF(place).center();
-    const double height = up ? -2 : 2;
-    QPainterPath arrow(middle + QPointF(-4, -height));
-    arrow.lineTo(middle + QPointF(0, height));
-    arrow.lineTo(middle + QPointF(4, -height));
+    painter.translate(QRectF(place).center());
+    painter.rotate(direction == Qt::UpArrow      ? 180
+                   : direction == Qt::LeftArrow  ? 90
+                   : direction == Qt::RightArrow ? -90
+                                                 : 0);
     const bool enabled = is(option, QStyle::State_Enabled);
-    painter.setPen(QPen(enabled ? option.palette.color(QPalette::Text) : strong_edge(option), 1.5,
-                        Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawPath(arrow);
+    painter.setPen(QPen(enabled ? option.palette.color(text) : strong_edge(option), 1.5, Qt::SolidLine,
+                        Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF({{-4, -2}, {0, 2}, {4, -2}}));
+}
+
+void draw_scroll_bar(QPainter& painter, const QStyleOptionSlider& bar, const QRect& thumb) {
+    const QColor text = bar.palette.color(QPalette::WindowText);
+    const QColor ground = bar.palette.color(QPalette::Window);
+    painter.fillRect(bar.rect, between(ground, text, 0.04));
+    if (!is(bar, QStyle::State_Enabled) || bar.minimum == bar.maximum) return;
+    const bool under_mouse = is(bar, QStyle::State_MouseOver) || is(bar, QStyle::State_Sunken);
+    const bool darker = under_mouse && bar.activeSubControls.testFlag(QStyle::SC_ScrollBarSlider);
+    const double paler = is_high_contrast(bar.palette) ? 0.2 : 0.55;
+    const QColor colour = between(text, ground, darker ? paler / 2 : paler);
+    const bool upright = bar.orientation == Qt::Vertical;
+    const QRectF shown =
+        QRectF(thumb).adjusted(upright ? 3 : 1, upright ? 1 : 3, upright ? -3 : -1, upright ? -1 : -3);
+    draw_box(painter, shown, colour, colour);
 }
 
 void draw_check_box(QPainter& painter, const QStyleOption& option) {
@@ -178,6 +204,34 @@ void draw_tab(QPainter& painter, const QStyleOption& option, bool chosen) {
     painter.drawLine(place.bottomLeft() - QPointF(0, 0.5), place.bottomRight() - QPointF(0, 0.5));
     if (!chosen) return;
     painter.fillRect(QRectF(place.left() + 6, place.bottom() - 3, place.width() - 12, 3), accent);
+}
+
+void draw_header(QPainter& painter, const QStyleOptionHeader& header) {
+    const Colours colours = colours_of(header.palette);
+    painter.fillRect(header.rect, header.palette.color(QPalette::AlternateBase));
+    painter.fillRect(QRect(header.rect.bottomLeft(), QSize(header.rect.width(), 1)), colours.line);
+    const bool last =
+        header.position == QStyleOptionHeader::End || header.position == QStyleOptionHeader::OnlyOneSection;
+    if (!last)
+        painter.fillRect(header.rect.right(), header.rect.top() + 4, 1, header.rect.height() - 8,
+                         colours.line);
+}
+
+void draw_bar(QPainter& painter, const QStyleOptionProgressBar& bar, bool done) {
+    QRectF place = bar.rect;
+    const double round = std::min(place.height() / 2, 4.0);
+    const Colours colours = colours_of(bar.palette);
+    if (done) {
+        const double range = std::max(1, bar.maximum - bar.minimum);
+        place.setWidth(place.width() * (bar.progress - bar.minimum) / range);
+        if (place.width() <= 0) return;
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(done ? colours.accent : between(colours.line, bar.palette.color(QPalette::Window), 0.4));
+    painter.drawRoundedRect(place, round, round);
+    painter.restore();
 }
 
 }  // namespace machine::qt

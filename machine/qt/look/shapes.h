@@ -1,9 +1,13 @@
 #pragma once
 
+#include <QPalette>
 #include <QRect>
 
 class QPainter;
 class QStyleOption;
+class QStyleOptionHeader;
+class QStyleOptionProgressBar;
+class QStyleOptionSlider;
 
 namespace machine::qt {
 
@@ -20,16 +24,29 @@ void draw_flat_button(QPainter& painter, const QStyleOption& option);
 /// The edge of a field, list or panel.
 void draw_edge(QPainter& painter, const QStyleOption& option);
 
+/// The line around what has the focus: the row of a list, the caption of a check box.
+void draw_focus(QPainter& painter, const QStyleOption& option);
+
 /// A field to type into or choose from, with its ground.
 void draw_field(QPainter& painter, const QStyleOption& option);
 
-/// A small arrow that points down, or up.
-void draw_arrow(QPainter& painter, const QStyleOption& option, const QRect& place, bool up = false);
+/// A small arrow in the colour of texts on that control.
+void draw_arrow(QPainter& painter, const QStyleOption& option, const QRect& place,
+                Qt::ArrowType direction = Qt::DownArrow, QPalette::ColorRole text = QPalette::Text);
+
+/// A scroll bar without its arrows: a quiet track and a thumb that stands out.
+void draw_scroll_bar(QPainter& painter, const QStyleOptionSlider& bar, const QRect& thumb);
 
 void draw_check_box(QPainter& painter, const QStyleOption& option);
 void draw_radio_button(QPainter& painter, const QStyleOption& option);
 
 /// A tab of a row of tabs; the chosen one has a line of the accent.
 void draw_tab(QPainter& painter, const QStyleOption& option, bool chosen);
+
+/// A section of a list's header.
+void draw_header(QPainter& painter, const QStyleOptionHeader& header);
+
+/// A bar of progress, or its part that is done.
+void draw_bar(QPainter& painter, const QStyleOptionProgressBar& bar, bool done);
 
 }  // namespace machine::qt

@@ -14,22 +14,22 @@ namespace machine::qt {
 
 namespace {
 
-using Draw = std::function<void(QPainter& painter, const QRect& place)>;
+using Draw = std::function<void(QPainter& painter, const QRect& place, QIcon::Mode mode)>;
 
 /// An icon that is drawn anew each time, so that it is sharp at every scale.
 class DrawnIcon : public QIconEngine {
   public:
     explicit DrawnIcon(Draw draw) : draw_(std::move(draw)) {}
 
-    void paint(QPainter* painter, const QRect& place, QIcon::Mode, QIcon::State) override {
-        draw_(*painter, place);
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override {
+        draw_(*painter, place, mode);
     }
 
-    QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State) override {
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
         QPixmap picture(size);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
-        draw_(painter, picture.rect());
+        draw_(painter, picture.rect(), mode);
         return picture;
     }
 
@@ -61,21 +61,22 @@ QPainterPath path_of(Sign sign) {
 
 }  // namespace
 
-QIcon sign_icon(Sign sign, const QColor& colour) {
-    return QIcon(new DrawnIcon([sign, colour](QPainter& painter, const QRect& place) {
+QIcon sign_icon(Sign sign, const QColor& colour, const QColor& colour_when_selected) {
+    return QIcon(new DrawnIcon([=](QPainter& painter, const QRect& place, QIcon::Mode mode) {
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing);
         painter.translate(place.topLeft());
         painter.scale(place.width() / 16.0, place.height() / 16.0);
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(colour, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(QPen(mode == QIcon::Selected ? colour_when_selected : colour, 1.6, Qt::SolidLine,
+                            Qt::RoundCap, Qt::RoundJoin));
         painter.drawPath(path_of(sign));
         painter.restore();
     }));
 }
 
 QIcon check_box_icon(Qt::CheckState state) {
-    return QIcon(new DrawnIcon([state](QPainter& painter, const QRect& place) {
+    return QIcon(new DrawnIcon([state](QPainter& painter, const QRect& place, QIcon::Mode) {
         constexpr int AIR = 1;
         QStyleOption box;
         box.palette = QGuiApplication::palette();

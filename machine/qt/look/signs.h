@@ -12,8 +12,8 @@ enum class Sign {
     attention,
 };
 
-/// A small sign beside a text, in the text's colour.
-QIcon sign_icon(Sign sign, const QColor& colour);
+/// A small sign beside a text, in the text's colours: the second one is for a chosen row.
+QIcon sign_icon(Sign sign, const QColor& colour, const QColor& colour_when_selected);
 
 /// A check box as a picture, for places that hold pictures alone.
 QIcon check_box_icon(Qt::CheckState state);

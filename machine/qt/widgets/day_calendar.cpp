@@ -2,8 +2,10 @@
 
 #include "machine/qt/look/colours.h"
 
+#include <QBoxLayout>
 #include <QEvent>
 #include <QPainter>
+#include <QSpinBox>
 #include <QTextCharFormat>
 #include <QToolButton>
 
@@ -19,8 +21,37 @@ DayCalendar::DayCalendar(QWidget* parent) : QCalendarWidget(parent) {
         if (button == nullptr) continue;
         button->setIcon({});
         button->setArrowType(arrow);
+        button->setForegroundRole(QPalette::HighlightedText);
     }
+    put_year_first();
+    // The edge is drawn here.
+    setContentsMargins(1, 1, 1, 1);
     colour_days();
+}
+
+/// As dates are written in Korean, "2026년 11월". Qt begins with the month.
+void DayCalendar::put_year_first() {
+    auto* month = findChild<QToolButton*>(QStringLiteral("qt_calendar_monthbutton"));
+    auto* year = findChild<QToolButton*>(QStringLiteral("qt_calendar_yearbutton"));
+    auto* typed_year = findChild<QSpinBox*>(QStringLiteral("qt_calendar_yearedit"));
+    if (month == nullptr || year == nullptr || typed_year == nullptr) return;
+    // The button shows the text of the field into which the year is typed.
+    typed_year->setSuffix(QStringLiteral("년"));
+    year->setText(typed_year->text());
+    auto* bar = qobject_cast<QBoxLayout*>(month->parentWidget()->layout());
+    if (bar == nullptr) return;
+    const int first = bar->indexOf(month);
+    const int second = bar->indexOf(year);
+    bar->removeWidget(year);
+    bar->insertWidget(first, year);
+    bar->removeWidget(month);
+    bar->insertWidget(second, month);
+}
+
+void DayCalendar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(colours_of(palette()).line);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void DayCalendar::showEvent(QShowEvent* event) {

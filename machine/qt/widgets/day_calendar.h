@@ -15,9 +15,11 @@ class DayCalendar : public QCalendarWidget {
   protected:
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void paintCell(QPainter* painter, const QRect& cell, QDate date) const override;
 
   private:
+    void put_year_first();
     void colour_days();
 };
 

@@ -4,7 +4,6 @@
 #include "machine/qt/look/signs.h"
 #include "platform/controls/list_item.h"
 
-#include <QWidget>
 #include <algorithm>
 
 namespace machine::qt {
@@ -27,10 +26,17 @@ QColor colour_of(RowMark mark, const Colours& colours) {
     return colours.muted;
 }
 
-QColor text_colour_when_selected(const QStyleOptionViewItem& option) {
-    const bool active =
-        (option.state & QStyle::State_Active) && option.widget != nullptr && option.widget->hasFocus();
-    return option.palette.color(active ? QPalette::Active : QPalette::Inactive, QPalette::HighlightedText);
+/// The text of a row that is not chosen, or is chosen in a list without the focus, where the ground is pale.
+void write_in(QPalette& palette, const QColor& colour) {
+    palette.setColor(QPalette::Text, colour);
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, colour);
+}
+
+void write_muted(QPalette& palette, const Colours& colours) {
+    constexpr double PALER = 0.3;
+    write_in(palette, colours.muted);
+    const QColor on_accent = palette.color(QPalette::Active, QPalette::HighlightedText);
+    palette.setColor(QPalette::Active, QPalette::HighlightedText, between(on_accent, colours.accent, PALER));
 }
 
 }  // namespace
@@ -48,14 +54,13 @@ void MarkedCell::initStyleOption(QStyleOptionViewItem* option, const QModelIndex
     if (mark == RowMark::none) return;
     const Colours colours = colours_of(option->palette);
     if (!index.data(SIGN_ROLE).toBool()) {
-        if (mark == RowMark::unusable) option->palette.setColor(QPalette::Text, colours.muted);
+        if (mark == RowMark::unusable) write_muted(option->palette, colours);
         return;
     }
     const QColor colour = colour_of(mark, colours);
-    option->palette.setColor(QPalette::Text, colour);
-    const bool selected = option->state.testFlag(QStyle::State_Selected);
-    option->icon = sign_icon(mark == RowMark::done ? Sign::done : Sign::attention,
-                             selected ? text_colour_when_selected(*option) : colour);
+    write_in(option->palette, colour);
+    option->icon = sign_icon(mark == RowMark::done ? Sign::done : Sign::attention, colour,
+                             option->palette.color(QPalette::Active, QPalette::HighlightedText));
     const int side = option->fontMetrics.height() - 2;
     option->decorationSize = QSize(side, side);
     option->features |= QStyleOptionViewItem::HasDecoration;

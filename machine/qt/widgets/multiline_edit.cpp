@@ -1,6 +1,7 @@
 #include "machine/qt/widgets/multiline_edit.h"
 
 #include "machine/qt/look/colours.h"
+#include "machine/qt/look/edges.h"
 #include "machine/qt/typing/composition.h"
 #include "machine/qt/typing/conversion.h"
 #include "machine/qt/typing/undoing.h"
@@ -74,9 +75,19 @@ void MultilineEdit::inputMethodEvent(QInputMethodEvent* event) {
     work([&] { QPlainTextEdit::inputMethodEvent(event); });
 }
 
+void MultilineEdit::focusInEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusInEvent(event);
+    show_focus_around();
+}
+
 void MultilineEdit::focusOutEvent(QFocusEvent* event) {
     if (event->reason() != Qt::PopupFocusReason) commit_composition(*this);
     QPlainTextEdit::focusOutEvent(event);
+    show_focus_around();
+}
+
+void MultilineEdit::show_focus_around() {
+    if (QWidget* panel = edge_around(*this); panel != nullptr) panel->update();
 }
 
 void MultilineEdit::changeEvent(QEvent* event) {

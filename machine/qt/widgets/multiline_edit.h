@@ -41,6 +41,7 @@ class MultilineEdit : public QPlainTextEdit {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
@@ -52,6 +53,7 @@ class MultilineEdit : public QPlainTextEdit {
     void tell();
     void tell_later();
     void mark_lost();
+    void show_focus_around();
 
     bool marks_lost_ = false;
     int lines_ = 0;
