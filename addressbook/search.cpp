@@ -24,7 +24,8 @@ Text nothing_found(TextView mode, const Text& text) {
     const Text words = u"'" + text + u"'";
     if (mode == statements::CONTAINS) return words + u"을(를) 포함하는 이름이나 회사가 없습니다.";
     Text hint = words + (mode == statements::EQUALS ? u"과(와) 일치하는" : u"(으)로 시작하는");
-    return hint + u" 이름이나 회사가 없습니다.\r\n'" + Text(statements::CONTAINS) + u"'(으)로 찾아 보십시오.";
+    return hint + u" 이름이나 회사가 없습니다.\r\n'" + Text(statements::CONTAINS) +
+           u"'으로 바꾸어 찾아 보십시오.";
 }
 
 }  // namespace

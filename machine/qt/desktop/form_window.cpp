@@ -82,6 +82,7 @@ FormWindow::~FormWindow() {
 }
 
 void FormWindow::show() {
+    if (!window_.isVisible()) put(window_.geometry());
     window_.show();
     window_.raise();
     window_.activateWindow();
@@ -112,13 +113,17 @@ void FormWindow::placement_changed() {
     const QScopedValueRollback<bool> placing(placing_, true);
     // When only the state changes, the desktop keeps the place.
     if (const Placement& wanted = form_.placement(); wanted != placed_) {
-        const QRect shown = in_work_area(window_, {to_pixels(wanted.left), to_pixels(wanted.top),
-                                                   to_pixels(wanted.width), to_pixels(wanted.height)});
-        window_.resize(shown.size());
-        window_.move(shown.topLeft());
+        put({to_pixels(wanted.left), to_pixels(wanted.top), to_pixels(wanted.width),
+             to_pixels(wanted.height)});
         placed_ = wanted;
     }
     window_.setWindowState(toolkit_state(form_.window_state()));
+}
+
+void FormWindow::put(const QRect& place) {
+    const QRect shown = in_work_area(window_, place);
+    window_.resize(shown.size());
+    window_.move(shown.topLeft());
 }
 
 /// As small as the form wants, but with a large font no smaller than what it shows. Before it is shown, it
