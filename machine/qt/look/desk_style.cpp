@@ -19,7 +19,6 @@ namespace {
 
 constexpr int ROW_AIR = 6;
 constexpr int HEADER_AIR = 6;
-constexpr double HEADING_SIZE = 1.25;
 
 bool is_filled(const QStyleOptionButton& button) {
     return button.features.testFlag(QStyleOptionButton::DefaultButton);
@@ -55,14 +54,16 @@ QPalette::ColorRole role_of_text(const QWidget* widget) {
     return widget != nullptr ? widget->foregroundRole() : QPalette::Text;
 }
 
-bool is_heading(const QWidget& widget) {
-    return widget.property("look").toString() == QLatin1String("heading");
+/// How much larger than other texts the widget's are; 0 for those that are not.
+double enlargement(const QWidget& widget) {
+    const QString look = widget.property("look").toString();
+    if (look == QLatin1String("heading")) return 1.25;
+    return look == QLatin1String("large") ? 1.2 : 0;
 }
 
-void write_as_heading(QWidget& widget) {
+void enlarge(QWidget& widget) {
     QFont font = widget.font();
-    font.setBold(true);
-    font.setPointSizeF(QFontInfo(QApplication::font()).pointSizeF() * HEADING_SIZE);
+    font.setPointSizeF(QFontInfo(QApplication::font()).pointSizeF() * enlargement(widget));
     widget.setFont(font);
 }
 
@@ -77,11 +78,11 @@ void DeskStyle::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
     const QString look = widget->property("look").toString();
     if (look.isEmpty()) return;
-    if (is_heading(*widget)) {
-        write_as_heading(*widget);
+    if (enlargement(*widget) != 0) {
+        enlarge(*widget);
         if (widget->parentWidget() != nullptr) widget->parentWidget()->installEventFilter(this);
     }
-    if (look == QLatin1String("strong")) {
+    if (look == QLatin1String("strong") || look == QLatin1String("heading")) {
         QFont font = widget->font();
         font.setBold(true);
         widget->setFont(font);
@@ -92,11 +93,11 @@ void DeskStyle::polish(QWidget* widget) {
     if (look == QLatin1String("warning")) widget->setForegroundRole(WARNING_TEXT);
 }
 
-/// Headings alone have a size of their own, which does not follow the desktop's font by itself.
+/// Large texts alone have a size of their own, which does not follow the desktop's font by itself.
 bool DeskStyle::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::FontChange) {
         for (QWidget* child : object->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-            if (is_heading(*child)) write_as_heading(*child);
+            if (enlargement(*child) != 0) enlarge(*child);
         }
     }
     return QProxyStyle::eventFilter(object, event);
