@@ -18,7 +18,9 @@ namespace machine::qt {
 namespace {
 
 constexpr int ROW_AIR = 6;
-constexpr int HEADER_AIR = 6;
+constexpr int HEADER_AIR = 4;
+/// How much nearer than Qt puts it a text stands to the picture before it.
+constexpr int NEARER = 4;
 
 bool is_filled(const QStyleOptionButton& button) {
     return button.features.testFlag(QStyleOptionButton::DefaultButton);
@@ -52,6 +54,11 @@ QStyleOptionViewItem in_view(const QStyleOptionViewItem& item, const QAbstractIt
 
 QPalette::ColorRole role_of_text(const QWidget* widget) {
     return widget != nullptr ? widget->foregroundRole() : QPalette::Text;
+}
+
+bool has_picture(const QStyleOption& cell) {
+    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(&cell);
+    return item != nullptr && item->features.testFlag(QStyleOptionViewItem::HasDecoration);
 }
 
 /// How much larger than other texts the widget's are; 0 for those that are not.
@@ -114,8 +121,14 @@ QSize DeskStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
         return QProxyStyle::sizeFromContents(type, &plain, contents, widget);
     }
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    if (type == CT_ItemViewItem) size.rheight() += ROW_AIR;
+    if (type == CT_ItemViewItem) size += QSize(has_picture(*option) ? -NEARER : 0, ROW_AIR);
     return size;
+}
+
+QRect DeskStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+    QRect place = QProxyStyle::subElementRect(element, option, widget);
+    if (element == SE_ItemViewItemText && has_picture(*option)) place.setLeft(place.left() - NEARER);
+    return place;
 }
 
 void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
