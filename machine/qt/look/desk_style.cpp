@@ -61,17 +61,15 @@ bool has_picture(const QStyleOption& cell) {
     return item != nullptr && item->features.testFlag(QStyleOptionViewItem::HasDecoration);
 }
 
-/// How much larger than other texts the widget's are; 0 for those that are not.
-double enlargement(const QWidget& widget) {
+/// Writes the texts larger in a widget of such a look; false for others.
+bool enlarge(QWidget& widget) {
     const QString look = widget.property("look").toString();
-    if (look == QLatin1String("heading")) return 1.25;
-    return look == QLatin1String("large") ? 1.2 : 0;
-}
-
-void enlarge(QWidget& widget) {
+    const double size = look == QLatin1String("heading") ? 1.25 : look == QLatin1String("large") ? 1.2 : 0;
+    if (size == 0) return false;
     QFont font = widget.font();
-    font.setPointSizeF(QFontInfo(QApplication::font()).pointSizeF() * enlargement(widget));
+    font.setPointSizeF(QFontInfo(QApplication::font()).pointSizeF() * size);
     widget.setFont(font);
+    return true;
 }
 
 }  // namespace
@@ -85,10 +83,8 @@ void DeskStyle::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
     const QString look = widget->property("look").toString();
     if (look.isEmpty()) return;
-    if (enlargement(*widget) != 0) {
-        enlarge(*widget);
-        if (widget->parentWidget() != nullptr) widget->parentWidget()->installEventFilter(this);
-    }
+    if (enlarge(*widget) && widget->parentWidget() != nullptr)
+        widget->parentWidget()->installEventFilter(this);
     if (look == QLatin1String("strong") || look == QLatin1String("heading")) {
         QFont font = widget->font();
         font.setBold(true);
@@ -103,9 +99,7 @@ void DeskStyle::polish(QWidget* widget) {
 /// Large texts alone have a size of their own, which does not follow the desktop's font by itself.
 bool DeskStyle::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::FontChange) {
-        for (QWidget* child : object->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-            if (enlargement(*child) != 0) enlarge(*child);
-        }
+        for (QWidget* child : object->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) enlarge(*child);
     }
     return QProxyStyle::eventFilter(object, event);
 }
