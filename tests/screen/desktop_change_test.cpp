@@ -65,7 +65,7 @@ TEST_F(DesktopChange, ToDarkColoursDrawsTextsAndPicturesAnew) {
     report.unload();
 }
 
-TEST_F(DesktopChange, ToALargerFontEnlargesHeadingsAndColumnsToo) {
+TEST_F(DesktopChange, ToALargerFontEnlargesHeadingsColumnsAndFieldsToo) {
     send::frmSendEndBox report(platform, main);
     report.load();
     report.show_outcome({.registered = u"r", .failed = u"", .stopped = u"", .unconfirmed = u""});
@@ -73,7 +73,9 @@ TEST_F(DesktopChange, ToALargerFontEnlargesHeadingsAndColumnsToo) {
     tests::settle();
     const auto size_of_heading = [] { return find<QLabel>("Registered").font().pointSizeF(); };
     const auto width_of_number = [] { return find<QTreeView>("ListView1").columnWidth(2); };
+    const auto least_of_text = [] { return find<QWidget>("Text1").minimumWidth(); };
     const double heading = size_of_heading();
+    const int text = least_of_text();
     const int number = width_of_number();
     QFont larger = font;
     larger.setPointSizeF(font.pointSizeF() * 1.5);
@@ -81,6 +83,7 @@ TEST_F(DesktopChange, ToALargerFontEnlargesHeadingsAndColumnsToo) {
     tests::settle();
     EXPECT_NEAR(size_of_heading(), heading * 1.5, 0.5);
     EXPECT_NEAR(width_of_number(), number * 1.5, 3);
+    EXPECT_NEAR(least_of_text(), text * 1.5, 2);
     report.unload();
 }
 

@@ -152,15 +152,16 @@ TEST_F(ListTest, TheHeadersBoxChecksAllRowsAndSpaceTheSelectedOnes) {
 TEST_F(ListTest, ColumnsShareTheRoomButStayWideEnoughToRead) {
     auto& header = *view().header();
     machine::qt::ColumnWidths widths(header);
-    widths.set({"60", "*100", "*50"});
+    widths.set({"60", "*100", "*50/40"});
     const auto sizes = [&] {
         return std::vector{header.sectionSize(0), header.sectionSize(1), header.sectionSize(2)};
     };
-    const std::vector<int> least = sizes();
+    const std::vector<int> first = sizes();
     widths.fill(header.length() + 60);
-    EXPECT_EQ(sizes(), (std::vector{least[0], least[1] + 40, least[2] + 20}));
+    EXPECT_EQ(sizes(), (std::vector{first[0], first[1] + 40, first[2] + 20}));
     widths.fill(100);
-    EXPECT_EQ(sizes(), least) << "narrower they could not be read";
+    EXPECT_EQ(sizes(), (std::vector{first[0], first[1], first[2] * 4 / 5}))
+        << "narrower they could not be read";
 }
 
 TEST_F(ListTest, LinesAndFilesAreDroppedOnAListThatHasAUseForThem) {

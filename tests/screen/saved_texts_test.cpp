@@ -94,6 +94,7 @@ TEST_F(SavedTextsWindow, PaintsARowAsChosenOnlyWhenItsTextIsInTheFields) {
     in_box([](QWidget& window) {
         const auto ground = [&] {
             QTreeView& view = list(window, "ListView2");
+            EXPECT_EQ(view.columnWidth(0) + view.columnWidth(1), view.viewport()->width()) << "no empty room";
             const QPoint place = view.visualRect(view.model()->index(0, 1)).topRight() - QPoint(8, -4);
             return view.viewport()->grab().toImage().pixelColor(place).lightness();
         };

@@ -64,7 +64,8 @@ FormWindow::FormWindow(platform::Form& form, QWidget& window, platform::Files& f
       form_(form),
       window_(window),
       bound_{form, window, files, std::nullopt},
-      binder_(bound_, *this) {
+      binder_(bound_, *this),
+      width_limits_(window) {
     // Qt would offer a menu that hides the tool bar.
     window.setContextMenuPolicy(Qt::NoContextMenu);
     caption_changed();
@@ -127,13 +128,16 @@ void FormWindow::put(const QRect& place) {
 }
 
 /// As small as the form wants, but with a large font no smaller than what it shows. Before it is shown, it
-/// has panels that will be hidden.
+/// has panels that will be hidden. A window that grows with the font stays on the screen.
 void FormWindow::minimum_size_changed() {
     const QSize size(form_.minimum_width(), form_.minimum_height());
     if (size.isEmpty()) return;
     const QSize most = in_work_area(window_, QRect(QPoint(), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX))).size();
     const QSize contents = window_.isVisible() ? window_.minimumSizeHint() : QSize();
+    const QSize before = window_.size();
     window_.setMinimumSize(size.expandedTo(contents).boundedTo(most));
+    if (window_.isVisible() && window_.size() != before)
+        window_.move(in_work_area(window_, {window_.pos(), window_.size()}).topLeft());
 }
 
 void FormWindow::fit_contents() {
@@ -158,6 +162,9 @@ bool FormWindow::eventFilter(QObject*, QEvent* event) {
             return false;
         case QEvent::WindowActivate:
             activate_again();
+            return false;
+        case QEvent::FontChange:
+            width_limits_.fit();
             return false;
         case QEvent::LayoutRequest:
             minimum_size_changed();

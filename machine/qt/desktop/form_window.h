@@ -1,6 +1,7 @@
 #pragma once
 
 #include "machine/qt/binders/form_binder.h"
+#include "machine/qt/desktop/width_limits.h"
 
 #include <QObject>
 
@@ -55,6 +56,7 @@ class FormWindow : public QObject, public platform::FormView {
     QWidget& window_;
     BoundForm bound_;
     FormBinder binder_;
+    WidthLimits width_limits_;
     platform::Placement placed_;
     bool placing_ = false;
     bool activated_ = false;

@@ -8,7 +8,7 @@ namespace machine::qt {
 /// presses is filled with it, the focus is a line of it. The mouse wheel changes no choice.
 ///
 /// A label whose property `look` says so is written as "heading", "strong", "link", "muted", "failure" or
-/// "warning".
+/// "warning", and everything in a widget of the look "large" is written larger.
 class DeskStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -20,6 +20,8 @@ class DeskStyle : public QProxyStyle {
     using QProxyStyle::polish;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget) const override;
+    QRect subElementRect(SubElement element, const QStyleOption* option,
+                         const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

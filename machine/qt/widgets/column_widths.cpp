@@ -22,6 +22,13 @@ ColumnWidths::ColumnWidths(QHeaderView& header) : header_(header) {
 
 int ColumnWidths::text_size() const { return QFontInfo(header_.font()).pixelSize(); }
 
+/// The header's own length counts hidden columns in.
+int ColumnWidths::length() const {
+    int length = 0;
+    for (int column = 0; column < header_.count(); ++column) length += header_.sectionSize(column);
+    return length;
+}
+
 /// The columns grow and shrink with the desktop's font.
 bool ColumnWidths::eventFilter(QObject*, QEvent* event) {
     if (event->type() != QEvent::FontChange || text_size_ == 0) return false;
@@ -38,18 +45,18 @@ void ColumnWidths::set(const QStringList& widths) {
     text_size_ = text_size();
     for (int column = 0; column < widths.size(); ++column) {
         const bool shares = widths[column].startsWith(u'*');
-        const QString number = shares ? widths[column].mid(1) : widths[column];
-        const int width = number.isEmpty() ? WIDTH_TO_SHARE : number.toInt();
+        const QStringList numbers = widths[column].mid(shares ? 1 : 0).split(u'/');
+        const int width = numbers.front().isEmpty() ? WIDTH_TO_SHARE : numbers.front().toInt();
         header_.setSectionHidden(column, width == 0);
         header_.resizeSection(column, width * text_size_ / 12);
-        if (shares) sharing_.push_back({column, width});
+        if (shares) sharing_.push_back({column, numbers.size() == 1 ? width : numbers.back().toInt()});
     }
     if (!sharing_.empty()) header_.setStretchLastSection(false);
 }
 
 void ColumnWidths::fill(int room) {
     const QScopedValueRollback<bool> filling(filling_, true);
-    int to_share = room + beyond_ - header_.length();
+    int to_share = room + beyond_ - length();
     int shared = 0;
     for (const Sharing& sharing : sharing_) shared += header_.sectionSize(sharing.column);
     for (const Sharing& sharing : sharing_) {
@@ -66,7 +73,7 @@ void ColumnWidths::fill(int room) {
 void ColumnWidths::note_drag() {
     if (filling_ || !(QGuiApplication::mouseButtons() & Qt::LeftButton)) return;
     const auto* list = qobject_cast<const QAbstractScrollArea*>(header_.parent());
-    if (list != nullptr) beyond_ = header_.length() - list->viewport()->width();
+    if (list != nullptr) beyond_ = length() - list->viewport()->width();
 }
 
 }  // namespace machine::qt

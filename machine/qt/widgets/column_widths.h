@@ -14,8 +14,8 @@ class ColumnWidths : public QObject {
     explicit ColumnWidths(QHeaderView& header);
 
     /// Sets the columns' widths for text of 12 pixels from a screen's list. A "*" before the width lets the
-    /// column share the room, but not be narrower than that; a column of width 0 holds data for the handlers
-    /// and is not shown.
+    /// column share the room, but not be narrower than that, or than the second width in "*40/30"; one of
+    /// width 0 holds data for the handlers and is not shown.
     void set(const QStringList& widths);
     /// Fills the room.
     void fill(int room);
@@ -26,6 +26,7 @@ class ColumnWidths : public QObject {
   private:
     void note_drag();
     int text_size() const;
+    int length() const;
 
     struct Sharing {
         int column;

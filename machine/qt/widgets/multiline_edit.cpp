@@ -19,6 +19,7 @@ namespace machine::qt {
 
 MultilineEdit::MultilineEdit(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
+    set_tabs();
     connect(this, &QPlainTextEdit::textChanged, this, &MultilineEdit::mark_lost);
     connect(this, &QPlainTextEdit::textChanged, this, &MultilineEdit::tell_later);
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &MultilineEdit::tell_later);
@@ -93,6 +94,12 @@ void MultilineEdit::show_focus_around() {
 void MultilineEdit::changeEvent(QEvent* event) {
     QPlainTextEdit::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) mark_lost();
+    if (event->type() == QEvent::FontChange) set_tabs();
+}
+
+/// Lines copied from a table stay in columns: a tab is wider than a number.
+void MultilineEdit::set_tabs() {
+    setTabStopDistance(fontMetrics().horizontalAdvance(QStringLiteral("010-0000-0000  ")));
 }
 
 bool MultilineEdit::viewportEvent(QEvent* event) {

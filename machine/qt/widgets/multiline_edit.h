@@ -54,6 +54,7 @@ class MultilineEdit : public QPlainTextEdit {
     void tell_later();
     void mark_lost();
     void show_focus_around();
+    void set_tabs();
 
     bool marks_lost_ = false;
     int lines_ = 0;
