@@ -144,6 +144,11 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
                 edge.rect = edge_below_title(*group);
             return draw_edge(*painter, edge);
         }
+        case PE_PanelMenu:
+            painter->fillRect(option->rect, option->palette.color(QPalette::Base));
+            return draw_edge(*painter, *option);
+        case PE_FrameMenu:
+            return draw_edge(*painter, *option);
         case PE_IndicatorCheckBox:
         case PE_IndicatorItemViewItemCheck:
             return draw_check_box(*painter, *option);
@@ -175,6 +180,8 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
             break;
         case CE_MenuItem:
             if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
+                if (item->menuItemType == QStyleOptionMenuItem::Separator)
+                    return draw_separator(*painter, *item);
                 const QStyleOptionMenuItem shown = in_menu(*item);
                 return QProxyStyle::drawControl(element, &shown, painter, widget);
             }
@@ -192,9 +199,7 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
         case CE_ShapedFrame:
             if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
                 frame != nullptr && frame->frameShape == QFrame::HLine) {
-                const QRect& place = frame->rect;
-                return painter->fillRect(place.left(), place.center().y(), place.width(), 1,
-                                         colours_of(frame->palette).line);
+                return draw_separator(*painter, *frame);
             }
             break;
         case CE_ProgressBarGroove:
@@ -258,6 +263,8 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
         case PM_TabBarTabShiftHorizontal:
         case PM_TabBarTabShiftVertical:
             return 0;
+        case PM_MenuPanelWidth:
+            return 1;
         case PM_HeaderMargin:
             return HEADER_AIR;
         case PM_FocusFrameHMargin:

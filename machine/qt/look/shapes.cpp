@@ -103,6 +103,11 @@ void draw_edge(QPainter& painter, const QStyleOption& option) {
              1, ROUND - 1);
 }
 
+void draw_separator(QPainter& painter, const QStyleOption& option) {
+    const QRect& place = option.rect;
+    painter.fillRect(place.left(), place.center().y(), place.width(), 1, colours_of(option.palette).line);
+}
+
 void draw_focus(QPainter& painter, const QStyleOption& option) {
     const QColor accent = colours_of(option.palette).accent;
     const auto* focus = qstyleoption_cast<const QStyleOptionFocusRect*>(&option);

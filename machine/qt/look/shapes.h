@@ -24,6 +24,9 @@ void draw_flat_button(QPainter& painter, const QStyleOption& option);
 /// The edge of a field, list or panel.
 void draw_edge(QPainter& painter, const QStyleOption& option);
 
+/// The line in the middle of a menu's or a window's separator.
+void draw_separator(QPainter& painter, const QStyleOption& option);
+
 /// The line around what has the focus: the row of a list, the caption of a check box.
 void draw_focus(QPainter& painter, const QStyleOption& option);
 
