@@ -149,6 +149,9 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
             return draw_edge(*painter, *option);
         case PE_FrameMenu:
             return draw_edge(*painter, *option);
+        case PE_FrameTabBarBase:
+            // The panel below has an edge.
+            return;
         case PE_IndicatorCheckBox:
         case PE_IndicatorItemViewItemCheck:
             return draw_check_box(*painter, *option);

@@ -199,16 +199,12 @@ void draw_radio_button(QPainter& painter, const QStyleOption& option) {
 }
 
 void draw_tab(QPainter& painter, const QStyleOption& option, bool chosen) {
-    const Smooth smooth(painter);
     const QRectF place = option.rect;
     const QColor accent = colours_of(option.palette).accent;
     if (!chosen && is(option, QStyle::State_MouseOver))
         painter.fillRect(place.adjusted(1, 2, -1, -1),
                          pressed_on(option, option.palette.color(QPalette::Window)));
-    painter.setPen(QPen(edge_of(option), 1));
-    painter.drawLine(place.bottomLeft() - QPointF(0, 0.5), place.bottomRight() - QPointF(0, 0.5));
-    if (!chosen) return;
-    painter.fillRect(QRectF(place.left() + 6, place.bottom() - 3, place.width() - 12, 3), accent);
+    if (chosen) painter.fillRect(QRectF(place.left() + 6, place.bottom() - 3, place.width() - 12, 3), accent);
 }
 
 void draw_header(QPainter& painter, const QStyleOptionHeader& header) {
