@@ -6,6 +6,7 @@
 #include "machine/qt/look/shapes.h"
 
 #include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QFrame>
 #include <QGroupBox>
@@ -131,6 +132,9 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
             if (qobject_cast<const QPushButton*>(widget) != nullptr) return;
             return draw_focus(*painter, *option);
         case PE_PanelLineEdit: {
+            // The date field has a ground already, below its arrow too.
+            if (widget != nullptr && qobject_cast<const QAbstractSpinBox*>(widget->parentWidget()) != nullptr)
+                return;
             const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
             if (frame != nullptr && frame->lineWidth > 0) return draw_field(*painter, *option);
             break;
