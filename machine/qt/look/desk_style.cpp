@@ -193,6 +193,15 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
                 return QProxyStyle::drawControl(element, &shown, painter, widget);
             }
             break;
+        case CE_MenuBarItem:
+            if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+                item != nullptr && !item->state.testFlags(State_Selected | State_Sunken)) {
+                draw_menu_bar(*painter, *item);
+                return QCommonStyle::drawControl(element, item, painter, widget);
+            }
+            break;
+        case CE_MenuBarEmptyArea:
+            return draw_menu_bar(*painter, *option);
         case CE_HeaderSection:
             if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option))
                 return draw_header(*painter, *header);

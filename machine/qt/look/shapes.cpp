@@ -103,6 +103,12 @@ void draw_edge(QPainter& painter, const QStyleOption& option) {
              1, ROUND - 1);
 }
 
+void draw_menu_bar(QPainter& painter, const QStyleOption& option) {
+    const QRect& place = option.rect;
+    painter.fillRect(place, option.palette.color(QPalette::Window));
+    painter.fillRect(place.left(), place.bottom(), place.width(), 1, colours_of(option.palette).line);
+}
+
 void draw_separator(QPainter& painter, const QStyleOption& option) {
     const QRect& place = option.rect;
     painter.fillRect(place.left(), place.center().y(), place.width(), 1, colours_of(option.palette).line);

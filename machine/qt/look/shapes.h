@@ -24,6 +24,9 @@ void draw_flat_button(QPainter& painter, const QStyleOption& option);
 /// The edge of a field, list or panel.
 void draw_edge(QPainter& painter, const QStyleOption& option);
 
+/// The ground of the menu bar, or of an entry in it, with the line below.
+void draw_menu_bar(QPainter& painter, const QStyleOption& option);
+
 /// The line in the middle of a menu's or a window's separator.
 void draw_separator(QPainter& painter, const QStyleOption& option);
 
