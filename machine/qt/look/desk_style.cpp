@@ -56,6 +56,15 @@ QPalette::ColorRole role_of_text(const QWidget* widget) {
     return widget != nullptr ? widget->foregroundRole() : QPalette::Text;
 }
 
+/// The arrow of a folder in a tree, which stands on the selection's colour when the folder is chosen.
+void draw_branch(QPainter& painter, const QStyleOption& branch) {
+    if (!branch.state.testFlag(QStyle::State_Children)) return;
+    const bool chosen = branch.state.testFlags(QStyle::State_Selected | QStyle::State_Active);
+    draw_arrow(painter, branch, branch.rect,
+               branch.state.testFlag(QStyle::State_Open) ? Qt::DownArrow : Qt::RightArrow,
+               chosen ? QPalette::HighlightedText : QPalette::Text);
+}
+
 bool is_heading(const QWidget& widget) {
     return widget.property("look").toString() == QLatin1String("heading");
 }
@@ -161,6 +170,8 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
             return draw_check_box(*painter, *option);
         case PE_IndicatorRadioButton:
             return draw_radio_button(*painter, *option);
+        case PE_IndicatorBranch:
+            return draw_branch(*painter, *option);
         case PE_IndicatorArrowDown:
             return draw_arrow(*painter, *option, option->rect, Qt::DownArrow, role_of_text(widget));
         case PE_IndicatorArrowUp:
