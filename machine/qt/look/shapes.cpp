@@ -7,6 +7,7 @@
 #include <QStyle>
 #include <QStyleOption>
 #include <algorithm>
+#include <cmath>
 
 namespace machine::qt {
 
@@ -37,6 +38,16 @@ void draw_box(QPainter& painter, const QRectF& place, const QBrush& ground, cons
     painter.setPen(QPen(edge, line));
     const double inset = line / 2;
     painter.drawRoundedRect(place.adjusted(inset, inset, -inset, -inset), round, round);
+}
+
+/// A line one pixel thick, or as many as the scale has room for: at 150 % some would be thicker than others.
+void draw_thin_line(QPainter& painter, const QRectF& place, const QColor& colour) {
+    const QTransform to_pixels = painter.deviceTransform();
+    const QRectF pixels = to_pixels.mapRect(place);
+    const auto whole = [](double size) { return std::max(1.0, std::floor(size)); };
+    const QRectF line(std::round(pixels.left()), std::round(pixels.top()), whole(pixels.width()),
+                      whole(pixels.height()));
+    painter.fillRect(to_pixels.inverted().mapRect(line), colour);
 }
 
 bool is(const QStyleOption& option, QStyle::StateFlag state) { return option.state.testFlag(state); }
@@ -110,8 +121,9 @@ void draw_menu_bar(QPainter& painter, const QStyleOption& option) {
 }
 
 void draw_separator(QPainter& painter, const QStyleOption& option) {
-    const QRect& place = option.rect;
-    painter.fillRect(place.left(), place.center().y(), place.width(), 1, colours_of(option.palette).line);
+    const QRectF place = option.rect;
+    draw_thin_line(painter, {place.left(), std::floor(place.center().y()), place.width(), 1},
+                   colours_of(option.palette).line);
 }
 
 void draw_focus(QPainter& painter, const QStyleOption& option) {
@@ -219,9 +231,8 @@ void draw_header(QPainter& painter, const QStyleOptionHeader& header) {
     painter.fillRect(QRect(header.rect.bottomLeft(), QSize(header.rect.width(), 1)), colours.line);
     const bool last =
         header.position == QStyleOptionHeader::End || header.position == QStyleOptionHeader::OnlyOneSection;
-    if (!last)
-        painter.fillRect(header.rect.right(), header.rect.top() + 4, 1, header.rect.height() - 8,
-                         colours.line);
+    const QRectF place = header.rect.adjusted(0, 4, 0, -4);
+    if (!last) draw_thin_line(painter, {place.right() - 1, place.top(), 1, place.height()}, colours.line);
 }
 
 void draw_bar(QPainter& painter, const QStyleOptionProgressBar& bar, bool done) {
