@@ -97,14 +97,14 @@ void draw_button(QPainter& painter, const QStyleOption& option, bool filled) {
 }
 
 void draw_flat_button(QPainter& painter, const QStyleOption& option) {
-    const bool seen = is(option, QStyle::State_On) || is(option, QStyle::State_Sunken) ||
-                      (is(option, QStyle::State_MouseOver) && is(option, QStyle::State_Enabled));
-    const QColor accent = colours_of(option.palette).accent;
+    const bool filled = is(option, QStyle::State_On) || is(option, QStyle::State_Sunken);
+    const bool hovered = is(option, QStyle::State_MouseOver) && is(option, QStyle::State_Enabled);
     const QColor ground = pressed_on(option, option.palette.color(QPalette::Window));
+    const QBrush fill = filled ? QBrush(ground) : Qt::NoBrush;
     if (has_focus(option)) {
-        draw_box(painter, option.rect, seen ? QBrush(ground) : Qt::NoBrush, accent, FOCUS_LINE);
-    } else if (seen) {
-        draw_box(painter, option.rect, ground, ground);
+        draw_box(painter, option.rect, fill, colours_of(option.palette).accent, FOCUS_LINE);
+    } else if (filled || hovered) {
+        draw_box(painter, option.rect, fill, filled ? ground : edge_of(option));
     }
 }
 

@@ -18,7 +18,7 @@ namespace machine::qt {
 /// A button. A filled one is the one that Enter presses.
 void draw_button(QPainter& painter, const QStyleOption& option, bool filled);
 
-/// A flat button, seen when it is pressed, stays pressed or is under the mouse.
+/// A flat button, filled when it is pressed or stays pressed; under the mouse it has an edge alone.
 void draw_flat_button(QPainter& painter, const QStyleOption& option);
 
 /// The edge of a field, list or panel.
