@@ -4,6 +4,7 @@
 #include "machine/qt/look/edges.h"
 #include "machine/qt/look/late_icon.h"
 #include "machine/qt/look/shapes.h"
+#include "machine/qt/look/shown_options.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
@@ -21,36 +22,6 @@ namespace {
 constexpr int ROW_AIR = 6;
 constexpr int HEADER_AIR = 6;
 constexpr double HEADING_SIZE = 1.25;
-
-bool is_filled(const QStyleOptionButton& button) {
-    return button.features.testFlag(QStyleOptionButton::DefaultButton);
-}
-
-/// The colours of a filled button's picture and caption.
-QStyleOptionButton on_accent(const QStyleOptionButton& button) {
-    QStyleOptionButton shown(button);
-    shown.palette.setColor(QPalette::ButtonText,
-                           button.palette.color(QPalette::Active, QPalette::HighlightedText));
-    if (!shown.icon.isNull()) shown.icon = icon_in_mode(shown.icon, QIcon::Selected);
-    return shown;
-}
-
-QStyleOptionMenuItem in_menu(const QStyleOptionMenuItem& item) {
-    QStyleOptionMenuItem shown(item);
-    const bool on_accent = item.state.testFlags(QStyle::State_Selected | QStyle::State_Enabled);
-    if (on_accent && !shown.icon.isNull()) shown.icon = icon_in_mode(shown.icon, QIcon::Selected);
-    return shown;
-}
-
-/// The rows chosen in a list that has not the keys are pale, so that the list that has them is seen.
-QStyleOptionViewItem in_view(const QStyleOptionViewItem& item, const QAbstractItemView& view) {
-    QStyleOptionViewItem shown(item);
-    if (!view.hasFocus()) shown.state.setFlag(QStyle::State_Active, false);
-    if (view.property("quietSelection").toBool()) shown.state.setFlag(QStyle::State_Selected, false);
-    if (!shown.state.testFlag(QStyle::State_Active) && !shown.icon.isNull())
-        shown.icon = icon_in_mode(shown.icon, QIcon::Normal);
-    return shown;
-}
 
 QPalette::ColorRole role_of_text(const QWidget* widget) {
     return widget != nullptr ? widget->foregroundRole() : QPalette::Text;
