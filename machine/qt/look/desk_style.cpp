@@ -36,6 +36,33 @@ void draw_branch(QPainter& painter, const QStyleOption& branch) {
                chosen ? QPalette::HighlightedText : QPalette::Text);
 }
 
+/// Draws what Qt has no part in. Tells whether the control is of that kind.
+bool draw_whole(QStyle::ControlElement element, const QStyleOption& option, QPainter& painter) {
+    const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(&option);
+    const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(&option);
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(&option);
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);
+    const bool is_line = (item != nullptr && item->menuItemType == QStyleOptionMenuItem::Separator) ||
+                         (frame != nullptr && frame->frameShape == QFrame::HLine);
+    if (element == QStyle::CE_HeaderSection && header != nullptr) {
+        draw_header(painter, *header);
+    } else if (element == QStyle::CE_HeaderEmptyArea) {
+        painter.fillRect(option.rect, option.palette.color(QPalette::AlternateBase));
+    } else if (element == QStyle::CE_TabBarTabShape) {
+        draw_tab(painter, option, option.state.testFlag(QStyle::State_Selected));
+    } else if (element == QStyle::CE_MenuBarEmptyArea) {
+        draw_menu_bar(painter, option);
+    } else if ((element == QStyle::CE_MenuItem || element == QStyle::CE_ShapedFrame) && is_line) {
+        draw_separator(painter, option);
+    } else if ((element == QStyle::CE_ProgressBarGroove || element == QStyle::CE_ProgressBarContents) &&
+               bar != nullptr) {
+        draw_bar(painter, *bar, element == QStyle::CE_ProgressBarContents);
+    } else {
+        return element == QStyle::CE_ToolBar;
+    }
+    return true;
+}
+
 bool is_heading(const QWidget& widget) {
     return widget.property("look").toString() == QLatin1String("heading");
 }
@@ -159,6 +186,7 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
 
 void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                             const QWidget* widget) const {
+    if (draw_whole(element, *option, *painter)) return;
     switch (element) {
         case CE_PushButtonLabel:
             if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
@@ -167,43 +195,17 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
                 return QProxyStyle::drawControl(element, &shown, painter, widget);
             }
             break;
+        case CE_MenuBarItem:
+            if (!option->state.testFlags(State_Selected | State_Sunken)) {
+                draw_menu_bar(*painter, *option);
+                return QCommonStyle::drawControl(element, option, painter, widget);
+            }
+            break;
         case CE_MenuItem:
             if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
-                if (item->menuItemType == QStyleOptionMenuItem::Separator)
-                    return draw_separator(*painter, *item);
                 const QStyleOptionMenuItem shown = in_menu(*item);
                 return QProxyStyle::drawControl(element, &shown, painter, widget);
             }
-            break;
-        case CE_MenuBarItem:
-            if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-                item != nullptr && !item->state.testFlags(State_Selected | State_Sunken)) {
-                draw_menu_bar(*painter, *item);
-                return QCommonStyle::drawControl(element, item, painter, widget);
-            }
-            break;
-        case CE_MenuBarEmptyArea:
-            return draw_menu_bar(*painter, *option);
-        case CE_HeaderSection:
-            if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option))
-                return draw_header(*painter, *header);
-            break;
-        case CE_HeaderEmptyArea:
-            return painter->fillRect(option->rect, option->palette.color(QPalette::AlternateBase));
-        case CE_TabBarTabShape:
-            return draw_tab(*painter, *option, option->state.testFlag(State_Selected));
-        case CE_ToolBar:
-            return;
-        case CE_ShapedFrame:
-            if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
-                frame != nullptr && frame->frameShape == QFrame::HLine) {
-                return draw_separator(*painter, *frame);
-            }
-            break;
-        case CE_ProgressBarGroove:
-        case CE_ProgressBarContents:
-            if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option))
-                return draw_bar(*painter, *bar, element == CE_ProgressBarContents);
             break;
         case CE_ProgressBarLabel:
             if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option)) {
