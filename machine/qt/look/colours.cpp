@@ -12,6 +12,7 @@ namespace {
 constexpr QRgb NO_DESKTOPS_HIGHLIGHT = qRgb(48, 140, 198);
 constexpr QRgb ACCENT_ON_LIGHT = qRgb(0x1A, 0x5F, 0xB4);
 constexpr QRgb ACCENT_ON_DARK = qRgb(0x78, 0xAE, 0xF5);
+constexpr double READABLE = 4.5;
 constexpr double READABLE_DISABLED = 3.2;
 constexpr double READABLE_DISABLED_IN_HIGH_CONTRAST = 7;
 constexpr double PALE = 0.82;
@@ -30,6 +31,13 @@ QColor faded(const QColor& text, const QColor& ground, double readable) {
     double share = 0.6;
     while (share > 0 && contrast(between(text, ground, share), ground) < readable) share -= 0.05;
     return between(text, ground, std::max(share, 0.0));
+}
+
+/// The colour, or as near to the text's as it takes to read it on the ground.
+QColor legible(const QColor& colour, const QColor& text, const QColor& ground) {
+    double share = 0;
+    while (share < 1 && contrast(between(colour, text, share), ground) < READABLE) share += 0.05;
+    return between(colour, text, share);
 }
 
 }  // namespace
@@ -119,6 +127,9 @@ void make_readable(QPalette& palette) {
     const bool white_reads = contrast(Qt::white, highlight) >= contrast(Qt::black, highlight);
     palette.setColor(QPalette::HighlightedText, white_reads ? Qt::white : Qt::black);
 
+    palette.setColor(QPalette::Link, legible(palette.color(QPalette::Active, QPalette::Link),
+                                             palette.color(QPalette::Active, QPalette::WindowText),
+                                             palette.color(QPalette::Active, QPalette::Window)));
     const QColor base = palette.color(QPalette::Active, QPalette::Base);
     const double pale = is_high_contrast(palette) ? PALE_IN_HIGH_CONTRAST : PALE;
     palette.setColor(QPalette::Inactive, QPalette::Highlight, between(highlight, base, pale));

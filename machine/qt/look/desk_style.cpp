@@ -4,8 +4,10 @@
 #include "machine/qt/look/edges.h"
 #include "machine/qt/look/late_icon.h"
 #include "machine/qt/look/shapes.h"
+#include "machine/qt/look/shown_options.h"
 
 #include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QFrame>
 #include <QGroupBox>
@@ -22,36 +24,6 @@ constexpr int HEADER_AIR = 4;
 /// How much nearer than Qt puts it a text stands to the picture before it.
 constexpr int NEARER = 4;
 
-bool is_filled(const QStyleOptionButton& button) {
-    return button.features.testFlag(QStyleOptionButton::DefaultButton);
-}
-
-/// The colours of a filled button's picture and caption.
-QStyleOptionButton on_accent(const QStyleOptionButton& button) {
-    QStyleOptionButton shown(button);
-    shown.palette.setColor(QPalette::ButtonText,
-                           button.palette.color(QPalette::Active, QPalette::HighlightedText));
-    if (!shown.icon.isNull()) shown.icon = icon_in_mode(shown.icon, QIcon::Selected);
-    return shown;
-}
-
-QStyleOptionMenuItem in_menu(const QStyleOptionMenuItem& item) {
-    QStyleOptionMenuItem shown(item);
-    const bool on_accent = item.state.testFlags(QStyle::State_Selected | QStyle::State_Enabled);
-    if (on_accent && !shown.icon.isNull()) shown.icon = icon_in_mode(shown.icon, QIcon::Selected);
-    return shown;
-}
-
-/// The rows chosen in a list that has not the keys are pale, so that the list that has them is seen.
-QStyleOptionViewItem in_view(const QStyleOptionViewItem& item, const QAbstractItemView& view) {
-    QStyleOptionViewItem shown(item);
-    if (!view.hasFocus()) shown.state.setFlag(QStyle::State_Active, false);
-    if (view.property("quietSelection").toBool()) shown.state.setFlag(QStyle::State_Selected, false);
-    if (!shown.state.testFlag(QStyle::State_Active) && !shown.icon.isNull())
-        shown.icon = icon_in_mode(shown.icon, QIcon::Normal);
-    return shown;
-}
-
 QPalette::ColorRole role_of_text(const QWidget* widget) {
     return widget != nullptr ? widget->foregroundRole() : QPalette::Text;
 }
@@ -59,6 +31,33 @@ QPalette::ColorRole role_of_text(const QWidget* widget) {
 bool has_picture(const QStyleOption& cell) {
     const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(&cell);
     return item != nullptr && item->features.testFlag(QStyleOptionViewItem::HasDecoration);
+}
+
+/// Draws what Qt has no part in. Tells whether the control is of that kind.
+bool draw_whole(QStyle::ControlElement element, const QStyleOption& option, QPainter& painter) {
+    const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(&option);
+    const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(&option);
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(&option);
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);
+    const bool is_line = (item != nullptr && item->menuItemType == QStyleOptionMenuItem::Separator) ||
+                         (frame != nullptr && frame->frameShape == QFrame::HLine);
+    if (element == QStyle::CE_HeaderSection && header != nullptr) {
+        draw_header(painter, *header);
+    } else if (element == QStyle::CE_HeaderEmptyArea) {
+        painter.fillRect(option.rect, option.palette.color(QPalette::AlternateBase));
+    } else if (element == QStyle::CE_TabBarTabShape) {
+        draw_tab(painter, option, option.state.testFlag(QStyle::State_Selected));
+    } else if (element == QStyle::CE_MenuBarEmptyArea) {
+        draw_menu_bar(painter, option);
+    } else if ((element == QStyle::CE_MenuItem || element == QStyle::CE_ShapedFrame) && is_line) {
+        draw_separator(painter, option);
+    } else if ((element == QStyle::CE_ProgressBarGroove || element == QStyle::CE_ProgressBarContents) &&
+               bar != nullptr) {
+        draw_bar(painter, *bar, element == QStyle::CE_ProgressBarContents);
+    } else {
+        return element == QStyle::CE_ToolBar;
+    }
+    return true;
 }
 
 /// Writes the texts larger in a widget of such a look; false for others.
@@ -139,6 +138,9 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
             if (qobject_cast<const QPushButton*>(widget) != nullptr) return;
             return draw_focus(*painter, *option);
         case PE_PanelLineEdit: {
+            // The date field has a ground already, below its arrow too.
+            if (widget != nullptr && qobject_cast<const QAbstractSpinBox*>(widget->parentWidget()) != nullptr)
+                return;
             const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
             if (frame != nullptr && frame->lineWidth > 0) return draw_field(*painter, *option);
             break;
@@ -152,11 +154,21 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
                 edge.rect = edge_below_title(*group);
             return draw_edge(*painter, edge);
         }
+        case PE_PanelMenu:
+            painter->fillRect(option->rect, option->palette.color(QPalette::Base));
+            return draw_edge(*painter, *option);
+        case PE_FrameMenu:
+            return draw_edge(*painter, *option);
+        case PE_FrameTabBarBase:
+            // The panel below has an edge.
+            return;
         case PE_IndicatorCheckBox:
         case PE_IndicatorItemViewItemCheck:
             return draw_check_box(*painter, *option);
         case PE_IndicatorRadioButton:
             return draw_radio_button(*painter, *option);
+        case PE_IndicatorBranch:
+            return draw_branch(*painter, *option);
         case PE_IndicatorArrowDown:
             return draw_arrow(*painter, *option, option->rect, Qt::DownArrow, role_of_text(widget));
         case PE_IndicatorArrowUp:
@@ -173,6 +185,7 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
 
 void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                             const QWidget* widget) const {
+    if (draw_whole(element, *option, *painter)) return;
     switch (element) {
         case CE_PushButtonLabel:
             if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
@@ -181,34 +194,17 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
                 return QProxyStyle::drawControl(element, &shown, painter, widget);
             }
             break;
+        case CE_MenuBarItem:
+            if (!option->state.testFlags(State_Selected | State_Sunken)) {
+                draw_menu_bar(*painter, *option);
+                return QCommonStyle::drawControl(element, option, painter, widget);
+            }
+            break;
         case CE_MenuItem:
             if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
                 const QStyleOptionMenuItem shown = in_menu(*item);
                 return QProxyStyle::drawControl(element, &shown, painter, widget);
             }
-            break;
-        case CE_HeaderSection:
-            if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option))
-                return draw_header(*painter, *header);
-            break;
-        case CE_HeaderEmptyArea:
-            return painter->fillRect(option->rect, option->palette.color(QPalette::AlternateBase));
-        case CE_TabBarTabShape:
-            return draw_tab(*painter, *option, option->state.testFlag(State_Selected));
-        case CE_ToolBar:
-            return;
-        case CE_ShapedFrame:
-            if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
-                frame != nullptr && frame->frameShape == QFrame::HLine) {
-                const QRect& place = frame->rect;
-                return painter->fillRect(place.left(), place.center().y(), place.width(), 1,
-                                         colours_of(frame->palette).line);
-            }
-            break;
-        case CE_ProgressBarGroove:
-        case CE_ProgressBarContents:
-            if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option))
-                return draw_bar(*painter, *bar, element == CE_ProgressBarContents);
             break;
         case CE_ProgressBarLabel:
             if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option)) {
@@ -266,6 +262,8 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
         case PM_TabBarTabShiftHorizontal:
         case PM_TabBarTabShiftVertical:
             return 0;
+        case PM_MenuPanelWidth:
+            return 1;
         case PM_HeaderMargin:
             return HEADER_AIR;
         case PM_FocusFrameHMargin:

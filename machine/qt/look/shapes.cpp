@@ -7,6 +7,7 @@
 #include <QStyle>
 #include <QStyleOption>
 #include <algorithm>
+#include <cmath>
 
 namespace machine::qt {
 
@@ -37,6 +38,16 @@ void draw_box(QPainter& painter, const QRectF& place, const QBrush& ground, cons
     painter.setPen(QPen(edge, line));
     const double inset = line / 2;
     painter.drawRoundedRect(place.adjusted(inset, inset, -inset, -inset), round, round);
+}
+
+/// A line one pixel thick, or as many as the scale has room for: at 150 % some would be thicker than others.
+void draw_thin_line(QPainter& painter, const QRectF& place, const QColor& colour) {
+    const QTransform to_pixels = painter.deviceTransform();
+    const QRectF pixels = to_pixels.mapRect(place);
+    const auto whole = [](double size) { return std::max(1.0, std::floor(size)); };
+    const QRectF line(std::round(pixels.left()), std::round(pixels.top()), whole(pixels.width()),
+                      whole(pixels.height()));
+    painter.fillRect(to_pixels.inverted().mapRect(line), colour);
 }
 
 bool is(const QStyleOption& option, QStyle::StateFlag state) { return option.state.testFlag(state); }
@@ -86,14 +97,14 @@ void draw_button(QPainter& painter, const QStyleOption& option, bool filled) {
 }
 
 void draw_flat_button(QPainter& painter, const QStyleOption& option) {
-    const bool seen = is(option, QStyle::State_On) || is(option, QStyle::State_Sunken) ||
-                      (is(option, QStyle::State_MouseOver) && is(option, QStyle::State_Enabled));
-    const QColor accent = colours_of(option.palette).accent;
+    const bool filled = is(option, QStyle::State_On) || is(option, QStyle::State_Sunken);
+    const bool hovered = is(option, QStyle::State_MouseOver) && is(option, QStyle::State_Enabled);
     const QColor ground = pressed_on(option, option.palette.color(QPalette::Window));
+    const QBrush fill = filled ? QBrush(ground) : Qt::NoBrush;
     if (has_focus(option)) {
-        draw_box(painter, option.rect, seen ? QBrush(ground) : Qt::NoBrush, accent, FOCUS_LINE);
-    } else if (seen) {
-        draw_box(painter, option.rect, ground, ground);
+        draw_box(painter, option.rect, fill, colours_of(option.palette).accent, FOCUS_LINE);
+    } else if (filled || hovered) {
+        draw_box(painter, option.rect, fill, filled ? ground : edge_of(option));
     }
 }
 
@@ -101,6 +112,18 @@ void draw_edge(QPainter& painter, const QStyleOption& option) {
     const bool focus = has_focus(option);
     draw_box(painter, option.rect, Qt::NoBrush, focus ? colours_of(option.palette).accent : edge_of(option),
              1, ROUND - 1);
+}
+
+void draw_menu_bar(QPainter& painter, const QStyleOption& option) {
+    const QRect& place = option.rect;
+    painter.fillRect(place, option.palette.color(QPalette::Window));
+    painter.fillRect(place.left(), place.bottom(), place.width(), 1, colours_of(option.palette).line);
+}
+
+void draw_separator(QPainter& painter, const QStyleOption& option) {
+    const QRectF place = option.rect;
+    draw_thin_line(painter, {place.left(), std::floor(place.center().y()), place.width(), 1},
+                   colours_of(option.palette).line);
 }
 
 void draw_focus(QPainter& painter, const QStyleOption& option) {
@@ -132,6 +155,14 @@ void draw_arrow(QPainter& painter, const QStyleOption& option, const QRect& plac
     painter.setPen(QPen(enabled ? option.palette.color(text) : strong_edge(option), 1.5, Qt::SolidLine,
                         Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(QPolygonF({{-4, -2}, {0, 2}, {4, -2}}));
+}
+
+void draw_branch(QPainter& painter, const QStyleOption& branch) {
+    if (!branch.state.testFlag(QStyle::State_Children)) return;
+    const bool chosen = branch.state.testFlags(QStyle::State_Selected | QStyle::State_Active);
+    draw_arrow(painter, branch, branch.rect,
+               branch.state.testFlag(QStyle::State_Open) ? Qt::DownArrow : Qt::RightArrow,
+               chosen ? QPalette::HighlightedText : QPalette::Text);
 }
 
 void draw_scroll_bar(QPainter& painter, const QStyleOptionSlider& bar, const QRect& thumb) {
@@ -194,16 +225,12 @@ void draw_radio_button(QPainter& painter, const QStyleOption& option) {
 }
 
 void draw_tab(QPainter& painter, const QStyleOption& option, bool chosen) {
-    const Smooth smooth(painter);
     const QRectF place = option.rect;
     const QColor accent = colours_of(option.palette).accent;
     if (!chosen && is(option, QStyle::State_MouseOver))
         painter.fillRect(place.adjusted(1, 2, -1, -1),
                          pressed_on(option, option.palette.color(QPalette::Window)));
-    painter.setPen(QPen(edge_of(option), 1));
-    painter.drawLine(place.bottomLeft() - QPointF(0, 0.5), place.bottomRight() - QPointF(0, 0.5));
-    if (!chosen) return;
-    painter.fillRect(QRectF(place.left() + 6, place.bottom() - 3, place.width() - 12, 3), accent);
+    if (chosen) painter.fillRect(QRectF(place.left() + 6, place.bottom() - 3, place.width() - 12, 3), accent);
 }
 
 void draw_header(QPainter& painter, const QStyleOptionHeader& header) {
@@ -212,9 +239,8 @@ void draw_header(QPainter& painter, const QStyleOptionHeader& header) {
     painter.fillRect(QRect(header.rect.bottomLeft(), QSize(header.rect.width(), 1)), colours.line);
     const bool last =
         header.position == QStyleOptionHeader::End || header.position == QStyleOptionHeader::OnlyOneSection;
-    if (!last)
-        painter.fillRect(header.rect.right(), header.rect.top() + 4, 1, header.rect.height() - 8,
-                         colours.line);
+    const QRectF place = header.rect.adjusted(0, 4, 0, -4);
+    if (!last) draw_thin_line(painter, {place.right() - 1, place.top(), 1, place.height()}, colours.line);
 }
 
 void draw_bar(QPainter& painter, const QStyleOptionProgressBar& bar, bool done) {

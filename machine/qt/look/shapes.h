@@ -18,11 +18,17 @@ namespace machine::qt {
 /// A button. A filled one is the one that Enter presses.
 void draw_button(QPainter& painter, const QStyleOption& option, bool filled);
 
-/// A flat button, seen when it is pressed, stays pressed or is under the mouse.
+/// A flat button, filled when it is pressed or stays pressed; under the mouse it has an edge alone.
 void draw_flat_button(QPainter& painter, const QStyleOption& option);
 
 /// The edge of a field, list or panel.
 void draw_edge(QPainter& painter, const QStyleOption& option);
+
+/// The ground of the menu bar, or of an entry in it, with the line below.
+void draw_menu_bar(QPainter& painter, const QStyleOption& option);
+
+/// The line in the middle of a menu's or a window's separator.
+void draw_separator(QPainter& painter, const QStyleOption& option);
 
 /// The line around what has the focus: the row of a list, the caption of a check box.
 void draw_focus(QPainter& painter, const QStyleOption& option);
@@ -33,6 +39,9 @@ void draw_field(QPainter& painter, const QStyleOption& option);
 /// A small arrow in the colour of texts on that control.
 void draw_arrow(QPainter& painter, const QStyleOption& option, const QRect& place,
                 Qt::ArrowType direction = Qt::DownArrow, QPalette::ColorRole text = QPalette::Text);
+
+/// The arrow of a folder in a tree, which stands on the selection's colour when the folder is chosen.
+void draw_branch(QPainter& painter, const QStyleOption& branch);
 
 /// A scroll bar without its arrows: a quiet track and a thumb that stands out.
 void draw_scroll_bar(QPainter& painter, const QStyleOptionSlider& bar, const QRect& thumb);

@@ -144,7 +144,11 @@ void MultilineEdit::mark_lost() {
     if (lost.empty() && extraSelections().isEmpty()) return;
     const QColor failure = colours_of(palette()).failure;
     QTextCharFormat format;
-    format.setBackground(between(palette().color(QPalette::Base), failure, 0.2));
+    const QColor base = palette().color(QPalette::Base);
+    // A tint of the ground would not be seen in high contrast.
+    const bool high = is_high_contrast(palette());
+    format.setBackground(high ? failure : between(base, failure, 0.2));
+    if (high) format.setForeground(base);
     format.setUnderlineColor(failure);
     format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
     QList<QTextEdit::ExtraSelection> marks;
