@@ -118,7 +118,7 @@ struct Parsed {
 /// What a parser makes of the stream when it arrives in pieces of this length.
 Parsed parse(std::string_view stream, std::size_t piece) {
     Parsed result;
-    CardStreamParser parser([&](Table table, const Row& row) {
+    CardStreamParser parser([&](Table table, const machine::jet::Row& row) {
         result.text += table == Table::folder ? "F" : "C";
         for (const Cell& cell : row) {
             if (const auto* number = std::get_if<std::int32_t>(&cell)) result.text += std::to_string(*number);
