@@ -10,6 +10,11 @@ namespace machine::qt {
 
 namespace {
 
+/// By how much a blank of a label is wider than the font's.
+double widening(const QFontMetricsF& metrics) {
+    return metrics.horizontalAdvance(QStringLiteral("가")) / 3 - metrics.horizontalAdvance(u' ');
+}
+
 /// Spaces the blanks of the labels. Word spacing would widen a run of blanks once, not each of them.
 class LabelBlanks : public QSyntaxHighlighter {
   public:
@@ -17,11 +22,9 @@ class LabelBlanks : public QSyntaxHighlighter {
 
   protected:
     void highlightBlock(const QString& line) override {
-        const QFontMetricsF metrics(text_.font());
-        const double syllable = metrics.horizontalAdvance(QStringLiteral("가"));
         QTextCharFormat blank;
         blank.setFontLetterSpacingType(QFont::AbsoluteSpacing);
-        blank.setFontLetterSpacing(syllable / 3 - metrics.horizontalAdvance(u' '));
+        blank.setFontLetterSpacing(widening(QFontMetricsF(text_.font())));
         for (int at = 0; at < line.indexOf(u':'); ++at)
             if (line[at] == u' ') setFormat(at, 1, blank);
     }
@@ -46,7 +49,9 @@ QSize ColumnText::sizeHint() const {
     double widest = 0;
     int lines = 0;
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-        const double width = metrics.horizontalAdvance(block.text());
+        const QString line = block.text();
+        const auto blanks = line.left(qMax<qsizetype>(line.indexOf(u':'), 0)).count(u' ');
+        const double width = metrics.horizontalAdvance(line) + double(blanks) * widening(metrics);
         widest = qMax(widest, width);
         lines += 1 + static_cast<int>(width / limit);
     }
