@@ -63,7 +63,9 @@ void frmZent::restore_placement() {
     state_.window.gWinHeight = read(core::settings::WINDOW_HEIGHT);
 
     const platform::Screen screen = platform_.desktop.screen();
-    const platform::Placement centre = core::centred(screen, DEFAULT_WIDTH, DEFAULT_HEIGHT);
+    const auto for_text = [&](int twips) { return static_cast<int>(std::lround(twips * screen.text_size)); };
+    const platform::Placement centre = core::centred(screen, std::min(for_text(DEFAULT_WIDTH), screen.width),
+                                                     std::min(for_text(DEFAULT_HEIGHT), screen.height));
     const bool never_placed = state_.window.gWinLeft.empty() && state_.window.gWinTop.empty() &&
                               state_.window.gWinWidth.empty() && state_.window.gWinHeight.empty();
     if (state_.window.gWinMax.empty() || never_placed) {

@@ -57,6 +57,8 @@ struct Screen {
     int height = 0;
     int twips_per_pixel_x = 15;
     int twips_per_pixel_y = 15;
+    /// How large the desktop's text is beside the usual one.
+    double text_size = 1;
 };
 
 /// Watches for the user's input while a handler runs. The input itself is handled after the handler.

@@ -110,6 +110,13 @@ TEST(MainWindowPlacement, KeepsOutOfPanelsAtTheLeftAndAtTheTop) {
     }
 }
 
+TEST(MainWindowPlacement, TheDefaultSizeGrowsWithTheDesktopsTextAsFarAsThereIsRoom) {
+    tests::MainWindow window;
+    window.desktop.screen_size = {.width = 28800, .height = 12000, .text_size = 1.5};
+    window.form.load();
+    EXPECT_EQ(window.form.placement(), (Placement{5400, 0, 18000, 12000}));
+}
+
 TEST_F(MainWindowLife, LoadingFillsTheControlsFromTheClock) {
     desktop.screen_size.twips_per_pixel_x = 16;
     clock.set(make_time(2026, 12, 31, 23, 5, 59));

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEventLoop>
+#include <QFontInfo>
 #include <QMenu>
 #include <QScreen>
 
@@ -160,13 +161,16 @@ void QtDesktop::set_clipboard(const Text& text) { QGuiApplication::clipboard()->
 Text QtDesktop::clipboard_text() const { return to_text(QGuiApplication::clipboard()->text()); }
 
 platform::Screen QtDesktop::screen() const {
+    // Of text of 10 points.
+    constexpr double USUAL_PIXELS = 13;
     const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
     return {.left = to_twips(free.left()),
             .top = to_twips(free.top()),
             .width = to_twips(free.width()),
             .height = to_twips(free.height()),
             .twips_per_pixel_x = TWIPS_PER_PIXEL,
-            .twips_per_pixel_y = TWIPS_PER_PIXEL};
+            .twips_per_pixel_y = TWIPS_PER_PIXEL,
+            .text_size = qMax(QFontInfo(QApplication::font()).pixelSize() / USUAL_PIXELS, 1.0)};
 }
 
 void QtDesktop::set_application_title(const Text& title) { title_ = to_qstring(title); }
