@@ -6,6 +6,7 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QStyle>
@@ -97,7 +98,16 @@ void FormWindow::show_in_front_of(QWidget* parent) {
     window_.setParent(parent, maximisable ? DIALOG_FRAME | Qt::WindowMaximizeButtonHint : DIALOG_FRAME);
     window_.setWindowModality(Qt::ApplicationModal);
     if (focus != nullptr) focus->setFocus();
+    make_room_for_wrapped_texts();
     show();
+}
+
+/// The sizes of dialogs are chosen for texts of the usual size.
+void FormWindow::make_room_for_wrapped_texts() {
+    const QLayout* layout = window_.layout();
+    if (layout == nullptr || !layout->hasHeightForWidth()) return;
+    const int height = layout->totalHeightForWidth(window_.width());
+    if (height > window_.height()) put({window_.pos(), QSize(window_.width(), height)});
 }
 
 void FormWindow::close() {

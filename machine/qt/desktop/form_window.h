@@ -47,6 +47,7 @@ class FormWindow : public QObject, public platform::FormView {
     bool press_key(const QKeyEvent& event);
     void activate_first();
     void activate_again();
+    void make_room_for_wrapped_texts();
     /// Puts the window there, or as near as the work area lets it.
     void put(const QRect& place);
     platform::Placement place() const;
