@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QFontInfo>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QWebEngineHttpRequest>
@@ -63,6 +64,9 @@ PageView::PageView(QWidget& parent, PageEvents events)
     view_->setPage(&page_);
     // Otherwise a file dropped on the page would be passed to it.
     view_->setAcceptDrops(false);
+    // Pages are written for a desktop whose text has this size.
+    constexpr double USUAL_PIXELS = 13;
+    view_->setZoomFactor(qMax(QFontInfo(QApplication::font()).pixelSize() / USUAL_PIXELS, 1.0));
     view_->setAccessibleName(QStringLiteral("웹 페이지"));
     connect(&page_, &QWebEnginePage::loadProgress, this, progress_);
     connect(&page_, &QWebEnginePage::loadFinished, this, [this] { progress_(100); });
