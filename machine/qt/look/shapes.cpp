@@ -104,7 +104,8 @@ void draw_flat_button(QPainter& painter, const QStyleOption& option) {
     if (has_focus(option)) {
         draw_box(painter, option.rect, fill, colours_of(option.palette).accent, FOCUS_LINE);
     } else if (filled || hovered) {
-        draw_box(painter, option.rect, fill, filled ? ground : edge_of(option));
+        const bool quiet = filled && !is_high_contrast(option.palette);
+        draw_box(painter, option.rect, fill, quiet ? ground : edge_of(option));
     }
 }
 
