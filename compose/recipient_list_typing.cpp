@@ -3,6 +3,7 @@
 #include "compose/recipient_list.h"
 #include "compose/recipients/status.h"
 #include "core/boxes.h"
+#include "core/phone_number.h"
 
 namespace compose {
 
@@ -49,12 +50,13 @@ bool RecipientList::settle_typed() {
     if (number.empty() || is_as_listed(number)) return true;
     const platform::StandingQuestion question(platform_.desktop);
     const bool change = changed_row_ != nullptr;
-    switch (platform_.desktop.message_box({.text = Text(change ? CHANGE_LEFT : TYPED_LEFT) +
-                                                   platform::trim(HText1[0].text() + u" " + number) +
-                                                   Text(change ? CHANGE_QUESTION : TYPED_QUESTION),
-                                           .icon = platform::BoxIcon::question,
-                                           .buttons = platform::BoxButtons::yes_no_cancel,
-                                           .default_answer = platform::BoxAnswer::yes})) {
+    switch (platform_.desktop.message_box(
+        {.text = Text(change ? CHANGE_LEFT : TYPED_LEFT) +
+                 platform::trim(HText1[0].text() + u" " + core::with_hyphens(number)) +
+                 Text(change ? CHANGE_QUESTION : TYPED_QUESTION),
+         .icon = platform::BoxIcon::question,
+         .buttons = platform::BoxButtons::yes_no_cancel,
+         .default_answer = platform::BoxAnswer::yes})) {
         case platform::BoxAnswer::yes:
             return add_typed();
         case platform::BoxAnswer::no:

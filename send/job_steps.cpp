@@ -167,6 +167,7 @@ void frmZentSend::show_pieces() {
 
 void frmZentSend::show_stopped() {
     normal_cursor();
+    Remaining.set_caption(u"");
     core::warn(platform_.desktop, u"메시지 등록이 중지되었습니다");
 }
 

@@ -37,7 +37,7 @@ Outcome outcome_of(const SendJob& job, int recipients) {
             .failed = unless_none(job.failure,
                                   u"⚠ 실패 " + people(job.failure) + u": 목록에 선택된 채로 남아 있습니다."),
             .stopped = unless_none(
-                stopped, u"등록하지 않음 " + people(stopped) + u": 목록에 선택된 채로 남아 있습니다."),
+                stopped, u"등록하지 않은 " + people(stopped) + u": 목록에 선택된 채로 남아 있습니다."),
             .unconfirmed = unless_none(job.unconfirmed, u"⚠ 확인필요 " + people(job.unconfirmed) +
                                                             u": 발송결과에서 확인하여 주십시오.")};
 }

@@ -14,7 +14,7 @@ class PersonalPreview : Room {
     /// For whom the preview is, and below it how long the message is.
     platform::Label PreviewHead{form_, u"PreviewHead"};
     platform::TextBox Preview{form_, u"Preview"};
-    platform::CommandButton Longest{form_, u"Longest", u"가장 긴 사람"};
+    platform::CommandButton Longest{form_, u"Longest", u"가장 긴 메시지"};
 
     /// Shows the message for the present row, or hides the preview of a message that is the same for all.
     void show();

@@ -233,7 +233,7 @@ TEST_F(Changed, WhoIsInTheFieldsIsAskedAboutBeforeAJobAndBeforeAnotherTakesHisPl
     EXPECT_TRUE(form.recipients.settle_typed());
     name.set_text(u"나");
     desktop.expect_box({.text = u"고치기만 하고 목록에 반영하지 않은 받는사람이 있습니다.\r\n\r\n나 "
-                                u"01011112222\r\n\r\n이대로 고치시겠습니까?",
+                                u"010-1111-2222\r\n\r\n이대로 고치시겠습니까?",
                         .icon = platform::BoxIcon::question,
                         .buttons = platform::BoxButtons::yes_no_cancel,
                         .default_answer = BoxAnswer::yes},
@@ -244,7 +244,7 @@ TEST_F(Changed, WhoIsInTheFieldsIsAskedAboutBeforeAJobAndBeforeAnotherTakesHisPl
     name.set_text(u"다");
     number.set_text(u"01033334444");
     desktop.expect_box({.text = u"입력만 하고 추가하지 않은 받는사람이 있습니다.\r\n\r\n다 "
-                                u"01033334444\r\n\r\n받는사람에 추가하시겠습니까?",
+                                u"010-3333-4444\r\n\r\n받는사람에 추가하시겠습니까?",
                         .icon = platform::BoxIcon::question,
                         .buttons = platform::BoxButtons::yes_no_cancel,
                         .default_answer = BoxAnswer::yes},

@@ -83,7 +83,7 @@ TEST(SendCheck, RefusesEachFaultInItsWordsWithTheFocusWhereItIsCorrected) {
 TEST(SendCheck, LeavesNobodyOutWhoIsTypedButNotAdded) {
     const MessageBox question{
         .text =
-            u"입력만 하고 추가하지 않은 받는사람이 있습니다.\r\n\r\n남은사람 01099998888"
+            u"입력만 하고 추가하지 않은 받는사람이 있습니다.\r\n\r\n남은사람 010-9999-8888"
             u"\r\n\r\n받는사람에 추가하시겠습니까?",
         .icon = BoxIcon::question,
         .buttons = BoxButtons::yes_no_cancel,
