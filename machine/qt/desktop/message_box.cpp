@@ -76,25 +76,21 @@ QString picture_of(BoxIcon icon) {
 }
 
 /// Keeps keys from a button that are no answers. With some input methods Ctrl alone ends the syllable, which
-/// may open a question, and the rest of the shortcut would answer it. A blank is one more character of a text
-/// that the box has interrupted.
+/// may open a question, and the rest of the shortcut would answer it. A blank may be one more character of
+/// the text that the question has interrupted.
 class KeysThatAreNoAnswers : public QObject {
   public:
-    KeysThatAreNoAnswers(MessageBox& box, TypingRest* interrupted)
-        : QObject(&box), interrupted_(interrupted) {}
+    KeysThatAreNoAnswers(QObject* box, bool blanks) : QObject(box), blanks_(blanks) {}
 
   protected:
     bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() != QEvent::KeyPress) return false;
         const auto& key = static_cast<QKeyEvent&>(*event);
-        if ((key.modifiers() & Qt::ControlModifier) != 0) return true;
-        if (interrupted_ == nullptr || key.key() != Qt::Key_Space) return false;
-        interrupted_->keep(key.text());
-        return true;
+        return (key.modifiers() & Qt::ControlModifier) != 0 || (blanks_ && key.key() == Qt::Key_Space);
     }
 
   private:
-    TypingRest* interrupted_;
+    bool blanks_;
 };
 
 /// Not into another modal window that the handlers have opened meanwhile: it was not typed for that.
@@ -149,11 +145,13 @@ void MessageBox::make_room_for_title() {
 
 void MessageBox::add_buttons(const platform::MessageBox& box) {
     setStandardButtons(buttons_of(box.buttons));
-    auto* keys = new KeysThatAreNoAnswers(*this, about_the_text_ ? &typing_rest_ : nullptr);
+    const bool interrupts = about_the_text_ && box.buttons != BoxButtons::ok;
     for (const Answer& answer : ANSWERS) {
         QAbstractButton* pressed = button(answer.button);
         if (pressed == nullptr) continue;
-        pressed->installEventFilter(keys);
+        // Whoever has led the focus to another button means to press it.
+        const bool has_focus_first = answer.answer == box.default_answer;
+        pressed->installEventFilter(new KeysThatAreNoAnswers(this, interrupts && has_focus_first));
         pressed->setText(QString::fromUtf8(answer.caption));
         if (answer.answer == box.default_answer) setDefaultButton(answer.button);
         if (answer.answer == cautious_answer(box.buttons)) setEscapeButton(answer.button);
@@ -184,9 +182,7 @@ void MessageBox::paintEvent(QPaintEvent* event) {
 
 /// A letter alone presses no button: it may be the last of a word that was meant for a field.
 void MessageBox::keyPressEvent(QKeyEvent* event) {
-    const QString written = written_by(*event);
-    if (written.isEmpty()) return QMessageBox::keyPressEvent(event);
-    if (about_the_text_) typing_rest_.keep(written);
+    if (written_by(*event).isEmpty()) QMessageBox::keyPressEvent(event);
 }
 
 BoxAnswer ask(const platform::MessageBox& box, const QString& application_title, const LastKey& last_key,

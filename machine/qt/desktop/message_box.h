@@ -26,7 +26,7 @@ class MessageBox : public QMessageBox {
     /// wanted.
     bool is_about_the_text() const { return about_the_text_; }
 
-    /// What the user typed that was no answer; a line end stands for Enter, a tab for Tab.
+    /// What the user typed before the box took keys; a line end stands for Enter, a tab for Tab.
     QString typed_ahead() const;
 
   protected:

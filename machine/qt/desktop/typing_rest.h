@@ -22,8 +22,6 @@ class TypingRest : public QWidget {
     void begin_to_wait(std::chrono::milliseconds since_key);
 
     const QString& text() const { return text_; }
-    /// Adds what was typed elsewhere in the box.
-    void keep(const QString& text) { text_ += text; }
 
   protected:
     bool event(QEvent* event) override;

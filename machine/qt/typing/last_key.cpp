@@ -20,6 +20,8 @@ bool LastKey::eventFilter(QObject* object, QEvent* event) {
         wrote_ = widget != nullptr && widget->testAttribute(Qt::WA_InputMethodEnabled) &&
                  !written_by(static_cast<const QKeyEvent&>(*event)).isEmpty();
         since_.start();
+    } else if (event->type() == QEvent::MouseButtonPress) {
+        wrote_ = false;
     } else if (event->type() == QEvent::InputMethod) {
         wrote_ = true;
         since_.start();

@@ -13,7 +13,8 @@ class LastKey : public QObject {
 
     /// How long ago it was.
     std::chrono::milliseconds age() const;
-    /// Whether it wrote a character into a field. Enter does not, nor a blank on a button.
+    /// Whether it wrote a character into a field and nothing has been clicked since. Enter does not, nor a
+    /// blank on a button.
     bool wrote() const { return wrote_; }
 
   protected:
