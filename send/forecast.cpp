@@ -7,6 +7,7 @@
 #include "platform/text/format.h"
 #include "send/batch.h"
 #include "send/pace.h"
+#include "send/pieces.h"
 
 #include <algorithm>
 
@@ -86,6 +87,8 @@ Forecast forecast_of(const compose::frmZent& form, const gateway::UmsMessage& me
         forecast.messages =
             form.recipients.ListView1.checked_count() * static_cast<std::size_t>(forecast.most_messages);
     }
+    // Some have a part of the text, and the user is asked later whether they get the rest or all of it.
+    if (!pieces_report(form.recipients.ListView1).empty()) forecast.messages = 0;
     add_attachments(forecast, message, carrier.content);
     forecast.pauses = milliseconds(pauses.after_success + pauses.before_unbind) * forecast.submits;
     forecast.lost_characters = lost_characters(message);
@@ -100,7 +103,7 @@ Text amount_in_words(const Forecast& forecast) {
                 Text(CRLF) + u"한 사람에 " +
                 (differ ? platform::decimal(forecast.fewest_messages) + u"~" : Text()) +
                 platform::decimal(forecast.most_messages) + u"건" + Text(CRLF);
-        if (forecast.most_messages > 1)
+        if (forecast.most_messages > 1 && forecast.messages > 0)
             words += u"모두 " + platform::counted(forecast.messages, u"건") + Text(CRLF);
     }
     words += forecast.one_by_one ? Text(u"한 사람씩 등록")

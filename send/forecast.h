@@ -17,7 +17,7 @@ struct Forecast {
     /// How many messages the text is for one recipient: for most of them the same number.
     int fewest_messages = 0;
     int most_messages = 0;
-    /// For all recipients together.
+    /// For all recipients together; 0 while that is open.
     std::size_t messages = 0;
     /// Recipients who get nothing because the text has a place for their name and they have none.
     int nameless = 0;
