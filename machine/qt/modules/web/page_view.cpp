@@ -64,17 +64,25 @@ PageView::PageView(QWidget& parent, PageEvents events)
     view_->setPage(&page_);
     // Otherwise a file dropped on the page would be passed to it.
     view_->setAcceptDrops(false);
-    // Pages are written for a desktop whose text has this size.
-    constexpr double USUAL_PIXELS = 13;
-    view_->setZoomFactor(qMax(QFontInfo(QApplication::font()).pixelSize() / USUAL_PIXELS, 1.0));
+    zoom();
     view_->setAccessibleName(QStringLiteral("웹 페이지"));
     connect(&page_, &QWebEnginePage::loadProgress, this, progress_);
-    connect(&page_, &QWebEnginePage::loadFinished, this, [this] { progress_(100); });
+    connect(&page_, &QWebEnginePage::loadFinished, this, [this] {
+        // The engine may forget it on the way to another site.
+        zoom();
+        progress_(100);
+    });
     connect(&page_, &QWebEnginePage::renderProcessTerminated, this,
             [died = std::move(events.died)](QWebEnginePage::RenderProcessTerminationStatus status) {
                 if (status != QWebEnginePage::NormalTerminationStatus) died();
             });
     qApp->installEventFilter(this);
+}
+
+void PageView::zoom() {
+    // Pages are written for a desktop whose text has this size.
+    constexpr double USUAL_PIXELS = 13;
+    view_->setZoomFactor(qMax(QFontInfo(QApplication::font()).pixelSize() / USUAL_PIXELS, 1.0));
 }
 
 void PageView::load(const PageRequest& request) {

@@ -24,6 +24,8 @@ class PageView : public QObject, public WebPage {
     bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
+    void zoom();
+
     std::function<void(int)> progress_;
     NarrowProfile profile_;
     PageDownloads downloads_;
