@@ -4,11 +4,13 @@
 #include "app/desktop_machine.h"
 #include "machine/qt/desktop/qt_clock.h"
 #include "machine/qt/look/desk_style.h"
+#include "machine/qt/look/desktop_settings.h"
 #include "machine/qt/look/korean.h"
 #include "machine/qt/look/late_icon.h"
 #include "tests/support/virtual_display.h"
 
 #include <QApplication>
+#include <QDBusConnection>
 #include <QEvent>
 #include <QLocale>
 #include <algorithm>
@@ -49,6 +51,7 @@ class FirstPaint : public QObject {
 inline void show_program(const std::string& folder) {
     QApplication::setStyle(new machine::qt::DeskStyle);
     machine::qt::use_font_with_hangul(QApplication::font());
+    const machine::qt::DesktopSettings desktop_settings(QDBusConnection::sessionBus());
     QApplication::setWindowIcon(machine::qt::late_icon(QStringLiteral("app")));
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale(QLocale::Korean, QLocale::SouthKorea));
