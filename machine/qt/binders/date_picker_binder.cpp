@@ -19,7 +19,8 @@ const QDate FIRST_DAY(1970, 1, 1);
 
 /// Lists are opened by these keys; Qt's date field would take one of them for a step of the year.
 bool opens_calendar(const QKeyEvent& key) {
-    return key.key() == Qt::Key_F4 || (key.key() == Qt::Key_Down && key.modifiers() == Qt::AltModifier);
+    return (key.key() == Qt::Key_F4 && key.modifiers() == Qt::NoModifier) ||
+           (key.key() == Qt::Key_Down && key.modifiers() == Qt::AltModifier);
 }
 
 /// Qt opens the calendar for a press on the arrow alone.

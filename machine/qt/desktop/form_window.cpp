@@ -104,8 +104,10 @@ void FormWindow::show_in_front_of(QWidget* parent) {
 
 /// The sizes of dialogs are chosen for texts of the usual size.
 void FormWindow::make_room_for_wrapped_texts() {
-    const QLayout* layout = window_.layout();
+    QLayout* layout = window_.layout();
     if (layout == nullptr || !layout->hasHeightForWidth()) return;
+    for (const QWidget* child : window_.findChildren<QWidget*>()) child->ensurePolished();
+    layout->invalidate();
     const int height = layout->totalHeightForWidth(window_.width());
     if (height > window_.height()) put({window_.pos(), QSize(window_.width(), height)});
 }
