@@ -227,28 +227,29 @@ TEST_F(Changed, TheChangeIsGivenUpWhenTheDraftOrTheRowGoesOnWithoutIt) {
 }
 
 TEST_F(Changed, WhoIsInTheFieldsIsAskedAboutBeforeAJobAndBeforeAnotherTakesHisPlace) {
+    const auto expect_yes_to = [&](Text text) {
+        desktop.expect_box({.text = std::move(text),
+                            .icon = platform::BoxIcon::question,
+                            .buttons = platform::BoxButtons::yes_no_cancel,
+                            .default_answer = BoxAnswer::yes},
+                           BoxAnswer::yes);
+    };
     add(u"가", u"01011112222");
     list.select_item(0);
     form.recipients.mnuEditRow.Click.raise();
     EXPECT_TRUE(form.recipients.settle_typed());
     name.set_text(u"나");
-    desktop.expect_box({.text = u"고치기만 하고 목록에 반영하지 않은 받는사람이 있습니다.\r\n\r\n나 "
-                                u"010-1111-2222\r\n\r\n이대로 고치시겠습니까?",
-                        .icon = platform::BoxIcon::question,
-                        .buttons = platform::BoxButtons::yes_no_cancel,
-                        .default_answer = BoxAnswer::yes},
-                       BoxAnswer::yes);
+    expect_yes_to(
+        u"고치기만 하고 목록에 반영하지 않은 받는사람이 있습니다.\r\n\r\n나 010-1111-2222\r\n\r\n이대로 "
+        u"고치시겠습니까?");
     EXPECT_TRUE(form.recipients.settle_typed());
     EXPECT_EQ(rows(), (Rows{"*!나/01011112222//부장/"}));
 
     name.set_text(u"다");
     number.set_text(u"01033334444");
-    desktop.expect_box({.text = u"입력만 하고 추가하지 않은 받는사람이 있습니다.\r\n\r\n다 "
-                                u"010-3333-4444\r\n\r\n받는사람에 추가하시겠습니까?",
-                        .icon = platform::BoxIcon::question,
-                        .buttons = platform::BoxButtons::yes_no_cancel,
-                        .default_answer = BoxAnswer::yes},
-                       BoxAnswer::yes);
+    expect_yes_to(
+        u"입력만 하고 추가하지 않은 받는사람이 있습니다.\r\n\r\n다 010-3333-4444\r\n\r\n받는사람에 "
+        u"추가하시겠습니까?");
     form.recipients.mnuEditRow.Click.raise();
     EXPECT_EQ(rows().size(), 2u);
     EXPECT_EQ(name.text(), u"나") << "the row that was asked for is changed, though another came";
