@@ -12,8 +12,8 @@ WidthLimits::WidthLimits(const QWidget& window)
     for (QWidget* widget : window.findChildren<QWidget*>()) {
         const Limits limits{widget->minimumWidth(), widget->maximumWidth()};
         const bool has_one = limits.least > 0 || limits.most < QWIDGETSIZE_MAX;
-        const bool is_picture = limits.least == limits.most;
-        if (has_one && !is_picture && qobject_cast<QLabel*>(widget) == nullptr)
+        const bool has_fixed_width = limits.least == limits.most;
+        if (has_one && !has_fixed_width && qobject_cast<QLabel*>(widget) == nullptr)
             for_small_text_.insert(widget, limits);
     }
     fit();

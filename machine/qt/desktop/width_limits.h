@@ -8,7 +8,7 @@ namespace machine::qt {
 
 /// The least and the largest widths of a window's controls, which its screen gives for text of 12 pixels:
 /// keeps them fit for the window's font, as far as the desktop has room for the window. Labels ask for the
-/// room of their texts themselves, and pictures keep their sizes.
+/// room of their texts themselves, and what has one width, such as a picture, keeps it.
 class WidthLimits {
   public:
     explicit WidthLimits(const QWidget& window);
