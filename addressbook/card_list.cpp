@@ -97,13 +97,12 @@ void frmSendMan::fill_with(platform::CardRecordset& recordset, int records) {
     const auto user = platform_.desktop.watch_input();
     for (; !recordset.end_of_file(); recordset.move_next()) {
         const std::size_t rows = ListView2.row_count();
-        if (rows % ROWS_BETWEEN_LOOKS == 1) {
-            // Deliberately silent: a user who goes on working does not wait for the rest of a long list.
-            if (rows > FILLED_ANYHOW && user->input_waits()) break;
-            PBar1.set_progress(rows, static_cast<std::size_t>(records));
-            platform_.desktop.paint();
-        }
+        const bool look = rows % ROWS_BETWEEN_LOOKS == 1;
+        // Deliberately silent: a user who goes on working does not wait for the rest of a long list.
+        if (look && rows > FILLED_ANYHOW && user->input_waits()) break;
         LISTVIEW2_ADD(recordset);
+        PBar1.set_progress(rows + 1, static_cast<std::size_t>(records));
+        if (look) platform_.desktop.paint();
     }
 }
 
