@@ -11,20 +11,18 @@
 #include "platform/formats/ini_settings.h"
 #include "platform/ports/platform.h"
 
-#include <utility>
-
 namespace app {
 
 /// The desktop machine: files by POSIX, the carrier's library in a process of its own, windows, sound and the
 /// network by Qt, cards out of the card manager's Jet file. The clock has to outlive it.
 struct DesktopMachine {
-    DesktopMachine(const machine::posix::Paths& paths, machine::posix::PosixFiles machine_files,
-                   platform::Clock& clock)
-        : files(std::move(machine_files)),
-          shell(paths, files.machine_path(files.windows_directory())),
-          carrier(paths.application_directory() + "/carrier-host", machine::qt::keep_painted),
+    DesktopMachine(const machine::posix::Paths& paths, platform::Clock& clock)
+        : files(paths),
+          shell(paths),
+          carrier(paths.program("carrier-host"), machine::qt::keep_painted),
           cards(paths, machine::qt::keep_painted),
-          drafts(files.machine_path(files.windows_directory()), paths.application_directory()),
+          drafts(paths.windows_directory(), paths.application_directory()),
+          desktop(screens, files, QString::fromStdString(paths.windows_directory() + "/layout.ini")),
           platform{.desktop = desktop,
                    .clock = clock,
                    .files = files,
@@ -45,9 +43,7 @@ struct DesktopMachine {
     machine::qt::LateRecorder recorder;
     machine::qt::LateInternet internet;
     machine::qt::Screens screens = machine::qt::program_screens();
-    machine::qt::QtDesktop desktop{
-        screens, files,
-        QString::fromStdString(files.machine_path(files.windows_directory()) + "/layout.ini")};
+    machine::qt::QtDesktop desktop;
     platform::Platform platform;
 };
 

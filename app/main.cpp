@@ -28,10 +28,10 @@ int main(int argc, char** argv) {
     machine::qt::KoreanTranslator korean;
     QApplication::installTranslator(&korean);
 
-    const machine::posix::Paths paths;
+    const machine::posix::Paths paths(machine::posix::this_installation());
     machine::posix::enter_application_directory(paths);
     machine::qt::QtClock clock;
-    app::DesktopMachine machine(paths, machine::posix::PosixFiles(paths), clock);
+    app::DesktopMachine machine(paths, clock);
     qt.show_errors_with([&machine](const platform::RuntimeError& error) {
         core::show_error(machine.desktop, error, platform::BoxIcon::critical);
     });

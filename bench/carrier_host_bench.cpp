@@ -54,7 +54,7 @@ class DirectLibrary : public platform::CarrierLibrary {
   private:
     std::int32_t run(const Call& call) { return library_.run(call, copies_).result; }
 
-    LoadedLibrary library_;
+    LoadedLibrary library_{{}};
     WipedBytes copies_;
 };
 

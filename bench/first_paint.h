@@ -60,7 +60,7 @@ inline void show_program(const std::string& folder) {
 
     const machine::posix::Paths paths(folder);
     machine::qt::QtClock clock;
-    app::DesktopMachine machine(paths, machine::posix::PosixFiles(paths, folder + "/windows"), clock);
+    app::DesktopMachine machine(paths, clock);
     app::Application application(machine.platform);
     if (application.start()) machine.desktop.run_until_closed(application.main_form());
 }

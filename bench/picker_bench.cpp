@@ -100,9 +100,7 @@ struct Times {
 
 /// The program with its main window shown and without a login form.
 struct Program {
-    Program(const Folder& folder, platform::Clock& clock)
-        : paths(folder.path()),
-          machine(paths, machine::posix::PosixFiles(paths, folder.path() + "/windows"), clock) {
+    Program(const Folder& folder, platform::Clock& clock) : paths(folder.path()), machine(paths, clock) {
         main.set_tag(u"OK");
         main.show();
     }

@@ -16,8 +16,6 @@ using platform::RuntimeError;
 
 namespace {
 
-constexpr const char* READER = "/card-reader";
-
 /// The stream of a sound file is never longer than this many times the file: NULLs and compressed texts grow,
 /// but less.
 constexpr std::size_t LONGEST_STREAM_BY_FILE = 32;
@@ -32,7 +30,7 @@ JetCardSource::JetCardSource(posix::Paths paths, std::function<void()> keep_aliv
 
 std::unique_ptr<platform::CardConnection> JetCardSource::connect(const platform::Text& connection_string) {
     const auto wanted = ConnectionString::parse(connection_string);
-    const CardFile file(paths_.to_posix(wanted.data_source));
+    const CardFile file(paths_.to_read(wanted.data_source));
     const FileState state = file.state();
     if (!last_ || !last_->settled || last_->file != state) {
         last_.reset();
@@ -53,7 +51,7 @@ void JetCardSource::read(const CardFile& file, Reading& reading) {
         cards->add(table, row);
         heartbeat_->beat();
     });
-    ReaderProcess reader(paths_.application_directory() + READER, file.descriptor());
+    ReaderProcess reader(paths_.program("card-reader"), file.descriptor());
     std::size_t room = LONGEST_STREAM_BY_FILE * static_cast<std::size_t>(reading.file.length);
     const auto deadline = steady_clock::now() + longest_reading_;
     for (bool goes_on = true; goes_on;) {

@@ -66,17 +66,15 @@ std::optional<std::string> entry_of(const std::string& folder, TextView componen
 
 }  // namespace
 
-Paths::Paths() : Paths(fs::read_symlink("/proc/self/exe").parent_path().string()) {}
+Paths::Paths(Installation installation) : installation_(std::move(installation)) {}
 
-Paths::Paths(std::string application_directory) : application_directory_(std::move(application_directory)) {
-    while (application_directory_.ends_with('/')) application_directory_.pop_back();
-}
+Paths::Paths(std::string folder) : Paths(Installation::in_one_folder(folder, folder + "/windows")) {}
 
 Paths::Parts Paths::parts_of(TextView path) const {
     if (path.find_first_of(TextView(u"/\0", 2)) != TextView::npos)
         throw RuntimeError(ErrorNumber::bad_file_name);
 
-    Parts parts{application_directory_, {}};
+    Parts parts{application_directory(), {}};
     if (path.size() >= 2 && path[1] == u':') {
         if (path[0] == u'z' || path[0] == u'Z') {
             parts.drive.clear();
@@ -103,6 +101,16 @@ std::string Paths::to_posix(TextView path) const {
         posix += "/" + entry.value_or(bytes_of_name(platform::compose_hangul(component)));
     }
     return posix.empty() ? "/" : posix;
+}
+
+std::string Paths::to_read(TextView path) const {
+    const std::string own = to_posix(path);
+    if (!own.starts_with(application_directory() + "/") || is_there(own)) return own;
+    for (const std::string& folder : installation_.below) {
+        if (std::string there = folder + own.substr(application_directory().size()); is_there(there))
+            return there;
+    }
+    return own;
 }
 
 std::string Paths::as_it_stands(TextView path) const {

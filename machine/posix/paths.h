@@ -1,5 +1,6 @@
 #pragma once
 
+#include "machine/posix/installation.h"
 #include "platform/text/text.h"
 
 #include <string>
@@ -13,10 +14,9 @@ namespace machine::posix {
 /// drive is relative to the application directory.
 class Paths {
   public:
-    /// With the running executable's folder as the application directory.
-    Paths();
-    /// With another application directory, an absolute path.
-    explicit Paths(std::string application_directory);
+    explicit Paths(Installation installation);
+    /// With one folder for everything, an absolute path, and `windows` in it as the Windows directory.
+    explicit Paths(std::string folder);
 
     /// The machine's absolute path, in UTF-8. A component means the entry of exactly that name, else the one
     /// whose Hangul is composed differently, else the first one that differs in the case of ASCII letters
@@ -24,7 +24,11 @@ class Paths {
     /// the drive. Raises RuntimeError 52 for a slash or a NUL in the path and 76 for an unknown drive.
     std::string to_posix(platform::TextView path) const;
 
-    /// The same without searching the disk: right for names that are known to be spelled exactly so.
+    /// The same for something that is only read: what is not in the application directory may lie below it.
+    std::string to_read(platform::TextView path) const;
+
+    /// The same as `to_posix` without searching the disk: right for names that are known to be spelled
+    /// exactly so.
     std::string as_it_stands(platform::TextView path) const;
 
     /// The program's path for an absolute path, on drive `z:`, without a backslash at its end.
@@ -32,9 +36,12 @@ class Paths {
     /// The same, but on `c:` for what lies on that drive.
     platform::Text on_drives(const std::string& path) const;
 
-    const std::string& application_directory() const { return application_directory_; }
+    const std::string& application_directory() const { return installation_.own; }
+    const std::string& windows_directory() const { return installation_.windows_directory; }
     /// The folder that is drive `c:`. It may not exist yet.
-    std::string drive_c() const { return application_directory_ + "/drive_c"; }
+    std::string drive_c() const { return application_directory() + "/drive_c"; }
+    /// One of the programs that lie beside this one.
+    std::string program(const std::string& name) const { return installation_.programs + "/" + name; }
 
   private:
     /// The drive's folder and the components, which are views into the path.
@@ -44,7 +51,7 @@ class Paths {
     };
     Parts parts_of(platform::TextView path) const;
 
-    std::string application_directory_;
+    Installation installation_;
 };
 
 }  // namespace machine::posix

@@ -10,7 +10,6 @@
 
 #include <cerrno>
 #include <filesystem>
-#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -29,22 +28,6 @@ namespace fs = std::filesystem;
 
 constexpr mode_t USER_ALONE = 0700;
 
-/// The home folder in the user database: the program does not read the environment. Empty for an unknown
-/// user.
-std::string home_folder() {
-    std::vector<char> buffer(16384);
-    passwd entry{};
-    passwd* found = nullptr;
-    if (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) != 0 || found == nullptr)
-        return {};
-    return found->pw_dir;
-}
-
-std::string default_windows_directory(const Paths& paths) {
-    const std::string home = home_folder();
-    return home.empty() ? paths.drive_c() + "/windows" : home + "/.config/cardvale";
-}
-
 /// The path's last component; a backslash at the end does not count.
 TextView name_in(TextView path) {
     while (path.ends_with(u'\\')) path.remove_suffix(1);
@@ -58,14 +41,11 @@ bool is_normal_file(const fs::path& path) {
 
 }  // namespace
 
-PosixFiles::PosixFiles(const Paths& paths) : PosixFiles(paths, default_windows_directory(paths)) {}
-
-PosixFiles::PosixFiles(Paths paths, std::string windows_directory)
-    : paths_(std::move(paths)), windows_directory_(std::move(windows_directory)) {}
+PosixFiles::PosixFiles(Paths paths) : paths_(std::move(paths)) {}
 
 Text PosixFiles::application_directory() const { return Paths::from_posix(paths_.application_directory()); }
 
-Text PosixFiles::windows_directory() const { return Paths::from_posix(windows_directory_); }
+Text PosixFiles::windows_directory() const { return Paths::from_posix(paths_.windows_directory()); }
 
 Text PosixFiles::system_directory() const { return windows_directory(); }
 
@@ -77,9 +57,7 @@ bool PosixFiles::file_exists(const Text& path) const {
     // An impossible path names nothing.
     platform::ignore_errors([&] {
         if (pattern.find_first_of(u"*?") == Text::npos) {
-            const std::string file = paths_.to_posix(path);
-            bring_in(file);
-            exists = is_normal_file(file);
+            exists = is_normal_file(file_to_read(path));
             return;
         }
         std::error_code error;
@@ -104,7 +82,7 @@ bool PosixFiles::folder_exists(const Text& path) const {
 }
 
 std::uint64_t PosixFiles::length(const Text& path) const {
-    const std::string file = paths_.to_posix(path);
+    const std::string file = paths_.to_read(path);
     struct stat found {};
     if (::stat(file.c_str(), &found) != 0) throw file_error(errno, file);
     return static_cast<std::uint64_t>(found.st_size);
@@ -132,9 +110,7 @@ std::vector<Text> PosixFiles::list_folders(const Text& folder) const {
 std::string PosixFiles::read(const Text& path, std::uint64_t limit) const {
     // Thousands of files are read one by one, so try the exact name before searching the folder.
     if (auto bytes = read_if_there(paths_.as_it_stands(path), limit)) return std::move(*bytes);
-    const std::string file = paths_.to_posix(path);
-    bring_in(file);
-    return read_whole_file(file, limit);
+    return read_whole_file(file_to_read(path), limit);
 }
 
 void PosixFiles::write(const Text& path, const std::string& bytes) {
@@ -203,10 +179,16 @@ void PosixFiles::remove_folder(const Text& path) {
     if (error) throw folder_error(error.value());
 }
 
+/// Of the user's own file, what a kill has left waiting is brought in first.
+std::string PosixFiles::file_to_read(const Text& path) const {
+    bring_in(paths_.to_posix(path));
+    return paths_.to_read(path);
+}
+
 /// The program's own folders hold private data such as passwords. Files elsewhere were named by the user, who
 /// may share them.
 Readers PosixFiles::readers_of(const std::string& path) const {
-    for (const std::string& own : {paths_.application_directory(), windows_directory_}) {
+    for (const std::string& own : {paths_.application_directory(), paths_.windows_directory()}) {
         if (path.starts_with(own + "/")) return Readers::user_alone;
     }
     return Readers::as_usual;
@@ -216,7 +198,7 @@ Readers PosixFiles::readers_of(const std::string& path) const {
 /// there.
 void PosixFiles::make_standing_folder_of(const std::string& path) {
     const std::string folder = fs::path(path).parent_path();
-    if (folder == windows_directory_ || folder == paths_.drive_c()) make_private_folder(folder);
+    if (folder == paths_.windows_directory() || folder == paths_.drive_c()) make_private_folder(folder);
 }
 
 }  // namespace machine::posix

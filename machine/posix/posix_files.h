@@ -10,10 +10,8 @@ namespace machine::posix {
 /// own folders.
 class PosixFiles : public platform::Files {
   public:
-    /// With `~/.config/cardvale` as the Windows directory, in the home folder that the user database names.
-    explicit PosixFiles(const Paths& paths);
-    /// With another Windows directory, an absolute path. It is made when it is first written to.
-    PosixFiles(Paths paths, std::string windows_directory);
+    /// The Windows directory is made when it is first written to.
+    explicit PosixFiles(Paths paths);
 
     platform::Text application_directory() const override;
     platform::Text windows_directory() const override;
@@ -39,17 +37,17 @@ class PosixFiles : public platform::Files {
     void remove_empty_folder(const platform::Text& path) override;
     void remove_folder(const platform::Text& path) override;
 
-    std::string machine_path(const platform::Text& path) const override { return paths_.to_posix(path); }
+    std::string machine_path(const platform::Text& path) const override { return paths_.to_read(path); }
     platform::Text path_of(const std::string& machine_path) const override {
         return paths_.on_drives(machine_path);
     }
 
   private:
+    std::string file_to_read(const platform::Text& path) const;
     Readers readers_of(const std::string& path) const;
     void make_standing_folder_of(const std::string& path);
 
     Paths paths_;
-    std::string windows_directory_;
 };
 
 }  // namespace machine::posix

@@ -54,14 +54,14 @@ std::optional<std::string> page_of(const std::string& address) {
 
 }  // namespace
 
-PosixShell::PosixShell(Paths paths, std::string own_folder, std::string opener)
+PosixShell::PosixShell(Paths paths, std::string opener)
     : paths_(std::move(paths)),
       opener_(std::move(opener)),
-      instance_(std::move(own_folder), paths_.application_directory()) {}
+      instance_(paths_.windows_directory(), paths_.application_directory()) {}
 
 void PosixShell::open(const Text& path) {
     platform::ignore_errors([&] {
-        const std::string file = paths_.to_posix(path);
+        const std::string file = paths_.to_read(path);
         // The name counts too: on a foreign disk every file may be marked as executable.
         const bool is_program =
             platform::lower_case(path).ends_with(u".exe") && ::access(file.c_str(), X_OK) == 0;

@@ -11,8 +11,8 @@ namespace machine::posix {
 /// Starts the user's desktop programs and knows other instances of this user in this application directory.
 class PosixShell : public platform::Shell {
   public:
-    /// `own_folder` is the user's, `opener` the program that opens a file with the right program.
-    PosixShell(Paths paths, std::string own_folder, std::string opener = "xdg-open");
+    /// `opener` is the program that opens a file with the right program.
+    explicit PosixShell(Paths paths, std::string opener = "xdg-open");
 
     void open(const platform::Text& path) override;
     void open_page(const platform::Text& address) override;

@@ -1,5 +1,7 @@
 #include "machine/posix/process.h"
 
+#include "machine/posix/private_folder.h"
+
 #include <csignal>
 #include <filesystem>
 #include <sys/resource.h>
@@ -8,6 +10,7 @@
 namespace machine::posix {
 
 void enter_application_directory(const Paths& paths) {
+    make_private_folder(paths.application_directory());
     std::error_code ignored;
     std::filesystem::current_path(paths.application_directory(), ignored);
 }

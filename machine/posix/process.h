@@ -5,7 +5,7 @@
 namespace machine::posix {
 
 /// Makes the application directory the current one, from wherever the program was started: the carrier's
-/// library is loaded from the current directory.
+/// library is loaded from the current directory. A user's first start finds none and makes it.
 void enter_application_directory(const Paths& paths);
 
 /// Lets a write beyond the user's limit for files fail like one on a full disk, instead of ending the

@@ -34,11 +34,14 @@ inline constexpr std::uint64_t FILE_LIMIT = std::uint64_t{64} << 20;
 
 /// The file system, by paths with backslashes: below the application directory, on drive `c:` or, for what
 /// the user picks, elsewhere. Contents are bytes. Failures are RuntimeErrors with the classic file numbers.
+///
+/// What an installation brings lies below the application directory: its files are found and read there by
+/// their names, but not listed. A write puts the user's own file above it.
 class Files {
   public:
     virtual ~Files() = default;
 
-    /// The directory of the running executable, without a backslash at its end.
+    /// The directory of the running executable or, installed, the user's own, without a backslash at its end.
     virtual Text application_directory() const = 0;
     /// The per-user directory that no other user can read, without a backslash at its end.
     virtual Text windows_directory() const = 0;

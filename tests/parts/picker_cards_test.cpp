@@ -22,7 +22,7 @@ using Rows = std::vector<std::string>;
 struct PickerCards : testing::Test, tests::TestPlatform {
     tests::CardsOnDisk disk;
     const std::string folder = disk.folder.path().string();
-    machine::posix::PosixFiles files_on_disk{machine::posix::Paths(folder), folder + "/windows"};
+    machine::posix::PosixFiles files_on_disk{machine::posix::Paths(folder)};
     platform::Platform machine = tests::with(platform, {.files = &files_on_disk, .cards = &disk.source});
     compose::frmZent form{machine, state, {}};
 

@@ -91,6 +91,32 @@ TEST_F(PosixFilesTest, HiddenFilesAndWhatIsNoFileDoNotExist) {
     EXPECT_FALSE(files.folder_exists(u"d:\\"));
 }
 
+TEST_F(PosixFilesTest, WhatAnInstallationBringsIsReadBelowTheUsersOwnFilesAndNeverChanged) {
+    for (const char* layer : {"administrator", "shared"}) {
+        fs::create_directories(folder.path() / layer / "guide");
+        installation.below.push_back(folder.path() / layer);
+    }
+    put(folder.path() / "administrator/urllink.ini", "administrator's");
+    put(folder.path() / "shared/urllink.ini", "shared");
+    put(folder.path() / "shared/guide/index.html", "guide");
+    machine::posix::PosixFiles installed{Paths(installation)};
+    const Text links = installed.application_directory() + u"\\urllink.ini";
+
+    EXPECT_EQ(installed.read(links), "administrator's");
+    EXPECT_EQ(installed.machine_path(u"guide\\index.html"), folder.path() / "shared/guide/index.html");
+    EXPECT_EQ(installed.length(u"guide\\index.html"), 5u);
+    EXPECT_FALSE(installed.file_exists(u"guide\\other.html"));
+    EXPECT_EQ(installed.machine_path(u"guide\\other.html"), application / "guide/other.html");
+    EXPECT_FALSE(installed.folder_exists(u"guide")) << "made above when it is wanted";
+
+    installed.write(links, "own");
+    EXPECT_EQ(installed.read(links), "own");
+    EXPECT_EQ(bytes_of(folder.path() / "administrator/urllink.ini"), "administrator's");
+    installed.remove(links);
+    EXPECT_EQ(installed.read(links), "administrator's");
+    EXPECT_EQ(error_number([&] { installed.remove(links); }), 53);
+}
+
 TEST_F(PosixFilesTest, AFileOfTwoGigabytesIsMeasuredWithoutBeingRead) {
     put(application / "scan.tif", "");
     fs::resize_file(application / "scan.tif", std::uintmax_t{1} << 31);

@@ -19,7 +19,9 @@ TEST(PosixShell, ASecondInstanceSeesTheFirstUntilItIsKilled) {
     const fs::path own = folder.path() / "home/.config/cardvale";
     fs::create_directories(application / "other");
     fs::create_directory_symlink(application, folder.path() / "link");
-    const auto shell_in = [&](const fs::path& directory) { return PosixShell{Paths(directory), own}; };
+    const auto shell_in = [&](const fs::path& directory) {
+        return PosixShell{Paths(Installation::in_one_folder(directory, own))};
+    };
     tests::Pipe started;
     tests::ChildProcess first([&] {
         PosixShell shell = shell_in(application);
@@ -57,7 +59,7 @@ struct Opener {
     tests::TemporaryFolder folder;
     fs::path fifo = folder.path() / "answer";
     fs::path program = folder.path() / "opener";
-    PosixShell shell{Paths(folder.path()), folder.path(), program};
+    PosixShell shell{Paths(folder.path()), program};
 };
 
 TEST(PosixShell, OpeningPassesThePathAsOneArgumentAndLeavesNoDeadProcess) {
@@ -106,7 +108,7 @@ TEST(PosixShell, AProgramIsStartedIfItsNameAndItsPermissionAllowIt) {
     script("page.exe", "started");
     fs::permissions(folder.path() / "page.exe", fs::perms(0644));
 
-    PosixShell shell(Paths(folder.path()), folder.path(), folder.path() / "opener");
+    PosixShell shell(Paths(folder.path()), folder.path() / "opener");
     const std::pair<const char16_t*, const char*> rows[] = {
         {u"I_Update.EXE", "started 0"}, {u"song.wav", "opened 1"}, {u"page.exe", "opened 1"}};
     for (const auto& [name, what] : rows) {
@@ -119,7 +121,7 @@ TEST(PosixShell, TheProcessEndsAtOnce) {
     const tests::TemporaryFolder folder;
     tests::ChildProcess process([&]() -> int {
         std::atexit([] { tests::put("exit step", "x"); });
-        PosixShell(Paths(folder.path()), folder.path()).end_process();
+        PosixShell(Paths(folder.path())).end_process();
     });
     EXPECT_EQ(process.wait(), 0);
     EXPECT_TRUE(fs::is_empty(folder.path()));
@@ -127,7 +129,7 @@ TEST(PosixShell, TheProcessEndsAtOnce) {
 
 TEST(PosixShell, AFailureToOpenIsSilent) {
     const tests::TemporaryFolder folder;
-    PosixShell shell(Paths(folder.path()), folder.path(), folder.path() / "no opener");
+    PosixShell shell(Paths(folder.path()), folder.path() / "no opener");
     shell.open(u"a.txt");
     shell.open(u"d:\\a.txt");
     shell.open_page(u"http://pondira.example");

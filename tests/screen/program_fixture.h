@@ -67,8 +67,7 @@ class ProgramTest : public testing::Test {
     WindowPlayer user;
     machine::posix::Paths paths{folder.path().string()};
     HastyClock clock;
-    app::DesktopMachine machine{
-        paths, machine::posix::PosixFiles(paths, (folder.path() / "windows").string()), clock};
+    app::DesktopMachine machine{paths, clock};
     app::Application application{machine.platform};
 };
 

@@ -18,7 +18,9 @@ struct FilesOnDisk {
     TemporaryFolder folder;
     std::filesystem::path application = folder.path() / "앱";
     std::filesystem::path windows = folder.path() / "home/.config/cardvale";
-    machine::posix::PosixFiles files{machine::posix::Paths(application), windows};
+    machine::posix::Installation installation =
+        machine::posix::Installation::in_one_folder(application, windows);
+    machine::posix::PosixFiles files{machine::posix::Paths(installation)};
 };
 
 /// Writes a file without the `Files` port.

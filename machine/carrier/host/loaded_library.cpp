@@ -10,7 +10,7 @@ namespace machine::carrier {
 
 namespace {
 
-constexpr const char* LIBRARY = "./x_msggate_d.so";
+constexpr const char* LIBRARY = "/x_msggate_d.so";
 
 /// Room behind each text, since the library does not count exactly what it writes.
 constexpr std::size_t ROOM = 256;
@@ -109,6 +109,10 @@ Integer invoke(Export which, void* address, std::vector<Integer>& n, const Copie
 
 }  // namespace
 
+LoadedLibrary::LoadedLibrary(std::vector<std::string> folders) : folders_(std::move(folders)) {
+    folders_.insert(folders_.begin(), ".");
+}
+
 void LoadedLibrary::Unload::operator()(void* library) const { ::dlclose(library); }
 
 Answer LoadedLibrary::run(const Call& call, WipedBytes& copies) {
@@ -123,8 +127,11 @@ Answer LoadedLibrary::run(const Call& call, WipedBytes& copies) {
 }
 
 bool LoadedLibrary::is_loaded() {
-    if (!library_ && posix::is_whole_shared_object(LIBRARY))
-        library_.reset(::dlopen(LIBRARY, RTLD_NOW | RTLD_LOCAL));
+    for (const std::string& folder : folders_) {
+        const std::string file = folder + LIBRARY;
+        if (!library_ && posix::is_whole_shared_object(file.c_str()))
+            library_.reset(::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL));
+    }
     return library_ != nullptr;
 }
 

@@ -4,6 +4,7 @@
 #include "machine/carrier/frame_socket.h"
 #include "machine/carrier/host/loaded_library.h"
 #include "machine/carrier/protocol.h"
+#include "machine/posix/installation.h"
 
 #include <algorithm>
 #include <csignal>
@@ -56,7 +57,7 @@ void settle_files() {
 void serve() {
     const pid_t myself = ::getpid();
     const GoesOn for_ever = [] { return true; };
-    LoadedLibrary library;
+    LoadedLibrary library(machine::posix::this_installation().below);
     WipedBytes frame;
     WipedBytes copies;
     while (receive_frame(HOST_SOCKET, frame, for_ever)) {
