@@ -15,12 +15,14 @@ struct ModuleInfo {
     const char* purpose;
     /// Its file without ".so".
     const char* file;
+    /// The package that brings it.
+    const char* package;
 };
 
 /// The module's plug-in object; null when the module is missing or cannot be loaded.
 QObject* plugin_of(const ModuleInfo& module);
 
-/// RuntimeError 48, whose description names the file that has to be installed.
+/// RuntimeError 48, whose description names the file and the package that has to be installed.
 platform::RuntimeError missing(const ModuleInfo& module);
 
 /// Loads the module of the interface, or returns it when it is loaded already. Raises RuntimeError 48 when

@@ -26,7 +26,7 @@ struct TransferLimits {
 /// Fetches by HTTP for the update check.
 class NetworkModule {
   public:
-    static constexpr ModuleInfo MODULE{"네트워크", "zent_network"};
+    static constexpr ModuleInfo MODULE{"네트워크", "zent_network", "cardvale-messaging"};
 
     virtual ~NetworkModule() = default;
     virtual std::unique_ptr<platform::Internet> make_internet(const TransferLimits& limits) const = 0;

@@ -10,7 +10,7 @@ namespace machine::qt {
 /// Records and plays sound.
 class SoundModule {
   public:
-    static constexpr ModuleInfo MODULE{"녹음", "zent_sound"};
+    static constexpr ModuleInfo MODULE{"녹음", "zent_sound", "cardvale-messaging-sound"};
 
     virtual ~SoundModule() = default;
     virtual std::unique_ptr<platform::Recorder> make_recorder() const = 0;

@@ -51,7 +51,7 @@ class WebPage {
 /// Shows the service's pages.
 class WebModule {
   public:
-    static constexpr ModuleInfo MODULE{"웹 페이지", "zent_web"};
+    static constexpr ModuleInfo MODULE{"웹 페이지", "zent_web", "cardvale-messaging-pages"};
 
     virtual ~WebModule() = default;
 
