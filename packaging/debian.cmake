@@ -44,18 +44,18 @@ set(CPACK_DEBIAN_SOUND_PACKAGE_RECOMMENDS "gstreamer1.0-plugins-good, gstreamer1
 set(CPACK_DEBIAN_DEMO_PACKAGE_RECOMMENDS "${package}-pages, ${package}-sound")
 
 set(CPACK_COMPONENT_MESSAGING_DESCRIPTION "messaging client for Korean business users
- Sends texts, texts with voice, voice messages and faxes to the people of a
- card database, or to typed and pasted numbers, through a telephone carrier's
- messaging service. Everything on its screens is in Korean.
- .
- The carrier's library is not part of it: /usr/local/lib/cardvale-messaging is
- the folder for it.")
+Sends texts, texts with voice, voice messages and faxes to the people of a
+card database, or to typed and pasted numbers, through a telephone carrier's
+messaging service. Everything on its screens is in Korean.
+
+The carrier's library is not part of it: /usr/local/lib/cardvale-messaging is
+the folder for it.")
 set(CPACK_COMPONENT_PAGES_DESCRIPTION "messaging client for Korean business users - service's web pages
- Shows the pages of the messaging service in a window of the program: results,
- charges, received messages and member data.")
+Shows the pages of the messaging service in a window of the program: results,
+charges, received messages and member data.")
 set(CPACK_COMPONENT_SOUND_DESCRIPTION "messaging client for Korean business users - recording and playing
- Lets the program record a voice message with the microphone and play it.")
+Lets the program record a voice message with the microphone and play it.")
 set(CPACK_COMPONENT_DEMO_DESCRIPTION "messaging client for Korean business users - demonstration
- The program with a double of the carrier and of its web site, an account
- and a card database of invented people. Nothing leaves the machine.")
+The program with a double of the carrier and of its web site, an account
+and a card database of invented people. Nothing leaves the machine.")
 include(CPack)
