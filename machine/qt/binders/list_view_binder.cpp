@@ -80,6 +80,7 @@ ListViewBinder::ListViewBinder(BoundForm& bound, platform::ListView& control, QT
     for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
         connect(&rows_.model(), change, this, &ListViewBinder::describe);
     connect(&rows_.model(), &QAbstractItemModel::modelReset, this, &ListViewBinder::describe);
+    describe();
     connect(view.header(), &QHeaderView::sectionClicked, this,
             [this](int section) { act([&] { this->control().ColumnClick.raise(section + 1); }); });
     // Two quick clicks on a row's box are just that.
