@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 
 namespace machine::qt {
@@ -17,6 +18,11 @@ class HelpKey : public QObject {
 
   protected:
     bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    void press(bool repeated);
+
+    QElapsedTimer up_;
 };
 
 }  // namespace machine::qt
