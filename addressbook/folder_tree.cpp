@@ -186,7 +186,7 @@ void frmSendMan::FOLDER_CARDS_LOAD(const TreeNode& node) {
         CARD_LIST_FILL(*recordset);
     });
     hide_progress();
-    ListView2.set_placeholder(u"이 폴더에는 명함이 없습니다.");
+    ListView2.set_placeholder(u"이 폴더에는 명함이 없습니다.\n다른 폴더를 고르거나 전체자료를 누르세요.");
 }
 
 Text frmSendMan::ALLDB_SQL() const {

@@ -113,7 +113,10 @@ void frmSendMan::go_to_rows() {
     PICK_STATUS_SHOW();
 }
 
-void frmSendMan::list_all_cards() { list_anew(statements::all_cards(ALLDB_SQL()), u"명함이 없습니다."); }
+void frmSendMan::list_all_cards() {
+    list_anew(statements::all_cards(ALLDB_SQL()),
+              u"명함이 없습니다.\n명함 관리 프로그램에서 먼저 등록하세요.");
+}
 
 /// A statement that the database refuses, such as one with an apostrophe in it, leaves the list as it is,
 /// without a box.

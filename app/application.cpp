@@ -11,8 +11,11 @@ namespace app {
 Application::Application(platform::Platform& platform)
     : platform_(platform),
       main_(platform, state_, doors()),
+      guide_(platform, main_),
       hand_over_(platform, state_, main_),
-      drafts_(platform, main_) {}
+      drafts_(platform, main_) {
+    platform.desktop.set_help([this](const platform::Form* form) { guide_.open_at(form); });
+}
 
 bool Application::start() {
     return app::entry_routine(platform_, state_, [this] { main_.show(); });
@@ -33,6 +36,7 @@ compose::MainDoors Application::doors() {
                                      });
         box.show_modal();
     };
+    doors.guide = [this] { guide_.open_at(&main_); };
     doors.update_check = [this] { update::check_from_menu(platform_, state_, main_); };
     doors.update_check_at_start = [this] { return update::check_at_start(platform_, state_, main_); };
     doors.keep_draft = [this] { drafts_.start(); };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/guide.h"
 #include "compose/main_form.h"
 #include "core/app_state.h"
 #include "drafts/draft_keeper.h"
@@ -25,6 +26,7 @@ class Application {
     platform::Platform& platform_;
     core::AppState state_;
     compose::frmZent main_;
+    Guide guide_;
     handover::HandOver hand_over_;
     drafts::DraftKeeper drafts_;
 };

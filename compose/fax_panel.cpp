@@ -39,6 +39,7 @@ FaxPanel::FaxPanel(platform::Form& form, platform::Platform& platform, platform:
       platform_(platform),
       dialog_(dialog) {
     put_into(Frame1, {&FAX1, &FAXBttn1, &FAXBttn2});
+    FAX1.set_placeholder(u"찾아보기를 누르거나 보낼문서를 여기로 끌어다 놓으세요.");
     // A cancelled dialog ends the handler silently.
     FAXBttn1.Click.connect([this] { platform::ignore_errors([this] { add_document(); }); });
     FAX1.Drop.connect([this](const platform::Dropped& dropped) {

@@ -77,6 +77,7 @@ void frmZent::connect() {
 
     mnuSetup.Click.connect([this] { schedule.show_settings(); });
     mmuEnd.Click.connect([this] { unload(); });
+    if (doors_.guide) mnuGuide.Click.connect(doors_.guide);
     if (doors_.update_check) mnuUpDate.Click.connect(doors_.update_check);
     mnuStartUpdate.Click.connect([this] { mnuStartUpdate.set_checked(!mnuStartUpdate.checked()); });
     mnuAbout.Click.connect([this] { service::frmAbout(platform_).show_modal(); });
@@ -103,6 +104,7 @@ void frmZent::connect() {
 /// Disables every control that would do nothing when pressed.
 void frmZent::disable_without_door() {
     text.MyMsgBttn.set_enabled(doors_.saved_texts != nullptr);
+    mnuGuide.set_enabled(doors_.guide != nullptr);
     mnuUpDate.set_enabled(doors_.update_check != nullptr);
     // These entries have no action and never had one; the tabs and the toolbar do the same.
     for (platform::Menu* entry : {&sendmenu1_0, &sendmenu1_1, &sendmenu1_2, &sendmenu1_3, &cmdPonResult,

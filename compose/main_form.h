@@ -47,6 +47,8 @@ struct MainDoors {
     std::function<void()> NEW_SENDMAN_LOAD = {};
     /// Opens the box of saved texts.
     std::function<void()> saved_texts = {};
+    /// Opens the user's guide at the page about the draft's kind.
+    std::function<void()> guide = {};
     /// Checks for an update and offers it.
     std::function<void()> update_check = {};
     /// The same while the program starts; false when the server was not reached.
@@ -93,6 +95,7 @@ class frmZent : public platform::Form {
     platform::Menu mnuInBox{*this, u"mnuInBox", u"수신하기(&R)..."};
     platform::Menu cmdUserInfo2{*this, u"cmdUserInfo2", u"가입자 정보 변경(&M)..."};
     platform::Menu mnuHelp{*this, u"mnuHelp", u"도움말(&H)"};
+    platform::Menu mnuGuide{*this, u"mnuGuide", u"사용 설명서(&G)"};
     platform::Menu mnuUpDate{*this, u"mnuUpDate", u"업데이트 확인(&U)..."};
     platform::Menu mnuStartUpdate{*this, u"mnuStartUpdate", u"시작할 때 마다 업데이트 확인"};
     platform::Menu mnuAbout{*this, u"mnuAbout", u"Cardvale 폰디라 정보(&A)..."};

@@ -64,11 +64,11 @@ constexpr CarrierKind FAX_CONTENTS[] = {
 };
 
 constexpr std::array<KindOfMessage, MESSAGE_KINDS> KINDS = {{
-    // kind, caption                       panel         text   sender reply  number        columns and numbers of the picker  pauses        at the carrier
-    {MessageKind::text,  TEXT_MESSAGE,  Panel::text,  false, true,  false, TEXT_NUMBER,  TEXT_COLUMNS,  TEXT_NUMBERS,       USUAL_PAUSES, TEXT_CONTENTS},
-    {MessageKind::plus,  u"문자플러스",  Panel::voice, true,  false, true,  TEXT_NUMBER,  TEXT_COLUMNS,  TEXT_NUMBERS,       USUAL_PAUSES, PLUS_CONTENTS},
-    {MessageKind::voice, u"음성메시지",  Panel::voice, false, false, true,  VOICE_NUMBER, VOICE_COLUMNS, VOICE_NUMBERS,      USUAL_PAUSES, VOICE_CONTENTS},
-    {MessageKind::fax,   FAX_MESSAGE,   Panel::fax,   false, false, false, FAX_NUMBER,   FAX_COLUMNS,   FAX_NUMBERS,        FAX_PAUSES,   FAX_CONTENTS},
+    // kind, caption                       guide     panel         text   sender reply  number        columns and numbers of the picker  pauses        at the carrier
+    {MessageKind::text,  TEXT_MESSAGE,  u"text",  Panel::text,  false, true,  false, TEXT_NUMBER,  TEXT_COLUMNS,  TEXT_NUMBERS,       USUAL_PAUSES, TEXT_CONTENTS},
+    {MessageKind::plus,  u"문자플러스",  u"text",  Panel::voice, true,  false, true,  TEXT_NUMBER,  TEXT_COLUMNS,  TEXT_NUMBERS,       USUAL_PAUSES, PLUS_CONTENTS},
+    {MessageKind::voice, u"음성메시지",  u"voice", Panel::voice, false, false, true,  VOICE_NUMBER, VOICE_COLUMNS, VOICE_NUMBERS,      USUAL_PAUSES, VOICE_CONTENTS},
+    {MessageKind::fax,   FAX_MESSAGE,   u"fax",   Panel::fax,   false, false, false, FAX_NUMBER,   FAX_COLUMNS,   FAX_NUMBERS,        FAX_PAUSES,   FAX_CONTENTS},
 }};
 // clang-format on
 

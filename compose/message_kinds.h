@@ -69,6 +69,8 @@ struct KindOfMessage {
     MessageKind kind;
     /// Caption of its tab, its button and the window.
     platform::TextView caption;
+    /// The user's guide has a page about it.
+    platform::TextView guide_page;
     Panel panel;
     /// Whether the voice's panel shows a text field too.
     bool with_text;

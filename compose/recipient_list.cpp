@@ -38,7 +38,8 @@ RecipientList::RecipientList(platform::Form& form, platform::Platform& platform,
     PBar1.hide();
     Command7.set_enabled(pick_ != nullptr);
     mnusubpopup1.set_enabled(pick_ != nullptr);
-    ListView1.set_placeholder(u"이름과 번호를 입력하고 Enter\n또는 표에서 복사한 줄 붙여넣기 (Ctrl+V)");
+    ListView1.set_placeholder(
+        u"받는사람을 추가하거나 명함DB에서 불러오세요.\n표에서 복사한 줄을 붙여넣어도 됩니다. (Ctrl+V)");
     mark_rows();
     mnuUndoDelete.set_enabled(false);
     Changing.hide();

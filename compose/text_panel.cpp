@@ -59,6 +59,7 @@ TextPanel::TextPanel(platform::Form& form, platform::Platform& platform, Subject
         platform::CommandButton& button =
             mBttn1.emplace_back(form, u"mBttn1_" + platform::decimal(emoticon.index), Text(emoticon.caption));
         button.set_container(Frame1);
+        button.set_tool_tip(u"누르면 문자 내용에 들어갑니다.");
         button.Click.connect([this, &button] {
             insert(button.caption());
             recent.add(button.caption());

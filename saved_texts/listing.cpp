@@ -107,8 +107,9 @@ void frmMyMsgBox::show_count() {
     const auto in_words = [](std::size_t texts) { return platform::counted(texts, u"개"); };
     const std::size_t found = ListView2.row_count();
     const std::size_t all = search_.all();
-    ListView2.set_placeholder(all == 0 ? u"저장된 메시지가 없습니다."
-                                       : u"찾는 말이 들어 있는 메시지가 없습니다.");
+    ListView2.set_placeholder(
+        all == 0 ? u"저장된 메시지가 없습니다.\n제목과 내용을 적고 신규 메시지 등록을 누르세요. (Ctrl+S)"
+                 : u"찾는 말이 들어 있는 메시지가 없습니다.\n찾는 말을 바꾸거나 지우세요.");
     FoundCount.set_caption(found == all ? in_words(all) : in_words(all) + u" 중 " + in_words(found));
 }
 

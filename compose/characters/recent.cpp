@@ -24,6 +24,7 @@ RecentCharacters::RecentCharacters(platform::Form& form, platform::Platform& pla
             Recent.emplace_back(form, u"Recent_" + platform::decimal(i), Text());
         button.set_container(container);
         button.hide();
+        button.set_tool_tip(u"최근에 쓴 글자를 내용에 넣습니다.");
         button.Click.connect([insert, &button] { insert(button.caption()); });
     }
 }

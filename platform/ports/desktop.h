@@ -2,8 +2,10 @@
 
 #include "platform/text/text.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace platform {
@@ -123,9 +125,17 @@ class Desktop {
     /// Whether the user's input is for this form: not while a modal form or a box stands in front of it.
     bool input_is_for(const Form& form) const { return in_front_.empty() || in_front_.back() == &form; }
 
+    /// Sets what help is, told the form that the user wants help with; null for a box.
+    void set_help(std::function<void(const Form*)> help) { help_ = std::move(help); }
+    /// The user has asked for help in that form's window, or in a box. It is about what stands in front.
+    void help_requested(const Form* active) const {
+        if (help_) help_(in_front_.empty() ? active : in_front_.back());
+    }
+
   private:
     friend class StandingQuestion;
     friend class StandingInFront;
+    std::function<void(const Form*)> help_;
     int questions_ = 0;
     /// The modal forms and boxes, the last one in front; null for a box.
     std::vector<const Form*> in_front_;

@@ -110,13 +110,15 @@ TEST_F(Picker, KeepsItsOrderForTheNextOpening) {
 
 TEST_F(Picker, SaysWhatASearchDidNotFind) {
     pick(TEXT, [&](frmSendMan& picker) {
-        EXPECT_EQ(utf8(picker.ListView2.placeholder()), "명함이 없습니다.");
+        EXPECT_EQ(utf8(picker.ListView2.placeholder()),
+                  "명함이 없습니다.\n명함 관리 프로그램에서 먼저 등록하세요.");
         search(picker, u"없는이름");
         EXPECT_EQ(
             utf8(picker.ListView2.placeholder()),
             "'없는이름'(으)로 시작하는 이름이나 회사가 없습니다.\r\n'~를 포함'으로 바꾸어 찾아 보십시오.");
         click(picker, 2);
-        EXPECT_EQ(utf8(picker.ListView2.placeholder()), "이 폴더에는 명함이 없습니다.");
+        EXPECT_EQ(utf8(picker.ListView2.placeholder()),
+                  "이 폴더에는 명함이 없습니다.\n다른 폴더를 고르거나 전체자료를 누르세요.");
     });
 }
 

@@ -1,4 +1,5 @@
 #include "addressbook/frmSendMan.h"
+#include "app/guide.h"
 #include "compose/frmSet1.h"
 #include "compose/frmXTip.h"
 #include "compose/main_form.h"
@@ -21,6 +22,7 @@
 #include "update/frmUpdateStart.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QTest>
 #include <QTreeView>
 #include <algorithm>
@@ -82,6 +84,19 @@ TEST(AllScreens, HaveAWidgetForEveryControlAndAControlForEveryWidget) {
             ADD_FAILURE() << platform::to_utf8(form->name()) << ": " << fault.toStdString();
         expect_pictures(*window);
     }
+}
+
+TEST(AllScreens, HaveAPageInTheGuide) {
+    System system;
+    std::vector<platform::TextView> pages;
+    for (const auto& form : system.dialogs()) {
+        pages.push_back(app::guide_page(form->name()));
+        EXPECT_FALSE(pages.back().empty()) << platform::to_utf8(form->name());
+    }
+    for (const compose::KindOfMessage& kind : compose::kinds_of_message()) pages.push_back(kind.guide_page);
+    if (!QFile::exists(ZENT_GUIDE)) return;
+    for (const platform::TextView page : pages)
+        EXPECT_TRUE(QFile::exists(ZENT_GUIDE "/" + machine::qt::to_qstring(page) + ".md"));
 }
 
 TEST(AllScreens, ShowEveryDialogWhole) {

@@ -201,8 +201,12 @@ TEST_F(ListTest, AnEmptyListTellsWhatToDo) {
     list.set_placeholder(u"이름과 번호를 입력하십시오.");
     settle();
     EXPECT_NE(view().grab().toImage(), blank);
+    EXPECT_EQ(view().accessibleDescription(), QStringLiteral("이름과 번호를 입력하십시오."));
     list.add_row(u"", {u"가"});
     EXPECT_NE(view().grab().toImage(), blank);
+    EXPECT_EQ(view().accessibleDescription(), QString());
+    list.clear();
+    EXPECT_EQ(view().accessibleDescription(), QStringLiteral("이름과 번호를 입력하십시오."));
 }
 
 TEST_F(ListTest, KeysColumnsAndButtonsReachTheHandlers) {

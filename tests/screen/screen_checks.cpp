@@ -4,12 +4,18 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
 #include <QLabel>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScrollArea>
+#include <QSplitter>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTest>
+#include <QTreeView>
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
@@ -149,6 +155,36 @@ void expect_clear_shortcuts(const QWidget& window) {
     }
 }
 
+bool has_label(const QWidget& field) {
+    const auto labels = field.window()->findChildren<QLabel*>();
+    return std::ranges::any_of(labels, [&](const QLabel* label) { return label->buddy() == &field; });
+}
+
+bool needs_tip(const QWidget& widget) {
+    if (qobject_cast<const QSplitterHandle*>(&widget)) return widget.isVisible();
+    // What the toolkit makes is unnamed or named by itself; a panel of the status bar that has no tip leads
+    // nowhere.
+    if (widget.objectName().isEmpty() || widget.objectName().startsWith(QStringLiteral("qt_"))) return false;
+    if (qobject_cast<const QTabBar*>(widget.parentWidget()) ||
+        qobject_cast<const QStatusBar*>(widget.parentWidget()))
+        return false;
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+        static const QRegularExpression ENDS_ITS_DIALOG(QStringLiteral("^(확인|취소|닫기)(\\(&.\\))?$"));
+        return !ENDS_ITS_DIALOG.match(button->text()).hasMatch();
+    }
+    // Where several lines are written or read, a tip would lie on them.
+    const bool is_field = qobject_cast<const QLineEdit*>(&widget) ||
+                          qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QDateEdit*>(&widget);
+    const bool is_list = qobject_cast<const QTabBar*>(&widget) || qobject_cast<const QTreeView*>(&widget);
+    return is_list || (is_field && !has_label(widget));
+}
+
+/// What the user can press or choose says what it does, unless its label or its caption does.
+void expect_tips(const QWidget& window) {
+    for (const QWidget* widget : window.findChildren<QWidget*>())
+        EXPECT_TRUE(!needs_tip(*widget) || !widget->toolTip().isEmpty()) << name_of(*widget) << " has no tip";
+}
+
 }  // namespace
 
 void settle() {
@@ -164,6 +200,7 @@ QRect place_in(const QWidget& window, const QWidget& widget) {
 void expect_good_screen(QWidget& window) {
     settle();
     expect_clear_shortcuts(window);
+    expect_tips(window);
     expect_everything_readable(window);
     expect_tab_order_of_a_reader(window);
     expect_closed_ring(window);

@@ -11,7 +11,7 @@ void settle();
 QRect place_in(const QWidget& window, const QWidget& widget);
 
 /// Fails for a shown window that cuts a text, whose Tab jumps up or does not come to every control, in which
-/// two keys are alike or a tool tip names another key than the widget has.
+/// two keys are alike, a tool tip names another key than the widget has, or a tip is missing.
 void expect_good_screen(QWidget& window);
 
 /// Fails for a misspelt picture, which would leave a blank place.

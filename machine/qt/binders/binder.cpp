@@ -49,13 +49,15 @@ bool WidgetBinder::filter(QObject&, QEvent&) { return false; }
 
 void WidgetBinder::finish_text() { commit_composition(); }
 
-/// A screen reader needs a name for a widget that has no label in front of it.
+/// A screen reader needs a name for a widget that has no label in front of it. A tip of whole sentences
+/// describes what the caption names.
 void WidgetBinder::name_by_tool_tip() {
-    if (!widget().accessibleName().isEmpty() || widget().toolTip().isEmpty()) return;
+    const QString tip = widget().toolTip();
+    if (!widget().accessibleName().isEmpty() || tip.isEmpty() || tip.contains(u'.')) return;
     for (const QLabel* label : bound().window.findChildren<QLabel*>()) {
         if (label->buddy() == &widget()) return;
     }
-    widget().setAccessibleName(widget().toolTip());
+    widget().setAccessibleName(tip);
 }
 
 }  // namespace machine::qt

@@ -77,6 +77,10 @@ ListViewBinder::ListViewBinder(BoundForm& bound, platform::ListView& control, QT
     connect(&rows_.model(), &ListViewModel::checked_by_user, this, [this](std::size_t row, bool checked) {
         act([&] { this->control().user_check(row, checked); });
     });
+    for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(&rows_.model(), change, this, &ListViewBinder::describe);
+    connect(&rows_.model(), &QAbstractItemModel::modelReset, this, &ListViewBinder::describe);
+    describe();
     connect(view.header(), &QHeaderView::sectionClicked, this,
             [this](int section) { act([&] { this->control().ColumnClick.raise(section + 1); }); });
     // Two quick clicks on a row's box are just that.
@@ -96,6 +100,15 @@ void ListViewBinder::show(platform::Aspect aspect) {
         widget().setProperty("quietSelection", !control().shows_selection());
     if (aspect == platform::Aspect::selection || aspect == platform::Aspect::rows)
         widget().viewport()->update();
+    if (aspect == platform::Aspect::rows) describe();
+}
+
+/// A screen reader cannot see what an empty list tells.
+void ListViewBinder::describe() {
+    if (!is_bound_live()) return;
+    const bool is_empty = control().row_count() == 0;
+    const QString told = is_empty ? to_qstring(control().placeholder()) : QString();
+    if (widget().accessibleDescription() != told) widget().setAccessibleDescription(told);
 }
 
 bool ListViewBinder::filter(QObject& object, QEvent& event) {
@@ -212,11 +225,13 @@ bool ListViewBinder::click_header(const QEvent& event) {
     return true;
 }
 
-/// Shows the whole text of a cell that is too narrow for it, and why the row is marked.
+/// Shows the whole text of a cell that is too narrow for it, and why the row is marked; beside the rows what
+/// the list is for.
 void ListViewBinder::show_tip(const QHelpEvent& event) {
     const QModelIndex index = widget().indexAt(event.pos());
     const QRect cell = widget().visualRect(index);
-    if (!index.isValid()) return QToolTip::hideText();
+    if (!index.isValid())
+        return QToolTip::showText(event.globalPos(), widget().toolTip(), widget().viewport());
     QStringList lines;
     if (widget().sizeHintForIndex(index).width() > cell.width()) lines << index.data().toString();
     const platform::Text reason = control().mark_reason(static_cast<std::size_t>(index.row()));

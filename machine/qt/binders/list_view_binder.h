@@ -32,6 +32,7 @@ class ListViewBinder : public BinderOf<platform::ListView, QTreeView, ItemViewBi
     bool click_header(const QEvent& event);
     void show_tip(const QHelpEvent& event);
     bool paint_placeholder();
+    void describe();
 
     ListRows rows_;
     ColumnWidths widths_;

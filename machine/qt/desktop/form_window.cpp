@@ -9,6 +9,7 @@
 #include <QLayout>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QSplitter>
 #include <QStyle>
 #include <QTimer>
 #include <QWidget>
@@ -58,6 +59,14 @@ Qt::WindowStates toolkit_state(WindowState state) {
     return Qt::WindowNoState;
 }
 
+/// A screen cannot tell anything of the handles: its splitters make them.
+void explain_handles(const QWidget& window) {
+    for (const QSplitter* splitter : window.findChildren<QSplitter*>()) {
+        for (int handle = 1; handle < splitter->count(); ++handle)
+            splitter->handle(handle)->setToolTip(QStringLiteral("끌면 양쪽의 크기가 바뀝니다."));
+    }
+}
+
 }  // namespace
 
 FormWindow::FormWindow(platform::Form& form, QWidget& window, platform::Files& files)
@@ -69,6 +78,7 @@ FormWindow::FormWindow(platform::Form& form, QWidget& window, platform::Files& f
       width_limits_(window) {
     // Qt would offer a menu that hides the tool bar.
     window.setContextMenuPolicy(Qt::NoContextMenu);
+    explain_handles(window);
     caption_changed();
     minimum_size_changed();
     placed_ = place();

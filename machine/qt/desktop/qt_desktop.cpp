@@ -15,6 +15,7 @@
 #include <QFontInfo>
 #include <QMenu>
 #include <QScreen>
+#include <algorithm>
 
 /// Makes the linker keep the pictures, which are in a static library.
 static void load_pictures() { Q_INIT_RESOURCE(resource); }
@@ -48,6 +49,7 @@ void give_back_focus(QWidget* window) {
 QtDesktop::QtDesktop(const Screens& screens, platform::Files& files, const QString& layout_file)
     : screens_(screens), files_(files), file_dialog_(files), layout_(layout_file) {
     load_pictures();
+    QObject::connect(&help_key_, &HelpKey::pressed, [this] { help_requested(active_form()); });
     QObject::connect(&closing_, &QTimer::timeout, [this] { close_front_window(); });
 }
 
@@ -207,6 +209,14 @@ QWidget* QtDesktop::front_window() const {
         if (window != nullptr && window->window().isVisible()) return &window->window();
     }
     return nullptr;
+}
+
+const Form* QtDesktop::active_form() const {
+    const auto is_active = [](const auto& form) {
+        return form.second != nullptr && form.second->window().isActiveWindow();
+    };
+    const auto found = std::ranges::find_if(windows_, is_active);
+    return found == windows_.end() ? nullptr : found->first;
 }
 
 void QtDesktop::close_front_window() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "machine/qt/desktop/file_dialog.h"
+#include "machine/qt/desktop/help_key.h"
 #include "machine/qt/desktop/kept_layout.h"
 #include "machine/qt/desktop/screens.h"
 #include "machine/qt/typing/last_key.h"
@@ -55,6 +56,7 @@ class QtDesktop : public platform::Desktop {
   private:
     FormWindow* window_of(const platform::Form& form) const;
     QWidget* front_window() const;
+    const platform::Form* active_form() const;
     void wait_for_close(const platform::Form& form) const;
     void close_front_window() const;
 
@@ -63,6 +65,7 @@ class QtDesktop : public platform::Desktop {
     FileDialog file_dialog_;
     KeptLayout layout_;
     LastKey last_key_;
+    HelpKey help_key_;
     std::map<const platform::Form*, QPointer<FormWindow>> windows_;
     QString title_;
     bool hourglass_ = false;
