@@ -1,7 +1,6 @@
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 add_compile_options(-Wall -Wextra -Wpedantic -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
@@ -14,9 +13,16 @@ if(ZENT_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# Headers that are parsed once for all files of a target: most of the time that compiling takes is theirs. Each
-# file still names what it uses; the preset "check" builds without them and would say so.
+# Most of the time that compiling takes is the headers'. A build from nothing (the presets that make the product) compiles each
+# library as one file; one for development, in which a file changes at a time, parses common headers once for all files of
+# a target. Each file still names what it uses: the preset "check" builds without either and would say so.
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 0)
 set(ZENT_STANDARD_HEADERS <algorithm> <chrono> <functional> <map> <memory> <optional> <string> <utility> <variant> <vector>)
+function(zent_precompile target)
+  if(NOT CMAKE_UNITY_BUILD)
+    target_precompile_headers(${target} PRIVATE ${ZENT_STANDARD_HEADERS} ${ARGN})
+  endif()
+endfunction()
 
 # Makes one static library from a folder's sources, linked only to the folders below it:
 #   zent_library(core platform)   the library `core` of ./*.cpp above `platform`
@@ -26,5 +32,5 @@ function(zent_library name)
   add_library(${name} STATIC ${sources})
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
   target_link_libraries(${name} PUBLIC ${ARGN})
-  target_precompile_headers(${name} PRIVATE ${ZENT_STANDARD_HEADERS} ${PROJECT_SOURCE_DIR}/platform/ports/platform.h)
+  zent_precompile(${name} ${PROJECT_SOURCE_DIR}/platform/ports/platform.h)
 endfunction()

@@ -44,8 +44,7 @@ std::size_t prefix_length(TextView number) {
 Text DIGITS_ONLY(TextView value) {
     const Text trimmed = platform::trim(value);
     Text digits;
-    std::ranges::copy_if(trimmed, std::back_inserter(digits),
-                         [](char16_t c) { return c >= u'0' && c <= u'9'; });
+    std::ranges::copy_if(trimmed, std::back_inserter(digits), platform::is_digit);
     return platform::leading_number(digits) != 0 ? digits : trimmed;
 }
 
@@ -54,7 +53,7 @@ Text with_hyphens(TextView number) {
     const std::size_t prefix = prefix_length(number);
     const std::size_t rest = number.size() - std::min(prefix, number.size());
     const bool whole = prefix == 0 ? rest == 8 && number.starts_with(u'1') : rest == 7 || rest == 8;
-    const bool all_digits = std::ranges::all_of(number, [](char16_t c) { return c >= u'0' && c <= u'9'; });
+    const bool all_digits = std::ranges::all_of(number, platform::is_digit);
     if (!whole || !all_digits) return shown;
     shown.insert(shown.size() - SUBSCRIBER_LENGTH, 1, u'-');
     if (prefix > 0) shown.insert(prefix, 1, u'-');

@@ -60,11 +60,10 @@ void DraftKeeper::pass_over() {
 void DraftKeeper::take_up_from_bar() {
     if (!offered_) return;
     if (has_content(form_) &&
-        !core::ask(
-            platform_.desktop,
-            u"지금 작성한 내용을 지난번에 작성하던 메시지로 바꾸시겠습니까?\r\n\r\n지금 목록에 있는 받는 "
-            u"사람은 되살린 목록에 함께 남습니다.",
-            Text(TITLE), platform::BoxIcon::question, platform::BoxAnswer::no))
+        !core::ask(platform_.desktop,
+                   u"지금 작성한 내용을 지난번에 작성하던 메시지로 바꾸시겠습니까?\r\n\r\n지금 목록에 있는 "
+                   u"받는사람은 되살린 목록에 함께 남습니다.",
+                   Text(TITLE), platform::BoxIcon::question, platform::BoxAnswer::no))
         return;
     form_.kept_draft.close();
     take_up();

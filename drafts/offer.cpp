@@ -60,7 +60,7 @@ Text summary(const KeptDraft& draft, const RecipientCounts& recipients) {
     Text line;
     if (const compose::KindOfMessage* kind = kind_of(draft)) line += Text(kind->caption) + u", ";
     if (const Text text = excerpt(draft); !text.empty()) line += u"'" + text + u"', ";
-    line += u"받는 사람 " + count(recipients.all);
+    line += u"받는사람 " + count(recipients.all);
     if (recipients.to_send < recipients.all) {
         line += u"(보낼 사람 " + count(recipients.to_send);
         if (recipients.registered > 0) line += u", 등록성공 " + count(recipients.registered);

@@ -16,7 +16,7 @@ inline constexpr platform::TextView NO_ANSWER = u"확인필요";
 
 /// What that means for the user.
 inline constexpr platform::TextView NO_ANSWER_MEANS =
-    u"'확인필요'는 등록 요청을 보냈으나 응답을 받지 못한 받는 사람입니다. 발송결과에서 확인하신 후, 등록되지 "
+    u"'확인필요'는 등록 요청을 보냈으나 응답을 받지 못한 받는사람입니다. 발송결과에서 확인하신 후, 등록되지 "
     u"않았으면 다시 선택하여 보내십시오.";
 
 /// The carrier's result code for the user: the word of success for 1, otherwise the code with its meaning.

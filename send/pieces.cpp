@@ -68,7 +68,7 @@ Text pieces_report(const platform::ListView& recipients) {
     for (const auto& [share, count] : people) {
         const std::size_t slash = share.find(u'/');
         report += u"\r\n " + share.substr(slash + 1) + u"개로 나눈 메시지 중 " + share.substr(0, slash) +
-                  u"개만 등록된 받는 사람: " + platform::decimal(count) + u"명";
+                  u"개만 등록된 받는사람: " + platform::decimal(count) + u"명";
     }
     return report;
 }
@@ -95,7 +95,7 @@ bool settle_pieces(const platform::Platform& platform, compose::frmZent& form) {
         const BoxAnswer answer = platform.desktop.message_box(
             {.text = u"이 메시지는 앞서 일부만 등록되었습니다." + report +
                      u"\r\n\r\n등록되지 않은 나머지만 이어서 "
-                     u"보내시겠습니까?\r\n\r\n[아니오]를 선택하시면 선택한 받는 사람에게 "
+                     u"보내시겠습니까?\r\n\r\n[아니오]를 선택하시면 선택한 받는사람에게 "
                      u"처음부터 다시 보냅니다.",
              .icon = platform::BoxIcon::question,
              .title = u"이어서 보내기",

@@ -1,5 +1,7 @@
 #include "platform/formats/telephone_numbers.h"
 
+#include "platform/text/number.h"
+
 #include <algorithm>
 
 namespace platform {
@@ -13,8 +15,6 @@ constexpr std::size_t LONGEST = 12;
 /// again.
 constexpr std::size_t MOST_DIGITS = LONGEST + 4;
 constexpr std::size_t SERVICE_LENGTH = 8;
-
-bool is_digit(char16_t c) { return c >= u'0' && c <= u'9'; }
 
 bool is_between_digits(char16_t c) { return TextView(u" -.()\u2010\u2011\u2013").find(c) != TextView::npos; }
 

@@ -11,8 +11,6 @@ namespace platform {
 
 namespace {
 
-bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-
 /// The characters of a number at the beginning of a text, in the spelling that std::from_chars reads.
 struct Spelling {
     std::string characters;

@@ -6,6 +6,9 @@
 
 namespace platform {
 
+/// One of the ten that a number is written with; no digit of another script.
+constexpr bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
+
 /// The number that the text begins with; 0 when there is none. Blanks, tabs and line ends before it are
 /// skipped; it may have a sign, decimals and an exponent. A number that is too large gives the largest
 /// double, one that is too small gives 0; the result is always finite.

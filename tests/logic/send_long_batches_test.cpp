@@ -101,7 +101,7 @@ TEST(SendLongBatches, MorePiecesThanTheProgressCanShowEndTheJobWithItsError) {
     s.add_many(1);
     s.send_in_vain(
         tests::failure(380,
-                       u"속성 값이 잘못되었습니다.\r\n\r\n 44개로 나눈 메시지 중 43개만 등록된 받는 사람: "
+                       u"속성 값이 잘못되었습니다.\r\n\r\n 44개로 나눈 메시지 중 43개만 등록된 받는사람: "
                        u"1명\r\n 다시 보내면 등록되지 않은 나머지만 이어서 보낼 수 있습니다."));
     EXPECT_EQ(s.carrier.registrations.size(), 43u);
     EXPECT_EQ(s.marks(), "x");

@@ -21,24 +21,23 @@ using platform::Text;
 using tests::utf8;
 
 const Text MEANING =
-    u"'확인필요'는 등록 요청을 보냈으나 응답을 받지 못한 받는 사람입니다. 발송결과에서 확인하신 후, 등록되지 "
+    u"'확인필요'는 등록 요청을 보냈으나 응답을 받지 못한 받는사람입니다. 발송결과에서 확인하신 후, 등록되지 "
     u"않았으면 "
     u"다시 선택하여 보내십시오.";
 
 /// The question's details about a draft whose job was cut off. `counts` is what stands behind those to send
 /// to.
 Text cut_off(const Text& excerpt, int all, int to_send, const Text& counts) {
-    return u"문자메시지, '" + excerpt + u"', 받는 사람 " + platform::decimal(all) + u"명(보낼 사람 " +
+    return u"문자메시지, '" + excerpt + u"', 받는사람 " + platform::decimal(all) + u"명(보낼 사람 " +
            platform::decimal(to_send) + u"명, " + counts + u"), 11월 23일 오전 10:00\r\n\r\n" + MEANING;
 }
 
 /// The question before a text goes on that is registered in part.
 platform::MessageBox rest_question(const Text& lines) {
     return {
-        .text =
-            u"이 메시지는 앞서 일부만 등록되었습니다." + lines +
-            u"\r\n\r\n등록되지 않은 나머지만 이어서 보내시겠습니까?\r\n\r\n[아니오]를 선택하시면 선택한 받는 "
-            u"사람에게 처음부터 다시 보냅니다.",
+        .text = u"이 메시지는 앞서 일부만 등록되었습니다." + lines +
+                u"\r\n\r\n등록되지 않은 나머지만 이어서 보내시겠습니까?\r\n\r\n[아니오]를 선택하시면 선택한 "
+                u"받는사람에게 처음부터 다시 보냅니다.",
         .icon = BoxIcon::question,
         .title = u"이어서 보내기",
         .buttons = platform::BoxButtons::yes_no_cancel,
@@ -166,7 +165,7 @@ TEST_F(KeptDraft, ComesBackWholeAfterAKill) {
     run->clock.run_for(2000);
 
     restore(
-        u"음성메시지, '제목 \U0001F600', 받는 사람 2명(보낼 사람 1명, 등록성공 1명), 11월 23일 오전 10:00");
+        u"음성메시지, '제목 \U0001F600', 받는사람 2명(보낼 사람 1명, 등록성공 1명), 11월 23일 오전 10:00");
     EXPECT_EQ(drafts::fields_of(run->form), before);
     EXPECT_EQ(run->rows(), "* x1\n등록성공 x1\n");
     EXPECT_EQ(run->form.recipients.ListView1.row(0).sub_item(compose::RECIPIENT_TITLE), u"과장");
@@ -184,7 +183,7 @@ TEST_F(KeptDraft, ARecordingComesBack) {
     run->recorder.speak(samples);
     run->form.voice.RFK1.stop();
     run->clock.run_for(2000);
-    restore(u"음성메시지, 받는 사람 0명, 11월 23일 오전 10:00");
+    restore(u"음성메시지, 받는사람 0명, 11월 23일 오전 10:00");
     EXPECT_EQ(run->form.voice.RFK1.recording(), samples);
 }
 
@@ -192,7 +191,7 @@ TEST_F(KeptDraft, ALongTextComesBackWithoutAQuestionAboutItsLength) {
     start().keeper.start();
     run->write_long_text(3);
     run->clock.run_for(2000);
-    restore(u"문자메시지, '" + Text(15, u'x') + u"', 받는 사람 0명, 11월 23일 오전 10:00");
+    restore(u"문자메시지, '" + Text(15, u'x') + u"', 받는사람 0명, 11월 23일 오전 10:00");
     EXPECT_EQ(run->form.text.mText1.text(), Text(240, u'x'));
     EXPECT_EQ(run->form.text.mText1.tag(), u"LONG");
 }
@@ -212,7 +211,7 @@ TEST_F(KeptDraft, AChangeOfManyRowsIsKeptWholeOrNotAtAll) {
     run->form.recipients.ListView1.remove_selected_rows();
     const Text first = run->form.recipients.ListView1.row(0).sub_item(compose::RECIPIENT_NAME);
     run->clock.run_for(2000);
-    restore(u"문자메시지, 받는 사람 4,998명, 11월 23일 오전 10:00");
+    restore(u"문자메시지, 받는사람 4,998명, 11월 23일 오전 10:00");
     EXPECT_EQ(run->rows(), "* x4998\n");
     EXPECT_EQ(run->form.recipients.ListView1.row(0).sub_item(compose::RECIPIENT_NAME), first);
 }
@@ -224,7 +223,7 @@ TEST_F(KeptDraft, AfterAnOrderlyEndItIsOfferedWithoutABox) {
     start().keeper.start();
     EXPECT_TRUE(run->form.kept_draft.KeptDraft.visible());
     EXPECT_EQ(run->form.kept_draft.KeptDraftText.caption(),
-              u"지난번에 작성하던 메시지: 문자메시지, 받는 사람 1명, 11월 23일 오전 10:00");
+              u"지난번에 작성하던 메시지: 문자메시지, 받는사람 1명, 11월 23일 오전 10:00");
     run->form.kept_draft.KeptDraftTakeUp.Click.raise();
     EXPECT_EQ(run->rows(), "* x1\n");
     EXPECT_FALSE(run->form.kept_draft.KeptDraft.visible());
@@ -240,7 +239,7 @@ TEST_F(KeptDraft, OneThatIsPassedOverStaysBehindTheNext) {
     start().keeper.start();
     run->add(u"김", u"01000000001");
     run->clock.run_for(2000);
-    start().expect_question(u"문자메시지, 받는 사람 1명, 11월 23일 오전 10:00", BoxAnswer::no);
+    start().expect_question(u"문자메시지, 받는사람 1명, 11월 23일 오전 10:00", BoxAnswer::no);
     run->keeper.start();
     EXPECT_TRUE(run->form.kept_draft.KeptDraft.visible());
     run->add(u"이", u"01000000002");
@@ -248,16 +247,16 @@ TEST_F(KeptDraft, OneThatIsPassedOverStaysBehindTheNext) {
     run->keeper.end();
 
     start().keeper.start();
-    EXPECT_TRUE(platform::contains(run->form.kept_draft.KeptDraftText.caption(), u"받는 사람 2명"));
+    EXPECT_TRUE(platform::contains(run->form.kept_draft.KeptDraftText.caption(), u"받는사람 2명"));
     run->form.kept_draft.KeptDraftClose.Click.raise();
-    EXPECT_TRUE(platform::contains(run->form.kept_draft.KeptDraftText.caption(), u"받는 사람 1명"));
+    EXPECT_TRUE(platform::contains(run->form.kept_draft.KeptDraftText.caption(), u"받는사람 1명"));
     run->form.kept_draft.KeptDraftTakeUp.Click.raise();
     EXPECT_EQ(run->rows(), "* x1\n");
     // Killed at once, it is the one that the next start offers.
-    start().expect_question(u"문자메시지, 받는 사람 1명, 11월 23일 오전 10:00", BoxAnswer::no);
+    start().expect_question(u"문자메시지, 받는사람 1명, 11월 23일 오전 10:00", BoxAnswer::no);
     run->keeper.start();
     run->form.kept_draft.KeptDraftClose.Click.raise();
-    EXPECT_TRUE(platform::contains(run->form.kept_draft.KeptDraftText.caption(), u"받는 사람 2명"));
+    EXPECT_TRUE(platform::contains(run->form.kept_draft.KeptDraftText.caption(), u"받는사람 2명"));
 }
 
 TEST_F(KeptDraft, TakenUpLateItMarksNobodyWhoHasBeenSentToMeanwhile) {
@@ -274,7 +273,7 @@ TEST_F(KeptDraft, TakenUpLateItMarksNobodyWhoHasBeenSentToMeanwhile) {
     run->desktop.expect_box(
         tests::question(
             u"지금 작성한 내용을 지난번에 작성하던 메시지로 바꾸시겠습니까?\r\n\r\n지금 목록에 있는 "
-            u"받는 사람은 되살린 목록에 함께 남습니다.",
+            u"받는사람은 되살린 목록에 함께 남습니다.",
             u"메시지 되살리기", BoxIcon::question, BoxAnswer::no),
         BoxAnswer::yes);
     run->form.kept_draft.KeptDraftTakeUp.Click.raise();
@@ -287,7 +286,7 @@ TEST_F(KeptDraft, LosesNothingOfAHandOverThatCameFirst) {
     run->clock.run_for(2000);
     start().add(u"이", u"01000000002");
     run->add(u"김", u"01000000001");
-    run->expect_question(u"문자메시지, 받는 사람 1명, 11월 23일 오전 10:00", BoxAnswer::yes);
+    run->expect_question(u"문자메시지, 받는사람 1명, 11월 23일 오전 10:00", BoxAnswer::yes);
     run->keeper.start();
     EXPECT_EQ(run->rows(), "* x2\n");
 }
@@ -378,7 +377,7 @@ TEST_F(KeptDraft, ATextInPiecesGoesOnWithTheRestAfterAKill) {
 
     restore(cut_off(Text(15, u'x'), 150, 100, u"확인필요 50명"));
     EXPECT_EQ(run->rows(), "*2/3 등록 x100\n확인필요 x50\n");
-    run->desktop.expect_box(rest_question(u"\r\n 3개로 나눈 메시지 중 2개만 등록된 받는 사람: 100명"),
+    run->desktop.expect_box(rest_question(u"\r\n 3개로 나눈 메시지 중 2개만 등록된 받는사람: 100명"),
                             BoxAnswer::yes);
     run->expect_report();
     run->press_send();
@@ -410,11 +409,11 @@ TEST_F(KeptDraft, ASessionRefusedBetweenThePiecesSendsNothingTwice) {
         u"일시 정지된 "
         u"경우.\r\n\r\n인터넷 연결상태를 확인하시고 잠시 후 다시 시작하여 주십시오.\r\n\r\n 2개로 나눈 "
         u"메시지 "
-        u"중 1개만 등록된 받는 사람: 120명\r\n 다시 보내면 등록되지 않은 나머지만 이어서 보낼 수 있습니다."));
+        u"중 1개만 등록된 받는사람: 120명\r\n 다시 보내면 등록되지 않은 나머지만 이어서 보낼 수 있습니다."));
     run->press_send();
     EXPECT_EQ(run->rows(), "*1/2 등록 x120\n");
 
-    run->desktop.expect_box(rest_question(u"\r\n 2개로 나눈 메시지 중 1개만 등록된 받는 사람: 120명"),
+    run->desktop.expect_box(rest_question(u"\r\n 2개로 나눈 메시지 중 1개만 등록된 받는사람: 120명"),
                             BoxAnswer::yes);
     run->expect_report();
     run->press_send();

@@ -266,7 +266,7 @@ TEST_F(ListTest, AMenuAskedForByAKeyOpensAtTheCurrentRow) {
 TEST_F(ListTest, AScreenReaderAlwaysFindsANameAndACurrentRow) {
     const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&view());
     ASSERT_NE(accessible, nullptr);
-    EXPECT_EQ(accessible->text(QAccessible::Name), "받는 사람");
+    EXPECT_EQ(accessible->text(QAccessible::Name), "받는사람");
     EXPECT_TRUE(view().currentIndex().isValid());
     EXPECT_NE(accessible->focusChild(), nullptr);
     list.sort(1, platform::ListView::SortOrder::descending);

@@ -36,6 +36,7 @@ class ChildProcess {
         wait();
     }
 
+    pid_t id() const { return id_; }
     void signal(int number) const { ::kill(id_, number); }
 
     /// Waits for the end: the number returned, or the signal that killed it as a negative number.

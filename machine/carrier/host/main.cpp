@@ -5,13 +5,12 @@
 #include "machine/carrier/host/loaded_library.h"
 #include "machine/carrier/protocol.h"
 #include "machine/posix/installation.h"
+#include "machine/posix/rights.h"
 
-#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <sys/prctl.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
@@ -24,24 +23,16 @@ using namespace machine::carrier;
 /// cores.
 constexpr rlim_t NO_CORE = 1;
 
-/// Lowers a limit; one that is lower already stays.
-void limit(decltype(RLIMIT_CORE) resource, rlim_t most) {
-    rlimit limit{};
-    ::getrlimit(resource, &limit);
-    limit.rlim_max = std::min(limit.rlim_max, most);
-    limit.rlim_cur = std::min(limit.rlim_cur, limit.rlim_max);
-    if (::setrlimit(resource, &limit) != 0) std::_Exit(EXIT_FAILURE);
-}
-
 void limit_myself() {
-    limit(RLIMIT_CORE, NO_CORE);
+    using machine::posix::lower_limit;
+    lower_limit(RLIMIT_CORE, NO_CORE);
 #ifdef LIMIT_MEMORY
-    limit(RLIMIT_AS, MOST_MEMORY);
+    lower_limit(RLIMIT_AS, MOST_MEMORY);
 #endif
-    // Not to be looked into, nothing gained by starting other programs, and ended with the program.
-    const bool done = ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0) == 0 &&
-                      ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
-                      ::prctl(PR_SET_PDEATHSIG, SIGKILL, 0, 0, 0) == 0;
+    machine::posix::gain_no_rights();
+    // Not to be looked into, and ended with the program.
+    const bool done =
+        ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0) == 0 && ::prctl(PR_SET_PDEATHSIG, SIGKILL, 0, 0, 0) == 0;
     if (!done) std::_Exit(EXIT_FAILURE);
 }
 

@@ -3,15 +3,15 @@
 // reads it.
 
 #include "machine/jet/reader/card_stream.h"
+#include "machine/jet/reader/confinement.h"
 #include "machine/jet/reader/jet_tables.h"
+#include "machine/posix/rights.h"
 
 #include <cerrno>
 #include <cstdlib>
 #include <exception>
 #include <string>
 #include <string_view>
-#include <sys/prctl.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 namespace {
@@ -21,23 +21,21 @@ constexpr const char* DATABASE = "/proc/self/fd/0";
 constexpr rlim_t LONGEST_SECONDS = 10;
 [[maybe_unused]] constexpr rlim_t MOST_MEMORY = rlim_t{256} << 20;
 constexpr rlim_t MOST_FILES = 16;
+/// No core file, which would hold the cards. With 1 the kernel does not even start a program that collects
+/// cores.
+constexpr rlim_t NO_CORE = 1;
 constexpr std::size_t CHUNK_BYTES = 32768;
 
-void limit(decltype(RLIMIT_CPU) resource, rlim_t most) {
-    const rlimit limit{most, most};
-    if (::setrlimit(resource, &limit) != 0) std::_Exit(EXIT_FAILURE);
-}
-
-/// Gives up all rights that reading a file does not need.
 void limit_myself() {
-    limit(RLIMIT_CPU, LONGEST_SECONDS);
-    limit(RLIMIT_FSIZE, 0);
-    limit(RLIMIT_CORE, 0);
-    limit(RLIMIT_NOFILE, MOST_FILES);
+    using machine::posix::lower_limit;
+    lower_limit(RLIMIT_CPU, LONGEST_SECONDS);
+    lower_limit(RLIMIT_FSIZE, 0);
+    lower_limit(RLIMIT_CORE, NO_CORE);
+    lower_limit(RLIMIT_NOFILE, MOST_FILES);
 #ifdef LIMIT_MEMORY
-    limit(RLIMIT_AS, MOST_MEMORY);
+    lower_limit(RLIMIT_AS, MOST_MEMORY);
 #endif
-    if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0) std::_Exit(EXIT_FAILURE);
+    machine::posix::gain_no_rights();
 }
 
 void write_out(std::string& bytes) {
@@ -56,7 +54,12 @@ int main() {
     using namespace machine::jet;
     limit_myself();
     try {
+        // libmdb opens the file by its name, and with it the tables of its code page. It has looked at the
+        // first page alone by then.
         JetTables tables(DATABASE);
+#ifdef CONFINE
+        confine_to_open_files();
+#endif
         std::string stream = stream_start();
         const auto read = [&](Table table) {
             return tables.read(table, [&](const Row& row) {

@@ -1,6 +1,7 @@
 #include "machine/jet/sql/statement.h"
 
 #include "platform/error.h"
+#include "platform/text/number.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -32,10 +33,8 @@ using Tokens = std::vector<Token>;
 
 bool is_blank(char16_t unit) { return unit == u' ' || (unit >= u'\t' && unit <= u'\r'); }
 
-bool is_digit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-
 bool is_word_unit(char16_t unit) {
-    return is_digit(unit) || (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z') ||
+    return platform::is_digit(unit) || (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z') ||
            unit == u'_' || unit >= 0x80;
 }
 
@@ -82,7 +81,7 @@ struct Test {
 std::optional<Test> test_at(const Tokens& tokens, std::size_t at) {
     const auto is_number = [&](std::size_t i) {
         return i < tokens.size() && tokens[i].kind == Token::Kind::word &&
-               std::ranges::all_of(tokens[i].text, is_digit);
+               std::ranges::all_of(tokens[i].text, platform::is_digit);
     };
     if (at + 2 >= tokens.size() || tokens[at].kind != Token::Kind::word || !tokens[at + 1].is(u"="))
         return std::nullopt;

@@ -21,7 +21,7 @@ using platform::KeyPressed;
 
 namespace {
 
-void set_up(QTreeView& view) {
+void set_up_list(QTreeView& view) {
     view.setUniformRowHeights(true);
     view.setRootIsDecorated(false);
     view.setItemsExpandable(false);
@@ -69,7 +69,7 @@ bool moves(const QKeyEvent& event) {
 ListViewBinder::ListViewBinder(BoundForm& bound, platform::ListView& control, QTreeView& view)
     : BinderOf(bound, control, view), rows_(control, view), widths_(*view.header()) {
     control.attach_rows(&rows_);
-    set_up(view);
+    set_up_list(view);
     widths_.set(view.property("columnWidths").toStringList());
     view.setAcceptDrops(true);
     if (control.check_boxes()) view.header()->viewport()->installEventFilter(this);

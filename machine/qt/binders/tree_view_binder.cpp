@@ -12,7 +12,7 @@ using platform::TreeNode;
 
 namespace {
 
-void set_up(QTreeView& view) {
+void set_up_tree(QTreeView& view) {
     view.setHeaderHidden(true);
     view.setUniformRowHeights(true);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -23,7 +23,7 @@ void set_up(QTreeView& view) {
 
 TreeViewBinder::TreeViewBinder(BoundForm& bound, platform::TreeView& control, QTreeView& view)
     : BinderOf(bound, control, view), model_(control, pictures_of(view), this) {
-    set_up(view);
+    set_up_tree(view);
     view.setModel(&model_);
     control.attach_nodes(this);
     nodes_removed();

@@ -8,7 +8,7 @@ namespace machine::qt {
 
 namespace {
 
-constexpr int HEIGHT = 4;
+constexpr int BAR_HEIGHT = 4;
 /// In hundredths: a few syllables more and the message is full.
 constexpr int NEARLY_FULL = 90;
 
@@ -19,7 +19,7 @@ ByteBar::ByteBar(QWidget* parent) : QProgressBar(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-QSize ByteBar::sizeHint() const { return {10 * HEIGHT, HEIGHT}; }
+QSize ByteBar::sizeHint() const { return {10 * BAR_HEIGHT, BAR_HEIGHT}; }
 
 void ByteBar::paintEvent(QPaintEvent*) {
     const Colours colours = colours_of(palette());
@@ -30,11 +30,11 @@ void ByteBar::paintEvent(QPaintEvent*) {
     // In high contrast the line itself would look like the part that is full.
     const double paler = is_high_contrast(palette()) ? 0.7 : 0.0;
     painter.setBrush(between(colours.line, palette().color(QPalette::Window), paler));
-    painter.drawRoundedRect(bar, HEIGHT / 2.0, HEIGHT / 2.0);
+    painter.drawRoundedRect(bar, BAR_HEIGHT / 2.0, BAR_HEIGHT / 2.0);
     if (value() == 0) return;
-    bar.setWidth(qMax<double>(HEIGHT, bar.width() * value() / 100));
+    bar.setWidth(qMax<double>(BAR_HEIGHT, bar.width() * value() / 100));
     painter.setBrush(value() >= NEARLY_FULL ? colours.warning : colours.success);
-    painter.drawRoundedRect(bar, HEIGHT / 2.0, HEIGHT / 2.0);
+    painter.drawRoundedRect(bar, BAR_HEIGHT / 2.0, BAR_HEIGHT / 2.0);
 }
 
 }  // namespace machine::qt

@@ -7,7 +7,7 @@ namespace machine::qt {
 namespace {
 
 constexpr int LIGHTS = 40;
-constexpr int HEIGHT = 10;
+constexpr int METER_HEIGHT = 10;
 constexpr int FIRST_YELLOW = LIGHTS * 80 / 100;
 constexpr int FIRST_RED = LIGHTS * 95 / 100;
 
@@ -24,7 +24,7 @@ LevelMeter::LevelMeter(QWidget* parent) : QProgressBar(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-QSize LevelMeter::sizeHint() const { return {LIGHTS * 3, HEIGHT}; }
+QSize LevelMeter::sizeHint() const { return {LIGHTS * 3, METER_HEIGHT}; }
 
 void LevelMeter::paintEvent(QPaintEvent*) {
     QPainter painter(this);
