@@ -9,7 +9,7 @@ import pathlib
 import re
 import sys
 
-ROOMS = ("app send addressbook handover saved_texts update drafts compose gateway service core platform machine").split()
+ROOMS = "app send addressbook handover saved_texts update drafts compose gateway service core platform machine".split()
 # Not shown: what the download says of itself is heard by nobody.
 UNSEEN = {"update/download.cpp"}
 
@@ -20,7 +20,7 @@ SENTENCE = re.compile(r"니다|시오|세요|까\?|[!?]$")
 CALL = re.compile(r"(?:\bcore::(?:warn|ask|show_error)|\.(?:message_box|input_box)|\b(?:throw|return) (?:platform::)?RuntimeError)"
                   r"(?=\()")
 # In a call without a literal: the text was written where these come from, and is found there as a sentence.
-BROUGHT = re.compile(r"\b(ErrorNumber|number_of|error|failure|failure_|fault|result|text|box|question)\b|\b[A-Z]+_[A-Z]+\b")
+BROUGHT = re.compile(r"(?<!\.)\b(ErrorNumber|number_of|error|failure_?|fault|result|text|question|[A-Z]+_[A-Z]+)\b")
 # All Korean of these files is titles of the form, whose own files have none.
 TITLES = {"frmWeb": "service/service_pages.cpp", "frmZent": "core/app_state.h"}
 
