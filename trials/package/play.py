@@ -105,6 +105,9 @@ def first_job(desk):
     desk.carrier.expect(
         registration(TEXT, "약속", [("홍길동", "01055500101")], sms_content=TEXT_TO_KEEP, callback="0212345678")
     )
+    subprocess.run([desk.package, "hand-over"], check=True)
+    desk.find("김하늘", "table cell", main)
+    desk.picture("handed-over")
     desk.click(desk.find("발송결과", "push button", main))
     desk.find("약속", "link", desk.window_called("발송결과"))
     desk.picture("results")
@@ -117,7 +120,7 @@ def first_job(desk):
 def another_user(desk):
     """A user of the same machine finds nothing of the first one's."""
     main = desk.log_in()
-    expect("the saved texts", list((desk.app / "내모음함").rglob("*.txt")), [])
+    expect("the first one's text", list((desk.app / "내모음함").rglob("약속.txt")), [])
     expect("the recipients", desk.rows("받는사람 목록", main), [])
 
 
