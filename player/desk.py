@@ -11,10 +11,7 @@ import pyatspi
 
 from carrier import Carrier
 from expect import PATIENCE, Unexpected, wait_for
-
-# Milliseconds between characters: Hangul is typed by changing the keyboard's map, which programs learn with a delay.
-TYPING_DELAY = "15"
-HANGUL_DELAY = "60"
+from keyboard import Keyboard
 
 
 class Desk:
@@ -25,6 +22,7 @@ class Desk:
         self.home.mkdir(exist_ok=True)
         self.app = results / "app"
         self.carrier = Carrier(self.app)
+        self.keyboard = Keyboard()
         self.pictures = []
         # A cached page or label may be older than what the screen shows.
         pyatspi.Registry.getDesktop(0).set_cache_mask(pyatspi.Atspi.Cache.NONE)
@@ -132,22 +130,20 @@ class Desk:
     # Keys, clicks, pictures.
 
     def keys(self, *keys):
-        subprocess.run(["xdotool", "key", "--clearmodifiers", "--delay", "60", *keys], check=True)
+        self.keyboard.press(*keys)
 
     def write(self, text):
         """Types the text; a line end presses Enter, a tab character Tab."""
-        for piece in re.findall("\n|\t|[ -~]+|[^\n\t -~]+", text):
+        for piece in re.findall("\n|\t|[^\n\t]+", text):
             if piece in ("\n", "\t"):
                 self.keys("Return" if piece == "\n" else "Tab")
             else:
-                delay = TYPING_DELAY if piece.isascii() else HANGUL_DELAY
-                subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", delay, piece], check=True)
+                self.keyboard.type(piece)
 
     def fill(self, field, text):
         """Replaces the field's text by typing."""
-        self.give_focus(field)
-        # A program that learns the keyboard's map late gets wrong syllables; then the text is typed again.
-        self.wait(f"'{text}' in its field", lambda: self._written(field, text))
+        # A window that has just opened may lose the focus once more; then the text is typed again.
+        self.wait(f"'{text}' in its field", lambda: self._clicked_into(field) and self._written(field, text))
 
     def give_focus(self, field):
         # A window may miss a click just after a box over it has closed.
