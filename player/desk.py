@@ -188,6 +188,18 @@ class Desk:
 
     # What most scenes do.
 
+    def enter_login(self):
+        """Types the demo account into the login window and returns that."""
+        login = self.window("로그인")
+        self.fill(self.find("사용자 아이디", "text", login), "demo")
+        self.write("\tdemo1234")
+        return login
+
+    def log_in(self):
+        self.enter_login()
+        self.keys("Return")
+        self.gone("로그인")
+
     def choose_kind(self, kind, subject):
         """Clicks the kind's tab, writes the subject and returns the main window."""
         self.click(self.find(kind, "page tab", self.window("[")))
@@ -251,6 +263,11 @@ class Desk:
         """Sends the draft and returns the numbers of the report, once the main window can be used again."""
         self.start_sending(main, confirmation)
         return self.read_report()
+
+    def look_for_update(self):
+        main = self.window("Cardvale 폰디라 통합메시징 서비스[")
+        self.click(self.find("도움말", "menu item", main))
+        self.click(self.find("업데이트 확인", "menu item"))
 
     def note_while_away(self, act):
         """Does something and turns to another desktop at once; waits for the note that calls the user back, returns its lines."""
