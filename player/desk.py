@@ -18,7 +18,7 @@ class Desk:
     def __init__(self, results):
         self.results = results
         # The user's own folder, where the scenes put the files that the user picks.
-        self.home = results / "home"
+        self.home = results / "hong"
         self.home.mkdir(exist_ok=True)
         self.app = results / "app"
         self.carrier = Carrier(self.app)
@@ -31,9 +31,12 @@ class Desk:
     # The program.
 
     def start(self):
-        korean = {"HOME": str(self.home), "LC_TIME": "ko_KR.UTF-8", "LC_NUMERIC": "ko_KR.UTF-8"}
+        self.run([self.app / "zent"], self.home)
+
+    def run(self, command, home, **desktop):
+        korean = {"HOME": str(home), "LC_TIME": "ko_KR.UTF-8", "LC_NUMERIC": "ko_KR.UTF-8"}
         # A menu entry starts it from any folder.
-        self.program = subprocess.Popen([self.app / "zent"], cwd="/", env={**os.environ, **korean})
+        self.program = subprocess.Popen(command, cwd="/", env={**os.environ, **korean, **desktop})
 
     def forget_draft(self):
         """Removes the draft that an earlier play of this folder has left in the user's own directory."""
