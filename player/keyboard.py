@@ -20,7 +20,10 @@ class Keyboard:
         subprocess.run(["xdotool", "key", "--clearmodifiers", "--delay", "60", *keys], check=True)
 
     def type(self, text):
-        """Types a line. Programs learn of new keys late, so they come all at once, and before the first is pressed."""
+        """Types a line. Programs learn of new keys late, so they come all at once, and before the first is pressed.
+
+        A line with more characters than there are spare keys may go wrong on a busy machine.
+        """
         self._learn({character for character in text if not character.isascii()})
         subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", DELAY, text], check=True)
 
