@@ -1,4 +1,4 @@
-"""The carrier's stand-in: reads its ledger and gives it orders."""
+"""The carrier's stand-in and its web site: reads the ledger and gives orders."""
 import contextlib
 import datetime
 import sqlite3
@@ -49,6 +49,7 @@ class Carrier:
     def __init__(self, application):
         self._ledger = application / "carrier-ledger.db"
         self._orders = application / "carrier.ini"
+        self._update_facts = application / "i_version.ini"
         self._seen = 0
 
     def expect(self, *registrations):
@@ -72,6 +73,11 @@ class Carrier:
             yield
         finally:
             self._orders.write_text(before)
+
+    def offer_update(self):
+        """Lets the site's list name a newer program."""
+        facts = self._update_facts.read_text()
+        self._update_facts.write_text(facts.replace("/update/update.ini", "/update/due/update.ini"))
 
     def _rows(self, query, *values):
         if not self._ledger.exists():

@@ -11,20 +11,18 @@ import pyatspi
 
 from carrier import Carrier
 from expect import PATIENCE, Unexpected, wait_for
-
-# Milliseconds between characters: Hangul is typed by changing the keyboard's map, which programs learn with a delay.
-TYPING_DELAY = "15"
-HANGUL_DELAY = "60"
+from keyboard import Keyboard
 
 
 class Desk:
     def __init__(self, results):
         self.results = results
         # The user's own folder, where the scenes put the files that the user picks.
-        self.home = results / "home"
+        self.home = results / "hong"
         self.home.mkdir(exist_ok=True)
         self.app = results / "app"
         self.carrier = Carrier(self.app)
+        self.keyboard = Keyboard()
         self.pictures = []
         # A cached page or label may be older than what the screen shows.
         pyatspi.Registry.getDesktop(0).set_cache_mask(pyatspi.Atspi.Cache.NONE)
@@ -33,9 +31,12 @@ class Desk:
     # The program.
 
     def start(self):
-        korean = {"HOME": str(self.home), "LC_TIME": "ko_KR.UTF-8", "LC_NUMERIC": "ko_KR.UTF-8"}
+        self.run([self.app / "zent"], self.home)
+
+    def run(self, command, home, **desktop):
+        korean = {"HOME": str(home), "LC_TIME": "ko_KR.UTF-8", "LC_NUMERIC": "ko_KR.UTF-8"}
         # A menu entry starts it from any folder.
-        self.program = subprocess.Popen([self.app / "zent"], cwd="/", env={**os.environ, **korean})
+        self.program = subprocess.Popen(command, cwd="/", env={**os.environ, **korean, **desktop})
 
     def forget_draft(self):
         """Removes the draft that an earlier play of this folder has left in the user's own directory."""
@@ -132,22 +133,20 @@ class Desk:
     # Keys, clicks, pictures.
 
     def keys(self, *keys):
-        subprocess.run(["xdotool", "key", "--clearmodifiers", "--delay", "60", *keys], check=True)
+        self.keyboard.press(*keys)
 
     def write(self, text):
         """Types the text; a line end presses Enter, a tab character Tab."""
-        for piece in re.findall("\n|\t|[ -~]+|[^\n\t -~]+", text):
+        for piece in re.findall("\n|\t|[^\n\t]+", text):
             if piece in ("\n", "\t"):
                 self.keys("Return" if piece == "\n" else "Tab")
             else:
-                delay = TYPING_DELAY if piece.isascii() else HANGUL_DELAY
-                subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", delay, piece], check=True)
+                self.keyboard.type(piece)
 
     def fill(self, field, text):
         """Replaces the field's text by typing."""
-        self.give_focus(field)
-        # A program that learns the keyboard's map late gets wrong syllables; then the text is typed again.
-        self.wait(f"'{text}' in its field", lambda: self._written(field, text))
+        # A window that has just opened may lose the focus once more; then the text is typed again.
+        self.wait(f"'{text}' in its field", lambda: self._clicked_into(field) and self._written(field, text))
 
     def give_focus(self, field):
         # A window may miss a click just after a box over it has closed.
@@ -191,6 +190,18 @@ class Desk:
         self.gone(title)
 
     # What most scenes do.
+
+    def enter_login(self):
+        """Types the demo account into the login window and returns that."""
+        login = self.window("로그인")
+        self.fill(self.find("사용자 아이디", "text", login), "demo")
+        self.write("\tdemo1234")
+        return login
+
+    def log_in(self):
+        self.enter_login()
+        self.keys("Return")
+        self.gone("로그인")
 
     def choose_kind(self, kind, subject):
         """Clicks the kind's tab, writes the subject and returns the main window."""
@@ -255,6 +266,11 @@ class Desk:
         """Sends the draft and returns the numbers of the report, once the main window can be used again."""
         self.start_sending(main, confirmation)
         return self.read_report()
+
+    def look_for_update(self):
+        main = self.window("Cardvale 폰디라 통합메시징 서비스[")
+        self.click(self.find("도움말", "menu item", main))
+        self.click(self.find("업데이트 확인", "menu item"))
 
     def note_while_away(self, act):
         """Does something and turns to another desktop at once; waits for the note that calls the user back, returns its lines."""

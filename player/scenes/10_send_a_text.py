@@ -8,10 +8,9 @@ WORDS = "[길동상사] 안녕하세요. 오늘 오후 3시 회의실에서 뵙�
 
 
 def play(desk):
-    login = desk.window("로그인")
+    desk.enter_login()
     desk.picture("login")
-    desk.fill(desk.find("사용자 아이디", "text", login), "demo")
-    desk.write("\tdemo1234\n")
+    desk.keys("Return")
     desk.gone("로그인")
 
     main = desk.window("[문자메시지]")

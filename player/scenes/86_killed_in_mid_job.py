@@ -26,10 +26,7 @@ def play(desk):
     desk.program.wait()
 
     desk.start()
-    login = desk.window("로그인")
-    desk.fill(desk.find("사용자 아이디", "text", login), "demo")
-    desk.write("\tdemo1234\n")
-    desk.gone("로그인")
+    desk.log_in()
     desk.find("지난번에 작성하던 메시지를 되살리시겠습니까?")
     desk.picture("offered-after-a-kill")
     desk.keys("Return")

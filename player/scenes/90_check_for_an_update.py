@@ -4,16 +4,7 @@ from expect import PATIENCE, expect, wait_for
 LOG_IN = "로그인"
 
 
-def look_for_update(desk):
-    main = desk.window("Cardvale 폰디라 통합메시징 서비스[")
-    desk.click(desk.find("도움말", "menu item", main))
-    desk.click(desk.find("업데이트 확인", "menu item"))
-
-
-def offer_update(app):
-    """Lets the site's list name a newer program, and puts an installer here."""
-    facts = app / "i_version.ini"
-    facts.write_text(facts.read_text().replace("/update/update.ini", "/update/due/update.ini"))
+def put_installer(app):
     installer = app / "i_update.exe"
     installer.write_text("#!/bin/sh\ncat i_autorun.ini >found\nmv found installer-was-here\n")
     installer.chmod(0o755)
@@ -21,13 +12,14 @@ def offer_update(app):
 
 def play(desk):
     app = desk.app
-    look_for_update(desk)
+    desk.look_for_update()
     desk.find("모든 파일이 최신 버전이므로")
     desk.picture("no-update")
     desk.keys("Return")
 
-    offer_update(app)
-    look_for_update(desk)
+    desk.carrier.offer_update()
+    put_installer(app)
+    desk.look_for_update()
     offer = desk.window("프로그램이 업데이트 되었습니다.")
     desk.find("새로워진 점", within=offer)
     desk.picture("update")
@@ -37,7 +29,7 @@ def play(desk):
     desk.gone("프로그램이 업데이트 되었습니다.")
     expect("a sign for the installer", (app / "i_autorun.ini").exists(), False)
 
-    look_for_update(desk)
+    desk.look_for_update()
     offer = desk.window("프로그램이 업데이트 되었습니다.")
     desk.click(desk.find("업데이트 시작", "push button", offer))
     desk.program.wait(PATIENCE)
