@@ -44,10 +44,11 @@ void Guide::open_at(const Form* form) {
     if (core::FILE_EXISTS(platform_, file)) return platform_.shell.open(file);
     // Not once more for a call for help with this very box.
     if (std::exchange(tells_of_missing_page_, true)) return;
-    core::warn(platform_.desktop,
-               u"사용 설명서를 찾을 수 없습니다. 프로그램을 다시 설치하면 설명서도 함께 설치됩니다.\r\n\r\n" +
-                   platform::shown_path(file),
-               u"사용 설명서");
+    core::warn(
+        platform_.desktop,
+        u"사용 설명서를 찾을 수 없습니다.\r\n프로그램을 다시 설치하면 설명서도 함께 설치됩니다.\r\n\r\n" +
+            platform::shown_path(file),
+        u"사용 설명서");
     tells_of_missing_page_ = false;
 }
 

@@ -88,9 +88,9 @@ TEST_F(Guide, SaysOnceThatAPageIsMissing) {
     boxes.answers = {QMessageBox::Ok};
     boxes.meanwhile = [&] { EXPECT_EQ(pages_by_key(), Pages()); };
     main.mnuGuide.Click.raise();
-    EXPECT_EQ(boxes.asked, std::vector{QStringLiteral(
-                               "사용 설명서를 찾을 수 없습니다. 프로그램을 다시 설치하면 설명서도 함께 "
-                               "설치됩니다.\n\ntext.html — /app/guide")});
+    EXPECT_EQ(boxes.asked, std::vector{QStringLiteral("사용 설명서를 찾을 수 없습니다.\n"
+                                                      "프로그램을 다시 설치하면 설명서도 함께 설치됩니다.\n\n"
+                                                      "text.html — /app/guide")});
 }
 
 }  // namespace
