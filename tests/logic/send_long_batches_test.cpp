@@ -7,7 +7,6 @@ namespace {
 
 using namespace platform;
 using tests::Sending;
-using tests::utf8;
 using Lines = std::vector<std::string>;
 using Registration = tests::RecordingCarrier::Registration;
 

@@ -60,7 +60,7 @@ std::string state_of_reader() {
     ::close(ends[1]);
     char byte = 0;
     const bool began = ::read(ends[0], &byte, 1) == 1;
-    const std::string state =
+    std::string state =
         began ? tests::bytes_of("/proc/" + std::to_string(reader.id()) + "/status") : "nothing was read";
     ::close(ends[0]);
     return state;

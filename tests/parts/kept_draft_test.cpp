@@ -89,7 +89,7 @@ struct ProgramRun : tests::TestPlatform {
     }
     /// The kill comes in the n-th submit, after the carrier has got it.
     void killed_at_submit(int n) {
-        carrier.at_submit = [this, left = n]() mutable {
+        carrier.at_submit = [left = n]() mutable {
             if (--left == 0) throw Killed();
         };
         EXPECT_THROW(press_send(), Killed);

@@ -32,10 +32,10 @@ void confine_to_open_files() {
         allow(call);
     }
     // The form of fstat that the C library calls.
-    allow(SCMP_SYS(newfstatat), SCMP_A3(SCMP_CMP_EQ, AT_EMPTY_PATH));
-    // Memory that is no code.
-    allow(SCMP_SYS(mmap), SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0));
-    allow(SCMP_SYS(mprotect), SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0));
+    allow(SCMP_SYS(newfstatat), scmp_arg_cmp{3, SCMP_CMP_EQ, AT_EMPTY_PATH, 0});
+    constexpr scmp_arg_cmp NO_CODE{2, SCMP_CMP_MASKED_EQ, PROT_EXEC, 0};
+    allow(SCMP_SYS(mmap), NO_CODE);
+    allow(SCMP_SYS(mprotect), NO_CODE);
     if (!done || ::seccomp_load(filter.get()) != 0) std::_Exit(EXIT_FAILURE);
 }
 
