@@ -17,7 +17,8 @@ constexpr char16_t SEPARATOR = u'|';
 }  // namespace
 
 RecentCharacters::RecentCharacters(platform::Form& form, platform::Platform& platform,
-                                   platform::Control& container, std::function<void(const Text&)> insert)
+                                   platform::Control& container,
+                                   const std::function<void(const Text&)>& insert)
     : Room(form), platform_(platform) {
     for (std::size_t i = 0; i < MOST; ++i) {
         platform::CommandButton& button =

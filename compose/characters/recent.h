@@ -15,7 +15,7 @@ class RecentCharacters : Room {
   public:
     /// `container` is the panel of the text; `insert` puts a character into it.
     RecentCharacters(platform::Form& form, platform::Platform& platform, platform::Control& container,
-                     std::function<void(const platform::Text&)> insert);
+                     const std::function<void(const platform::Text&)>& insert);
 
     std::deque<platform::CommandButton> Recent;
 

@@ -42,7 +42,7 @@ frmPasted::frmPasted(platform::Platform& platform, RecipientList& recipients, Te
 void frmPasted::Form_Load() { core::CENTER_FORM(desktop(), *this); }
 
 void frmPasted::Form_Activate() {
-    if (!pasted_) begin(std::move(text_));
+    if (!pasted_) begin(text_);
 }
 
 void frmPasted::Form_Unload() {
@@ -51,7 +51,7 @@ void frmPasted::Form_Unload() {
     question_.reset();
 }
 
-void frmPasted::begin(Text text) {
+void frmPasted::begin(const Text& text) {
     pasted_.emplace(recipients_, text);
     question_.emplace(desktop());
     filled_.emplace(recipients_.ListView1);

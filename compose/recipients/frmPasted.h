@@ -38,7 +38,7 @@ class frmPasted : public platform::Form {
 
   private:
     bool reading() const { return filled_.has_value(); }
-    void begin(platform::Text text);
+    void begin(const platform::Text& text);
     void read_on();
     void stop();
     void report();

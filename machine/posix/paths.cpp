@@ -47,9 +47,10 @@ bool is_there(const std::string& path) {
 /// The folder's entry that the component means, or nothing.
 std::optional<std::string> entry_of(const std::string& folder, TextView component) {
     // Files from some systems have decomposed Hangul in their names, which nobody can type.
+    const std::string beginning = folder + "/";
     const Text composed = platform::compose_hangul(component);
     for (const Text& spelling : {Text(component), composed, platform::decompose_hangul(component)}) {
-        if (std::string name = bytes_of_name(spelling); is_there(folder + "/" + name)) return name;
+        if (std::string name = bytes_of_name(spelling); is_there(beginning + name)) return name;
     }
     std::error_code error;
     std::optional<std::string> found;
@@ -68,7 +69,7 @@ std::optional<std::string> entry_of(const std::string& folder, TextView componen
 
 Paths::Paths(Installation installation) : installation_(std::move(installation)) {}
 
-Paths::Paths(std::string folder) : Paths(Installation::in_one_folder(folder, folder + "/windows")) {}
+Paths::Paths(const std::string& folder) : Paths(Installation::in_one_folder(folder, folder + "/windows")) {}
 
 Paths::Parts Paths::parts_of(TextView path) const {
     if (path.find_first_of(TextView(u"/\0", 2)) != TextView::npos)

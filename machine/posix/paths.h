@@ -16,7 +16,7 @@ class Paths {
   public:
     explicit Paths(Installation installation);
     /// With one folder for everything, an absolute path, and `windows` in it as the Windows directory.
-    explicit Paths(std::string folder);
+    explicit Paths(const std::string& folder);
 
     /// The machine's absolute path, in UTF-8. A component means the entry of exactly that name, else the one
     /// whose Hangul is composed differently, else the first one that differs in the case of ASCII letters
