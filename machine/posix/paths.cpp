@@ -105,7 +105,7 @@ std::string Paths::to_posix(TextView path) const {
 }
 
 std::string Paths::to_read(TextView path) const {
-    const std::string own = to_posix(path);
+    std::string own = to_posix(path);
     if (!own.starts_with(application_directory() + "/") || is_there(own)) return own;
     for (const std::string& folder : installation_.below) {
         if (std::string there = folder + own.substr(application_directory().size()); is_there(there))
