@@ -42,7 +42,7 @@ void close_all() { ::closefrom(3); }
 
 void put_a_file_in_the_place_of_another() {
     close_all();
-    std::fopen("not_the_socket", "w");
+    if (std::fopen("not_the_socket", "w") == nullptr) std::_Exit(1);
 }
 
 void write_everywhere() {
