@@ -128,7 +128,9 @@ TEST_F(Lists, FindingAgreesWithAWalkOverAllRowsAfterAnyChanges) {
         return made;
     };
 
-    for (int step = 0; step < 5000; ++step) {
+    // The walk has to leave the index's first chunk.
+    for (int row = 0; row < 600; ++row) list.add_row(text(), {text(), text(), u"", text()}, true);
+    for (int step = 0; step < 1500; ++step) {
         const std::size_t rows = list.row_count();
         const std::size_t act = below(100);
         if (act < 45 || rows == 0) {
@@ -148,7 +150,6 @@ TEST_F(Lists, FindingAgreesWithAWalkOverAllRowsAfterAnyChanges) {
         ASSERT_EQ(list.find_in_sub_items(beginning), walk(beginning))
             << "step " << step << ": " << utf8(beginning);
     }
-    EXPECT_GT(list.row_count(), 500u) << "the walk has to leave the index's first chunk";
 }
 
 }  // namespace
